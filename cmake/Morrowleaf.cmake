@@ -1,0 +1,70 @@
+# What every target of this project shares: the language, the warnings, the
+# sanitizers, and two short ways to add a library and a test.
+
+include_guard(GLOBAL)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+set(MORROWLEAF_SANITIZE "" CACHE STRING "Sanitizers for every target, such as address,undefined")
+option(MORROWLEAF_FUZZ "Build the libFuzzer targets (needs clang)" OFF)
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(morrowleaf_options INTERFACE)
+target_include_directories(morrowleaf_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(morrowleaf_options INTERFACE
+  $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion -Werror>)
+target_compile_definitions(morrowleaf_options INTERFACE
+  QT_NO_CAST_FROM_BYTEARRAY QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH)
+if(MORROWLEAF_SANITIZE)
+  target_compile_options(morrowleaf_options INTERFACE
+    -fsanitize=${MORROWLEAF_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(morrowleaf_options INTERFACE -fsanitize=${MORROWLEAF_SANITIZE})
+endif()
+if(MORROWLEAF_FUZZ)
+  target_compile_options(morrowleaf_options INTERFACE -fsanitize=fuzzer-no-link,address)
+  target_link_options(morrowleaf_options INTERFACE -fsanitize=address)
+endif()
+
+# morrowleaf_library(NAME SOURCES file... [LIBRARIES target...])
+function(morrowleaf_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  if(arg_SOURCES)
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC morrowleaf_options ${arg_LIBRARIES})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE morrowleaf_options ${arg_LIBRARIES})
+  endif()
+endfunction()
+
+# morrowleaf_test(NAME SOURCES file... [LIBRARIES target...] [LABEL unit|system] [GUI])
+# One GoogleTest program; each of its tests is one ctest. A GUI test runs
+# inside a QApplication on Qt's offscreen platform.
+function(morrowleaf_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "LABEL" "SOURCES;LIBRARIES")
+  if(arg_GUI)
+    set(main ${PROJECT_SOURCE_DIR}/tests/fakes/guimain.cpp)
+  else()
+    set(main ${PROJECT_SOURCE_DIR}/tests/fakes/coremain.cpp)
+  endif()
+  if(NOT arg_LABEL)
+    set(arg_LABEL unit)
+  endif()
+  add_executable(${name} ${arg_SOURCES} ${main})
+  target_link_libraries(${name} PRIVATE morrowleaf_options ${arg_LIBRARIES} GTest::gmock GTest::gtest
+    Qt6::Core $<$<BOOL:${arg_GUI}>:Qt6::Widgets>)
+  target_compile_definitions(${name} PRIVATE
+    MORROWLEAF_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    MORROWLEAF_RESOURCE_DIR="${PROJECT_SOURCE_DIR}/resources")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}."
+    PROPERTIES LABELS ${arg_LABEL} TIMEOUT 120)
+endfunction()

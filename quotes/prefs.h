@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace morrowleaf {
+
+class SettingsStore;
+
+// The generic category of a typeface, where no concrete face is wanted.
+enum class FontDesign { Default, Serif, Rounded, Monospaced };
+
+// "sans", "rounded" and "mono" have a design of their own, compared exactly;
+// every other name is serif.
+FontDesign fontDesignNamed(const QString& name);
+
+// Typed getters over the store. Each reads afresh, none checks a range: the
+// reader of a value tolerates what it gets.
+namespace Prefs {
+qint64 paletteIndex(const SettingsStore& store);
+double textScale(const SettingsStore& store);
+bool grain(const SettingsStore& store);
+double vignette(const SettingsStore& store);
+double dismissSeconds(const SettingsStore& store);
+bool showOnWake(const SettingsStore& store);
+QString source(const SettingsStore& store);        // "" when absent
+QString frequency(const SettingsStore& store);     // "24h" when absent
+QString bgImage(const SettingsStore& store);       // "" when absent
+QStringList customBGs(const SettingsStore& store); // empty unless a list of texts
+FontDesign fontDesign(const SettingsStore& store); // serif when absent
+} // namespace Prefs
+
+} // namespace morrowleaf

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "quotes/moment.h"
+#include "quotes/quote.h"
+#include "quotes/randomindex.h"
+
+namespace morrowleaf {
+
+// The built-in quotation of the moment's local calendar day.
+Quote quoteOfTheDay(const Moment& moment);
+
+// The built-in quotation that a frequency calls for: "6h" and "12h" count
+// slots of UTC since 1970, "every" draws anew, anything else is the quotation
+// of the day. For "6h" and "12h" an instant in a slot before 1970, or one that
+// is not a representable number of seconds, is a fatal error.
+Quote scheduledQuote(const Moment& moment, const QString& frequency, const RandomIndex& random);
+
+} // namespace morrowleaf

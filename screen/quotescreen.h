@@ -1,0 +1,59 @@
+#pragma once
+
+#include "quotes/moment.h"
+#include "quotes/quotebox.h"
+#include "screen/backdrop.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace morrowleaf {
+
+class BGStore;
+class FontBook;
+class SettingsStore;
+
+// What a quote screen needs of the world; all of it outlives the screen.
+struct ScreenSurroundings {
+    SettingsStore& store;
+    const FontBook& fonts;
+    BGStore& photos;
+    Clock clock;
+    RandomIndex random;
+    QuoteLoader loader;
+};
+
+// Builds the appearance editor as a child of the screen; the screen places it
+// at its right edge.
+using InspectorFactory = std::function<QWidget*(QWidget* parent, std::function<void()> onDone)>;
+
+// The whole content of the quote window: the quotation over its backdrop and,
+// while editing, the appearance editor. Its entrance begins with the first
+// frame that is drawn; to replay it, build a new screen.
+class QuoteScreen : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Editing {
+        InspectorFactory inspector;
+        std::function<void()> onDone;
+    };
+    explicit QuoteScreen(const ScreenSurroundings& surroundings,
+                         std::optional<Editing> editing = std::nullopt, QWidget* parent = nullptr);
+    ~QuoteScreen() override;
+
+    // What lies behind the window; may be called again when a capture arrives.
+    void setBehind(const Behind& behind);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+};
+
+} // namespace morrowleaf

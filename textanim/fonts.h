@@ -1,0 +1,52 @@
+#pragma once
+
+#include "quotes/prefs.h"
+
+#include <QFont>
+#include <QHash>
+#include <QString>
+
+#include <optional>
+
+namespace morrowleaf {
+
+inline constexpr QLatin1StringView frauncesName{"Fraunces72pt-Light"};
+
+// A face at a size in points (device-independent pixels), fraction kept.
+struct TextFont {
+    QFont face;      // family and style; its own size is of no meaning
+    double size = 0; // points
+
+    bool operator==(const TextFont&) const = default;
+};
+
+// The faces that the program brought along, found by PostScript name.
+class FontBook {
+public:
+    // Registers every .ttf and .otf file of the folder, in any case of the
+    // extension; unreadable files and a missing folder are passed over.
+    void registerBundledFonts(const QString& folder);
+
+    // Nothing when no registered face has that PostScript name.
+    std::optional<TextFont> named(const QString& postScriptName, double size) const;
+
+private:
+    QHash<QString, QFont> faces_;
+};
+
+enum class FontWeight { Regular, Medium };
+
+// The face that stands for the system font of a design: the bundled one, else
+// the system's own of that kind, else the plain system font.
+TextFont nsFont(const FontBook& book, double size, FontDesign design,
+                FontWeight weight = FontWeight::Regular);
+
+// The quotation's font for a stored typeface name: the Fraunces face for
+// "fraunces" (the serif design where it is missing), else nsFont of its design.
+TextFont quoteFont(const FontBook& book, const QString& fontName, double size);
+
+// Screen height in points over 982, within 0.85...1.55; no number counts as
+// below; 1 without a screen.
+double screenScale(std::optional<double> screenHeight);
+
+} // namespace morrowleaf

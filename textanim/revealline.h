@@ -1,0 +1,68 @@
+#pragma once
+
+#include "screen/ground/animationkinds.h"
+#include "textanim/fonts.h"
+
+#include <QColor>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+
+namespace morrowleaf {
+
+// The shadow of what a line shows at an instant. Radius is the standard
+// deviation of the Gaussian, in points.
+struct LineShadow {
+    double opacity = 0; // of black
+    double radius = 24;
+    QPointF offset{0, 6};
+};
+
+// One line of the quotation and the way it comes in. The drawing is a pure
+// function of the line and the seconds since it appeared; what is costly is
+// kept between calls.
+class RevealLine {
+public:
+    struct Parts {
+        QString text;     // without line breaks
+        qint64 index = 0; // 0 for the first line
+        TextAnim style = TextAnim::Fade;
+        TextFont font;       // fade, typewriter, rise, blur
+        TextFont strokeFont; // handwrite
+        QColor color;
+        LineShadow shadow;
+        double maxWidth = 0; // of the column, points; 0 is unbounded
+    };
+
+    explicit RevealLine(const Parts& parts);
+    ~RevealLine();
+    RevealLine(RevealLine&&) noexcept;
+    RevealLine& operator=(RevealLine&&) noexcept;
+
+    const Parts& parts() const;
+    double delay() const; // seconds from appearance to the start
+    QSizeF size() const;  // the place reserved from the start, points
+
+    // Draws the line with the top left corner of its place at `topLeft`, as it
+    // stands `seconds` after it appeared. The painter is in points; a scale on
+    // it counts as the device pixel ratio.
+    void paint(QPainter& painter, QPointF topLeft, double seconds) const;
+
+    // All that paint touches at that instant (offset, halo and shadow too),
+    // relative to the top left corner; empty when nothing is visible.
+    QRectF paintedRect(double seconds) const;
+    // Whether the picture at `to` differs from that at `from`.
+    bool changesBetween(double from, double to) const;
+    // Seconds after which the line never changes again.
+    double settledAfter() const;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d_;
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "textanim/fonts.h"
+
+#include <QColor>
+#include <QPainterPath>
+#include <QSizeF>
+
+#include <memory>
+
+class QPainter;
+
+namespace morrowleaf {
+
+// A text laid out once: its glyph outlines, its place, its colour glyphs.
+// A cheap, shared, immutable value. Drawn from outlines, so that it is the
+// same at every device pixel ratio and moves smoothly at any fraction.
+class ShapedText {
+public:
+    ShapedText();
+    // `tracking` in points is added after every character (also the last).
+    // With a `maxWidth` above 0 the text wraps at word boundaries into
+    // leading-aligned rows; one word wider than that is scaled down as a whole.
+    ShapedText(const QString& text, const TextFont& font, double tracking = 0,
+               double maxWidth = 0);
+    ~ShapedText();
+    ShapedText(const ShapedText&);
+    ShapedText& operator=(const ShapedText&);
+
+    QSizeF size() const;    // typographic width × rows of (ascent + descent), points
+    double baseline() const; // of the first row, from the top
+    void paint(QPainter& painter, QPointF topLeft, const QColor& color) const;
+
+    struct Data;
+    const Data& data() const { return *data_; }
+
+private:
+    std::shared_ptr<const Data> data_;
+};
+
+} // namespace morrowleaf
