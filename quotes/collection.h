@@ -1,0 +1,25 @@
+#pragma once
+
+#include "quotes/quote.h"
+
+#include <QLatin1StringView>
+
+#include <array>
+
+namespace morrowleaf {
+
+// A quotation of the program's own, as it lies in the binary.
+struct BuiltinQuote {
+    QLatin1StringView text;
+    QLatin1StringView author;
+
+    operator Quote() const { return {QString(text), QString(author)}; }
+};
+
+inline constexpr qsizetype quoteCount = 124;
+
+// The built-in collection. The schedule picks by position, so the order is
+// part of the program's behaviour.
+extern const std::array<BuiltinQuote, quoteCount> quotes;
+
+} // namespace morrowleaf
