@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QLatin1StringView>
 
 namespace morrowleaf {
@@ -27,8 +28,11 @@ inline constexpr QLatin1StringView cachedText{"cachedQuoteText"};
 inline constexpr QLatin1StringView cachedAuthor{"cachedQuoteAuthor"};
 } // namespace K
 
-// Registers the defaults of the first fourteen keys; the last three are
-// absent until first written.
+// The defaults of the first fourteen keys; the last three are absent until
+// first written. What binds a control to a key falls back to these.
+QJsonObject appDefaults();
+
+// Registers the above.
 void registerAppDefaults(SettingsStore& store);
 
 } // namespace morrowleaf
