@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QObject>
+#include <QScreen>
+#include <QWidget>
+
+#include <functional>
+
+namespace morrowleaf {
+
+// Keeps a window as large as its screen and tells when the screen is gone.
+class ScreenFollower : public QObject {
+public:
+    ScreenFollower(QWidget& window, QScreen& screen, std::function<void()> onLost);
+
+private:
+    void lost();
+
+    std::function<void()> onLost_;
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,95 @@
+#include "platform/null/nullplatform.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace morrowleaf {
+
+namespace {
+
+class NullOverlay final : public OverlayWindow {
+public:
+    NullOverlay(QWidget& window, const QScreen& screen)
+        : window_(window) {
+        window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+        window.setAttribute(Qt::WA_TranslucentBackground);
+        window.setGeometry(screen.geometry());
+    }
+    ~NullOverlay() override { window_.hide(); }
+
+    SeeThrough seeThrough() const override { return SeeThrough::Plain; }
+    void orderFront() override {
+        window_.show();
+        window_.raise();
+        window_.activateWindow();
+    }
+    void orderOut() override { window_.hide(); }
+    void setLevel(WindowLevel /*level*/) override {}
+    quint32 orderedFrontAt() const override { return 0; }
+
+private:
+    QWidget& window_;
+};
+
+class NullOverlays final : public OverlayMaker {
+public:
+    std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
+                                        const OverlaySetup& /*setup*/) override {
+        return std::make_unique<NullOverlay>(window, screen);
+    }
+};
+
+class PrimaryScreen final : public MainScreen {
+public:
+    QScreen* current() const override { return QGuiApplication::primaryScreen(); }
+};
+
+class NoPicture final : public DesktopPicture {
+public:
+    QImage capture(QScreen& /*screen*/) override { return {}; }
+};
+
+class NoTrayHost final : public TrayHost {
+public:
+    bool isPresent() const override { return false; }
+};
+
+class RememberedLoginItem final : public LoginItem {
+public:
+    Status status() const override { return status_; }
+    std::optional<QString> registerItem() override {
+        status_ = Status::Enabled;
+        return std::nullopt;
+    }
+    std::optional<QString> unregisterItem() override {
+        status_ = Status::NotRegistered;
+        return std::nullopt;
+    }
+
+private:
+    Status status_ = Status::NotRegistered;
+};
+
+class SilentBeeper final : public Beeper {
+public:
+    void beep() override {}
+};
+
+} // namespace
+
+std::unique_ptr<OverlayMaker> makeNullOverlays() {
+    return std::make_unique<NullOverlays>();
+}
+
+Platform makeNullPlatform() {
+    return {.mainScreen = std::make_unique<PrimaryScreen>(),
+            .overlays = makeNullOverlays(),
+            .desktopPicture = std::make_unique<NoPicture>(),
+            .sessionEvents = std::make_unique<SessionEvents>(),
+            .trayHost = std::make_unique<NoTrayHost>(),
+            .loginItem = std::make_unique<RememberedLoginItem>(),
+            .beeper = std::make_unique<SilentBeeper>()};
+}
+
+} // namespace morrowleaf

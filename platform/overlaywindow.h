@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+
+class QScreen;
+class QWidget;
+
+namespace morrowleaf {
+
+// How high a window stands. The numbers order them; what a desktop has for
+// each is the backend's affair.
+enum class WindowLevel : int {
+    Normal = 0,
+    Floating = 3,       // above ordinary windows
+    ScreenSaver = 1000, // above panels, docks and everybody's windows
+};
+
+// How a window behaves among workspaces and other windows; flags.
+using WindowBehaviour = unsigned;
+inline constexpr WindowBehaviour canJoinAllSpaces = 1U << 0U;
+inline constexpr WindowBehaviour ignoresCycle = 1U << 6U; // not in task lists and switchers
+inline constexpr WindowBehaviour fullScreenAuxiliary = 1U << 8U;
+
+// What an overlay takes of keyboard and mouse while it is in front.
+enum class InputHold {
+    Nothing,          // the focus only
+    KeyboardIfNeeded, // the focus, held where it does not stay by itself
+    KeyboardAndMouse, // both, from everybody
+};
+
+struct OverlaySetup {
+    WindowLevel level = WindowLevel::ScreenSaver;
+    WindowBehaviour behaviour = 0;
+    InputHold hold = InputHold::KeyboardAndMouse;
+};
+
+// What can be seen where the window's pixels are not opaque.
+enum class SeeThrough {
+    No,      // nothing: the window must paint every pixel opaque
+    Plain,   // what lies behind
+    Blurred, // the same, blurred by the compositor
+};
+
+// Turns one top-level widget into a window that covers its screen. It follows
+// the screen's size; the widget outlives it.
+//
+// Order of a life: made (nothing on screen yet), orderFront(), orderOut(),
+// destroyed. Destroying it orders out what still stands.
+class OverlayWindow {
+public:
+    virtual ~OverlayWindow() = default;
+    OverlayWindow(const OverlayWindow&) = delete;
+    OverlayWindow& operator=(const OverlayWindow&) = delete;
+
+    virtual SeeThrough seeThrough() const = 0;
+    // Maps the window, raises it and takes focus and input as asked.
+    virtual void orderFront() = 0;
+    // Unmaps it and gives focus and input back.
+    virtual void orderOut() = 0;
+    // Below ScreenSaver the window makes way for a dialog of the program and
+    // lets go of the input; back at ScreenSaver it takes both again.
+    virtual void setLevel(WindowLevel level) = 0;
+    // The instant of the last orderFront() in the clock of input events'
+    // time stamps (milliseconds, wraps at 32 bits); nothing known: 0.
+    virtual quint32 orderedFrontAt() const = 0;
+
+    // Called once when the screen or the surface is gone for good.
+    std::function<void()> onLost;
+
+protected:
+    OverlayWindow() = default;
+};
+
+class OverlayMaker {
+public:
+    virtual ~OverlayMaker() = default;
+    OverlayMaker(const OverlayMaker&) = delete;
+    OverlayMaker& operator=(const OverlayMaker&) = delete;
+
+    // `window` is a top-level widget that was never shown.
+    virtual std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
+                                                const OverlaySetup& setup) = 0;
+
+protected:
+    OverlayMaker() = default;
+};
+
+} // namespace morrowleaf

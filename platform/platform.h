@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/beeper.h"
+#include "platform/desktoppicture.h"
+#include "platform/loginitem.h"
+#include "platform/mainscreen.h"
+#include "platform/overlaywindow.h"
+#include "platform/sessionevents.h"
+#include "platform/trayhost.h"
+
+#include <memory>
+
+namespace morrowleaf {
+
+// Everything the program needs of the operating system; no member is null.
+struct Platform {
+    std::unique_ptr<MainScreen> mainScreen;
+    std::unique_ptr<OverlayMaker> overlays;
+    std::unique_ptr<DesktopPicture> desktopPicture;
+    std::unique_ptr<SessionEvents> sessionEvents;
+    std::unique_ptr<TrayHost> trayHost;
+    std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<Beeper> beeper;
+};
+
+} // namespace morrowleaf
