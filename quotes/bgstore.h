@@ -1,9 +1,9 @@
 #pragma once
 
+#include "quotes/photo.h"
+
+#include <QDateTime>
 #include <QHash>
-#include <QImage>
-#include <QObject>
-#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -14,43 +14,50 @@
 namespace morrowleaf {
 
 class SettingsStore;
+class PhotoImport;
 
-// A photo that can be decoded: where it is, how large, and how. Its pixels
-// belong to whoever shows it.
-struct Photo {
-    QString path;
-    QSize size; // pixels, after orientation
-
-    // Decodes (anywhere, may be slow) so that the picture fills `target`
-    // pixels, cropped about its centre, upright, in sRGB; null when that fails.
-    QImage decodeFilling(QSize target) const;
-};
+// Where the user's own photos are kept. A system that has no place for the
+// data of programs is a fatal error.
+QString ownPhotoFolder();
 
 // The photos that can be chosen: those shipped with the program and up to
-// three of the user's own. A photo is named by its absolute path.
+// three of the user's own. A photo is named by its absolute path. Lives on the
+// main thread.
 class BGStore {
 public:
     static constexpr int limit = 3;
 
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder);
+    ~BGStore(); // an unfinished add leaves nothing behind, and is not reported
 
     // Copies an image file into the own photos and lists it; the new path, or
     // nothing when the list is full, the copy fails or it is no usable image.
-    // The copying runs in a worker; `done` is called on the main thread.
+    // The copying runs in a worker; `done` is called later, on the main thread.
     void add(const QString& sourcePath, std::function<void(std::optional<QString>)> done);
     // Deletes the file, forgets the photo and, if it was chosen, the choice.
     void remove(const QString& path);
     QStringList builtins() const; // listed afresh, by file name
     // The same object on every call while it is readable; null otherwise.
     std::shared_ptr<const Photo> image(const QString& path);
-    // A decode failed: the photo no longer counts as readable.
+    // A decode failed: the photo no longer counts as readable, until another
+    // file stands at its path.
     void markUnreadable(const QString& path);
 
 private:
+    struct FileStamp {
+        qint64 size = -1;
+        QDateTime changed;
+        bool operator==(const FileStamp&) const = default;
+    };
+    static FileStamp stampOf(const QString& path);
+    std::optional<QString> list(const QString& copy);
+
     SettingsStore& store_;
     QString builtinFolder_;
     QString ownFolder_;
     QHash<QString, std::shared_ptr<const Photo>> cache_;
+    QHash<QString, FileStamp> unreadable_;
+    std::unique_ptr<PhotoImport> import_;
 };
 
 } // namespace morrowleaf
