@@ -1,0 +1,255 @@
+#include "app/appdelegate.h"
+
+#include "app/settingswindow.h"
+#include "quotes/prefs.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "textanim/curves.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double throttle = 8.0; // seconds between a showing and a triggered one
+constexpr double fadeInSeconds = 0.55;
+constexpr double fadeOutSeconds = 0.45;
+constexpr double shortestShowing = 5.0; // seconds
+
+// The number of a key in the monitor's terms; 0 where none is needed.
+int keyCode(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Escape ? escapeKeyCode : 0;
+}
+
+// A menu or dialog in front closes first.
+bool somethingInFront(const QWidget* window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return QApplication::activePopupWidget() != nullptr || (modal != nullptr && modal != window);
+}
+
+OverlaySetup overlaySetup(bool preview, bool editing) {
+    if (preview) {
+        return {.level = WindowLevel::Normal,
+                .behaviour = quoteWindowBehaviour,
+                .hold = InputHold::Nothing};
+    }
+    return {.level = WindowLevel::ScreenSaver,
+            .behaviour = quoteWindowBehaviour,
+            .hold = editing ? InputHold::KeyboardIfNeeded : InputHold::KeyboardAndMouse};
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(AppSurroundings surroundings)
+    : around_(std::move(surroundings)) {}
+
+AppDelegate::~AppDelegate() {
+    dismiss(false);
+}
+
+void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
+    registerAppDefaults(around_.store);
+    SessionEvents* session = around_.platform.sessionEvents.get();
+    connect(session, &SessionEvents::didWake, this, &AppDelegate::trigger);
+    connect(session, &SessionEvents::sessionDidBecomeActive, this, &AppDelegate::trigger);
+    connect(session, &SessionEvents::screenIsUnlocked, this, &AppDelegate::trigger);
+    TrayHost* tray = around_.platform.trayHost.get();
+    connect(tray, &TrayHost::appeared, this, &AppDelegate::installStatusItem);
+    if (tray->isPresent()) {
+        installStatusItem();
+    }
+    if (arguments.contains("--settings")) {
+        openSettings();
+    } else {
+        present(false, false);
+    }
+}
+
+void AppDelegate::installStatusItem() {
+    if (statusItem_) {
+        return;
+    }
+    statusItem_ =
+        std::make_unique<StatusItem>(StatusActions{.show = [this] { show(); },
+                                                   .editAppearance = [this] { editAppearance(); },
+                                                   .openSettings = [this] { openSettings(); },
+                                                   .terminate = around_.terminate});
+}
+
+void AppDelegate::show() {
+    present(false, false);
+}
+
+void AppDelegate::editAppearance() {
+    present(false, true);
+}
+
+void AppDelegate::trigger() {
+    if (Prefs::showOnWake(around_.store) && around_.timing.now() - lastShown_ > throttle) {
+        present(false, false);
+    }
+}
+
+void AppDelegate::present(bool preview, bool editing) {
+    if (window_) {
+        dismiss(false);
+    }
+    lastShown_ = around_.timing.now();
+    QScreen* screen = around_.platform.mainScreen->current();
+    if (screen == nullptr) {
+        return;
+    }
+    auto window = std::make_unique<QuoteWindow>(*around_.platform.overlays, *screen,
+                                                overlaySetup(preview, editing));
+    const EditingHooks hooks{.onDone =
+                                 [self = QPointer(this)] {
+                                     if (self) {
+                                         self->dismiss(true);
+                                     }
+                                 },
+                             .lowerForDialog =
+                                 [w = QPointer(window.get())] {
+                                     if (w) {
+                                         w->overlay().setLevel(WindowLevel::Normal);
+                                     }
+                                 },
+                             .restoreAfterDialog =
+                                 [w = QPointer(window.get())] {
+                                     if (w) {
+                                         w->overlay().setLevel(WindowLevel::ScreenSaver);
+                                     }
+                                 }};
+    const QuoteContent content = around_.makeQuoteScreen(editing ? &hooks : nullptr);
+    const Behind behind = lookBehind(*window, *screen, editing);
+    if (content.setBehind) {
+        content.setBehind(behind);
+    }
+    window->setContent(content.widget);
+    window->setAlpha(0);
+    window->overlay().onLost = [this, lost = window.get()] {
+        // The screen is being taken apart at this moment.
+        QMetaObject::invokeMethod(
+            this,
+            [this, lost] {
+                if (window_.get() == lost) {
+                    dismiss(false);
+                } else {
+                    leave(lost);
+                }
+            },
+            Qt::QueuedConnection);
+    };
+    window->orderFront();
+    window_ = std::move(window);
+    window_->fade(around_.timing, 1, fadeInSeconds, easeOut, [] {});
+    if (preview) {
+        return;
+    }
+    installMonitor(editing);
+    if (!editing) {
+        const double seconds = Prefs::dismissSeconds(around_.store);
+        // Written so that what is not a number gives the shortest.
+        autoDismiss_ = around_.timing.after(seconds > shortestShowing ? seconds : shortestShowing,
+                                            [this] { dismiss(true); });
+    }
+}
+
+void AppDelegate::installMonitor(bool editing) {
+    const quint32 since = window_->overlay().orderedFrontAt();
+    if (editing) {
+        monitor_ = std::make_unique<EventMonitor>(keyDown, since, [this](const QEvent& event) {
+            if (keyCode(static_cast<const QKeyEvent&>(event)) != escapeKeyCode ||
+                somethingInFront(window_.get())) {
+                return false;
+            }
+            dismiss(true);
+            return true;
+        });
+    } else {
+        monitor_ = std::make_unique<EventMonitor>(closingEvents, since, [this](const QEvent&) {
+            dismiss(true);
+            return true;
+        });
+    }
+}
+
+Behind AppDelegate::lookBehind(QuoteWindow& window, QScreen& screen, bool editing) {
+    const SeeThrough through = window.overlay().seeThrough();
+    const bool looksThrough = editing || around_.store.real(K::transparency) > 0;
+    if (looksThrough || through == SeeThrough::No) {
+        const QImage picture = around_.platform.desktopPicture->capture(screen);
+        if (through == SeeThrough::No) {
+            window.setDesktop(picture);
+        }
+        if (!picture.isNull() && looksThrough) {
+            return {.kind = Behind::Kind::Captured, .picture = picture};
+        }
+    }
+    switch (through) {
+    case SeeThrough::Plain:
+        return {.kind = Behind::Kind::Plain, .picture = {}};
+    case SeeThrough::Blurred:
+        return {.kind = Behind::Kind::LiveBlur, .picture = {}};
+    case SeeThrough::No:
+        break;
+    }
+    return {};
+}
+
+void AppDelegate::dismiss(bool animated) {
+    autoDismiss_.reset();
+    // It may be the monitor's own call that leads here.
+    if (EventMonitor* monitor = monitor_.release()) {
+        QCoreApplication::instance()->removeEventFilter(monitor);
+        monitor->deleteLater();
+    }
+    if (!window_) {
+        return;
+    }
+    QuoteWindow* leaving = window_.get();
+    fadingOut_.push_back(std::move(window_));
+    if (animated) {
+        leaving->fade(around_.timing, 0, fadeOutSeconds, easeIn,
+                      [this, leaving] { leave(leaving); });
+    } else {
+        leave(leaving);
+    }
+}
+
+void AppDelegate::leave(QuoteWindow* window) {
+    const auto found = std::find_if(fadingOut_.begin(), fadingOut_.end(),
+                                    [window](const auto& w) { return w.get() == window; });
+    if (found == fadingOut_.end()) {
+        return;
+    }
+    window->orderOut();
+    found->release()->deleteLater(); // a call from within it may have led here
+    fadingOut_.erase(found);
+    if (!window_ && fadingOut_.empty()) {
+        emit showingEnded();
+    }
+}
+
+void AppDelegate::openSettings() {
+    if (!settingsWindow_) {
+        settingsWindow_ = makeSettingsWindow(
+            around_.makeSettingsView([this] { show(); }, [this] { editAppearance(); }));
+        if (const QScreen* screen = around_.platform.mainScreen->current()) {
+            settingsWindow_->winId(); // the frame is known to it only
+            settingsWindow_->move(settingsWindowOrigin(screen->availableGeometry(),
+                                                       settingsWindow_->frameGeometry().size()));
+        }
+    }
+    settingsWindow_->show();
+    settingsWindow_->raise();
+    settingsWindow_->activateWindow();
+}
+
+} // namespace morrowleaf

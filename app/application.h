@@ -1,0 +1,9 @@
+#pragma once
+
+namespace morrowleaf {
+
+// The whole program: one of its modes, chosen by the arguments. Gives the
+// exit status, 0 in every mode.
+int runApplication(int argc, char** argv);
+
+} // namespace morrowleaf

@@ -1,0 +1,77 @@
+#include "app/quotewindow.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+
+#include <utility>
+
+namespace morrowleaf {
+
+QuoteWindow::QuoteWindow(OverlayMaker& overlays, QScreen& screen, const OverlaySetup& setup) {
+    setObjectName("QuoteWindow");
+    setWindowTitle("Morrowleaf");
+    overlay_ = overlays.make(*this, screen, setup);
+    // Every pixel comes from the content: nothing may be filled in before it.
+    setAttribute(Qt::WA_NoSystemBackground);
+    setAttribute(Qt::WA_OpaquePaintEvent, overlay_->seeThrough() == SeeThrough::No);
+    veil_ = new Veil(this);
+}
+
+QuoteWindow::~QuoteWindow() {
+    fade_.reset();
+    overlay_.reset();
+}
+
+void QuoteWindow::setContent(QWidget* content) {
+    content_ = content;
+    content->setParent(this);
+    content->setGeometry(rect());
+    content->show();
+    veil_->raise();
+}
+
+void QuoteWindow::setDesktop(const QImage& desktop) {
+    veil_->setDesktop(desktop);
+}
+
+void QuoteWindow::setAlpha(double alpha) {
+    veil_->setAlpha(alpha);
+}
+
+double QuoteWindow::alpha() const {
+    return veil_->alpha();
+}
+
+void QuoteWindow::fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
+                       std::function<void()> done) {
+    const double from = this->alpha();
+    fade_ = timing.animate(
+        seconds,
+        [this, from, alpha, curve](double fraction) {
+            setAlpha(from + (alpha - from) * curve(fraction));
+        },
+        std::move(done));
+}
+
+void QuoteWindow::orderFront() {
+    overlay_->orderFront();
+}
+
+void QuoteWindow::orderOut() {
+    fade_.reset();
+    overlay_->orderOut();
+}
+
+void QuoteWindow::resizeEvent(QResizeEvent* /*event*/) {
+    if (content_ != nullptr) {
+        content_->setGeometry(rect());
+    }
+    veil_->setGeometry(rect());
+}
+
+// A window manager may ask; the showing has its own ways to end.
+void QuoteWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/timing.h"
+#include "app/veil.h"
+#include "platform/overlaywindow.h"
+
+#include <QWidget>
+
+namespace morrowleaf {
+
+// The window of one showing: borderless, with an alpha of its own, its
+// content filling it. Nothing is on screen before orderFront().
+class QuoteWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    QuoteWindow(OverlayMaker& overlays, QScreen& screen, const OverlaySetup& setup);
+    ~QuoteWindow() override;
+
+    OverlayWindow& overlay() { return *overlay_; }
+
+    // Takes the content over.
+    void setContent(QWidget* content);
+    // What to fade over where the window cannot be seen through.
+    void setDesktop(const QImage& desktop);
+
+    void setAlpha(double alpha);
+    double alpha() const;
+    // Moves the alpha from where it stands to `alpha` along `curve`.
+    void fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
+              std::function<void()> done);
+
+    void orderFront();
+    void orderOut();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    std::unique_ptr<OverlayWindow> overlay_;
+    QWidget* content_ = nullptr;
+    Veil* veil_ = nullptr;
+    Task fade_;
+};
+
+} // namespace morrowleaf

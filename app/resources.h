@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace morrowleaf {
+
+// The folder that came with the program, wherever it was put: beside an
+// installed binary, or the source tree's for one that was just built. Empty
+// when there is none.
+QString resourceFolder();
+
+QString fontFolder();
+QString backgroundFolder();
+QString iconFolder();
+
+} // namespace morrowleaf

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+#include <functional>
+
+namespace morrowleaf {
+
+struct StatusActions {
+    std::function<void()> show;
+    std::function<void()> editAppearance;
+    std::function<void()> openSettings;
+    std::function<void()> terminate;
+};
+
+// The program's symbol in the panel, with its menu.
+class StatusItem {
+public:
+    explicit StatusItem(const StatusActions& actions);
+
+    QMenu& menu() { return menu_; }
+    const QMenu& menu() const { return menu_; }
+
+private:
+    QMenu menu_;
+    QSystemTrayIcon icon_;
+};
+
+} // namespace morrowleaf
