@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringList>
 
 namespace morrowleaf {
 
@@ -15,9 +16,15 @@ QString programFolder() {
 } // namespace
 
 QString resourceFolder() {
-    const QString here = programFolder();
-    for (const QString& candidate :
-         {here + "/../share/morrowleaf", here + "/../resources", here + "/../../../resources"}) {
+    const QString program = programFolder();
+    QStringList candidates{program + "/../share/morrowleaf"};
+    constexpr int deepestBuildFolder = 5;
+    QString up = program;
+    for (int i = 0; i < deepestBuildFolder; ++i) {
+        up += "/..";
+        candidates << up + "/resources";
+    }
+    for (const QString& candidate : candidates) {
         if (QFileInfo(candidate + "/Fonts").isDir()) {
             return QDir::cleanPath(candidate);
         }

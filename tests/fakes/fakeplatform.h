@@ -1,0 +1,111 @@
+#pragma once
+
+#include "platform/null/nullplatform.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <vector>
+
+namespace morrowleaf {
+
+// What happened to one overlay; outlives it.
+struct OverlayRecord {
+    OverlaySetup setup;
+    QWidget* window = nullptr;
+    OverlayWindow* overlay = nullptr; // null once destroyed
+    int fronts = 0;
+    int outs = 0;
+    std::vector<WindowLevel> levels;
+    double alphaAtFront = -1;
+};
+
+// The desktop as the controller sees it, on record.
+class FakeDesktop {
+public:
+    FakeDesktop()
+        : platform(makeNullPlatform()) {
+        platform.mainScreen = std::make_unique<Screens>(*this);
+        platform.overlays = std::make_unique<Overlays>(*this);
+        platform.desktopPicture = std::make_unique<Picture>(*this);
+        auto tray = std::make_unique<Tray>();
+        trayHost = tray.get();
+        platform.trayHost = std::move(tray);
+    }
+
+    struct Tray final : TrayHost {
+        bool isPresent() const override { return present; }
+        bool present = false;
+    };
+
+    Platform platform;
+    bool hasScreen = true;
+    SeeThrough seeThrough = SeeThrough::Plain;
+    QImage picture;
+    int captures = 0;
+    quint32 frontTime = 0;
+    Tray* trayHost = nullptr;
+    std::vector<std::shared_ptr<OverlayRecord>> overlays;
+
+private:
+    struct Screens final : MainScreen {
+        explicit Screens(FakeDesktop& d)
+            : desktop(d) {}
+        QScreen* current() const override {
+            return desktop.hasScreen ? QGuiApplication::primaryScreen() : nullptr;
+        }
+        FakeDesktop& desktop;
+    };
+
+    struct Overlay final : OverlayWindow {
+        Overlay(FakeDesktop& d, std::shared_ptr<OverlayRecord> r)
+            : desktop(d)
+            , record(std::move(r)) {}
+        ~Overlay() override { record->overlay = nullptr; }
+        SeeThrough seeThrough() const override { return desktop.seeThrough; }
+        void orderFront() override {
+            ++record->fronts;
+            record->window->show();
+        }
+        void orderOut() override {
+            ++record->outs;
+            record->window->hide();
+        }
+        void setLevel(WindowLevel level) override { record->levels.push_back(level); }
+        quint32 orderedFrontAt() const override { return desktop.frontTime; }
+        FakeDesktop& desktop;
+        std::shared_ptr<OverlayRecord> record;
+    };
+
+    struct Overlays final : OverlayMaker {
+        explicit Overlays(FakeDesktop& d)
+            : desktop(d) {}
+        std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
+                                            const OverlaySetup& setup) override {
+            auto record = std::make_shared<OverlayRecord>();
+            record->setup = setup;
+            record->window = &window;
+            desktop.overlays.push_back(record);
+            window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+            window.setAttribute(Qt::WA_TranslucentBackground, desktop.seeThrough != SeeThrough::No);
+            window.setGeometry(screen.geometry());
+            auto overlay = std::make_unique<Overlay>(desktop, record);
+            record->overlay = overlay.get();
+            return overlay;
+        }
+        FakeDesktop& desktop;
+    };
+
+    struct Picture final : DesktopPicture {
+        explicit Picture(FakeDesktop& d)
+            : desktop(d) {}
+        QImage capture(QScreen&) override {
+            ++desktop.captures;
+            return desktop.picture;
+        }
+        FakeDesktop& desktop;
+    };
+};
+
+} // namespace morrowleaf
