@@ -21,13 +21,12 @@ public:
     // `tracking` in points is added after every character (also the last).
     // With a `maxWidth` above 0 the text wraps at word boundaries into
     // leading-aligned rows; one word wider than that is scaled down as a whole.
-    ShapedText(const QString& text, const TextFont& font, double tracking = 0,
-               double maxWidth = 0);
+    ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
     ~ShapedText();
     ShapedText(const ShapedText&);
     ShapedText& operator=(const ShapedText&);
 
-    QSizeF size() const;    // typographic width × rows of (ascent + descent), points
+    QSizeF size() const;     // typographic width × rows of (ascent + descent), points
     double baseline() const; // of the first row, from the top
     void paint(QPainter& painter, QPointF topLeft, const QColor& color) const;
 

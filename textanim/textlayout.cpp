@@ -1,0 +1,162 @@
+#include "textanim/textlayout.h"
+
+#include "screen/ground/linebalancing.h"
+
+#include <QTextLayout>
+#include <QTextOption>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace morrowleaf {
+
+namespace {
+
+// Near the end of what Qt's layout can count.
+constexpr double widestLine = 8'000'000;
+
+// One unit for each unit of the text, so that offsets stay what they were.
+QString withRowBreaks(QString text, LineBreaks breaks) {
+    const bool kept = breaks == LineBreaks::Kept;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar unit = text[i];
+        if (unit == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
+            text[i] = QChar(0x200B);
+        } else if (unit == u'\n' || unit == u'\r' || unit == QChar::LineSeparator ||
+                   unit == QChar::ParagraphSeparator) {
+            text[i] = kept ? QChar(QChar::LineSeparator) : QChar(u' ');
+        } else if (unit == u'\t') {
+            text[i] = u' ';
+        }
+    }
+    return text;
+}
+
+std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
+    const QByteArray header = face.fontTable("hhea");
+    const double unitsPerEm = face.unitsPerEm();
+    if (header.size() < offset + 2 || unitsPerEm <= 0) {
+        return std::nullopt;
+    }
+    const auto units = qFromBigEndian<qint16>(header.constData() + offset);
+    if (units == 0) {
+        return std::nullopt;
+    }
+    return units * face.pixelSize() / unitsPerEm;
+}
+
+struct CharacterRange {
+    qsizetype begin, end;
+};
+
+std::vector<PlacedGlyph> glyphsIn(const QTextLine& line, CharacterRange range, bool* rightToLeft) {
+    std::vector<PlacedGlyph> glyphs;
+    const QPointF origin(line.x(), line.y() + line.ascent());
+    const auto runs =
+        line.glyphRuns(static_cast<int>(range.begin), static_cast<int>(range.end - range.begin));
+    for (const QGlyphRun& run : runs) {
+        *rightToLeft = run.isRightToLeft();
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        for (qsizetype i = 0; i < indexes.size(); ++i) {
+            glyphs.push_back({run.rawFont(), indexes[i], positions[i] - origin});
+        }
+    }
+    return glyphs;
+}
+
+bool shareGlyph(const std::vector<PlacedGlyph>& some, const std::vector<PlacedGlyph>& others) {
+    return std::ranges::any_of(some, [&others](const PlacedGlyph& glyph) {
+        return std::ranges::find(others, glyph) != others.end();
+    });
+}
+
+TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
+              const QRawFont& requested) {
+    TextRow row;
+    row.width = line.naturalTextWidth();
+    row.ascent = ascentOf(requested);
+    row.descent = descentOf(requested);
+    std::vector<QRawFont> faces{requested};
+    const qsizetype lineEnd = line.textStart() + line.textLength();
+    auto end = std::ranges::upper_bound(characterEnds, qsizetype{line.textStart()});
+    qsizetype begin = line.textStart();
+    for (; end != characterEnds.end() && begin < lineEnd; begin = *end, ++end) {
+        GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}};
+        cluster.glyphs = glyphsIn(line, {begin, std::min(*end, lineEnd)}, &cluster.rightToLeft);
+        for (const PlacedGlyph& glyph : cluster.glyphs) {
+            if (std::ranges::find(faces, glyph.face) == faces.end()) {
+                faces.push_back(glyph.face);
+                row.ascent = std::max(row.ascent, ascentOf(glyph.face));
+                row.descent = std::max(row.descent, descentOf(glyph.face));
+            }
+        }
+        if (!row.clusters.empty() && shareGlyph(row.clusters.back().glyphs, cluster.glyphs)) {
+            GlyphCluster& last = row.clusters.back();
+            ++last.characterCount;
+            for (PlacedGlyph& glyph : cluster.glyphs) {
+                if (std::ranges::find(last.glyphs, glyph) == last.glyphs.end()) {
+                    last.glyphs.push_back(std::move(glyph));
+                }
+            }
+        } else {
+            row.clusters.push_back(std::move(cluster));
+        }
+    }
+    return row;
+}
+
+} // namespace
+
+QRawFont rawFace(const QFont& face) {
+    QFont large = face;
+    large.setPixelSize(shapingSize);
+    return QRawFont::fromFont(large);
+}
+
+double ascentOf(const QRawFont& face) {
+    return verticalMetric(face, 4).value_or(face.ascent());
+}
+
+double descentOf(const QRawFont& face) {
+    const auto metric = verticalMetric(face, 6);
+    return metric ? -*metric : face.descent();
+}
+
+TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
+                  LineBreaks breaks) {
+    QFont large = face;
+    large.setPixelSize(shapingSize);
+    if (tracking != 0) {
+        large.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
+    }
+    QTextLayout layout(withRowBreaks(text, breaks), large);
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(maxWidth > 0 ? QTextOption::WordWrap : QTextOption::ManualWrap);
+    if (maxWidth <= 0) {
+        option.setFlags(QTextOption::IncludeTrailingSpaces);
+    }
+    layout.setTextOption(option);
+
+    TextLayout result;
+    result.rightToLeft = text.isRightToLeft();
+    const QList<qsizetype> ends = characterEnds(text);
+    result.characterCount = ends.size();
+    const QRawFont requested = rawFace(face);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(maxWidth > 0 ? std::min(maxWidth, widestLine) : widestLine);
+        line.setPosition({0, 0});
+        result.rows.push_back(rowOf(line, ends, requested));
+    }
+    layout.endLayout();
+    if (result.rows.empty()) {
+        result.rows.push_back({{}, 0, ascentOf(requested), descentOf(requested)});
+    }
+    return result;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "textanim/fonts.h"
+
+#include <QGlyphRun>
+#include <QPointF>
+#include <QRawFont>
+
+#include <vector>
+
+namespace morrowleaf {
+
+// Faces are shaped once at this size and everything is scaled from there: a
+// size that is no whole number keeps its fraction, and all sizes look alike.
+inline constexpr int shapingSize = 512;
+
+struct PlacedGlyph {
+    QRawFont face; // at shapingSize
+    quint32 index = 0;
+    QPointF position; // of its origin, from the row's left end and baseline
+
+    bool operator==(const PlacedGlyph&) const = default;
+};
+
+// Characters that share glyphs (a ligature, a conjunct) and their glyphs.
+struct GlyphCluster {
+    qsizetype firstCharacter = 0;
+    qsizetype characterCount = 0;
+    bool rightToLeft = false;
+    std::vector<PlacedGlyph> glyphs;
+};
+
+// Lengths in units of which shapingSize make up the font's size.
+struct TextRow {
+    std::vector<GlyphCluster> clusters; // in the order of the text
+    double width = 0;
+    double ascent = 0;
+    double descent = 0; // positive downwards
+};
+
+struct TextLayout {
+    std::vector<TextRow> rows;
+    qsizetype characterCount = 0;
+    bool rightToLeft = false; // as a whole, from its first letter with a direction
+};
+
+// Ascent and descent of a face at shapingSize as its font file gives them.
+double ascentOf(const QRawFont& face);
+double descentOf(const QRawFont& face);
+QRawFont rawFace(const QFont& face);
+
+enum class LineBreaks { Kept, Ignored };
+
+// `tracking` and `maxWidth` in the same units as the result; a `maxWidth` of 0
+// gives one row for each line of the text. There is always at least one row.
+TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
+                  LineBreaks breaks);
+
+} // namespace morrowleaf

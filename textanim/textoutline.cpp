@@ -1,0 +1,108 @@
+#include "textanim/textoutline.h"
+
+#include "textanim/textlayout.h"
+
+#include <QGlyphRun>
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr int pictureSize = 160; // pixels for the size of the font
+
+std::optional<GlyphPicture> pictureOf(const PlacedGlyph& glyph, QPointF origin, double unit) {
+    QRawFont face = glyph.face;
+    const QRectF shaped = face.boundingRect(glyph.index);
+    if (shaped.isEmpty()) {
+        return std::nullopt;
+    }
+    face.setPixelSize(pictureSize);
+    const QRectF drawn = face.boundingRect(glyph.index).adjusted(-2, -2, 2, 2);
+    QImage picture(drawn.size().toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QGlyphRun run;
+    run.setRawFont(face);
+    run.setGlyphIndexes({glyph.index});
+    run.setPositions({QPointF()});
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawGlyphRun(-drawn.topLeft(), run);
+    painter.end();
+    const double scale = unit * shapingSize / pictureSize;
+    const QPointF corner = origin + glyph.position * unit + drawn.topLeft() * scale;
+    return GlyphPicture{picture, {corner, QSizeF(picture.size()) * scale}};
+}
+
+OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit) {
+    OutlinePart part{
+        cluster.firstCharacter, cluster.characterCount, 0, 0, cluster.rightToLeft, {}, {}};
+    part.outline.setFillRule(Qt::WindingFill);
+    bool first = true;
+    for (const PlacedGlyph& glyph : cluster.glyphs) {
+        const QPointF at = origin + glyph.position * unit;
+        const QList<QPointF> advances = glyph.face.advancesForGlyphIndexes({glyph.index});
+        const double right = at.x() + (advances.isEmpty() ? 0 : advances.front().x() * unit);
+        part.left = first ? at.x() : std::min(part.left, at.x());
+        part.right = first ? right : std::max(part.right, right);
+        first = false;
+        const QPainterPath shape = glyph.face.pathForGlyph(glyph.index);
+        if (!shape.isEmpty()) {
+            part.outline.addPath(
+                QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape));
+        } else if (auto picture = pictureOf(glyph, origin, unit)) {
+            part.pictures.push_back(std::move(*picture));
+        }
+    }
+    return part;
+}
+
+} // namespace
+
+std::vector<OutlinePart> outlineRow(const TextRow& row, QPointF origin, double unit) {
+    std::vector<OutlinePart> parts;
+    parts.reserve(row.clusters.size());
+    for (const GlyphCluster& cluster : row.clusters) {
+        parts.push_back(outlineCluster(cluster, origin, unit));
+    }
+    return parts;
+}
+
+TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
+    TextOutline text;
+    text.characterCount = layout.characterCount;
+    text.outline.setFillRule(Qt::WindingFill);
+    std::vector<double> scales;
+    for (const TextRow& row : layout.rows) {
+        const double width = row.width * unit;
+        scales.push_back(maxWidth > 0 && width > maxWidth ? maxWidth / width : 1);
+        text.size.setWidth(std::max(text.size.width(), width * scales.back()));
+    }
+    double top = 0;
+    for (std::size_t i = 0; i < layout.rows.size(); ++i) {
+        const TextRow& row = layout.rows[i];
+        const double rowUnit = unit * scales[i];
+        const double baseline = top + row.ascent * rowUnit;
+        if (i == 0) {
+            text.baseline = baseline;
+        }
+        const double left = layout.rightToLeft ? text.size.width() - row.width * rowUnit : 0;
+        for (OutlinePart& part : outlineRow(row, {left, baseline}, rowUnit)) {
+            text.outline.addPath(part.outline);
+            text.pictures.insert(text.pictures.end(), part.pictures.begin(), part.pictures.end());
+            text.parts.push_back(std::move(part));
+        }
+        top = baseline + row.descent * rowUnit;
+    }
+    text.size.setHeight(top);
+    text.ink = text.outline.boundingRect();
+    for (const GlyphPicture& picture : text.pictures) {
+        text.ink |= picture.place;
+    }
+    return text;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QImage>
+#include <QPainterPath>
+#include <QRectF>
+#include <QSizeF>
+
+#include <vector>
+
+namespace morrowleaf {
+
+struct TextLayout;
+struct TextRow;
+
+// A glyph that is a picture (an emoji) and has no outline.
+struct GlyphPicture {
+    QImage picture; // premultiplied; larger than ever shown
+    QRectF place;   // points
+};
+
+// What appears at one stroke of the typewriter's keys, or over several when
+// characters share a glyph: then the share of it on the side where it begins.
+struct OutlinePart {
+    qsizetype firstCharacter = 0;
+    qsizetype characterCount = 0;
+    double left = 0; // of the place that it takes on its row
+    double right = 0;
+    bool rightToLeft = false;
+    QPainterPath outline; // fill rule winding
+    std::vector<GlyphPicture> pictures;
+};
+
+// A text as shapes. Points, y downwards, origin at the top left of its place.
+struct TextOutline {
+    std::vector<OutlinePart> parts; // in the order of the text
+    QPainterPath outline;           // of all parts
+    std::vector<GlyphPicture> pictures;
+    QSizeF size;
+    double baseline = 0; // of the first row
+    qsizetype characterCount = 0;
+    QRectF ink; // what outlines and pictures cover
+};
+
+// Stacks the rows of a layout whose unit is `unit` points long. Rows wider than
+// `maxWidth` are scaled down when it is above 0; rows start at the left, or
+// end at the right when the text runs right to left.
+TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth);
+
+// Outlines and pictures of one row with its left end and baseline at `origin`.
+std::vector<OutlinePart> outlineRow(const TextRow& row, QPointF origin, double unit);
+
+} // namespace morrowleaf
