@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace morrowleaf {
+
+// What is kept of a JSON document: containers and strings under a few names
+// that are worth keeping, in the order of the document, in one flat list. So a
+// document of 4 MiB never takes more than about 20 MiB, however it is made, and
+// nothing here recurses.
+class JsonTree {
+public:
+    using Node = std::uint32_t; // its place in the list; the root is 0
+
+    enum class Kind : std::uint8_t {
+        Scalar, // a number, true, false or null
+        String,
+        Object,
+        ObjectList, // an array of objects and nothing else; maybe empty
+        MixedList,  // any other array; nothing inside is kept
+    };
+
+    Kind kind(Node node) const { return entries_[node].kind; }
+    // Of equal names in an object the last one; nothing where there is none.
+    std::optional<Node> member(Node object, std::string_view name) const;
+    // Of an ObjectList.
+    qsizetype count(Node list) const { return entries_[list].text; }
+    Node element(Node list, qsizetype index) const;
+    QString string(Node node) const;
+
+private:
+    friend class JsonTreeBuilder;
+
+    struct Entry {
+        std::uint32_t text = 0;   // a string's place in bytes_; a list's count
+        std::uint32_t extent = 0; // a string's length; a container's end in the list
+        Kind kind = Kind::Scalar;
+        std::uint8_t name = 0; // place in names_, noName for elements
+    };
+
+    Node after(Node node) const;
+
+    std::span<const std::string_view> names_;
+    std::deque<Entry> entries_; // a deque grows without copying
+    std::string bytes_;
+};
+
+enum class JsonVerdict { Read, NotJson, TooLarge };
+
+struct JsonReading {
+    JsonVerdict verdict = JsonVerdict::NotJson;
+    JsonTree tree; // when read
+};
+
+// Reads a strict JSON document whose top level is an array or an object, in
+// UTF-8, UTF-16 or UTF-32, with at most 512 levels. Only members called by one
+// of `names` (fewer than 255, outliving the tree) are kept. Numbers may have
+// any size. TooLarge: it would need more than `entryLimit` entries.
+JsonReading readJson(QByteArrayView body, std::span<const std::string_view> names,
+                     std::size_t entryLimit = 1'500'000);
+
+} // namespace morrowleaf

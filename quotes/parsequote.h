@@ -1,0 +1,17 @@
+#pragma once
+
+#include "quotes/quote.h"
+#include "quotes/randomindex.h"
+
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace morrowleaf {
+
+// The quotation in a body: JSON of many shapes, an element of an array being
+// drawn by `random`, or else a plain text of fewer than 600 user-perceived
+// characters. Nothing where there is none. Any thread.
+std::optional<Quote> parseQuote(QByteArrayView body, const RandomIndex& random);
+
+} // namespace morrowleaf

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+namespace morrowleaf {
+
+// A quotation service that the settings offer by name.
+struct SourcePreset {
+    QString label;
+    QString address;
+};
+
+std::span<const SourcePreset> sourcePresets();
+
+} // namespace morrowleaf

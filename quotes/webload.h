@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QUrl>
+
+#include <optional>
+
+namespace morrowleaf {
+
+// The decoded body that an http, https or data address answers with, whatever
+// its status; nothing if the load fails or the body is longer than `limit`
+// bytes. Blocks; to be called in a QThread of its own, whose quit() ends it.
+std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit);
+
+} // namespace morrowleaf
