@@ -1,6 +1,16 @@
 #include "platform/chooser.h"
 
+#include "platform/linux/autostart.h"
 #include "platform/linux/desktopbeeper.h"
+#include "platform/linux/desktopinstance.h"
+#include "platform/linux/desktopsession.h"
+#include "platform/linux/desktoptray.h"
+#include "platform/linux/layeroverlay.h"
+#include "platform/linux/screencopy.h"
+#include "platform/linux/unixsignals.h"
+#include "platform/linux/waylandnative.h"
+#include "platform/linux/waylandoverlay.h"
+#include "platform/linux/waylandprobe.h"
 #include "platform/linux/x11mainscreen.h"
 #include "platform/linux/x11overlay.h"
 #include "platform/linux/x11picture.h"
@@ -8,6 +18,7 @@
 
 #include <QByteArray>
 
+#include <malloc.h>
 #include <optional>
 
 namespace morrowleaf {
@@ -31,10 +42,54 @@ std::optional<WindowSystem> forced() {
     return std::nullopt;
 }
 
+// What the session offers, best first.
+WindowSystem offered() {
+    const WaylandSession wayland = probeWayland();
+    if (!wayland.reachable) {
+        return WindowSystem::X11;
+    }
+    if (wayland.hasLayerShell) {
+        return WindowSystem::Layer;
+    }
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? WindowSystem::Wayland : WindowSystem::Xwayland;
+}
+
+const char* pluginFor(WindowSystem system) {
+    switch (system) {
+    case WindowSystem::X11:
+    case WindowSystem::Xwayland:
+        return "xcb";
+    case WindowSystem::Layer:
+    case WindowSystem::Wayland:
+        return "wayland";
+    case WindowSystem::Null:
+        break;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 WindowSystem chooseWindowSystem() {
-    return forced().value_or(WindowSystem::X11);
+    const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
+    const WindowSystem system = forced().value_or(offered());
+    const char* plugin = pluginFor(system);
+    if (plugin == nullptr) {
+        return system;
+    }
+    if (!wanted.isEmpty() && !wanted.startsWith(plugin)) {
+        // The user knows better than we what shall draw the windows.
+        if (wanted.startsWith("xcb")) {
+            return system == WindowSystem::X11 ? system : WindowSystem::Xwayland;
+        }
+        return wanted.startsWith("wayland") ? WindowSystem::Wayland : WindowSystem::Null;
+    }
+    qputenv("QT_QPA_PLATFORM", plugin);
+    if (system == WindowSystem::Layer) {
+        // Windows that ask for it get no role of their own, and can be given one.
+        qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    }
+    return system;
 }
 
 Platform makePlatform(WindowSystem system) {
@@ -42,17 +97,29 @@ Platform makePlatform(WindowSystem system) {
     if (system == WindowSystem::Null) {
         return platform;
     }
+    const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
     platform.beeper = makeDesktopBeeper();
-    if (system == WindowSystem::X11 || system == WindowSystem::Xwayland) {
+    platform.sessionEvents = makeDesktopSession();
+    platform.trayHost = makeDesktopTray(x11);
+    platform.loginItem = makeLoginItem();
+    platform.instance = makeDesktopInstance();
+    platform.quitRequests = makeUnixSignals();
+    platform.giveMemoryBack = [] { malloc_trim(0); };
+    if (x11) {
         platform.mainScreen = makeX11MainScreen();
         platform.overlays = makeX11Overlays(system == WindowSystem::Xwayland);
         platform.desktopPicture = makeX11Picture();
+    } else if (system == WindowSystem::Layer) {
+        platform.overlays = makeLayerOverlays(bindGlobals(wayland::display(), nullptr));
+        platform.desktopPicture = makeScreencopy();
+    } else {
+        platform.overlays = makeWaylandOverlays();
     }
     return platform;
 }
 
 std::unique_ptr<LoginItem> makeLoginItem() {
-    return makeNullPlatform().loginItem;
+    return makeAutostart(autostartPlaces());
 }
 
 } // namespace morrowleaf

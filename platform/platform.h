@@ -5,9 +5,12 @@
 #include "platform/loginitem.h"
 #include "platform/mainscreen.h"
 #include "platform/overlaywindow.h"
+#include "platform/quitrequests.h"
 #include "platform/sessionevents.h"
+#include "platform/singleinstance.h"
 #include "platform/trayhost.h"
 
+#include <functional>
 #include <memory>
 
 namespace morrowleaf {
@@ -21,6 +24,10 @@ struct Platform {
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<Beeper> beeper;
+    std::unique_ptr<SingleInstance> instance;
+    std::unique_ptr<QuitRequests> quitRequests;
+    // Hands memory that was freed back to the system.
+    std::function<void()> giveMemoryBack;
 };
 
 } // namespace morrowleaf

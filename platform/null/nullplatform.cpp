@@ -71,6 +71,11 @@ private:
     Status status_ = Status::NotRegistered;
 };
 
+class OnlyInstance final : public SingleInstance {
+public:
+    bool claim(const LaunchRequest& /*request*/) override { return true; }
+};
+
 class SilentBeeper final : public Beeper {
 public:
     void beep() override {}
@@ -89,7 +94,10 @@ Platform makeNullPlatform() {
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<NoTrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
-            .beeper = std::make_unique<SilentBeeper>()};
+            .beeper = std::make_unique<SilentBeeper>(),
+            .instance = std::make_unique<OnlyInstance>(),
+            .quitRequests = std::make_unique<QuitRequests>(),
+            .giveMemoryBack = [] {}};
 }
 
 } // namespace morrowleaf

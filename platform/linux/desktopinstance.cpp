@@ -1,0 +1,19 @@
+#include "platform/linux/desktopinstance.h"
+
+#include "platform/linux/businstance.h"
+#include "platform/linux/socketinstance.h"
+
+#include <QStandardPaths>
+
+namespace morrowleaf {
+
+std::unique_ptr<SingleInstance> makeDesktopInstance() {
+    const auto bus = QDBusConnection::sessionBus();
+    if (bus.isConnected()) {
+        return std::make_unique<BusInstance>(bus);
+    }
+    return std::make_unique<SocketInstance>(
+        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/sessionevents.h"
+
+#include <memory>
+
+namespace morrowleaf {
+
+// All sources of session events, merged.
+std::unique_ptr<SessionEvents> makeDesktopSession();
+
+} // namespace morrowleaf

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/quitrequests.h"
+
+#include <memory>
+
+namespace morrowleaf {
+
+// SIGTERM, SIGINT and SIGHUP as quit requests on the main thread.
+std::unique_ptr<QuitRequests> makeUnixSignals();
+
+} // namespace morrowleaf

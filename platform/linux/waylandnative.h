@@ -1,0 +1,16 @@
+#pragma once
+
+class QScreen;
+class QWindow;
+struct wl_display;
+struct wl_output;
+struct wl_surface;
+
+// The compositor's objects behind the toolkit's; null where there are none.
+namespace morrowleaf::wayland {
+
+wl_display* display();
+wl_surface* surfaceOf(QWindow& window);
+wl_output* outputOf(QScreen& screen);
+
+} // namespace morrowleaf::wayland

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace morrowleaf {
+
+// Whether the session's compositor can be reached, and whether it lets a
+// window become an overlay. Needs no application object.
+struct WaylandSession {
+    bool reachable = false;
+    bool hasLayerShell = false;
+};
+WaylandSession probeWayland();
+
+} // namespace morrowleaf

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace morrowleaf {
+
+// What a launch asks of the instance that runs.
+struct LaunchRequest {
+    QString action;          // "show", "settings", "edit-appearance" or "quit"
+    QString activationToken; // lets a window come to the front; may be empty
+};
+
+// Sees to it that the program runs once in a session.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    // True: this process is the one from now on. False: another one has got
+    // the request, and this one should end. Where neither can be found out it
+    // is true.
+    virtual bool claim(const LaunchRequest& request) = 0;
+
+signals:
+    void requested(const morrowleaf::LaunchRequest& request);
+};
+
+} // namespace morrowleaf
