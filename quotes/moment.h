@@ -15,9 +15,12 @@ struct Moment {
 
     static Moment now();
 
+    // To the millisecond below; invalid where no date can be given. Without a
+    // valid zone, in UTC.
     QDateTime local() const;
     // Days since 31 December of 1 BC (1 January of year 1 is day 1) of the
-    // local date, by the Gregorian count; 0 where there is no such date.
+    // local date, by the Gregorian count, negative before; 0 where there is no
+    // such date.
     qint64 dayOrdinal() const;
 };
 

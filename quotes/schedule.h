@@ -11,8 +11,9 @@ Quote quoteOfTheDay(const Moment& moment);
 
 // The built-in quotation that a frequency calls for: "6h" and "12h" count
 // slots of UTC since 1970, "every" draws anew, anything else is the quotation
-// of the day. For "6h" and "12h" an instant in a slot before 1970, or one that
-// is not a representable number of seconds, is a fatal error.
+// of the day. For "6h" and "12h" the division truncates toward zero; an instant
+// whose slot leaves a negative remainder (so before 1970), or one that is not
+// a representable number of seconds, is a fatal error.
 Quote scheduledQuote(const Moment& moment, const QString& frequency, const RandomIndex& random);
 
 } // namespace morrowleaf

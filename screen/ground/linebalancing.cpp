@@ -28,7 +28,8 @@ void forEachCharacterEnd(const QString& text, Visit visit) {
         makeCharacterIterator();
     UErrorCode status = U_ZERO_ERROR;
     UText units = UTEXT_INITIALIZER;
-    utext_openUChars(&units, reinterpret_cast<const UChar*>(text.utf16()), text.size(), &status);
+    utext_openUChars(&units, reinterpret_cast<const UChar*>(text.constData()), text.size(),
+                     &status);
     iterator->setText(&units, status);
     if (U_FAILURE(status)) {
         qFatal("ICU refuses a text of %lld units: %s.", static_cast<long long>(text.size()),
