@@ -3,6 +3,8 @@
 #include "quotes/moment.h"
 #include "quotes/quotebox.h"
 #include "screen/backdrop.h"
+#include "screen/frameclock.h"
+#include "screen/quotescreen_accessible.h"
 
 #include <QWidget>
 
@@ -13,6 +15,7 @@ namespace morrowleaf {
 
 class BGStore;
 class FontBook;
+class QuoteView;
 class SettingsStore;
 
 // What a quote screen needs of the world; all of it outlives the screen.
@@ -23,11 +26,13 @@ struct ScreenSurroundings {
     Clock clock;
     RandomIndex random;
     QuoteLoader loader;
+    Monotonic monotonic = steadySeconds(); // times the entrances
 };
 
 // Builds the appearance editor as a child of the screen; the screen places it
 // at its right edge.
 using InspectorFactory = std::function<QWidget*(QWidget* parent, std::function<void()> onDone)>;
+inline constexpr int inspectorWidth = 320; // points
 
 // The whole content of the quote window: the quotation over its backdrop and,
 // while editing, the appearance editor. Its entrance begins with the first
@@ -46,6 +51,15 @@ public:
 
     // What lies behind the window; may be called again when a capture arrives.
     void setBehind(const Behind& behind);
+
+    // Null before the first frame.
+    const QuoteView* view() const;
+    // Whether another frame has been asked for.
+    bool awake() const;
+
+    // The painted texts and their places, for those who hear them.
+    SpokenTexts spokenTexts() const;
+    QList<QRect> spokenRects() const; // in the order of SpokenTexts::all()
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,0 +1,85 @@
+#include "screen/layout.h"
+
+#include <algorithm>
+
+namespace morrowleaf {
+
+namespace {
+
+QRectF centred(double top, QSizeF size) {
+    return {QPointF(-size.width() / 2, top), size};
+}
+
+} // namespace
+
+int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale) {
+    const double width = std::min(screenWidth.value_or(1512) - sideInset, measure::contentWidth) -
+                         2 * measure::columnPadding;
+    const double characters = width / (scale * measure::quoteSize * 0.55);
+    // Written so that no number is the least of them.
+    if (!(characters > 16)) {
+        return 16;
+    }
+    return static_cast<int>(std::min(characters, 48.0));
+}
+
+QRectF contentBox(QSizeF view, double sideInset) {
+    const double left = std::max(view.width() - sideInset, 0.0);
+    const double width = std::min(measure::contentWidth, left);
+    return {(left - width) / 2, 0, width, view.height()};
+}
+
+double columnWidth(const QRectF& contentBox) {
+    return std::max(contentBox.width() - 2 * measure::columnPadding, 1.0);
+}
+
+Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading) {
+    Column column;
+    column.mark = centred(0, sizes.mark);
+    double y = sizes.mark.height() + measure::linesTop * scale;
+
+    double block = 0;
+    for (const QSizeF& line : sizes.lines) {
+        block = std::max(block, line.width());
+    }
+    for (const QSizeF& line : sizes.lines) {
+        if (!column.lines.isEmpty()) {
+            y += measure::lineSpacing * scale;
+        }
+        const double x = leading == Leading::Left ? -block / 2 : block / 2 - line.width();
+        column.lines.append(QRectF(QPointF(x, y), line));
+        y += line.height();
+    }
+
+    y += measure::ruleTop * scale;
+    column.rule = centred(y, {measure::ruleWidth, measure::ruleHeight});
+    y += measure::ruleHeight + measure::authorTop * scale;
+    column.author = centred(y, sizes.author);
+    column.height = y + sizes.author.height();
+    return column;
+}
+
+ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
+                        double quoteSize) {
+    const double middle = viewHeight / 2;
+    const double above = middle - headerBottom - measure::leastSpace;
+    const double below = hintTop - measure::leastSpace - middle;
+    const double room = 2 * std::min(above, below);
+
+    ColumnPlace place;
+    place.bottom = hintTop - measure::leastSpace;
+    if (columnHeight > room) {
+        const double least = std::min(1.0, measure::leastQuoteSize / quoteSize);
+        place.scale = std::max(room / columnHeight, least);
+    }
+    const double height = columnHeight * place.scale;
+    place.top = middle - height / 2;
+    // Rounding in the last digits is no overflow.
+    if (height > room + 0.001) {
+        place.overflows = true;
+        place.top = headerBottom + measure::leastSpace;
+    }
+    return place;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,76 @@
+#include "screen/photoshowing.h"
+
+#include "quotes/bgstore.h"
+
+#include <QCoreApplication>
+#include <QThreadPool>
+
+namespace morrowleaf {
+
+struct PhotoShowing::Request {
+    QString path;
+    QSize pixels;
+};
+
+PhotoShowing::PhotoShowing(BGStore& photos, QObject* parent)
+    : QObject(parent)
+    , photos_(photos) {}
+
+PhotoShowing::~PhotoShowing() = default;
+
+void PhotoShowing::want(const QString& path, QSize pixels) {
+    const std::shared_ptr<const Photo> photo = path.isEmpty() ? nullptr : photos_.image(path);
+    readable_ = photo != nullptr;
+    if (!photo || pixels.isEmpty()) {
+        path_.clear();
+        size_ = {};
+        pixels_ = {};
+        request_.reset();
+        return;
+    }
+    if (path == path_ && pixels == size_) {
+        return;
+    }
+    path_ = path;
+    size_ = pixels;
+    if (pixels_.size() != pixels) {
+        pixels_ = {};
+    }
+    decode(path, pixels);
+}
+
+void PhotoShowing::decode(const QString& path, QSize pixels) {
+    request_ = std::make_shared<Request>(Request{path, pixels});
+    const std::weak_ptr<Request> wanted = request_;
+    const std::shared_ptr<const Photo> photo = photos_.image(path);
+    // The request lives on the main thread, with this object: a result that
+    // finds it gone has nobody left to go to.
+    QThreadPool::globalInstance()->start([this, wanted, photo, pixels] {
+        if (wanted.expired()) {
+            return;
+        }
+        const QImage image = photo->decodeFilling(pixels);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [this, wanted, image] {
+                if (const std::shared_ptr<Request> request = wanted.lock()) {
+                    arrived(*request, image);
+                }
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void PhotoShowing::arrived(const Request& request, const QImage& image) {
+    if (image.isNull()) {
+        photos_.markUnreadable(request.path);
+        readable_ = false;
+        path_.clear();
+        size_ = {};
+    }
+    pixels_ = image;
+    request_.reset();
+    emit changed();
+}
+
+} // namespace morrowleaf

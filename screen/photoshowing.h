@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace morrowleaf {
+
+class BGStore;
+
+// The photo of one quote screen: decoded by a worker at the size shown, its
+// pixels kept while it is wanted and dropped after.
+class PhotoShowing : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PhotoShowing(BGStore& photos, QObject* parent = nullptr);
+    ~PhotoShowing() override;
+
+    // What to show from now on, and how large in device pixels; an empty path
+    // is no photo. Asking again for the same costs nothing.
+    void want(const QString& path, QSize pixels);
+
+    // A photo is wanted and nothing says yet that it cannot be read.
+    bool readable() const { return readable_; }
+    // Null until the pixels are there. A photo that takes another's place
+    // lets the old one stand until then.
+    const QImage& pixels() const { return pixels_; }
+
+signals:
+    // The pixels have come, or the photo has turned out to be unreadable.
+    void changed();
+
+private:
+    // What a worker may still touch when nobody waits for it any more.
+    struct Request;
+
+    void decode(const QString& path, QSize pixels);
+    void arrived(const Request& request, const QImage& image);
+
+    BGStore& photos_;
+    bool readable_ = false;
+    QString path_;
+    QSize size_;
+    QImage pixels_;
+    std::shared_ptr<Request> request_;
+};
+
+} // namespace morrowleaf

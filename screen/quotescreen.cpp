@@ -1,0 +1,309 @@
+#include "screen/quotescreen.h"
+
+#include "quotes/settingsstore.h"
+#include "screen/greeting.h"
+#include "screen/photoshowing.h"
+#include "screen/quoteview.h"
+#include "screen/renderframe.h"
+#include "screen/windowpixels.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+struct QuoteScreen::Private {
+    Private(QuoteScreen& owner, const ScreenSurroundings& surroundings)
+        : screen(owner)
+        , around(surroundings)
+        , box(around.store, around.loader, around.clock, around.random)
+        , frames(around.monotonic)
+        , photo(around.photos) {}
+
+    double sideInset() const { return inspector ? inspectorWidth : 0; }
+    double sinceAppearance() const { return frames.now() - appearedAt; }
+    QuoteViewState viewState(const Moment& moment, const ViewSettings& settings) const;
+    double frameInterval() const;
+    bool exposed() const;
+
+    void appear();
+    void evaluate();
+    void followPhoto();
+    void advance(double seconds, bool freshBackdrop);
+    void tick();
+    void schedule();
+    std::optional<double> nextFrame(double seconds) const;
+    bool photoFades(double seconds) const;
+    void placeInspector(double seconds);
+    void draw(QImage& target, const QRegion& region);
+
+    QuoteScreen& screen;
+    ScreenSurroundings around;
+    QuoteBox box;
+    FrameClock frames;
+    PhotoShowing photo;
+    QWidget* inspector = nullptr;
+
+    std::optional<QuoteView> view;
+    BackdropState backdrop;
+    BackdropPainter backdropPainter;
+    Behind behind;
+    bool stale = true;       // settings, quotation or place have changed since
+    bool wholeAsked = false; // the next frame shows another instant everywhere
+
+    double appearedAt = 0;      // by the frame clock
+    double frameSeconds = 0;    // of the frame on show, since the appearance
+    double backdropInstant = 0; // of the backdrop on show, since 2001
+    qint64 backdropTickShown = -1;
+    QString photoWanted;
+    double photoWantedAt = 0; // since the appearance
+    double photoFadesFrom = -photoFade;
+};
+
+QuoteViewState QuoteScreen::Private::viewState(const Moment& moment,
+                                               const ViewSettings& settings) const {
+    QuoteViewState state;
+    state.quote = box.quote();
+    state.settings = settings;
+    state.palette = viewPalette(settings, photo.readable(), moment);
+    const QScreen* main = screen.screen();
+    if (main && !main->size().isEmpty()) {
+        state.mainScreen = main->size();
+    }
+    state.size = screen.size();
+    state.devicePixelRatio = screen.devicePixelRatioF();
+    state.sideInset = sideInset();
+    state.moment = moment;
+    state.locale = QLocale::system();
+    return state;
+}
+
+double QuoteScreen::Private::frameInterval() const {
+    const double rate = screen.screen() ? screen.screen()->refreshRate() : 60;
+    return 1 / (rate >= 24 && rate <= 480 ? rate : 60);
+}
+
+bool QuoteScreen::Private::exposed() const {
+    const QWindow* window = screen.window()->windowHandle();
+    return screen.isVisible() && window && window->isExposed();
+}
+
+void QuoteScreen::Private::appear() {
+    appearedAt = frames.now();
+    stale = true;
+    placeInspector(0);
+}
+
+void QuoteScreen::Private::evaluate() {
+    const ViewSettings settings = readViewSettings(around.store);
+    const double seconds = sinceAppearance();
+    if (settings.bgImagePath != photoWanted) {
+        photoWanted = settings.bgImagePath;
+        photoWantedAt = seconds;
+    }
+    photo.want(settings.bgImagePath, (QSizeF(screen.size()) * screen.devicePixelRatioF()).toSize());
+    const QuoteViewState state = viewState(around.clock(), settings);
+    if (view) {
+        view->update(state, seconds);
+    } else {
+        view.emplace(state, around.fonts);
+    }
+    backdrop = backdropFor(settings, state.palette, photo.readable());
+    backdrop.behind = behind;
+    stale = false;
+}
+
+// Pixels that were quick are simply there; others come in softly.
+void QuoteScreen::Private::followPhoto() {
+    const double seconds = sinceAppearance();
+    const bool late = seconds - photoWantedAt > photoPatience;
+    photoFadesFrom = late ? seconds : seconds - photoFade;
+}
+
+bool QuoteScreen::Private::photoFades(double seconds) const {
+    return backdrop.hasPhoto && !photo.pixels().isNull() && seconds < photoFadesFrom + photoFade;
+}
+
+void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
+    frameSeconds = seconds;
+    backdrop.photo = photo.pixels();
+    backdrop.photoOpacity = std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0);
+    if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
+        backdropTickShown = backdropTick(seconds);
+        backdropInstant = around.clock().unixSeconds - unixToReference;
+    }
+}
+
+void QuoteScreen::Private::placeInspector(double seconds) {
+    if (!inspector) {
+        return;
+    }
+    const double out = (1 - inspectorEntrance.progress(seconds)) * inspectorWidth;
+    inspector->setGeometry(screen.width() - inspectorWidth + static_cast<int>(std::lround(out)), 0,
+                           inspectorWidth, screen.height());
+}
+
+void QuoteScreen::Private::tick() {
+    if (!view || !exposed()) {
+        return; // the next paint event wakes the clock again
+    }
+    const double seconds = sinceAppearance();
+    placeInspector(seconds);
+    const bool backdropDue =
+        BackdropPainter::moves(backdrop) && backdropTick(seconds) != backdropTickShown;
+    if (backdropDue || photoFades(frameSeconds)) {
+        wholeAsked = true;
+        screen.update();
+    } else {
+        const QRegion changed = view->changedBetween(frameSeconds, seconds);
+        advance(seconds, false);
+        screen.update(changed);
+    }
+    schedule();
+}
+
+std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
+    std::optional<double> next;
+    const auto consider = [&](double at) { next = next ? std::min(*next, at) : at; };
+    const double interval = frameInterval();
+    const double frame = (std::floor(seconds / interval + 1e-6) + 1) * interval;
+    if (const std::optional<double> motion = view->nextMotion(frameSeconds)) {
+        consider(std::max(*motion, frame));
+    }
+    if (photoFades(frameSeconds) || (inspector && seconds < inspectorEntrance.end() + interval)) {
+        consider(frame);
+    }
+    if (BackdropPainter::moves(backdrop)) {
+        consider(nextBackdropTick(seconds));
+    }
+    return next;
+}
+
+void QuoteScreen::Private::schedule() {
+    if (const std::optional<double> next = nextFrame(sinceAppearance())) {
+        frames.wakeAt(appearedAt + *next);
+    } else {
+        frames.sleep();
+    }
+}
+
+void QuoteScreen::Private::draw(QImage& target, const QRegion& region) {
+    const double ratio = target.devicePixelRatio();
+    for (const QRect& rect : region) {
+        const QRect pixels = devicePixels(rect, ratio).intersected(target.rect());
+        if (pixels.isEmpty()) {
+            continue;
+        }
+        backdropPainter.paint(target, pixels, backdrop, backdropInstant);
+        QPainter painter(&target);
+        const QRectF clip(QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio);
+        painter.setClipRect(clip);
+        view->paint(painter, frameSeconds, clip);
+    }
+}
+
+QuoteScreen::QuoteScreen(const ScreenSurroundings& surroundings, std::optional<Editing> editing,
+                         QWidget* parent)
+    : QWidget(parent)
+    , d_(std::make_unique<Private>(*this, surroundings)) {
+    installQuoteScreenAccessibility();
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    if (editing && editing->inspector) {
+        d_->inspector = editing->inspector(this, editing->onDone);
+    }
+    d_->placeInspector(0);
+
+    const auto refresh = [this] {
+        d_->stale = true;
+        update();
+    };
+    connect(&surroundings.store, &SettingsStore::changed, this, refresh);
+    connect(&d_->box, &QuoteBox::quoteChanged, this, [this, refresh] {
+        refresh();
+        announceSpokenTexts(*this);
+    });
+    connect(&d_->photo, &PhotoShowing::changed, this, [this, refresh] {
+        d_->followPhoto();
+        refresh();
+    });
+    connect(&d_->frames, &FrameClock::tick, this, [this] { d_->tick(); });
+}
+
+QuoteScreen::~QuoteScreen() = default;
+
+void QuoteScreen::setBehind(const Behind& behind) {
+    d_->behind = behind;
+    d_->stale = true;
+    update();
+}
+
+const QuoteView* QuoteScreen::view() const {
+    return d_->view ? &*d_->view : nullptr;
+}
+
+bool QuoteScreen::awake() const {
+    return d_->frames.awake();
+}
+
+SpokenTexts QuoteScreen::spokenTexts() const {
+    const Moment moment = d_->around.clock();
+    return {d_->box.quote().text, d_->box.quote().author, greeting(moment),
+            today(moment, QLocale::system()), hintText(d_->sideInset())};
+}
+
+QList<QRect> QuoteScreen::spokenRects() const {
+    using Element = QuoteView::Element;
+    if (!d_->view) {
+        return QList<QRect>(5);
+    }
+    QRectF lines;
+    for (qsizetype i = 0; i < d_->view->lineCount(); ++i) {
+        lines |= d_->view->lineRect(i);
+    }
+    const auto place = [&](Element element) { return d_->view->rect(element).toAlignedRect(); };
+    return {place(Element::Greeting), place(Element::Today), lines.toAlignedRect(),
+            place(Element::Author), place(Element::Hint)};
+}
+
+void QuoteScreen::paintEvent(QPaintEvent* event) {
+    if (size().isEmpty()) {
+        return;
+    }
+    if (!d_->view) {
+        d_->appear();
+    } else if (d_->view->state().devicePixelRatio != devicePixelRatioF()) {
+        d_->stale = true;
+    }
+    // Less than the whole shows the same instant as what stands around it.
+    const bool freshInstant = d_->stale || d_->wholeAsked || !d_->frames.awake();
+    if (d_->stale) {
+        d_->evaluate();
+    }
+    if (freshInstant) {
+        d_->advance(d_->sinceAppearance(), true);
+    }
+    d_->wholeAsked = false;
+
+    QPoint offset;
+    QPaintDevice* device = redirected(&offset);
+    WindowPixels pixels(*this, device, -offset);
+    d_->draw(pixels.image(), event->region());
+    pixels.finish(*this, event->region());
+    if (!d_->frames.awake()) {
+        d_->schedule();
+    }
+}
+
+void QuoteScreen::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    d_->stale = true;
+    d_->placeInspector(d_->view ? d_->sinceAppearance() : 0);
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,236 @@
+#include "screen/quoteview.h"
+
+#include "screen/greeting.h"
+#include "screen/ground/linebalancing.h"
+#include "textanim/fonts.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double markOpacity = 0.18;
+constexpr double captionOpacity = 0.45;
+constexpr double authorOpacity = 0.72;
+constexpr double hintOpacity = 0.3;
+
+// The nearest whole device pixel.
+double snapped(double points, double devicePixelRatio) {
+    return std::round(points * devicePixelRatio) / devicePixelRatio;
+}
+
+bool sameParts(const RevealLine::Parts& a, const RevealLine::Parts& b) {
+    return a.text == b.text && a.index == b.index && a.style == b.style && a.font == b.font &&
+           a.strokeFont == b.strokeFont && a.color == b.color &&
+           a.shadow.opacity == b.shadow.opacity && a.shadow.radius == b.shadow.radius &&
+           a.shadow.offset == b.shadow.offset && a.maxWidth == b.maxWidth;
+}
+
+} // namespace
+
+QString lineIdentity(const QString& textAnimRaw, qsizetype index, const QString& line) {
+    return textAnimRaw + QLatin1Char('-') + QString::number(index) + QLatin1Char('-') +
+           QString::number(characterCount(line));
+}
+
+// The sizes and faces that a state asks for.
+class QuoteView::Setting {
+public:
+    Setting(const QuoteViewState& state, const FontBook& fonts)
+        : fonts_(fonts)
+        , fontName_(state.settings.fontName)
+        , scale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
+                                              : std::nullopt) *
+                 usableSizeScale(state.settings.sizeScale)) {}
+
+    double scale() const { return scale_; } // s × k
+    double quoteSize() const { return measure::quoteSize * scale_; }
+    TextFont quote() const { return quoteFont(fonts_, fontName_, quoteSize()); }
+    TextFont mark() const { return quoteFont(fonts_, fontName_, measure::markSize * scale_); }
+    TextFont author() const { return caption(measure::authorSize); }
+    TextFont overlay() const { return caption(measure::captionSize); }
+
+private:
+    TextFont caption(double size) const {
+        return nsFont(fonts_, size * scale_, FontDesign::Monospaced, FontWeight::Medium);
+    }
+
+    const FontBook& fonts_;
+    QString fontName_;
+    double scale_;
+};
+
+QuoteView::QuoteView(const QuoteViewState& state, const FontBook& fonts)
+    : fonts_(&fonts)
+    , state_(state) {
+    compose(0);
+}
+
+void QuoteView::update(const QuoteViewState& state, double seconds) {
+    state_ = state;
+    compose(seconds);
+}
+
+void QuoteView::compose(double seconds) {
+    const Setting setting(state_, *fonts_);
+    const QRectF box = contentBox(state_.size, state_.sideInset);
+    const double width = columnWidth(box);
+
+    composeLines(setting, width, seconds);
+    if (!closing_) {
+        closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
+    }
+    mark_ = {ShapedText(QStringLiteral("\u201C"), setting.mark()), {}, 1, markOpacity};
+    author_ = {ShapedText(state_.locale.toUpper(state_.quote.author), setting.author(),
+                          measure::authorTracking, width),
+               {},
+               1,
+               authorOpacity};
+    composeOverlays(setting, box);
+    placeTexts(setting, box);
+}
+
+void QuoteView::composeLines(const Setting& setting, double width, double seconds) {
+    const QString& raw = state_.settings.textAnimRaw;
+    const std::optional<double> screenWidth =
+        state_.mainScreen ? std::optional(state_.mainScreen->width()) : std::nullopt;
+    const QStringList texts = balancedLines(
+        state_.quote.text, wrapTarget(screenWidth, state_.sideInset, setting.scale()));
+
+    RevealLine::Parts parts;
+    parts.style = storedTextAnim(raw);
+    parts.font = setting.quote();
+    parts.strokeFont = parts.font;
+    parts.color = state_.palette.ink;
+    parts.shadow = {state_.palette.light ? 0.08 : 0.35, measure::shadowRadius,
+                    QPointF(0, measure::shadowDrop)};
+    parts.maxWidth = width;
+
+    std::vector<Line> lines;
+    lines.reserve(static_cast<size_t>(texts.size()));
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        parts.text = texts[i];
+        parts.index = i;
+        const QString identity = lineIdentity(raw, i, texts[i]);
+        Line* old = i < lineCount() ? &lines_[static_cast<size_t>(i)] : nullptr;
+        const bool continues = old && old->identity == identity;
+        const double appearedAt = continues ? old->appearedAt : seconds;
+        if (old && sameParts(old->line.parts(), parts)) {
+            lines.push_back({identity, appearedAt, std::move(old->line), {}});
+        } else {
+            lines.push_back({identity, appearedAt, RevealLine(parts), {}});
+        }
+    }
+    lines_ = std::move(lines);
+}
+
+// The header's row and the hint shrink when a huge text scale leaves them no
+// room side by side.
+void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
+    const TextFont font = setting.overlay();
+    greeting_ = {ShapedText(greeting(state_.moment), font), {}, 1, captionOpacity};
+    today_ = {ShapedText(today(state_.moment, state_.locale), font, measure::dateTracking),
+              {},
+              1,
+              captionOpacity};
+    hint_ = {
+        ShapedText(hintText(state_.sideInset), font, measure::hintTracking), {}, 1, hintOpacity};
+
+    const double row = std::max(box.width() - 2 * measure::headerSide, 1.0);
+    const double needed = greeting_.shape.size().width() + 2 * measure::leastSpace +
+                          today_.shape.size().width() - measure::dateTracking;
+    const double rowScale = std::min(1.0, row / needed);
+    greeting_.scale = rowScale;
+    today_.scale = rowScale;
+    hint_.scale = std::min(1.0, std::max(box.width(), 1.0) / hint_.shape.size().width());
+
+    const double ratio = state_.devicePixelRatio;
+    const auto onBaseline = [&](Text& text, double x, double y) {
+        const double drop = text.shape.baseline() * text.scale;
+        text.topLeft = {snapped(x, ratio), snapped(y + drop, ratio) - drop};
+    };
+    const double height = std::max(greeting_.rect().height(), today_.rect().height());
+    const auto middleOf = [&](const Text& text) {
+        return measure::headerTop + (height - text.rect().height()) / 2;
+    };
+    onBaseline(greeting_, box.left() + measure::headerSide, middleOf(greeting_));
+    // Tracking follows each character, but an edge or a middle is one of ink.
+    onBaseline(today_,
+               box.right() - measure::headerSide - today_.rect().width() +
+                   measure::dateTracking * today_.scale,
+               middleOf(today_));
+    onBaseline(hint_,
+               box.center().x() - (hint_.rect().width() - measure::hintTracking * hint_.scale) / 2,
+               state_.size.height() - measure::hintBottom - hint_.rect().height());
+}
+
+void QuoteView::placeTexts(const Setting& setting, const QRectF& box) {
+    ColumnSizes sizes{mark_.shape.size(), {}, author_.shape.size()};
+    for (const Line& line : lines_) {
+        sizes.lines.append(line.line.size());
+    }
+    const Leading leading = state_.quote.text.isRightToLeft() ? Leading::Right : Leading::Left;
+    const Column column = stackColumn(sizes, setting.scale(), leading);
+    const double headerBottom =
+        measure::headerTop + std::max(greeting_.rect().height(), today_.rect().height());
+    const double hintTop = state_.size.height() - measure::hintBottom - hint_.rect().height();
+    place_ = placeColumn(column.height, state_.size.height(), headerBottom, hintTop,
+                         setting.quoteSize());
+
+    const double ratio = state_.devicePixelRatio;
+    const auto placed = [&](QPointF inColumn, double baseline) {
+        const double drop = baseline * place_.scale;
+        const QPointF at(box.center().x() + inColumn.x() * place_.scale,
+                         place_.top + inColumn.y() * place_.scale);
+        return QPointF(snapped(at.x(), ratio), snapped(at.y() + drop, ratio) - drop);
+    };
+    mark_.scale = place_.scale;
+    mark_.topLeft = placed(column.mark.topLeft(), mark_.shape.baseline());
+    author_.scale = place_.scale;
+    author_.topLeft = placed(column.author.topLeft() + QPointF(measure::authorTracking / 2, 0),
+                             author_.shape.baseline());
+    const double baseline = ShapedText(QStringLiteral("x"), setting.quote()).baseline();
+    for (size_t i = 0; i < lines_.size(); ++i) {
+        lines_[i].topLeft = placed(column.lines[static_cast<qsizetype>(i)].topLeft(), baseline);
+    }
+    const QPointF ruleAt = placed(column.rule.topLeft(), 0);
+    rule_ = {ruleAt.x(), ruleAt.y(), snapped(column.rule.width() * place_.scale, ratio),
+             std::max(1.0, std::floor(column.rule.height() * place_.scale * ratio)) / ratio};
+}
+
+QRectF QuoteView::rect(Element element) const {
+    switch (element) {
+    case Element::Greeting:
+        return greeting_.rect();
+    case Element::Today:
+        return today_.rect();
+    case Element::Mark:
+        return mark_.rect();
+    case Element::Rule:
+        return rule_;
+    case Element::Author:
+        return author_.rect();
+    case Element::Hint:
+        return hint_.rect();
+    }
+    return {};
+}
+
+QRectF QuoteView::lineRect(qsizetype index) const {
+    const Line& line = lines_[static_cast<size_t>(index)];
+    return {line.topLeft, line.line.size() * place_.scale};
+}
+
+QString QuoteView::lineText(qsizetype index) const {
+    return lines_[static_cast<size_t>(index)].line.parts().text;
+}
+
+double QuoteView::lineAppearedAt(qsizetype index) const {
+    return lines_[static_cast<size_t>(index)].appearedAt;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,183 @@
+// How the quote view looks at an instant, and what of it moves.
+#include "screen/quoteview.h"
+
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double ruleOpacity = 0.35;
+constexpr double overflowFade = 72; // points above the end of what is shown
+
+QColor faded(QColor color, double opacity) {
+    color.setAlphaF(static_cast<float>(std::clamp(opacity, 0.0, 1.0)));
+    return color;
+}
+
+// Outlines may reach a little beyond the typographic box.
+QRectF withOverhang(const QRectF& rect) {
+    const double overhang = 2 + rect.height() * 0.25;
+    return rect.adjusted(-overhang, -overhang, overhang, overhang);
+}
+
+QRectF scaledAboutCentre(const QRectF& rect, double scale) {
+    QRectF scaled(QPointF(), rect.size() * scale);
+    scaled.moveCenter(rect.center());
+    return scaled;
+}
+
+} // namespace
+
+QRectF QuoteView::markRectAt(double seconds) const {
+    return withOverhang(scaledAboutCentre(mark_.rect(), mark::scale(seconds)));
+}
+
+QRectF QuoteView::paintedLineRect(const Line& line, double seconds) const {
+    const QRectF own = line.line.paintedRect(seconds - line.appearedAt);
+    if (own.isEmpty()) {
+        return {};
+    }
+    return {line.topLeft + own.topLeft() * place_.scale, own.size() * place_.scale};
+}
+
+void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) const {
+    const auto paintText = [&](const Text& text, double progress) {
+        if (progress <= 0 || !withOverhang(text.rect()).intersects(clip)) {
+            return;
+        }
+        painter.save();
+        painter.translate(text.topLeft);
+        painter.scale(text.scale, text.scale);
+        text.shape.paint(painter, {}, faded(state_.palette.ink, text.opacity * progress));
+        painter.restore();
+    };
+    if (place_.overflows) {
+        paintOverflowing(painter, seconds, clip);
+    } else {
+        paintColumn(painter, seconds, clip);
+    }
+    paintText(greeting_, headerEntrance.progress(seconds));
+    paintText(today_, headerEntrance.progress(seconds));
+    paintText(hint_, hintEntrance.progress(seconds));
+}
+
+void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& clip) const {
+    if (mark::opacity(seconds) > 0 && markRectAt(seconds).intersects(clip)) {
+        const double scale = mark::scale(seconds);
+        const QPointF centre = mark_.rect().center();
+        painter.save();
+        painter.translate(centre);
+        painter.scale(scale, scale);
+        painter.translate(mark_.topLeft - centre);
+        painter.scale(mark_.scale, mark_.scale);
+        mark_.shape.paint(painter, {},
+                          faded(state_.palette.ink, mark_.opacity * mark::opacity(seconds)));
+        painter.restore();
+    }
+    for (const Line& line : lines_) {
+        if (!paintedLineRect(line, seconds).intersects(clip)) {
+            continue;
+        }
+        painter.save();
+        painter.translate(line.topLeft);
+        painter.scale(place_.scale, place_.scale);
+        line.line.paint(painter, {}, seconds - line.appearedAt);
+        painter.restore();
+    }
+    const double width = rule_.width() * closing_->rule.progress(seconds);
+    if (width > 0 && rule_.intersects(clip)) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(QRectF(rule_.center().x() - width / 2, rule_.y(), width, rule_.height()),
+                         faded(state_.palette.ink, ruleOpacity));
+        painter.restore();
+    }
+    const double author = closing_->author.progress(seconds);
+    if (author > 0 && withOverhang(author_.rect()).intersects(clip)) {
+        painter.save();
+        painter.translate(author_.topLeft);
+        painter.scale(author_.scale, author_.scale);
+        author_.shape.paint(painter, {}, faded(state_.palette.ink, author_.opacity * author));
+        painter.restore();
+    }
+}
+
+// The column is drawn aside, so that all of it fades out alike.
+void QuoteView::paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const {
+    const QRect area =
+        clip.intersected(QRectF(0, 0, state_.size.width(), place_.bottom)).toAlignedRect();
+    if (area.isEmpty()) {
+        return;
+    }
+    const double ratio = state_.devicePixelRatio;
+    QImage aside((QSizeF(area.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    aside.setDevicePixelRatio(ratio);
+    aside.fill(Qt::transparent);
+    QPainter column(&aside);
+    column.translate(-area.topLeft());
+    paintColumn(column, seconds, area);
+    QLinearGradient fade(0, place_.bottom - overflowFade, 0, place_.bottom);
+    fade.setColorAt(0, Qt::black);
+    fade.setColorAt(1, Qt::transparent);
+    column.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    column.fillRect(area, fade);
+    column.end();
+    painter.drawImage(area.topLeft(), aside);
+}
+
+QRegion QuoteView::changedBetween(double from, double to) const {
+    QRegion changed;
+    const auto add = [&](const QRectF& rect) {
+        if (!rect.isEmpty()) {
+            changed += rect.toAlignedRect().adjusted(-1, -1, 1, 1);
+        }
+    };
+    const auto addFor = [&](const Entrance& entrance, const QRectF& rect) {
+        if (entrance.progress(from) != entrance.progress(to)) {
+            add(rect);
+        }
+    };
+    addFor(headerEntrance, withOverhang(greeting_.rect()));
+    addFor(headerEntrance, withOverhang(today_.rect()));
+    addFor(hintEntrance, withOverhang(hint_.rect()));
+    addFor(closing_->rule, rule_);
+    addFor(closing_->author, withOverhang(author_.rect()));
+    if (mark::scale(from) != mark::scale(to)) {
+        add(markRectAt(from));
+        add(markRectAt(to));
+    }
+    for (const Line& line : lines_) {
+        if (line.line.changesBetween(from - line.appearedAt, to - line.appearedAt)) {
+            add(paintedLineRect(line, from));
+            add(paintedLineRect(line, to));
+        }
+    }
+    return changed;
+}
+
+std::optional<double> QuoteView::nextMotion(double seconds) const {
+    std::optional<double> next;
+    const auto consider = [&](double start, double end) {
+        if (seconds < end) {
+            const double at = std::max(start, seconds);
+            next = next ? std::min(*next, at) : at;
+        }
+    };
+    for (const Entrance& entrance :
+         {headerEntrance, hintEntrance, closing_->rule, closing_->author}) {
+        consider(entrance.delay, entrance.end());
+    }
+    consider(mark::delay, mark::end());
+    for (const Line& line : lines_) {
+        consider(line.appearedAt + line.line.delay(), line.appearedAt + line.line.settledAfter());
+    }
+    return next;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "quotes/moment.h"
+#include "screen/backdrop.h"
+#include "screen/ground/palettes.h"
+
+#include <QString>
+
+namespace morrowleaf {
+
+class SettingsStore;
+
+// The appearance as the settings hold it at one instant, unchecked. The
+// initial values stand where a key has no value, not even a registered one.
+struct ViewSettings {
+    qint64 paletteIndex = -1;
+    QString fontName = QStringLiteral("serif");
+    double sizeScale = 1;
+    QString textAnimRaw = QStringLiteral("fade");
+    QString bgImagePath;
+
+    // The backdrop's own.
+    bool grainOn = true;
+    double vignette = 0.55;
+    double transparency = 0;
+    bool liquidGlass = true;
+    QString screenAnimRaw = QStringLiteral("drift");
+
+    bool operator==(const ViewSettings&) const = default;
+};
+
+ViewSettings readViewSettings(const SettingsStore& store);
+
+// The factor k on every scaled size: the settings' own where it is one. No
+// positive number counts as 1, and none leaves 0.1...16.
+double usableSizeScale(double sizeScale);
+
+// The photo's palette while a photo is readable, else that of the settings.
+const Palette& viewPalette(const ViewSettings& settings, bool photoReadable, const Moment& moment);
+
+// The backdrop that the settings call for; photo pixels and what lies behind
+// the window are left to the caller.
+BackdropState backdropFor(const ViewSettings& settings, const Palette& palette, bool photoReadable);
+
+} // namespace morrowleaf
