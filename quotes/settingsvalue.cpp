@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace morrowleaf {
 
@@ -118,8 +120,11 @@ qint64 integerPrefix(const QString& text) {
 }
 
 double realPrefix(const QString& text) {
-    // Gives an infinity or zero where the number is out of range.
-    return finite(NumericPrefix(text).real().toDouble());
+    std::istringstream number(NumericPrefix(text).real().toStdString());
+    number.imbue(std::locale::classic());
+    double parsed = 0;
+    number >> parsed; // the largest double, or zero, where it is out of range
+    return finite(parsed);
 }
 
 } // namespace

@@ -1,0 +1,87 @@
+#include "quotes/prefs.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+
+#include <QJsonArray>
+
+#include <gtest/gtest.h>
+
+using namespace morrowleaf;
+
+TEST(Prefs, HasZeroValuesBeforeTheDefaults) {
+    const SettingsStore store;
+    EXPECT_EQ(Prefs::paletteIndex(store), 0);
+    EXPECT_EQ(Prefs::textScale(store), 0.0);
+    EXPECT_FALSE(Prefs::grain(store));
+    EXPECT_EQ(Prefs::vignette(store), 0.0);
+    EXPECT_EQ(Prefs::dismissSeconds(store), 0.0);
+    EXPECT_FALSE(Prefs::showOnWake(store));
+    EXPECT_EQ(Prefs::source(store), "");
+    EXPECT_EQ(Prefs::frequency(store), "24h");
+    EXPECT_EQ(Prefs::bgImage(store), "");
+    EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
+    EXPECT_EQ(Prefs::fontDesign(store), FontDesign::Serif);
+}
+
+TEST(Prefs, HasTheRegisteredValues) {
+    SettingsStore store;
+    registerAppDefaults(store);
+    EXPECT_EQ(Prefs::paletteIndex(store), -1);
+    EXPECT_EQ(Prefs::textScale(store), 1.0);
+    EXPECT_TRUE(Prefs::grain(store));
+    EXPECT_EQ(Prefs::vignette(store), 0.55);
+    EXPECT_EQ(Prefs::dismissSeconds(store), 15.0);
+    EXPECT_TRUE(Prefs::showOnWake(store));
+    EXPECT_EQ(Prefs::source(store), "");
+    EXPECT_EQ(Prefs::frequency(store), "24h");
+    EXPECT_EQ(Prefs::bgImage(store), "");
+    EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
+    EXPECT_EQ(Prefs::fontDesign(store), FontDesign::Serif);
+}
+
+TEST(Prefs, ReadsAfreshWithoutRangeChecks) {
+    SettingsStore store;
+    registerAppDefaults(store);
+    store.set(K::palette, 99);
+    store.set(K::textScale, -2.5);
+    store.set(K::vignette, 7);
+    EXPECT_EQ(Prefs::paletteIndex(store), 99);
+    EXPECT_EQ(Prefs::textScale(store), -2.5);
+    EXPECT_EQ(Prefs::vignette(store), 7.0);
+    store.set(K::palette, "4 or so");
+    EXPECT_EQ(Prefs::paletteIndex(store), 4);
+    store.set(K::palette, QJsonObject{{"a", 1}});
+    EXPECT_EQ(Prefs::paletteIndex(store), 0);
+}
+
+TEST(Prefs, FallsBackWhereNoTextIsStored) {
+    SettingsStore store;
+    registerAppDefaults(store);
+    store.set(K::frequency, 6);
+    store.set(K::source, true);
+    store.set(K::font, QJsonArray{"sans"});
+    EXPECT_EQ(Prefs::frequency(store), "24h");
+    EXPECT_EQ(Prefs::source(store), "");
+    EXPECT_EQ(Prefs::fontDesign(store), FontDesign::Serif);
+    store.set(K::frequency, "whenever");
+    EXPECT_EQ(Prefs::frequency(store), "whenever");
+}
+
+TEST(Prefs, TakesOwnBackgroundsFromAListOfTextsOnly) {
+    SettingsStore store;
+    store.set(K::customBGs, "/a.jpg");
+    EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
+    store.set(K::customBGs, QJsonArray{"/a.jpg"});
+    EXPECT_EQ(Prefs::customBGs(store), QStringList{"/a.jpg"});
+    store.set(K::customBGs, QJsonArray{"/a.jpg", 2});
+    EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
+}
+
+TEST(Prefs, MapsFontNamesExactly) {
+    EXPECT_EQ(fontDesignNamed("sans"), FontDesign::Default);
+    EXPECT_EQ(fontDesignNamed("rounded"), FontDesign::Rounded);
+    EXPECT_EQ(fontDesignNamed("mono"), FontDesign::Monospaced);
+    for (const char* name : {"serif", "fraunces", "Sans", "sans ", "MONO", ""}) {
+        EXPECT_EQ(fontDesignNamed(QString::fromUtf8(name)), FontDesign::Serif) << name;
+    }
+}
