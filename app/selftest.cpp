@@ -1,0 +1,64 @@
+#include "app/selftest.h"
+
+#include "quotes/collection.h"
+#include "quotes/prefs.h"
+#include "quotes/randomindex.h"
+#include "quotes/schedule.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/ground/linebalancing.h"
+#include "screen/ground/palettes.h"
+
+#include <QSet>
+
+namespace morrowleaf {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int days = 400;
+
+// `days` calendar days later, at the same local time.
+Moment daysAfter(const Moment& moment, int count) {
+    const QDateTime later = moment.local().addDays(count);
+    if (!later.isValid()) {
+        qFatal("The date %d days from now cannot be reckoned.", count);
+    }
+    return {static_cast<double>(later.toMSecsSinceEpoch()) / 1000, moment.zone};
+}
+
+void balanceEveryText() {
+    for (const BuiltinQuote& quote : quotes) {
+        balancedLines(quote.text);
+    }
+}
+
+void walkTheDays(const Moment& now) {
+    QSet<QString> texts;
+    for (int day = 0; day < days; ++day) {
+        const Moment date = daysAfter(now, day);
+        texts.insert(quoteOfTheDay(date).text);
+        Palette::ofTheDay(date);
+    }
+}
+
+void crossASlot(SettingsStore& store) {
+    store.set(K::frequency, u"6h"_s);
+    for (const double seconds : {0.0, 21599.0, 21600.0}) {
+        scheduledQuote({seconds, QTimeZone::utc()}, Prefs::frequency(store), secureRandomIndex());
+    }
+    store.remove(K::frequency);
+}
+
+} // namespace
+
+void selftest(SettingsStore& store, std::FILE* out, const Moment& now) {
+    balanceEveryText();
+    walkTheDays(now);
+    crossASlot(store);
+    std::fprintf(out, "selftest ok \u2014 %zu quotes, connector parsing ok\n", quotes.size());
+    std::fflush(out);
+}
+
+} // namespace morrowleaf
