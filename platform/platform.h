@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/beeper.h"
+#include "platform/colorscheme.h"
 #include "platform/desktoppicture.h"
 #include "platform/loginitem.h"
 #include "platform/mainscreen.h"
@@ -24,6 +25,7 @@ struct Platform {
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<Beeper> beeper;
+    std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<SingleInstance> instance;
     std::unique_ptr<QuitRequests> quitRequests;
     // Hands memory that was freed back to the system.

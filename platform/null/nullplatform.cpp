@@ -1,5 +1,7 @@
 #include "platform/null/nullplatform.h"
 
+#include "platform/null/nullcolorscheme.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -95,6 +97,7 @@ Platform makeNullPlatform() {
             .trayHost = std::make_unique<NoTrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
             .beeper = std::make_unique<SilentBeeper>(),
+            .colorScheme = std::make_unique<NullColorScheme>(),
             .instance = std::make_unique<OnlyInstance>(),
             .quitRequests = std::make_unique<QuitRequests>(),
             .giveMemoryBack = [] {}};

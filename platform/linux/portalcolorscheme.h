@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/colorscheme.h"
+
+#include <QDBusConnection>
+
+class QDBusVariant;
+
+namespace morrowleaf {
+
+// Asks the desktop's settings portal, and follows its announcements. The
+// answer comes later; without a portal there is none.
+class PortalColorScheme : public ColorScheme {
+    Q_OBJECT
+
+public:
+    explicit PortalColorScheme(QDBusConnection bus = QDBusConnection::sessionBus());
+
+    ColorPreference preference() const override { return preference_; }
+
+private slots:
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    void take(const QVariant& value);
+
+    ColorPreference preference_ = ColorPreference::None;
+};
+
+} // namespace morrowleaf

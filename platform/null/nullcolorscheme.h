@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/colorscheme.h"
+
+namespace morrowleaf {
+
+class NullColorScheme : public ColorScheme {
+public:
+    ColorPreference preference() const override { return ColorPreference::None; }
+};
+
+} // namespace morrowleaf
