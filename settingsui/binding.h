@@ -1,0 +1,51 @@
+#pragma once
+
+#include "quotes/settingsstore.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QAbstractButton;
+class QComboBox;
+class QLineEdit;
+
+namespace morrowleaf {
+
+// Ties a control to a key of the store in both directions: `show` brings the
+// control in line with the store, now and whenever the key changes; set()
+// stores what the user did. What the control announces while it is being
+// brought in line is not stored, and what it has just stored is not shown to
+// it again, so no change runs in a circle. Ends with the control.
+class Binding : public QObject {
+    Q_OBJECT
+
+public:
+    Binding(SettingsStore& store, QString key, QObject* control, std::function<void()> show);
+
+    // False, and nothing stored, while the control is being brought in line.
+    bool set(const QJsonValue& value);
+
+private:
+    void changed(const QString& key);
+    void bringInLine();
+
+    SettingsStore& store_;
+    QString key_;
+    std::function<void()> show_;
+    bool busy_ = false;
+};
+
+// The value of a key, or the fallback where the key has no value at all.
+double realOr(const SettingsStore& store, const QString& key, double fallback);
+bool flagOr(const SettingsStore& store, const QString& key, bool fallback);
+qint64 integerOr(const SettingsStore& store, const QString& key, qint64 fallback);
+QString textOr(const SettingsStore& store, const QString& key, const QString& fallback);
+
+void bindSwitch(QAbstractButton& button, SettingsStore& store, const QString& key, bool fallback);
+void bindText(QLineEdit& field, SettingsStore& store, const QString& key, const QString& fallback);
+// The items' data are the stored texts; a stored text that none of them has
+// selects nothing.
+void bindChoice(QComboBox& box, SettingsStore& store, const QString& key, const QString& fallback);
+
+} // namespace morrowleaf

@@ -1,0 +1,122 @@
+#include "settingsui/formcard.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace morrowleaf {
+namespace {
+
+constexpr int sideRoom = 14; // points within the frame
+constexpr int rowHeight = 40;
+constexpr double radius = 8;
+
+QColor faded(QColor color, double opacity) {
+    color.setAlphaF(float(opacity));
+    return color;
+}
+
+// Follows the palette of its parent at a lower opacity.
+class QuietLabel : public QLabel {
+public:
+    QuietLabel(const QString& text, double opacity, QWidget* parent)
+        : QLabel(text, parent)
+        , opacity_(opacity) {
+        fade();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange && !fading_) {
+            fade();
+        }
+        QLabel::changeEvent(event);
+    }
+
+private:
+    void fade() {
+        fading_ = true;
+        QPalette own;
+        const QWidget* host = parentWidget();
+        own.setColor(
+            QPalette::WindowText,
+            faded((host ? host->palette() : QPalette()).color(QPalette::WindowText), opacity_));
+        setPalette(own);
+        fading_ = false;
+    }
+
+    double opacity_;
+    bool fading_ = false;
+};
+
+} // namespace
+
+FormCard::FormCard(const QString& title, QWidget* parent)
+    : QWidget(parent)
+    , column_(new QVBoxLayout(this))
+    , frame_(new QWidget(this)) {
+    column_->setContentsMargins(0, 0, 0, 0);
+    column_->setSpacing(6);
+    auto* heading = new QLabel(title, this);
+    QFont font = heading->font();
+    font.setWeight(QFont::DemiBold);
+    heading->setFont(font);
+    heading->setContentsMargins(sideRoom, 0, 0, 0);
+    column_->addWidget(heading);
+    auto* rows = new QVBoxLayout(frame_);
+    rows->setContentsMargins(sideRoom, 0, sideRoom, 0);
+    rows->setSpacing(0);
+    column_->addWidget(frame_);
+}
+
+void FormCard::addRow(QWidget* row) {
+    if (frame_->layout()->count() > 0) {
+        parted_.append(row);
+    }
+    addContinuation(row);
+}
+
+void FormCard::addContinuation(QWidget* row) {
+    row->setMinimumHeight(rowHeight);
+    frame_->layout()->addWidget(row);
+}
+
+void FormCard::addRow(const QString& label, QWidget* control) {
+    auto* row = new QWidget(frame_);
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    auto* text = new QLabel(label, row);
+    text->setBuddy(control);
+    line->addWidget(text);
+    line->addStretch(1);
+    line->addWidget(control);
+    control->setAccessibleName(label);
+    addRow(row);
+}
+
+void FormCard::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette().color(QPalette::WindowText);
+    const bool dark = ink.lightness() > 127;
+    painter.setPen(QPen(faded(ink, dark ? 0.1 : 0.12), 1));
+    painter.setBrush(dark ? faded(Qt::white, 0.05) : faded(Qt::white, 0.75));
+    painter.drawRoundedRect(QRectF(frame_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), radius,
+                            radius);
+    for (const QWidget* row : std::as_const(parted_)) {
+        const int y = row->mapTo(this, QPoint(0, 0)).y();
+        painter.fillRect(QRect(frame_->x() + sideRoom, y, frame_->width() - 2 * sideRoom, 1),
+                         faded(ink, 0.09));
+    }
+}
+
+QLabel* quietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
+    auto* label = new QuietLabel(text, emphasis == Emphasis::Secondary ? 0.68 : 0.55, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace morrowleaf {
+
+// One section of a grouped form: a title, and beneath it rows in a rounded
+// frame, parted by thin lines. Takes its colours from the palette.
+class FormCard : public QWidget {
+    Q_OBJECT
+
+public:
+    FormCard(const QString& title, QWidget* parent = nullptr);
+
+    void addRow(QWidget* row);
+    // A row of a label at the left and a control at the right.
+    void addRow(const QString& label, QWidget* control);
+    // A row that belongs to the one above: no line between them.
+    void addContinuation(QWidget* row);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QVBoxLayout* column_;
+    QWidget* frame_;
+    QList<QWidget*> parted_; // rows with a line above
+};
+
+// Texts that step back: secondary and tertiary.
+enum class Emphasis { Secondary, Tertiary };
+QLabel* quietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
+
+} // namespace morrowleaf

@@ -1,0 +1,251 @@
+#include "settingsui/inspector.h"
+
+#include "quotes/settingskeys.h"
+#include "screen/ground/animationkinds.h"
+#include "settingsui/binding.h"
+#include "settingsui/knob.h"
+#include "settingsui/menupicker.h"
+#include "settingsui/palettegroup.h"
+#include "settingsui/panelaccessible.h"
+#include "settingsui/panelbutton.h"
+#include "settingsui/panelscrollbar.h"
+#include "settingsui/panelstyle.h"
+#include "settingsui/photogroup.h"
+#include "settingsui/switch.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace morrowleaf {
+namespace {
+
+constexpr double leastGlass = 0.01; // transparency below which no glass is seen
+
+// A setting and the value it leaves the factory with.
+struct Factory {
+    QLatin1StringView key;
+    QJsonValue value;
+};
+
+template <typename Kinds>
+std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
+    std::vector<std::pair<QString, QString>> entries;
+    for (const auto kind : kinds) {
+        entries.emplace_back(rawValue(kind), label(kind));
+    }
+    return entries;
+}
+
+} // namespace
+
+double headerTopPadding(const std::optional<ScreenFrames>& screen) {
+    return screen ? qMax(screen->visible.top() - screen->whole.top() + 8, 24) : 38;
+}
+
+Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<void()> onDone,
+                     QWidget* parent)
+    : QWidget(parent)
+    , around_(surroundings)
+    , onDone_(std::move(onDone)) {
+    installPanelAccessibility();
+    setFixedWidth(width);
+    setPalette(PanelStyle::palette());
+    setFocusPolicy(Qt::ClickFocus);
+    setAccessibleName(QStringLiteral("Appearance"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(1, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeHeader());
+    column->addWidget(panelDivider(0.35, this));
+    scroll_ = new QScrollArea(this);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(true);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setVerticalScrollBar(new PanelScrollBar(scroll_));
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(makeGroups());
+    // Setting a widget makes it paint its ground.
+    scroll_->viewport()->setAutoFillBackground(false);
+    scroll_->widget()->setAutoFillBackground(false);
+    column->addWidget(scroll_, 1);
+    column->addWidget(panelDivider(0.35, this));
+    column->addWidget(makeFooter());
+}
+
+QWidget* Inspector::makeHeader() {
+    QLabel* title = panelLabel(QStringLiteral("APPEARANCE"),
+                               panelFont(around_.face, 10, QFont::Medium, 2.2), 0.55, this);
+    title->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(around_.screen)),
+                              PanelStyle::margin, 14);
+    return title;
+}
+
+void Inspector::addGroup(QVBoxLayout& column, const QString& title,
+                         std::initializer_list<QWidget*> rows) {
+    auto* group = new QVBoxLayout;
+    group->setSpacing(PanelStyle::titleSpacing);
+    QLabel* label =
+        panelLabel(title.toUpper(), panelFont(around_.face, 9, QFont::Medium, 1.8), 0.4, this);
+    label->setAccessibleName(title);
+    group->addWidget(label);
+    for (QWidget* row : rows) {
+        group->addWidget(row);
+    }
+    column.addLayout(group);
+}
+
+QWidget* Inspector::makePicker(const QString& name, const QString& key, const QString& fallback,
+                               std::vector<std::pair<QString, QString>> entries) {
+    std::vector<MenuPicker::Entry> list;
+    for (auto& [value, text] : entries) {
+        list.push_back({value, text});
+    }
+    auto* picker = new MenuPicker(name, std::move(list), around_.face, this);
+    SettingsStore& store = around_.store;
+    auto* binding = new Binding(store, key, picker, [picker, &store, key, fallback] {
+        picker->showValue(textOr(store, key, fallback));
+    });
+    connect(picker, &MenuPicker::chosen, binding,
+            [binding](const QString& value) { binding->set(value); });
+    return picker;
+}
+
+QWidget* Inspector::makeGroups() {
+    SettingsStore& store = around_.store;
+    const QFont& face = around_.face;
+    auto* groups = new QWidget(this);
+    auto* column = new QVBoxLayout(groups);
+    column->setContentsMargins(PanelStyle::margin - 1, 18, PanelStyle::margin, 22);
+    column->setSpacing(PanelStyle::groupSpacing);
+
+    const auto knob = [&](const char* name, QLatin1StringView key, Knob::Range range,
+                          Knob::Readout readout) {
+        return new Knob(QLatin1String(name), store, key, range, std::move(readout), face, this);
+    };
+    const auto smallSwitch = [&](const char* name, QLatin1StringView key) {
+        auto* control = new Switch(QLatin1String(name), Switch::Size::Small, this);
+        control->setFont(panelFont(face, 12));
+        bindSwitch(*control, store, key, true);
+        return control;
+    };
+
+    addGroup(*column, QStringLiteral("Palette"), {new PaletteGroup(store, face, this)});
+    addGroup(*column, QStringLiteral("Your photo"),
+             {new PhotoGroup(store, around_.photos, around_.choosePhoto, face, this)});
+    addGroup(*column, QStringLiteral("Typeface"),
+             {makePicker(QStringLiteral("Typeface"), K::font, QStringLiteral("serif"),
+                         {{QStringLiteral("fraunces"), QStringLiteral("Fraunces")},
+                          {QStringLiteral("serif"), QStringLiteral("Serif (New York)")},
+                          {QStringLiteral("sans"), QStringLiteral("Sans (SF Pro)")},
+                          {QStringLiteral("rounded"), QStringLiteral("Rounded")},
+                          {QStringLiteral("mono"), QStringLiteral("Mono")}})});
+    addGroup(*column, QStringLiteral("Size"),
+             {knob("Size", K::textScale, {0.7, 1.6, 1.0}, percentReadout)});
+    addGroup(*column, QStringLiteral("Vignette"),
+             {knob("Vignette", K::vignette, {0, 0.85, 0.55}, plainReadout)});
+    Knob* transparency = knob("Transparency", K::transparency, {0, 1, 0}, percentReadout);
+    if (around_.glassCanBeDrawn) {
+        Switch* glass = smallSwitch("Liquid Glass", K::liquidGlass);
+        new Binding(store, K::transparency, glass, [glass, &store] {
+            glass->setEnabled(realOr(store, K::transparency, 0) >= leastGlass);
+        });
+        addGroup(*column, QStringLiteral("Transparency"), {transparency, glass});
+    } else {
+        addGroup(*column, QStringLiteral("Transparency"), {transparency});
+    }
+    addGroup(*column, QStringLiteral("Text reveal"),
+             {makePicker(QStringLiteral("Text reveal"), K::textAnim, QStringLiteral("fade"),
+                         entriesOf(allTextAnims))});
+    addGroup(*column, QStringLiteral("Screen motion"),
+             {makePicker(QStringLiteral("Screen motion"), K::screenAnim, QStringLiteral("drift"),
+                         entriesOf(allScreenAnims))});
+    addGroup(*column, QStringLiteral("Grain"), {smallSwitch("Film grain", K::grain)});
+    column->addStretch(1);
+    return groups;
+}
+
+QWidget* Inspector::makeFooter() {
+    auto* footer = new QWidget(this);
+    auto* row = new QHBoxLayout(footer);
+    row->setContentsMargins(PanelStyle::margin - 1 - PanelButton::sidePadding, 10,
+                            PanelStyle::margin, 12);
+    const QFont font = panelFont(around_.face, 12);
+    auto* resetButton = new PanelButton(QStringLiteral("Reset"), PanelButton::Kind::Plain, footer);
+    auto* done = new PanelButton(QStringLiteral("Done"), PanelButton::Kind::Default, footer);
+    resetButton->setFont(font);
+    done->setFont(panelFont(around_.face, 12, QFont::DemiBold));
+    connect(resetButton, &QAbstractButton::clicked, this, &Inspector::reset);
+    connect(done, &QAbstractButton::clicked, this, [this] { onDone_(); });
+    row->addWidget(resetButton);
+    row->addStretch(1);
+    row->addWidget(done);
+    return footer;
+}
+
+void Inspector::reset() {
+    const std::initializer_list<Factory> factory{
+        {K::bgImage, QString()},
+        {K::palette, -1},
+        {K::font, QStringLiteral("fraunces")},
+        {K::textScale, 1.0},
+        {K::vignette, 0.55},
+        {K::transparency, 0.0},
+        {K::liquidGlass, true},
+        {K::textAnim, QStringLiteral("fade")},
+        {K::screenAnim, QStringLiteral("drift")},
+        {K::grain, true},
+    };
+    for (const Factory& setting : factory) {
+        around_.store.set(setting.key, setting.value);
+    }
+}
+
+void Inspector::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), PanelStyle::veil());
+    painter.fillRect(0, 0, 1, height(), PanelStyle::ink(0.12));
+}
+
+void Inspector::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        onDone_();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+// A press beside the controls stays with the panel.
+void Inspector::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void Inspector::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!isAncestorOf(window()->focusWidget())) {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
+// Tab stays within the panel and brings what it reaches into view.
+bool Inspector::focusNextPrevChild(bool next) {
+    QWidget* at = window()->focusWidget();
+    QWidget* start = at;
+    do {
+        at = next ? at->nextInFocusChain() : at->previousInFocusChain();
+    } while (at != start && !(isAncestorOf(at) && at->isVisible() && at->isEnabled() &&
+                              (at->focusPolicy() & Qt::TabFocus) != 0));
+    if (at == start) {
+        return false;
+    }
+    at->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    if (scroll_->isAncestorOf(at)) {
+        scroll_->ensureWidgetVisible(at, 0, 24);
+    }
+    return true;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,53 @@
+#include "settingsui/palettegroup.h"
+
+#include "quotes/settingskeys.h"
+#include "screen/ground/palettes.h"
+#include "settingsui/binding.h"
+#include "settingsui/panelstyle.h"
+#include "settingsui/swatch.h"
+
+#include <QGridLayout>
+
+#include <array>
+
+namespace morrowleaf {
+
+PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
+    : QWidget(parent)
+    , store_(store) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(PanelStyle::gutter);
+    grid->setVerticalSpacing(PanelStyle::gutter);
+    for (int column = 0; column < PanelStyle::columns; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
+    const std::array automatic{QColor(128, 128, 128, 153), QColor(128, 128, 128, 64)};
+    add(-1, new PaletteSwatch(QStringLiteral("Auto"), automatic, face, this));
+    for (const Palette& palette : Palette::all()) {
+        add(swatches_.size() - 1, new PaletteSwatch(palette.name, palette.colors, face, this));
+    }
+    new Binding(store, K::palette, this, [this] { mark(); });
+    new Binding(store, K::bgImage, this, [this] { mark(); });
+}
+
+void PaletteGroup::add(qint64 index, PaletteSwatch* swatch) {
+    const int place = int(swatches_.size());
+    swatches_.append(swatch);
+    static_cast<QGridLayout*>(layout())->addWidget(swatch, place / PanelStyle::columns,
+                                                   place % PanelStyle::columns);
+    connect(swatch, &QAbstractButton::clicked, this, [this, index] {
+        store_.set(K::palette, index);
+        store_.set(K::bgImage, QString());
+    });
+}
+
+void PaletteGroup::mark() {
+    const bool photo = !textOr(store_, K::bgImage, {}).isEmpty();
+    const qint64 index = integerOr(store_, K::palette, -1);
+    for (qsizetype i = 0; i < swatches_.size(); ++i) {
+        swatches_[i]->setMarked(!photo && i - 1 == index);
+    }
+}
+
+} // namespace morrowleaf

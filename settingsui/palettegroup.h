@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+namespace morrowleaf {
+
+class SettingsStore;
+
+// The palettes as a grid of swatches, the automatic one first. Choosing one
+// also drops the photo.
+class PaletteGroup : public QWidget {
+    Q_OBJECT
+
+public:
+    PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent = nullptr);
+
+private:
+    void add(qint64 index, class PaletteSwatch* swatch);
+    void mark();
+
+    SettingsStore& store_;
+    QList<PaletteSwatch*> swatches_; // automatic, then by index
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QScrollBar>
+
+namespace morrowleaf {
+
+// A slim vertical scroll bar without a trough.
+class PanelScrollBar : public QScrollBar {
+    Q_OBJECT
+
+public:
+    explicit PanelScrollBar(QWidget* parent);
+    QSize sizeHint() const override { return {9, 40}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    QRectF thumb() const;
+    double grip_ = -1; // within the thumb while it is held
+};
+
+} // namespace morrowleaf

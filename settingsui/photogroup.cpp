@@ -1,0 +1,173 @@
+#include "settingsui/photogroup.h"
+
+#include "quotes/bgstore.h"
+#include "quotes/prefs.h"
+#include "quotes/settingskeys.h"
+#include "settingsui/binding.h"
+#include "settingsui/panelstyle.h"
+#include "settingsui/swatch.h"
+#include "settingsui/thumbnails.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QPointer>
+#include <QTimer>
+
+namespace morrowleaf {
+namespace {
+
+// What a built-in photo is called: its file's name, as a word.
+QString spokenName(const QString& path) {
+    QString name = QFileInfo(path).completeBaseName();
+    if (!name.isEmpty()) {
+        name[0] = name[0].toUpper();
+    }
+    return name;
+}
+
+} // namespace
+
+PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choose,
+                       const QFont& face, QWidget* parent)
+    : QWidget(parent)
+    , store_(store)
+    , photos_(photos)
+    , choose_(std::move(choose))
+    , face_(face)
+    , thumbnails_(new Thumbnails(photos, this))
+    , builtins_(photos.builtins()) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(PanelStyle::gutter);
+    for (int column = 0; column < PanelStyle::columns; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
+    connect(thumbnails_, &Thumbnails::ready, this, &PhotoGroup::fetchPictures);
+    new Binding(store_, K::customBGs, this, [this] { rebuild(); });
+    new Binding(store_, K::bgImage, this, [this] { mark(); });
+}
+
+void PhotoGroup::rebuild() {
+    customBGs_ = Prefs::customBGs(store_);
+    for (QWidget* cell : std::as_const(cells_)) {
+        // The press that led here may still be running in it.
+        cell->hide();
+        cell->setParent(nullptr);
+        cell->deleteLater();
+    }
+    cells_.clear();
+    swatches_.clear();
+    for (const QString& path : std::as_const(builtins_)) {
+        cells_.append(makeSwatch(path, spokenName(path)));
+    }
+    for (qsizetype i = 0; i < customBGs_.size(); ++i) {
+        const QString path = customBGs_[i];
+        const QString name = QStringLiteral("Your photo %1").arg(i + 1);
+        PhotoSwatch* swatch = makeSwatch(path, name);
+        auto* cross = new RemoveButton(QStringLiteral("Remove %1").arg(name.toLower()), swatch);
+        auto* corner = new QGridLayout(swatch);
+        corner->setContentsMargins(2, 2, 2, 2);
+        corner->addWidget(cross, 0, 0, Qt::AlignTop | Qt::AlignRight);
+        connect(cross, &QAbstractButton::clicked, this, [this, path] { remove(path); });
+        cells_.append(swatch);
+    }
+    if (customBGs_.size() < BGStore::limit) {
+        auto* tile = new AddTile(face_, this);
+        connect(tile, &QAbstractButton::clicked, this, &PhotoGroup::addPhoto);
+        cells_.append(tile);
+    }
+    place();
+    mark();
+    fetchPictures();
+}
+
+PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
+    auto* swatch = new PhotoSwatch(path, name, face_, this);
+    connect(swatch, &QAbstractButton::clicked, this,
+            [this, path] { store_.set(K::bgImage, path); });
+    swatches_.append(swatch);
+    return swatch;
+}
+
+void PhotoGroup::place() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    // Tab goes from tile to tile, wherever in the panel this grid stands.
+    QWidget* before = nullptr;
+    for (qsizetype i = 0; i < cells_.size(); ++i) {
+        QWidget* cell = cells_[i];
+        grid->addWidget(cell, int(i) / PanelStyle::columns, int(i) % PanelStyle::columns);
+        if (before != nullptr) {
+            setTabOrder(before, cell);
+        }
+        before = cell;
+        if (auto* cross = cell->findChild<RemoveButton*>()) {
+            setTabOrder(cell, cross);
+            before = cross;
+        }
+        if (isVisible()) {
+            cell->show();
+        }
+    }
+}
+
+void PhotoGroup::mark() {
+    const QString chosen = textOr(store_, K::bgImage, {});
+    for (PhotoSwatch* swatch : std::as_const(swatches_)) {
+        swatch->setMarked(swatch->path() == chosen);
+    }
+}
+
+void PhotoGroup::fetchPictures() {
+    if (!isVisible()) {
+        return;
+    }
+    for (PhotoSwatch* swatch : std::as_const(swatches_)) {
+        // Tiles get their width when the layout has run.
+        const QSize size = swatch->pictureSize();
+        if (swatch->width() > 1) {
+            swatch->setPicture(thumbnails_->picture(swatch->path(), size));
+        }
+    }
+}
+
+void PhotoGroup::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QTimer::singleShot(0, this, &PhotoGroup::fetchPictures);
+}
+
+bool PhotoGroup::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize ||
+        event->type() == QEvent::ScreenChangeInternal) {
+        QTimer::singleShot(0, this, &PhotoGroup::fetchPictures);
+    }
+    return QWidget::event(event);
+}
+
+void PhotoGroup::remove(const QString& path) {
+    photos_.remove(path);
+}
+
+void PhotoGroup::addPhoto() {
+    if (choosing_ || !choose_) {
+        return;
+    }
+    choosing_ = true;
+    const QPointer<PhotoGroup> self(this);
+    choose_(window(), [self](const std::optional<QString>& picked) {
+        if (!self) {
+            return;
+        }
+        self->choosing_ = false;
+        if (picked) {
+            self->photos_.add(*picked,
+                              [self, store = &self->store_](const std::optional<QString>& added) {
+                                  if (self && added) {
+                                      store->set(K::bgImage, *added);
+                                  }
+                              });
+        }
+    });
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "settingsui/photochooser.h"
+
+#include <QWidget>
+
+namespace morrowleaf {
+
+class AddTile;
+class BGStore;
+class PhotoSwatch;
+class SettingsStore;
+class Thumbnails;
+
+// The photos as a grid of swatches: the built-in ones, the user's own, and the
+// tile that adds one while there is room.
+class PhotoGroup : public QWidget {
+    Q_OBJECT
+
+public:
+    PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choose, const QFont& face,
+               QWidget* parent = nullptr);
+
+    void addPhoto();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void rebuild();
+    PhotoSwatch* makeSwatch(const QString& path, const QString& name);
+    void place();
+    void mark();
+    void fetchPictures();
+    void remove(const QString& path);
+
+    SettingsStore& store_;
+    BGStore& photos_;
+    PhotoChooser choose_;
+    QFont face_;
+    Thumbnails* thumbnails_;
+    QStringList builtins_;
+    QStringList customBGs_;
+    QList<QWidget*> cells_;
+    QList<PhotoSwatch*> swatches_;
+    bool choosing_ = false;
+};
+
+} // namespace morrowleaf

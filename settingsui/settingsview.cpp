@@ -1,0 +1,252 @@
+#include "settingsui/settingsview.h"
+
+#include "quotes/prefs.h"
+#include "quotes/settingskeys.h"
+#include "quotes/sourcepresets.h"
+#include "settingsui/binding.h"
+#include "settingsui/formcard.h"
+#include "settingsui/loginswitch.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSlider>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace morrowleaf {
+namespace {
+
+constexpr int formMargin = 18; // points
+constexpr int sectionSpacing = 15;
+constexpr int barPadding = 12;
+constexpr int presetsWidth = 120;
+constexpr int secondsWidth = 46;
+constexpr double shortest = 5; // seconds
+constexpr double longest = 60;
+
+QString inSeconds(double value) {
+    return QString::asprintf("%.0fs", std::trunc(value));
+}
+
+QFont scaled(const QFont& font, double factor) {
+    QFont result = font;
+    if (font.pointSizeF() > 0) {
+        result.setPointSizeF(font.pointSizeF() * factor);
+    } else {
+        result.setPixelSize(qRound(font.pixelSize() * factor));
+    }
+    return result;
+}
+
+QWidget* line(QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setFrameShape(QFrame::HLine);
+    frame->setFrameShadow(QFrame::Plain);
+    QPalette palette = frame->palette();
+    palette.setColor(QPalette::WindowText, QColor(128, 128, 128, 90));
+    frame->setPalette(palette);
+    frame->setFixedHeight(1);
+    return frame;
+}
+
+} // namespace
+
+SettingsView::SettingsView(SettingsSurroundings surroundings, QWidget* parent)
+    : QWidget(parent)
+    , around_(std::move(surroundings)) {
+    setFixedSize(settingsViewSize);
+    auto* form = new QWidget;
+    auto* sections = new QVBoxLayout(form);
+    sections->setContentsMargins(formMargin, 16, formMargin, 16);
+    sections->setSpacing(sectionSpacing);
+    auto* appearance = new FormCard(QStringLiteral("Appearance"), form);
+    auto* behaviour = new FormCard(QStringLiteral("Behaviour"), form);
+    auto* quotes = new FormCard(QStringLiteral("Quotes"), form);
+    addAppearance(*appearance);
+    addBehaviour(*behaviour);
+    addQuotes(*quotes);
+    for (FormCard* card : {appearance, behaviour, quotes}) {
+        sections->addWidget(card);
+    }
+    sections->addStretch(1);
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(form);
+    form->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(scroll, 1);
+    column->addWidget(line(this));
+    column->addWidget(makeBottomBar());
+}
+
+void SettingsView::addAppearance(FormCard& card) {
+    auto* row = new QWidget(&card);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* text = quietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
+                            Emphasis::Secondary, row);
+    text->setFont(scaled(font(), 0.95));
+    auto* edit = new QPushButton(QStringLiteral("Edit Appearance…"), row);
+    connect(edit, &QPushButton::clicked, this, [this] { around_.onEditAppearance(); });
+    layout->addWidget(text, 1);
+    layout->addWidget(edit);
+    card.addRow(row);
+}
+
+void SettingsView::addBehaviour(FormCard& card) {
+    SettingsStore& store = around_.store;
+    auto* wake =
+        new Switch(QStringLiteral("Show on wake and unlock"), Switch::Size::Regular, &card);
+    bindSwitch(*wake, store, K::showOnWake, true);
+    card.addRow(wake);
+
+    auto* frequency = new QComboBox(&card);
+    frequency->addItem(QStringLiteral("Every 6 hours"), QStringLiteral("6h"));
+    frequency->addItem(QStringLiteral("Every 12 hours"), QStringLiteral("12h"));
+    frequency->addItem(QStringLiteral("Every 24 hours"), QStringLiteral("24h"));
+    frequency->addItem(QStringLiteral("Every time it shows"), QStringLiteral("every"));
+    bindChoice(*frequency, store, K::frequency, QStringLiteral("24h"));
+    card.addRow(QStringLiteral("New quote"), frequency);
+
+    card.addRow(makeCloseAfter());
+    card.addRow(new LoginSwitch(around_.loginItem, around_.beep, &card));
+}
+
+QWidget* SettingsView::makeCloseAfter() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* label = new QLabel(QStringLiteral("Close after"), row);
+    auto* slider = new QSlider(Qt::Horizontal, row);
+    slider->setRange(int(shortest), int(longest));
+    slider->setSingleStep(1);
+    slider->setPageStep(5);
+    slider->setFixedWidth(200);
+    slider->setAccessibleName(label->text());
+    label->setBuddy(slider);
+    auto* readout = quietLabel({}, Emphasis::Secondary, row);
+    readout->setWordWrap(false);
+    readout->setFixedWidth(secondsWidth);
+    readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(label);
+    layout->addStretch(1);
+    layout->addWidget(slider);
+    layout->addWidget(readout);
+
+    SettingsStore& store = around_.store;
+    auto* binding = new Binding(store, K::dismiss, slider, [slider, readout, &store] {
+        const double seconds = realOr(store, K::dismiss, 15);
+        slider->setValue(qRound(std::clamp(seconds, shortest, longest)));
+        readout->setText(inSeconds(seconds));
+    });
+    connect(slider, &QSlider::valueChanged, binding, [binding, readout](int seconds) {
+        if (binding->set(double(seconds))) {
+            readout->setText(inSeconds(seconds));
+        }
+    });
+    return row;
+}
+
+QPushButton* SettingsView::makePresets() {
+    auto* button = new QPushButton(QStringLiteral("Presets"), this);
+    button->setFixedWidth(presetsWidth);
+    auto* menu = new QMenu(button);
+    for (const SourcePreset& preset : sourcePresets()) {
+        menu->addAction(preset.label, this, [this, address = preset.address] {
+            around_.store.set(K::source, address);
+        });
+    }
+    menu->addAction(QStringLiteral("Built-in list"), this,
+                    [this] { around_.store.set(K::source, QString()); });
+    button->setMenu(menu);
+    return button;
+}
+
+void SettingsView::addQuotes(FormCard& card) {
+    auto* source = new QLineEdit(&card);
+    source->setPlaceholderText(QStringLiteral("Leave empty for the built-in 124 quotes"));
+    source->setMinimumWidth(330);
+    bindText(*source, around_.store, K::source, {});
+    card.addRow(QStringLiteral("Source URL"), source);
+
+    auto* row = new QWidget(&card);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    testButton_ = new QPushButton(QStringLiteral("Test"), row);
+    connect(testButton_, &QPushButton::clicked, this, &SettingsView::test);
+    layout->addWidget(makePresets());
+    layout->addWidget(testButton_);
+    layout->addStretch(1);
+    card.addRow(row);
+
+    testResult_ = quietLabel({}, Emphasis::Secondary, &card);
+    testResult_->setFont(scaled(font(), 0.95));
+    testResult_->setContentsMargins(0, 2, 0, 8);
+    card.addContinuation(testResult_);
+    testResult_->setMinimumHeight(0);
+    testResult_->hide();
+
+    auto* help = quietLabel(
+        QStringLiteral("Any JSON with a quote and author field works, plus a local file path. The "
+                       "last fetched quote is cached, so it still shows offline."),
+        Emphasis::Tertiary, &card);
+    help->setFont(scaled(font(), 0.86));
+    card.addRow(help);
+}
+
+QWidget* SettingsView::makeBottomBar() {
+    auto* bar = new QWidget(this);
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(barPadding, barPadding, barPadding, barPadding);
+    auto* show = new QPushButton(QStringLiteral("Show Today's Quote"), bar);
+    auto* quit = new QPushButton(QStringLiteral("Quit"), bar);
+    connect(show, &QPushButton::clicked, this, [this] { around_.onShowNow(); });
+    connect(quit, &QPushButton::clicked, this, [this] { around_.quit(); });
+    layout->addWidget(show);
+    layout->addStretch(1);
+    layout->addWidget(quit);
+    return bar;
+}
+
+void SettingsView::test() {
+    if (!testButton_->isEnabled()) {
+        return;
+    }
+    testButton_->setEnabled(false);
+    testButton_->setText(QStringLiteral("Testing…"));
+    tell({});
+    const QPointer<SettingsView> self(this);
+    around_.loader(Prefs::source(around_.store), [self](const std::optional<Quote>& quote) {
+        if (!self) {
+            return;
+        }
+        self->testButton_->setEnabled(true);
+        self->testButton_->setText(QStringLiteral("Test"));
+        self->tell(quote ? QChar(0x201C) + quote->text + QChar(0x201D) + QStringLiteral(" — ") +
+                               quote->author
+                         : QStringLiteral("No quote found at that source."));
+    });
+}
+
+void SettingsView::tell(const QString& testResult) {
+    testResult_->setText(testResult);
+    testResult_->setVisible(!testResult.isEmpty());
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QObject>
+
+namespace morrowleaf {
+
+class BGStore;
+
+// Small pictures of photos, decoded in a worker and kept, at the exact size
+// that they are drawn in. Going away does not wait for a decoding that runs.
+class Thumbnails : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Thumbnails(BGStore& photos, QObject* parent = nullptr);
+
+    // The picture filling `size` device pixels, or null: then ready() follows,
+    // unless the photo cannot be read.
+    QImage picture(const QString& path, QSize size);
+
+signals:
+    void ready(const QString& path);
+
+private:
+    void finish(const QString& path, QSize size, const QImage& picture);
+
+    BGStore& photos_;
+    QHash<QString, QPair<QSize, QImage>> pictures_;
+    QHash<QString, QSize> wanted_;
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,139 @@
+// Draws the appearance editor and the settings window into picture files, to
+// be looked at: pictures FOLDER [light|dark]
+
+#include "platform/loginitem.h"
+#include "quotes/bgstore.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/backdrop.h"
+#include "settingsui/hostpalette.h"
+#include "settingsui/inspector.h"
+#include "settingsui/settingsview.h"
+#include "textanim/fonts.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFontDatabase>
+#include <QJsonArray>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QStyle>
+
+using namespace morrowleaf;
+
+namespace {
+
+class NoLogin : public LoginItem {
+public:
+    Status status() const override { return Status::Enabled; }
+    std::optional<QString> registerItem() override { return std::nullopt; }
+    std::optional<QString> unregisterItem() override { return std::nullopt; }
+};
+
+// A still backdrop, whatever lies in front.
+class Ground : public QWidget {
+public:
+    BackdropState state;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        const double ratio = devicePixelRatioF();
+        QImage image(size() * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        painter_.paint(image, image.rect(), state, 700'000'000);
+        QPainter(this).drawImage(0, 0, image);
+    }
+
+private:
+    BackdropPainter painter_;
+};
+
+void settle(int milliseconds) {
+    QElapsedTimer since;
+    since.start();
+    while (since.elapsed() < milliseconds) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+}
+
+void drawSettings(const QString& folder, SettingsStore& store, const QString& name) {
+    NoLogin login;
+    SettingsView view({.store = store,
+                       .loader =
+                           [](const QString&, const auto& done) {
+                               done(Quote{QStringLiteral("What we know is a drop, what we do not "
+                                                         "know is an ocean, and the ocean is deep"),
+                                          QStringLiteral("Isaac Newton")});
+                           },
+                       .loginItem = login});
+    view.show();
+    settle(100);
+    view.grab().save(folder + QStringLiteral("/settings-%1.png").arg(name));
+    view.test();
+    view.findChild<QLineEdit*>()->setFocus(Qt::TabFocusReason);
+    settle(100);
+    view.grab().save(folder + QStringLiteral("/settings-%1-tested.png").arg(name));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
+    const QApplication app(argc, argv);
+    const QString folder = QString::fromLocal8Bit(argc > 1 ? argv[1] : ".");
+    QDir().mkpath(folder);
+    FontBook fonts;
+    fonts.registerBundledFonts(QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Fonts"));
+    const QFont face = nsFont(fonts, 12, FontDesign::Default).face;
+    SettingsStore store;
+    registerAppDefaults(store);
+
+    QApplication::setPalette(hostPalette(ColorPreference::Light));
+    drawSettings(folder, store, QStringLiteral("light"));
+    QApplication::setPalette(hostPalette(ColorPreference::Dark));
+    drawSettings(folder, store, QStringLiteral("dark"));
+
+    BGStore photos(store, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
+                   folder + QStringLiteral("/own"));
+    store.set(K::customBGs, QJsonArray{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
+    const auto draw = [&](const QString& name, const BackdropState& state, QSize size) {
+        Ground ground;
+        ground.state = state;
+        ground.resize(size);
+        auto* inspector = new Inspector(
+            {.store = store,
+             .photos = photos,
+             .choosePhoto = {},
+             .glassCanBeDrawn = true,
+             .face = face,
+             .screen = ScreenFrames{QRect(QPoint(), size), QRect(QPoint(0, 28), size)}},
+            [] {}, &ground);
+        inspector->setGeometry(size.width() - Inspector::width, 0, Inspector::width, size.height());
+        ground.show();
+        settle(400);
+        ground.grab().save(folder + QStringLiteral("/panel-%1.png").arg(name));
+    };
+    BackdropState state;
+    state.screenAnim = ScreenAnim::Still;
+    int index = 0;
+    for (const Palette& palette : Palette::all()) {
+        state.palette = palette;
+        store.set(K::palette, index++);
+        draw(palette.name.toLower(), state, {900, 982});
+    }
+    draw(QStringLiteral("small"), state, {1024, 600});
+    const QString photo = photos.builtins().value(0);
+    if (const auto found = photos.image(photo)) {
+        state.palette = Palette::photo();
+        state.hasPhoto = true;
+        store.set(K::bgImage, photo);
+        state.photo = found->decodeFilling(QSize(900, 982) * app.devicePixelRatio());
+        draw(QStringLiteral("photo"), state, {900, 982});
+        draw(QStringLiteral("tall"), state, {900, 1300});
+    }
+    return 0;
+}
