@@ -46,6 +46,10 @@ function(morrowleaf_library name)
   endif()
 endfunction()
 
+# Everything that the tests with the label unit need; and the fuzzers.
+add_custom_target(unit_tests)
+add_custom_target(fuzzers)
+
 # morrowleaf_test(NAME SOURCES file... [LIBRARIES target...] [LABEL unit|system] [GUI])
 # One GoogleTest program; each of its tests is one ctest. A GUI test runs
 # inside a QApplication on Qt's offscreen platform.
@@ -65,6 +69,9 @@ function(morrowleaf_test name)
   target_compile_definitions(${name} PRIVATE
     MORROWLEAF_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     MORROWLEAF_RESOURCE_DIR="${PROJECT_SOURCE_DIR}/resources")
+  if(arg_LABEL STREQUAL unit)
+    add_dependencies(unit_tests ${name})
+  endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}."
     PROPERTIES LABELS ${arg_LABEL} TIMEOUT 120)
 endfunction()
