@@ -133,19 +133,13 @@ void AppDelegate::present(bool preview, bool editing) {
     }
     window->setContent(content.widget);
     window->setAlpha(0);
-    window->overlay().onLost = [this, lost = window.get()] {
-        // The screen is being taken apart at this moment.
+    // What takes the window away is still at work when it tells.
+    const auto gone = [this, lost = window.get()] {
         QMetaObject::invokeMethod(
-            this,
-            [this, lost] {
-                if (window_.get() == lost) {
-                    dismiss(false);
-                } else {
-                    leave(lost);
-                }
-            },
-            Qt::QueuedConnection);
+            this, [this, lost] { lose(lost); }, Qt::QueuedConnection);
     };
+    window->overlay().onLost = gone;
+    connect(window.get(), &QuoteWindow::closed, this, gone);
     window->orderFront();
     window_ = std::move(window);
     window_->fade(around_.timing, 1, fadeInSeconds, easeOut, [] {});
@@ -223,13 +217,21 @@ void AppDelegate::dismiss(bool animated) {
     }
 }
 
-void AppDelegate::leave(QuoteWindow* window) {
+void AppDelegate::lose(const QuoteWindow* window) {
+    if (window_.get() == window) {
+        dismiss(false);
+    } else {
+        leave(window);
+    }
+}
+
+void AppDelegate::leave(const QuoteWindow* window) {
     const auto found = std::find_if(fadingOut_.begin(), fadingOut_.end(),
                                     [window](const auto& w) { return w.get() == window; });
     if (found == fadingOut_.end()) {
         return;
     }
-    window->orderOut();
+    (*found)->orderOut();
     found->release()->deleteLater(); // a call from within it may have led here
     fadingOut_.erase(found);
     if (!window_ && fadingOut_.empty()) {

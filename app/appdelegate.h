@@ -83,7 +83,8 @@ private:
     void installStatusItem();
     Behind lookBehind(QuoteWindow& window, QScreen& screen, bool editing);
     void installMonitor(bool editing);
-    void leave(QuoteWindow* window);
+    void lose(const QuoteWindow* window);
+    void leave(const QuoteWindow* window);
 
     AppSurroundings around_;
     std::unique_ptr<QuoteWindow> window_;

@@ -1,45 +1,36 @@
 #include "app/application.h"
 
-#include "app/appdelegate.h"
-#include "app/timing.h"
+#include "app/desktoprun.h"
+#include "app/launch.h"
+#include "app/resources.h"
+#include "app/selftest.h"
 #include "platform/chooser.h"
+#include "quotes/settingsfile.h"
 #include "quotes/settingsstore.h"
+#include "textanim/fonts.h"
 
-#include <QApplication>
-#include <QPainter>
+#include <QGuiApplication>
+
+#include <cstdio>
 
 namespace morrowleaf {
 
 namespace {
 
-class PlainContent final : public QWidget {
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.fillRect(rect(), QColor(40, 44, 90));
-        painter.setPen(Qt::white);
-        painter.drawText(rect(), Qt::AlignCenter, "Morrowleaf");
+// The modes of one line work without a display.
+void runLineMode(int& argc, char** argv, Mode mode) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication app(argc, argv);
+    FontBook fonts;
+    fonts.registerBundledFonts(fontFolder());
+    if (mode == Mode::SelfTest) {
+        SettingsStore store;
+        const SettingsFile file(store, defaultSettingsPath());
+        selftest(store);
+        return;
     }
-};
-
-int runDesktop(int& argc, char** argv, const QStringList& arguments) {
-    const WindowSystem windowSystem = chooseWindowSystem();
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    SettingsStore store;
-    Platform platform = makePlatform(windowSystem);
-    const auto timing = makeSystemTiming();
-    AppDelegate delegate({.store = store,
-                          .platform = platform,
-                          .timing = *timing,
-                          .makeQuoteScreen =
-                              [](const EditingHooks*) {
-                                  return QuoteContent{.widget = new PlainContent, .setBehind = {}};
-                              },
-                          .makeSettingsView = [](auto, auto) { return new QWidget; },
-                          .terminate = [] { QCoreApplication::quit(); }});
-    delegate.applicationDidFinishLaunching(arguments);
-    return QApplication::exec();
+    std::puts(qPrintable(registerLogin(*makeLoginItem())));
+    std::fflush(stdout);
 }
 
 } // namespace
@@ -51,7 +42,12 @@ int runApplication(int argc, char** argv) {
     }
     // The toolkit would read, and refuse, arguments of its own.
     int ownName = argc > 0 ? 1 : 0;
-    return runDesktop(ownName, argv, arguments);
+    const Mode mode = modeFor(arguments);
+    if (mode == Mode::Desktop) {
+        return runOnDesktop(ownName, argv, arguments);
+    }
+    runLineMode(ownName, argv, mode);
+    return 0;
 }
 
 } // namespace morrowleaf

@@ -69,9 +69,10 @@ void QuoteWindow::resizeEvent(QResizeEvent* /*event*/) {
     veil_->setGeometry(rect());
 }
 
-// A window manager may ask; the showing has its own ways to end.
+// A window manager asks, or the program ends.
 void QuoteWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
+    event->accept();
+    emit closed();
 }
 
 } // namespace morrowleaf

@@ -33,6 +33,9 @@ public:
     void orderFront();
     void orderOut();
 
+signals:
+    void closed(); // from outside; it has left the screen
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

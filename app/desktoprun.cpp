@@ -1,0 +1,133 @@
+#include "app/desktoprun.h"
+
+#include "app/appdelegate.h"
+#include "app/quotecontent.h"
+#include "app/resources.h"
+#include "app/timing.h"
+#include "platform/chooser.h"
+#include "quotes/bgstore.h"
+#include "quotes/fetchquote.h"
+#include "quotes/settingsfile.h"
+#include "quotes/settingsstore.h"
+#include "settingsui/hostpalette.h"
+#include "settingsui/settingsview.h"
+#include "textanim/fonts.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTimer>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
+constexpr int requestPatience = 400; // milliseconds
+
+LaunchRequest requestOf(const QStringList& arguments) {
+    return {.action = arguments.contains("--settings") ? "settings" : "show",
+            .activationToken = qEnvironmentVariable("XDG_ACTIVATION_TOKEN")};
+}
+
+void serve(AppDelegate& delegate, const LaunchRequest& request) {
+    if (!request.activationToken.isEmpty()) {
+        // The toolkit takes it from there for the next window.
+        qputenv("XDG_ACTIVATION_TOKEN", request.activationToken.toUtf8());
+    }
+    if (request.action == "settings") {
+        delegate.openSettings();
+    } else if (request.action == "edit-appearance") {
+        delegate.editAppearance();
+    } else if (request.action == "quit") {
+        QCoreApplication::exit(0);
+    } else {
+        delegate.show();
+    }
+}
+
+// Where the bus started the program, a request follows at once and says what
+// the launch is for.
+void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& arguments) {
+    const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
+    qunsetenv(startedByBus);
+    auto launched = std::make_shared<bool>(false);
+    const auto begin = [&delegate, launched](const QStringList& with) {
+        if (!std::exchange(*launched, true)) {
+            delegate.applicationDidFinishLaunching(with);
+        }
+    };
+    QObject::connect(&instance, &SingleInstance::requested, &delegate,
+                     [&delegate, launched, begin](const LaunchRequest& request) {
+                         if (*launched) {
+                             serve(delegate, request);
+                         } else if (request.action == "settings") {
+                             begin({"--settings"});
+                         } else {
+                             begin({});
+                         }
+                     });
+    if (requestFollows) {
+        QTimer::singleShot(requestPatience, &delegate, [begin, arguments] { begin(arguments); });
+    } else {
+        begin(arguments);
+    }
+}
+
+} // namespace
+
+int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
+    const WindowSystem windowSystem = chooseWindowSystem();
+    QApplication::setDesktopFileName("org.morrowleaf.Morrowleaf");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Morrowleaf");
+    QApplication::setQuitOnLastWindowClosed(false);
+    Platform platform = makePlatform(windowSystem);
+    if (!platform.instance->claim(requestOf(arguments))) {
+        return 0;
+    }
+    QObject::connect(platform.quitRequests.get(), &QuitRequests::requested, &app,
+                     [] { QCoreApplication::exit(0); });
+    followColorScheme(*platform.colorScheme);
+    FontBook fonts;
+    fonts.registerBundledFonts(fontFolder());
+    SettingsStore store;
+    SettingsFile file(store, defaultSettingsPath());
+    BGStore photos(store, backgroundFolder(),
+                   QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                       "/Morrowleaf/backgrounds");
+    QuoteFetcher fetcher;
+    const ScreenSurroundings screen{.store = store,
+                                    .fonts = fonts,
+                                    .photos = photos,
+                                    .clock = [] { return Moment::now(); },
+                                    .random = secureRandomIndex(),
+                                    .loader = fetcher.loader()};
+    // Asking windows whether they agree is for programs with documents.
+    const auto terminate = [] { QCoreApplication::exit(0); };
+    const auto timing = makeSystemTiming();
+    AppDelegate delegate({.store = store,
+                          .platform = platform,
+                          .timing = *timing,
+                          .makeQuoteScreen =
+                              [&](const EditingHooks* editing) {
+                                  return makeQuoteContent(screen, *platform.mainScreen, editing);
+                              },
+                          .makeSettingsView =
+                              [&](auto onShowNow, auto onEditAppearance) {
+                                  return new SettingsView(
+                                      {.store = store,
+                                       .loader = fetcher.loader(),
+                                       .loginItem = *platform.loginItem,
+                                       .beep = [&] { platform.beeper->beep(); },
+                                       .onShowNow = std::move(onShowNow),
+                                       .onEditAppearance = std::move(onEditAppearance),
+                                       .quit = terminate});
+                              },
+                          .terminate = terminate});
+    QObject::connect(&delegate, &AppDelegate::showingEnded, &app, platform.giveMemoryBack,
+                     Qt::QueuedConnection);
+    launch(delegate, *platform.instance, arguments);
+    return QApplication::exec();
+}
+
+} // namespace morrowleaf

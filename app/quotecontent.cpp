@@ -1,0 +1,48 @@
+#include "app/quotecontent.h"
+
+#include "platform/mainscreen.h"
+#include "settingsui/inspector.h"
+#include "textanim/fonts.h"
+
+#include <QScreen>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double faceSize = 13; // points; the editor sets its own sizes
+
+InspectorFactory inspectorFactory(const ScreenSurroundings& around, const QScreen* screen,
+                                  const EditingHooks& hooks) {
+    InspectorSurroundings needs{.store = around.store,
+                                .photos = around.photos,
+                                .choosePhoto =
+                                    photoDialog(hooks.lowerForDialog, hooks.restoreAfterDialog),
+                                .glassCanBeDrawn = true,
+                                .face = nsFont(around.fonts, faceSize, FontDesign::Default).face,
+                                .screen = std::nullopt};
+    if (screen != nullptr) {
+        needs.screen =
+            ScreenFrames{.whole = screen->geometry(), .visible = screen->availableGeometry()};
+    }
+    return [needs](QWidget* parent, std::function<void()> onDone) -> QWidget* {
+        return new Inspector(needs, std::move(onDone), parent);
+    };
+}
+
+} // namespace
+
+QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, MainScreen& mainScreen,
+                              const EditingHooks* editing) {
+    std::optional<QuoteScreen::Editing> editor;
+    if (editing != nullptr) {
+        editor = QuoteScreen::Editing{
+            .inspector = inspectorFactory(surroundings, mainScreen.current(), *editing),
+            .onDone = editing->onDone};
+    }
+    auto* screen = new QuoteScreen(surroundings, std::move(editor));
+    return {.widget = screen,
+            .setBehind = [screen](const Behind& behind) { screen->setBehind(behind); }};
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/appdelegate.h"
+#include "screen/quotescreen.h"
+
+namespace morrowleaf {
+
+// The content of a quote window: a fresh quote screen for the main screen,
+// with the appearance editor where hooks are given.
+QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, MainScreen& mainScreen,
+                              const EditingHooks* editing);
+
+} // namespace morrowleaf

@@ -1,0 +1,67 @@
+// A plain window for sessions under test: one colour, and a line on standard
+// output for everything that happens to it.
+//   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock]
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace {
+
+class Window final : public QWidget {
+protected:
+    bool event(QEvent* event) override {
+        switch (event->type()) {
+        case QEvent::WindowActivate:
+            say("active");
+            break;
+        case QEvent::WindowDeactivate:
+            say("inactive");
+            break;
+        case QEvent::KeyPress:
+            say("key", static_cast<QKeyEvent*>(event)->text());
+            break;
+        case QEvent::KeyRelease:
+            say("release", static_cast<QKeyEvent*>(event)->text());
+            break;
+        case QEvent::MouseButtonPress:
+            say("click");
+            break;
+        default:
+            break;
+        }
+        return QWidget::event(event);
+    }
+
+private:
+    static void say(const char* what, const QString& text = {}) {
+        std::printf("%s%s\n", what, qPrintable(text.isEmpty() ? text : ' ' + text));
+        std::fflush(stdout);
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    constexpr qsizetype needed = 7;
+    if (arguments.size() < needed) {
+        return 2;
+    }
+    Window window;
+    window.setWindowTitle(arguments[1]);
+    window.setPalette(QColor(arguments[2]));
+    window.setGeometry(arguments[3].toInt(), arguments[4].toInt(), arguments[5].toInt(),
+                       arguments[6].toInt());
+    const QString kind = arguments.value(needed);
+    if (kind == "above") {
+        window.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    if (kind == "dock") {
+        window.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+    }
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,105 @@
+# Functions for tests that run the program in a session of its own. A script
+# sources this, starts what it needs and calls the checks; everything that was
+# started ends with the script. E2E_KEEP names a folder that keeps the pictures.
+set -u
+
+work=$(mktemp -d)
+chmod 755 "$work"
+pids=()
+failures=0
+export HOME=$work/home XDG_RUNTIME_DIR=$work/run
+export XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share
+export XDG_CACHE_HOME=$HOME/.cache XDG_DATA_DIRS=/usr/local/share:/usr/share
+mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_SESSION_ID XDG_CURRENT_DESKTOP
+unset XDG_SESSION_TYPE QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR SESSION_MANAGER
+# Nothing here may reach the machine's own bus.
+export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/no-system-bus
+export NO_AT_BRIDGE=1 LC_ALL=C.UTF-8
+
+cleanup() {
+    local i
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[i]}" 2>/dev/null; done
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
+        for _ in $(seq 40); do kill -0 "${pids[i]}" 2>/dev/null || break; sleep 0.05; done
+        kill -9 "${pids[i]}" 2>/dev/null
+    done
+    wait 2>/dev/null
+    if [ -n "${E2E_KEEP:-}" ]; then cp "$work"/*.png "$work"/*.log "$E2E_KEEP" 2>/dev/null; fi
+    rm -rf "$work"
+}
+trap cleanup EXIT
+trap 'exit 1' INT TERM
+
+# start NAME COMMAND...: in the background, output to NAME.log; pid in $last
+start() {
+    local name=$1
+    shift
+    "$@" >"$work/$name.log" 2>&1 &
+    last=$!
+    pids+=("$last")
+}
+
+# until_true SECONDS COMMAND...
+until_true() {
+    local end=$((${EPOCHREALTIME/./} + ${1%.*} * 1000000))
+    shift
+    until "$@" >/dev/null 2>&1; do
+        [ "${EPOCHREALTIME/./}" -lt "$end" ] || return 1
+        sleep 0.03
+    done
+}
+
+fail() {
+    echo "FAILED: $*"
+    failures=$((failures + 1))
+}
+# must SENTENCE COMMAND...: within ten seconds
+must() {
+    local what=$1
+    shift
+    if until_true 10 "$@"; then echo "ok: $what"; else fail "$what"; fi
+}
+# check SENTENCE COMMAND...: now
+check() {
+    local what=$1
+    shift
+    if "$@" >/dev/null 2>&1; then echo "ok: $what"; else fail "$what"; fi
+}
+not() { ! "$@"; }
+die() {
+    echo "CANNOT TEST: $*"
+    exit 1
+}
+finish() {
+    [ "$failures" -eq 0 ] || exit 1
+    exit 0
+}
+
+settings() {
+    mkdir -p "$XDG_CONFIG_HOME/morrowleaf"
+    printf '%s' "$1" >"$XDG_CONFIG_HOME/morrowleaf/settings.json"
+}
+
+start_session_bus() {
+    start bus dbus-daemon --session --nofork --nopidfile --address="unix:path=$work/run/bus"
+    bus_pid=$last
+    until_true 10 test -S "$work/run/bus" || die "no session bus"
+    export DBUS_SESSION_BUS_ADDRESS=unix:path=$work/run/bus
+}
+
+start_system_bus() {
+    cat >"$work/system.conf" <<EOF
+<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig><type>system</type><listen>unix:path=$work/run/system-bus</listen>
+<auth>EXTERNAL</auth><policy context="default"><allow send_destination="*" eavesdrop="true"/>
+<allow eavesdrop="true"/><allow own="*"/></policy></busconfig>
+EOF
+    rm -f "$work/run/system-bus"
+    start systembus dbus-daemon --config-file="$work/system.conf" --nofork --nopidfile
+    system_bus_pid=$last
+    until_true 10 test -S "$work/run/system-bus" || die "no system bus"
+    export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/system-bus
+}

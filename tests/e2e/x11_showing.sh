@@ -1,0 +1,91 @@
+#!/bin/bash
+# One showing after another on X11: it covers everything and goes away by
+# click, key and time, and whoever had the focus has it again.
+#   x11_showing.sh MANAGER [picom]
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+start_x 1280x800
+start_manager "$1"
+[ "${2:-}" = picom ] && start_compositor
+settings '{"dismissSeconds": 2}'
+start_session_bus
+
+put_window panel '#ff0000' 0 0 1280 30 dock
+put_window above '#ff00ff' 700 200 300 200 above
+put_window typing '#ffff00' 100 100 400 300
+if [ "$1" = none ]; then xdotool windowfocus "$(xdotool search --name '^typing$')"; fi
+must "the window below has the focus" focus_is typing
+shot before
+for colour in '#ff0000' '#ff00ff' '#ffff00'; do
+    check "the desktop shows $colour" shows_some_of before "$colour"
+done
+
+start app "$MORROWLEAF"
+app=$last
+must "a launch shows the quotation" opened_since 0
+opened=${EPOCHREALTIME/./}
+sleep 0.9
+shot shown
+for colour in '#ff0000' '#ff00ff' '#ffff00' '#206040'; do
+    check "it covers $colour" shows_none_of shown "$colour"
+done
+xdotool key shift mousemove 300 300 click 2 click 4
+sleep 0.2
+check "modifiers, the middle button and the wheel leave it" is_shown
+put_window late '#00ffff' 500 500 200 200 above
+sleep 0.5
+shot late
+check "a later window stays below" shows_none_of late '#00ffff'
+must "it closes by itself" is_gone
+waited=$(((${EPOCHREALTIME/./} - opened) / 100000))
+echo "closed after $waited tenths of a second"
+check "after five seconds, not two" test "$waited" -ge 50
+check "after five seconds, not more" test "$waited" -le 75
+
+# Window managers differ in whether the later window has it now.
+focus_is_back() { focus_is typing || focus_is late; }
+must "the focus is back" focus_is_back
+xdotool key x
+must "and the keyboard free" grep -q '^key x' "$work"/window-*.log
+
+show_again() {
+    local n
+    n=$(maps)
+    "$MORROWLEAF" || fail "a second launch ends with status 0"
+    must "a second launch shows it again" opened_since "$n"
+    sleep 0.8
+}
+
+show_again
+xdotool key q
+must "a key closes it" is_gone
+show_again
+xdotool mousemove 640 400 click 1
+must "a left click closes it" is_gone
+show_again
+xdotool mousemove 300 600 click 3
+must "a right click closes it" is_gone
+check "the key went nowhere else" not grep -q '^key q' "$work"/window-*.log
+check "nor the clicks" not grep -q '^click' "$work"/window-*.log
+must "the focus is back again" focus_is_back
+shot after
+for colour in '#ff0000' '#ff00ff' '#ffff00'; do
+    check "the desktop shows $colour again" shows_some_of after "$colour"
+done
+
+show_again
+kill -9 "$app"
+must "a killed program leaves no window" is_gone
+xdotool windowfocus --sync "$(xdotool search --name '^typing$')" key z
+must "nor a grab" grep -q '^key z' "$work"/window-*.log
+n=$(maps)
+start app "$MORROWLEAF"
+app=$last
+must "and starts again" opened_since "$n"
+sleep 0.3
+kill -TERM "$app"
+wait "$app"
+check "SIGTERM ends it with status 0, in the middle of a fade" test $? -eq 0
+finish
