@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QtGlobal>
 
 class QPainter;
 
@@ -9,8 +10,12 @@ namespace morrowleaf {
 struct GlyphPicture;
 struct TextOutline;
 
-// Both draw with the origin of the text at the painter's origin.
+// All draw with the origin of the text at the painter's origin.
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color);
+// The first characters only, each where it stands in the whole text.
+void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
+                const QColor& color);
+void paintPictures(QPainter& painter, const TextOutline& text);
 void paintPicture(QPainter& painter, const GlyphPicture& picture);
 
 } // namespace morrowleaf

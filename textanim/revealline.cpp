@@ -1,21 +1,72 @@
 #include "textanim/revealline.h"
 
-#include "textanim/paintoutline.h"
-#include "textanim/revealvalues.h"
+#include "textanim/glyphpath.h"
+#include "textanim/lineframe.h"
 #include "textanim/shapedtext.h"
 #include "textanim/shapedtextdata.h"
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace morrowleaf {
+
+namespace {
+
+// Length at which a contour is cut for the pen, as a share of the size.
+constexpr double stretchShare = 0.75;
+
+LineShapes shapesOf(const RevealLine::Parts& parts) {
+    if (parts.style == TextAnim::Handwrite) {
+        HandwrittenLine line = handwrittenLine(parts.text, parts.strokeFont, parts.maxWidth);
+        PenTrace trace = penTrace(wholePath(line.text), stretchShare * parts.strokeFont.size);
+        return {std::move(line.text), std::move(trace), line.penWidth};
+    }
+    return {ShapedText(parts.text, parts.font, 0, parts.maxWidth).data().text, {}, 0};
+}
+
+} // namespace
 
 struct RevealLine::Private {
     Parts parts;
-    ShapedText text;
+    LineShapes shapes;
+    double delay = 0;
+
+    // The last picture, for repaints while nothing changed.
+    struct Kept {
+        LineStage stage;
+        double scale = 0;
+        PlacedPicture frame;
+    };
+    mutable std::optional<Kept> kept;
+    mutable std::optional<PenDrawing> pen;
+
+    LineStage stageAt(double seconds) const {
+        const double since = seconds - delay;
+        const qint64 length = shapes.text.characterCount;
+        return {revealValues(parts.style, since),
+                parts.style == TextAnim::Typewriter ? typedCharacters(since, length) : length};
+    }
+
+    bool visible(const LineStage& stage) const {
+        return !shapes.text.ink.isEmpty() && stage.values.opacity > 0 && stage.typed > 0 &&
+               (stage.values.ink > 0 || stage.values.traced > 0);
+    }
+
+    const PlacedPicture& frameAt(const LineStage& stage, double scale) const {
+        if (!kept || kept->scale != scale || kept->stage != stage) {
+            kept =
+                Kept{stage, scale, lineFrame(shapes, stage, scale, parts.color, parts.shadow, pen)};
+        }
+        if (stage.values.traced >= 1 && stage.values.ink >= 1) {
+            pen.reset();
+        }
+        return kept->frame;
+    }
 };
 
 RevealLine::RevealLine(const Parts& parts)
-    : d_(new Private{parts, ShapedText(parts.text, parts.font, 0, parts.maxWidth)}) {}
+    : d_(new Private{parts, shapesOf(parts), lineDelay(parts.style, parts.index), {}, {}}) {}
 
 RevealLine::~RevealLine() = default;
 RevealLine::RevealLine(RevealLine&&) noexcept = default;
@@ -25,38 +76,68 @@ const RevealLine::Parts& RevealLine::parts() const {
     return d_->parts;
 }
 double RevealLine::delay() const {
-    return lineDelay(d_->parts.style, d_->parts.index);
+    return d_->delay;
 }
 QSizeF RevealLine::size() const {
-    return d_->text.size();
+    return d_->shapes.text.size;
 }
 
 void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const {
-    const RevealValues values = revealValues(d_->parts.style, seconds - delay());
-    if (values.opacity <= 0) {
+    const LineStage stage = d_->stageAt(seconds);
+    if (!d_->visible(stage)) {
         return;
     }
+    const QTransform device = painter.deviceTransform();
+    const double scale = std::sqrt(std::abs(device.determinant()));
+    if (!(scale > 0)) {
+        return;
+    }
+    const PlacedPicture& frame = d_->frameAt(stage, scale);
     painter.save();
-    painter.setOpacity(painter.opacity() * values.opacity);
-    d_->text.paint(painter, topLeft + QPointF(0, values.offset), d_->parts.color);
+    if (device.type() <= QTransform::TxScale && device.m11() > 0 && device.m22() > 0) {
+        // Pixel on pixel. The resting place is on whole pixels, so that the
+        // letters keep their shape from line to line.
+        const QPoint origin = device.map(topLeft).toPoint();
+        painter.resetTransform();
+        painter.setTransform(painter.deviceTransform().inverted());
+        painter.drawImage(origin + frame.origin, frame.picture);
+    } else {
+        painter.translate(topLeft);
+        painter.scale(1 / scale, 1 / scale);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(frame.origin, frame.picture);
+    }
     painter.restore();
 }
 
 QRectF RevealLine::paintedRect(double seconds) const {
-    const RevealValues values = revealValues(d_->parts.style, seconds - delay());
-    if (values.opacity <= 0 || d_->text.data().text.ink.isEmpty()) {
+    const LineStage stage = d_->stageAt(seconds);
+    if (!d_->visible(stage)) {
         return {};
     }
-    return d_->text.data().text.ink.translated(0, values.offset).adjusted(-2, -2, 2, 2);
+    // Room for whole pixels, also where the screen has fewer than points.
+    return lineRect(d_->shapes, stage, d_->parts.shadow).adjusted(-3, -3, 3, 3);
 }
 
 bool RevealLine::changesBetween(double from, double to) const {
-    return revealValues(d_->parts.style, from - delay()) !=
-           revealValues(d_->parts.style, to - delay());
+    const LineStage before = d_->stageAt(from);
+    const LineStage after = d_->stageAt(to);
+    return before != after && (d_->visible(before) || d_->visible(after));
 }
 
 double RevealLine::settledAfter() const {
-    return delay() + revealDuration(d_->parts.style);
+    if (d_->shapes.text.ink.isEmpty()) {
+        return 0;
+    }
+    if (d_->parts.style != TextAnim::Typewriter) {
+        return d_->delay + revealDuration(d_->parts.style);
+    }
+    const qint64 length = d_->shapes.text.characterCount;
+    double seconds = d_->delay + typingDuration(length);
+    while (d_->stageAt(seconds).typed < length) {
+        seconds = std::nextafter(seconds, seconds + 1);
+    }
+    return seconds;
 }
 
 } // namespace morrowleaf

@@ -32,17 +32,23 @@ QString withRowBreaks(QString text, LineBreaks breaks) {
     return text;
 }
 
+// A face of bitmaps alone does not tell QRawFont how many units it has.
+double unitsPerEm(const QRawFont& face) {
+    const QByteArray head = face.fontTable("head");
+    return head.size() >= 20 ? qFromBigEndian<quint16>(head.constData() + 18) : face.unitsPerEm();
+}
+
 std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
     const QByteArray header = face.fontTable("hhea");
-    const double unitsPerEm = face.unitsPerEm();
-    if (header.size() < offset + 2 || unitsPerEm <= 0) {
+    const double perEm = unitsPerEm(face);
+    if (header.size() < offset + 2 || perEm <= 0) {
         return std::nullopt;
     }
     const auto units = qFromBigEndian<qint16>(header.constData() + offset);
     if (units == 0) {
         return std::nullopt;
     }
-    return units * face.pixelSize() / unitsPerEm;
+    return units * double{shapingSize} / perEm;
 }
 
 struct CharacterRange {

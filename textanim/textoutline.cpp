@@ -15,13 +15,14 @@ namespace {
 constexpr int pictureSize = 160; // pixels for the size of the font
 
 std::optional<GlyphPicture> pictureOf(const PlacedGlyph& glyph, QPointF origin, double unit) {
+    // Bitmap faces know their glyphs' extent at moderate sizes only.
     QRawFont face = glyph.face;
-    const QRectF shaped = face.boundingRect(glyph.index);
-    if (shaped.isEmpty()) {
+    face.setPixelSize(pictureSize);
+    const QRectF extent = face.boundingRect(glyph.index);
+    if (extent.isEmpty()) {
         return std::nullopt;
     }
-    face.setPixelSize(pictureSize);
-    const QRectF drawn = face.boundingRect(glyph.index).adjusted(-2, -2, 2, 2);
+    const QRectF drawn = extent.adjusted(-2, -2, 2, 2);
     QImage picture(drawn.size().toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QGlyphRun run;
@@ -54,27 +55,62 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
             part.outline.addPath(
                 QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape));
         } else if (auto picture = pictureOf(glyph, origin, unit)) {
+            part.right = std::max(part.right, picture->place.right());
             part.pictures.push_back(std::move(*picture));
         }
     }
     return part;
 }
 
+void appendRow(TextOutline& text, const TextRow& row, QPointF origin, double unit) {
+    for (const GlyphCluster& cluster : row.clusters) {
+        text.parts.push_back(outlineCluster(cluster, origin, unit));
+    }
+}
+
+void groupParts(TextOutline& text) {
+    QRectF covered;
+    for (std::size_t i = 0; i < text.parts.size(); ++i) {
+        const OutlinePart& part = text.parts[i];
+        for (const GlyphPicture& picture : part.pictures) {
+            text.ink |= picture.place;
+            text.hasPictures = true;
+        }
+        const QRectF box = part.outline.boundingRect();
+        text.ink |= box;
+        if (!text.groups.empty() && (part.outline.isEmpty() || covered.intersects(box))) {
+            ++text.groups.back().partCount;
+            text.groups.back().outline.addPath(part.outline);
+            covered |= box;
+        } else {
+            text.groups.push_back({i, 1, part.outline});
+            covered = box;
+        }
+    }
+}
+
 } // namespace
 
-std::vector<OutlinePart> outlineRow(const TextRow& row, QPointF origin, double unit) {
-    std::vector<OutlinePart> parts;
-    parts.reserve(row.clusters.size());
-    for (const GlyphCluster& cluster : row.clusters) {
-        parts.push_back(outlineCluster(cluster, origin, unit));
+TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit) {
+    TextOutline text;
+    text.characterCount = layout.characterCount;
+    appendRow(text, layout.rows.front(), origin, unit);
+    groupParts(text);
+    return text;
+}
+
+QPainterPath wholePath(const TextOutline& text) {
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    for (const OutlinePart& part : text.parts) {
+        path.addPath(part.outline);
     }
-    return parts;
+    return path;
 }
 
 TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
     TextOutline text;
     text.characterCount = layout.characterCount;
-    text.outline.setFillRule(Qt::WindingFill);
     std::vector<double> scales;
     for (const TextRow& row : layout.rows) {
         const double width = row.width * unit;
@@ -90,18 +126,11 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
             text.baseline = baseline;
         }
         const double left = layout.rightToLeft ? text.size.width() - row.width * rowUnit : 0;
-        for (OutlinePart& part : outlineRow(row, {left, baseline}, rowUnit)) {
-            text.outline.addPath(part.outline);
-            text.pictures.insert(text.pictures.end(), part.pictures.begin(), part.pictures.end());
-            text.parts.push_back(std::move(part));
-        }
+        appendRow(text, row, {left, baseline}, rowUnit);
         top = baseline + row.descent * rowUnit;
     }
     text.size.setHeight(top);
-    text.ink = text.outline.boundingRect();
-    for (const GlyphPicture& picture : text.pictures) {
-        text.ink |= picture.place;
-    }
+    groupParts(text);
     return text;
 }
 

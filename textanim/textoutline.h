@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <cstddef>
 #include <vector>
 
 namespace morrowleaf {
@@ -30,11 +31,18 @@ struct OutlinePart {
     std::vector<GlyphPicture> pictures;
 };
 
+// Parts that touch (joined letters), filled as one so that no seam shows.
+struct OutlineGroup {
+    std::size_t firstPart = 0;
+    std::size_t partCount = 0;
+    QPainterPath outline;
+};
+
 // A text as shapes. Points, y downwards, origin at the top left of its place.
 struct TextOutline {
     std::vector<OutlinePart> parts; // in the order of the text
-    QPainterPath outline;           // of all parts
-    std::vector<GlyphPicture> pictures;
+    std::vector<OutlineGroup> groups;
+    bool hasPictures = false;
     QSizeF size;
     double baseline = 0; // of the first row
     qsizetype characterCount = 0;
@@ -46,7 +54,11 @@ struct TextOutline {
 // end at the right when the text runs right to left.
 TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth);
 
-// Outlines and pictures of one row with its left end and baseline at `origin`.
-std::vector<OutlinePart> outlineRow(const TextRow& row, QPointF origin, double unit);
+// The first row alone with its left end and baseline at `origin`; `size` and
+// `baseline` are left to the caller.
+TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit);
+
+// All outlines in the order of the text.
+QPainterPath wholePath(const TextOutline& text);
 
 } // namespace morrowleaf

@@ -1,0 +1,138 @@
+#include "textanim/blurredlayer.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+// Means over cells and the slopes between them blur by themselves; what is
+// left to the Gaussian, in cells.
+double remainingSigma(double sigma, int cell) {
+    const double inCells = sigma / cell;
+    const double own = 1 - 1.0 / (cell * cell);
+    return std::sqrt(std::max(inCells * inCells - own / 12 - own / 6, 0.0));
+}
+
+Plane channelPlane(const QImage& picture, int margin, int shift) {
+    Plane plane(picture.width() + 2 * margin, picture.height() + 2 * margin);
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        float* to = plane.row(y + margin) + margin;
+        for (int x = 0; x < picture.width(); ++x) {
+            to[x] = static_cast<float>((from[x] >> shift) & 0xff);
+        }
+    }
+    return plane;
+}
+
+} // namespace
+
+int BlurredLayer::cellSize(double sigma) {
+    int cell = 1;
+    while (sigma / (2 * cell) >= 2.5) {
+        cell *= 2;
+    }
+    return cell;
+}
+
+int BlurredLayer::halo(double sigma) {
+    return static_cast<int>(std::ceil(3 * sigma));
+}
+
+BlurredLayer::BlurredLayer(const QImage& picture, QPoint origin, int cell, double sigma,
+                           const std::vector<Channel>& channels)
+    : cell_(cell) {
+    const int margin = (halo(sigma) + cell - 1) / cell + 1;
+    rect_ = QRect(origin - QPoint(margin, margin) * cell,
+                  (picture.size() + QSize(2 * margin, 2 * margin)) * cell);
+    for (const Channel channel : channels) {
+        planes_.push_back(channelPlane(picture, margin, 8 * static_cast<int>(channel)));
+        gaussianBlur(planes_.back(), remainingSigma(sigma, cell));
+    }
+}
+
+void BlurredLayer::row(std::size_t channel, int y, int left, int width,
+                       std::vector<float>& out) const {
+    const Plane& plane = planes_[channel];
+    out.assign(static_cast<std::size_t>(width), 0.0F);
+    if (y < rect_.top() || y > rect_.bottom()) {
+        return;
+    }
+    // Cells are known at their centres and slope evenly between them.
+    const double at = (y - rect_.top() + 0.5) / cell_ - 0.5;
+    const int upper = static_cast<int>(std::floor(at));
+    const auto share = static_cast<float>(at - upper);
+    const float* above = plane.row(std::clamp(upper, 0, plane.height - 1));
+    const float* below = plane.row(std::clamp(upper + 1, 0, plane.height - 1));
+    const auto valueAt = [&](int x) {
+        const int i = std::clamp(x, 0, plane.width - 1);
+        return above[i] + (below[i] - above[i]) * share;
+    };
+    const int begin = std::max(left, rect_.left());
+    const int end = std::min(left + width, rect_.right() + 1);
+    const float step = 1.0F / static_cast<float>(cell_);
+    for (int x = begin; x < end;) {
+        const int inside = x - rect_.left();
+        const int cellOfRight = (inside + cell_ / 2) / cell_;
+        const int cellEnd = std::min(end, rect_.left() + (cellOfRight + 1) * cell_ - cell_ / 2);
+        const float from = valueAt(cellOfRight - 1);
+        const float slope = (valueAt(cellOfRight) - from) * step;
+        const float first =
+            cell_ == 1 ? 1 : static_cast<float>(inside + cell_ / 2 - cellOfRight * cell_) + 0.5F;
+        float* to = out.data() + (x - left);
+        for (int i = 0; i < cellEnd - x; ++i) {
+            to[i] = from + slope * (first + static_cast<float>(i));
+        }
+        x = cellEnd;
+    }
+}
+
+QImage reduced(const QImage& premultiplied, int cell) {
+    const QSize size((premultiplied.width() + cell - 1) / cell,
+                     (premultiplied.height() + cell - 1) / cell);
+    QImage result(size, QImage::Format_ARGB32_Premultiplied);
+    const auto area = static_cast<unsigned>(cell * cell);
+    std::vector<unsigned> sums;
+    for (int y = 0; y < size.height(); ++y) {
+        sums.assign(static_cast<std::size_t>(size.width()) * 4, 0);
+        const int bottom = std::min((y + 1) * cell, premultiplied.height());
+        for (int from = y * cell; from < bottom; ++from) {
+            const auto* pixels = reinterpret_cast<const QRgb*>(premultiplied.constScanLine(from));
+            for (int x = 0; x < premultiplied.width(); ++x) {
+                if (pixels[x] != 0) {
+                    unsigned* sum = sums.data() + static_cast<std::ptrdiff_t>(x / cell) * 4;
+                    sum[0] += pixels[x] & 0xff;
+                    sum[1] += (pixels[x] >> 8) & 0xff;
+                    sum[2] += (pixels[x] >> 16) & 0xff;
+                    sum[3] += pixels[x] >> 24;
+                }
+            }
+        }
+        auto* to = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) {
+            const unsigned* sum = sums.data() + static_cast<std::ptrdiff_t>(x) * 4;
+            const auto mean = [&](int i) { return (sum[i] + area / 2) / area; };
+            to[x] = mean(0) | mean(1) << 8 | mean(2) << 16 | mean(3) << 24;
+        }
+    }
+    return result;
+}
+
+float ditherAt(int x, int y) {
+    static constexpr std::array<std::array<quint8, 8>, 8> bayer{{{0, 32, 8, 40, 2, 34, 10, 42},
+                                                                 {48, 16, 56, 24, 50, 18, 58, 26},
+                                                                 {12, 44, 4, 36, 14, 46, 6, 38},
+                                                                 {60, 28, 52, 20, 62, 30, 54, 22},
+                                                                 {3, 35, 11, 43, 1, 33, 9, 41},
+                                                                 {51, 19, 59, 27, 49, 17, 57, 25},
+                                                                 {15, 47, 7, 39, 13, 45, 5, 37},
+                                                                 {63, 31, 55, 23, 61, 29, 53, 21}}};
+    return (static_cast<float>(
+                bayer[static_cast<std::size_t>(y & 7)][static_cast<std::size_t>(x & 7)]) +
+            0.5F) /
+           64;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "textanim/gaussian.h"
+
+#include <QImage>
+#include <QRect>
+
+#include <array>
+#include <vector>
+
+namespace morrowleaf {
+
+// One channel of a premultiplied picture, counted from its lowest byte up.
+enum class Channel { Blue, Green, Red, Alpha };
+
+// A picture out of focus, kept at a reduced resolution where the eye cannot
+// tell. It knows its place in device pixels.
+class BlurredLayer {
+public:
+    // Pixels to a cell at that standard deviation (in pixels): a power of two.
+    static int cellSize(double sigma);
+    // What a blur of `sigma` adds at each side, in pixels.
+    static int halo(double sigma);
+
+    // `picture` is premultiplied, has `cell` pixels to each of its own and its
+    // top left corner at the device pixel `origin`.
+    BlurredLayer(const QImage& picture, QPoint origin, int cell, double sigma,
+                 const std::vector<Channel>& channels);
+
+    QRect rect() const { return rect_; } // device pixels; nothing is outside it
+
+    // Adds 255 × the values of a channel over `width` pixels from `left` on in
+    // the row `y` of the device.
+    void row(std::size_t channel, int y, int left, int width, std::vector<float>& out) const;
+
+private:
+    QRect rect_;
+    int cell_ = 1;
+    std::vector<Plane> planes_;
+};
+
+// A picture reduced by a whole number of pixels to a cell, each the mean.
+QImage reduced(const QImage& premultiplied, int cell);
+
+// Threshold for turning 0...255 into a byte at a device pixel, so that slow
+// slopes show no steps.
+float ditherAt(int x, int y);
+
+} // namespace morrowleaf

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "textanim/fonts.h"
+#include "textanim/textoutline.h"
+
+#include <QPainterPath>
+#include <QSizeF>
+
+namespace morrowleaf {
+
+// A line as one path, in points, y upwards, the origin at the bottom left of
+// the line's place; the baseline lies at y = the depth of the font's descender.
+// Glyphs without an outline are left out. The size is in whole points.
+struct GlyphPath {
+    QPainterPath path; // fill rule winding
+    QSizeF size;
+};
+
+GlyphPath glyphPath(const QString& text, const TextFont& font);
+
+// The same line as shapes with y downwards from the top left of its place; a
+// line wider than `maxWidth` (where that is above 0) is set in a smaller size.
+struct HandwrittenLine {
+    TextOutline text;
+    double penWidth = 0; // points
+};
+
+HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth = 0);
+QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth = 0);
+
+// Width of the pen for a size in points: a share of it, but never a hair.
+double penWidth(double size);
+
+} // namespace morrowleaf
