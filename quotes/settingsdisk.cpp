@@ -69,7 +69,7 @@ FileMark markOf(const struct stat& found) {
 
 std::optional<QByteArray> readAll(int fd) {
     QByteArray text;
-    QByteArray piece(64 * 1024, Qt::Uninitialized);
+    QByteArray piece(qsizetype(64) * 1024, Qt::Uninitialized);
     while (text.size() <= settingsSizeLimit) {
         const ssize_t count =
             restarted([&] { return ::read(fd, piece.data(), static_cast<size_t>(piece.size())); });
@@ -145,7 +145,7 @@ QString reserveBeside(const QFileInfo& victim, bool folder) {
     const QString suffix = victim.suffix().isEmpty() ? QString() : u'.' + victim.suffix();
     for (int attempt = 0; attempt < 1000; ++attempt) {
         const QString number = attempt == 0 ? QString() : QStringLiteral("-%1").arg(attempt + 1);
-        const QString name = stem + number + suffix;
+        QString name = stem + number + suffix;
         const bool made = folder ? ::mkdir(QFile::encodeName(name).constData(), ownFolder) == 0
                                  : bool(opened(name, O_WRONLY | O_CREAT | O_EXCL, ownFile));
         if (made) {

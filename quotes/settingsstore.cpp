@@ -10,7 +10,7 @@ namespace {
 
 // Undefined when neither layer holds the key.
 QJsonValue lookUp(const QJsonObject& stored, const QJsonObject& defaults, const QString& key) {
-    const QJsonValue found = stored.value(key);
+    QJsonValue found = stored.value(key);
     if (!found.isUndefined() && !found.isNull()) {
         return found;
     }

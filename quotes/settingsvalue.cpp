@@ -183,7 +183,7 @@ std::optional<QStringList> toTextList(const QJsonValue& value) {
     }
     QStringList texts;
     const QJsonArray elements = value.toArray();
-    for (const QJsonValue& element : elements) {
+    for (const auto& element : elements) {
         if (!element.isString()) {
             return std::nullopt;
         }

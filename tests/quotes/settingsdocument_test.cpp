@@ -15,7 +15,7 @@ QByteArray after(const QByteArray& text, const QString& key, const QJsonValue& v
         return {};
     }
     document->apply(key, value);
-    const QByteArray changed = document->text();
+    QByteArray changed = document->text();
     const auto again = SettingsDocument::parse(changed);
     EXPECT_TRUE(again) << changed.toStdString();
     EXPECT_EQ(again->values(), document->values()) << changed.toStdString();

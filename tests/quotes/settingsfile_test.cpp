@@ -23,7 +23,6 @@
 
 using namespace morrowleaf;
 using namespace std::chrono_literals;
-using testing::Contains;
 
 namespace {
 
