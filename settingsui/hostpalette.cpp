@@ -19,7 +19,7 @@ struct Shades {
 
 constexpr Shades lightShades{0xfff3f3f4, 0xffffffff, 0xfff7f7f8, 0xfffbfbfc,
                              0xff1d1d21, 0xff9a9aa1, 0xff85858d, 0xff3a6fd8};
-constexpr Shades darkShades{0xff262629, 0xff1c1c1f, 0xff222225, 0xff3a3a3f,
+constexpr Shades darkShades{0xff262629, 0xff1c1c1f, 0xff222225, 0xff4b4b51,
                             0xffececef, 0xff77777e, 0xff8b8b93, 0xff5b8def};
 
 QPalette paletteOf(const Shades& shades) {

@@ -77,11 +77,14 @@ Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<vo
 }
 
 QWidget* Inspector::makeHeader() {
-    QLabel* title = panelLabel(QStringLiteral("APPEARANCE"),
-                               panelFont(around_.face, 10, QFont::Medium, 2.2), 0.55, this);
-    title->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(around_.screen)),
-                              PanelStyle::margin, 14);
-    return title;
+    auto* header = new QWidget(this);
+    auto* row = new QHBoxLayout(header);
+    row->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(around_.screen)),
+                            PanelStyle::margin, 14);
+    row->addWidget(panelLabel(QStringLiteral("APPEARANCE"),
+                              panelFont(around_.face, 10, QFont::Medium, 2.2), 0.55, header));
+    row->addStretch(1);
+    return header;
 }
 
 void Inspector::addGroup(QVBoxLayout& column, const QString& title,
@@ -119,7 +122,8 @@ QWidget* Inspector::makeGroups() {
     const QFont& face = around_.face;
     auto* groups = new QWidget(this);
     auto* column = new QVBoxLayout(groups);
-    column->setContentsMargins(PanelStyle::margin - 1, 18, PanelStyle::margin, 22);
+    column->setContentsMargins(PanelStyle::margin - 1, 18,
+                               PanelStyle::margin - PanelScrollBar::thickness, 22);
     column->setSpacing(PanelStyle::groupSpacing);
 
     const auto knob = [&](const char* name, QLatin1StringView key, Knob::Range range,

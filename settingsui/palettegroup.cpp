@@ -19,7 +19,7 @@ PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* par
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);
     grid->setVerticalSpacing(PanelStyle::gutter);
-    for (int column = 0; column < PanelStyle::columns; ++column) {
+    for (int column = 0; column < PanelStyle::paletteColumns; ++column) {
         grid->setColumnStretch(column, 1);
     }
     const std::array automatic{QColor(128, 128, 128, 153), QColor(128, 128, 128, 64)};
@@ -34,8 +34,8 @@ PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* par
 void PaletteGroup::add(qint64 index, PaletteSwatch* swatch) {
     const int place = int(swatches_.size());
     swatches_.append(swatch);
-    static_cast<QGridLayout*>(layout())->addWidget(swatch, place / PanelStyle::columns,
-                                                   place % PanelStyle::columns);
+    static_cast<QGridLayout*>(layout())->addWidget(swatch, place / PanelStyle::paletteColumns,
+                                                   place % PanelStyle::paletteColumns);
     connect(swatch, &QAbstractButton::clicked, this, [this, index] {
         store_.set(K::palette, index);
         store_.set(K::bgImage, QString());

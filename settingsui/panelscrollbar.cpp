@@ -11,7 +11,7 @@ namespace morrowleaf {
 
 PanelScrollBar::PanelScrollBar(QWidget* parent)
     : QScrollBar(Qt::Vertical, parent) {
-    setFixedWidth(9);
+    setFixedWidth(thickness);
     setFocusPolicy(Qt::NoFocus);
 }
 

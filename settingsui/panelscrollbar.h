@@ -9,8 +9,10 @@ class PanelScrollBar : public QScrollBar {
     Q_OBJECT
 
 public:
+    static constexpr int thickness = 9; // points
+
     explicit PanelScrollBar(QWidget* parent);
-    QSize sizeHint() const override { return {9, 40}; }
+    QSize sizeHint() const override { return {thickness, 40}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

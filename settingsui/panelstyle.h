@@ -14,7 +14,8 @@ namespace PanelStyle {
 inline constexpr int margin = 20;       // points, left and right of the content
 inline constexpr int groupSpacing = 22; // points between groups
 inline constexpr int titleSpacing = 10; // points between a title and its content
-inline constexpr int columns = 3;       // of swatches
+inline constexpr int paletteColumns = 5;
+inline constexpr int photoColumns = 3;
 inline constexpr int gutter = 8;        // points between swatches
 inline constexpr int tileHeight = 38;   // points
 inline constexpr double tileRadius = 6; // points

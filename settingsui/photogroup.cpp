@@ -40,7 +40,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PanelStyle::gutter);
-    for (int column = 0; column < PanelStyle::columns; ++column) {
+    for (int column = 0; column < PanelStyle::photoColumns; ++column) {
         grid->setColumnStretch(column, 1);
     }
     connect(thumbnails_, &Thumbnails::ready, this, &PhotoGroup::fetchPictures);
@@ -96,7 +96,7 @@ void PhotoGroup::place() {
     QWidget* before = nullptr;
     for (qsizetype i = 0; i < cells_.size(); ++i) {
         QWidget* cell = cells_[i];
-        grid->addWidget(cell, int(i) / PanelStyle::columns, int(i) % PanelStyle::columns);
+        grid->addWidget(cell, int(i) / PanelStyle::photoColumns, int(i) % PanelStyle::photoColumns);
         if (before != nullptr) {
             setTabOrder(before, cell);
         }

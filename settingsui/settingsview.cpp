@@ -46,6 +46,13 @@ QFont scaled(const QFont& font, double factor) {
     return result;
 }
 
+// With more room beside its text than the style leaves.
+QPushButton* roomyButton(const QString& text, QWidget* parent) {
+    auto* button = new QPushButton(text, parent);
+    button->setMinimumWidth(qMax(80, button->sizeHint().width() + 18));
+    return button;
+}
+
 QWidget* line(QWidget* parent) {
     auto* frame = new QFrame(parent);
     frame->setFrameShape(QFrame::HLine);
@@ -102,7 +109,7 @@ void SettingsView::addAppearance(FormCard& card) {
     auto* text = quietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
                             Emphasis::Secondary, row);
     text->setFont(scaled(font(), 0.95));
-    auto* edit = new QPushButton(QStringLiteral("Edit Appearance…"), row);
+    auto* edit = roomyButton(QStringLiteral("Edit Appearance…"), row);
     connect(edit, &QPushButton::clicked, this, [this] { around_.onEditAppearance(); });
     layout->addWidget(text, 1);
     layout->addWidget(edit);
@@ -188,10 +195,11 @@ void SettingsView::addQuotes(FormCard& card) {
     auto* row = new QWidget(&card);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    testButton_ = new QPushButton(QStringLiteral("Test"), row);
-    connect(testButton_, &QPushButton::clicked, this, &SettingsView::test);
     layout->addWidget(makePresets());
+    testButton_ = roomyButton(QStringLiteral("Testing…"), row);
+    testButton_->setText(QStringLiteral("Test"));
     layout->addWidget(testButton_);
+    connect(testButton_, &QPushButton::clicked, this, &SettingsView::test);
     layout->addStretch(1);
     card.addRow(row);
 
@@ -214,8 +222,8 @@ QWidget* SettingsView::makeBottomBar() {
     auto* bar = new QWidget(this);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(barPadding, barPadding, barPadding, barPadding);
-    auto* show = new QPushButton(QStringLiteral("Show Today's Quote"), bar);
-    auto* quit = new QPushButton(QStringLiteral("Quit"), bar);
+    auto* show = roomyButton(QStringLiteral("Show Today's Quote"), bar);
+    auto* quit = roomyButton(QStringLiteral("Quit"), bar);
     connect(show, &QPushButton::clicked, this, [this] { around_.onShowNow(); });
     connect(quit, &QPushButton::clicked, this, [this] { around_.quit(); });
     layout->addWidget(show);

@@ -42,7 +42,7 @@ void Swatch::setMarked(bool marked) {
 }
 
 QSize Swatch::sizeHint() const {
-    return {60, PanelStyle::tileHeight + (hasCaption() ? captionHeight : 0)};
+    return {40, PanelStyle::tileHeight + (hasCaption() ? captionHeight : 0)};
 }
 
 QRectF Swatch::tile() const {

@@ -8,6 +8,7 @@
 #include "screen/backdrop.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/inspector.h"
+#include "settingsui/menupicker.h"
 #include "settingsui/settingsview.h"
 #include "textanim/fonts.h"
 
@@ -116,6 +117,11 @@ int main(int argc, char** argv) {
         ground.show();
         settle(400);
         ground.grab().save(folder + QStringLiteral("/panel-%1.png").arg(name));
+        auto* picker = inspector->findChildren<MenuPicker*>().first();
+        picker->setFocus(Qt::TabFocusReason);
+        picker->open();
+        settle(50);
+        ground.grab().save(folder + QStringLiteral("/panel-%1-menu.png").arg(name));
     };
     BackdropState state;
     state.screenAnim = ScreenAnim::Still;

@@ -1,0 +1,303 @@
+#include "platform/loginitem.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "quotes/sourcepresets.h"
+#include "settingsui/loginswitch.h"
+#include "settingsui/settingsview.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace morrowleaf {
+namespace {
+
+class FakeLogin : public LoginItem {
+public:
+    Status status() const override { return current; }
+    std::optional<QString> registerItem() override { return change(Status::Enabled); }
+    std::optional<QString> unregisterItem() override { return change(Status::NotRegistered); }
+
+    Status current = Status::NotRegistered;
+    bool refuses = false;
+    int calls = 0;
+
+private:
+    std::optional<QString> change(Status wanted) {
+        ++calls;
+        if (refuses) {
+            return QStringLiteral("no");
+        }
+        current = wanted;
+        return std::nullopt;
+    }
+};
+
+class SettingsViewTest : public ::testing::Test {
+protected:
+    SettingsViewTest() { registerAppDefaults(store); }
+
+    SettingsView& view() {
+        if (!view_) {
+            view_ = std::make_unique<SettingsView>(
+                SettingsSurroundings{.store = store,
+                                     .loader =
+                                         [this](const QString& source, auto done) {
+                                             asked.append(source);
+                                             answer = std::move(done);
+                                         },
+                                     .loginItem = login,
+                                     .beep = [this] { ++beeps; },
+                                     .onShowNow = [this] { ++shows; },
+                                     .onEditAppearance = [this] { ++edits; },
+                                     .quit = [this] { ++quits; }});
+            view_->show();
+        }
+        return *view_;
+    }
+    QPushButton* button(const QString& text) {
+        for (auto* found : view().findChildren<QPushButton*>()) {
+            if (found->text() == text) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    template <typename T>
+    T* only() {
+        const auto found = view().findChildren<T*>();
+        EXPECT_EQ(found.size(), 1);
+        return found.value(0);
+    }
+    Switch* switchNamed(const QString& text) {
+        for (auto* found : view().findChildren<Switch*>()) {
+            if (found->text() == text) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    bool shows_(const QString& text) {
+        for (const auto* label : view().findChildren<QLabel*>()) {
+            if (label->text() == text && label->isVisible()) {
+                return true;
+            }
+        }
+        return false;
+    }
+    void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+
+    SettingsStore store;
+    FakeLogin login;
+    QStringList asked;
+    std::function<void(std::optional<Quote>)> answer;
+    int beeps = 0;
+    int shows = 0;
+    int edits = 0;
+    int quits = 0;
+
+private:
+    std::unique_ptr<SettingsView> view_;
+};
+
+TEST_F(SettingsViewTest, HasAFixedSizeAndTheTexts) {
+    EXPECT_EQ(view().size(), QSize(520, 545));
+    for (const char* text :
+         {"Appearance", "Palette, typeface, size, vignette and grain", "Behaviour", "New quote",
+          "Close after", "15s", "Quotes", "Source URL",
+          "Any JSON with a quote and author field works, plus a local file path. The last fetched "
+          "quote is cached, so it still shows offline."}) {
+        EXPECT_TRUE(shows_(QString::fromUtf8(text))) << text;
+    }
+    EXPECT_EQ(only<QLineEdit>()->placeholderText(),
+              QStringLiteral("Leave empty for the built-in 124 quotes"));
+}
+
+TEST_F(SettingsViewTest, NothingIsCutOff) {
+    for (const auto* label : view().findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->wordWrap()) {
+            EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+        }
+    }
+}
+
+TEST_F(SettingsViewTest, ButtonsCallBack) {
+    click(button(QStringLiteral("Edit Appearance…")));
+    click(button(QStringLiteral("Show Today's Quote")));
+    click(button(QStringLiteral("Quit")));
+    EXPECT_EQ(edits, 1);
+    EXPECT_EQ(shows, 1);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(SettingsViewTest, WakeSwitchGoesBothWays) {
+    Switch* wake = switchNamed(QStringLiteral("Show on wake and unlock"));
+    ASSERT_NE(wake, nullptr);
+    EXPECT_TRUE(wake->isChecked());
+    click(wake);
+    EXPECT_EQ(store.value(K::showOnWake), QJsonValue(false));
+    store.set(K::showOnWake, true);
+    EXPECT_TRUE(wake->isChecked());
+}
+
+TEST_F(SettingsViewTest, FrequencyGoesBothWays) {
+    auto* box = only<QComboBox>();
+    QStringList choices;
+    for (int i = 0; i < box->count(); ++i) {
+        choices.append(box->itemText(i) + QLatin1Char('=') + box->itemData(i).toString());
+    }
+    EXPECT_EQ(choices,
+              QStringList({QStringLiteral("Every 6 hours=6h"), QStringLiteral("Every 12 hours=12h"),
+                           QStringLiteral("Every 24 hours=24h"),
+                           QStringLiteral("Every time it shows=every")}));
+    EXPECT_EQ(box->currentIndex(), 2);
+    QTest::keyClick(box, Qt::Key_End);
+    EXPECT_EQ(store.text(K::frequency), QStringLiteral("every"));
+    store.set(K::frequency, QStringLiteral("6h"));
+    EXPECT_EQ(box->currentIndex(), 0);
+}
+
+TEST_F(SettingsViewTest, UnknownFrequencySelectsNothingAndStays) {
+    store.set(K::frequency, QStringLiteral("weekly"));
+    EXPECT_EQ(only<QComboBox>()->currentIndex(), -1);
+    EXPECT_EQ(store.text(K::frequency), QStringLiteral("weekly"));
+}
+
+TEST_F(SettingsViewTest, CloseAfterStoresWholeSecondsAsReals) {
+    auto* slider = only<QSlider>();
+    EXPECT_EQ(slider->minimum(), 5);
+    EXPECT_EQ(slider->maximum(), 60);
+    QTest::keyClick(slider, Qt::Key_Home);
+    EXPECT_EQ(store.value(K::dismiss), QJsonValue(5.0));
+    EXPECT_TRUE(shows_(QStringLiteral("5s")));
+    QTest::keyClick(slider, Qt::Key_End);
+    EXPECT_EQ(store.value(K::dismiss), QJsonValue(60.0));
+    EXPECT_TRUE(shows_(QStringLiteral("60s")));
+    QTest::keyClick(slider, Qt::Key_Left);
+    EXPECT_EQ(store.real(K::dismiss), 59);
+}
+
+TEST_F(SettingsViewTest, CloseAfterTruncatesAndRewritesNothing) {
+    store.set(K::dismiss, 15.9);
+    view();
+    EXPECT_TRUE(shows_(QStringLiteral("15s")));
+    store.set(K::dismiss, 120.5);
+    EXPECT_TRUE(shows_(QStringLiteral("120s")));
+    EXPECT_EQ(only<QSlider>()->value(), 60);
+    EXPECT_EQ(store.real(K::dismiss), 120.5);
+}
+
+TEST_F(SettingsViewTest, SourceGoesBothWays) {
+    auto* field = only<QLineEdit>();
+    QTest::keyClicks(field, QStringLiteral("/a b"));
+    EXPECT_EQ(store.text(K::source), QStringLiteral("/a b"));
+    store.set(K::source, QStringLiteral("elsewhere"));
+    EXPECT_EQ(field->text(), QStringLiteral("elsewhere"));
+}
+
+TEST_F(SettingsViewTest, PresetsSetTheSource) {
+    auto* presets = button(QStringLiteral("Presets"));
+    ASSERT_NE(presets, nullptr);
+    EXPECT_EQ(presets->width(), 120);
+    const auto actions = presets->menu()->actions();
+    ASSERT_EQ(actions.size(), 4);
+    for (qsizetype i = 0; i < 3; ++i) {
+        const SourcePreset& preset = sourcePresets()[std::size_t(i)];
+        EXPECT_EQ(actions[i]->text(), preset.label);
+        actions[i]->trigger();
+        EXPECT_EQ(store.text(K::source), preset.address);
+        EXPECT_EQ(only<QLineEdit>()->text(), preset.address);
+    }
+    EXPECT_EQ(actions[3]->text(), QStringLiteral("Built-in list"));
+    actions[3]->trigger();
+    EXPECT_EQ(store.text(K::source), QString());
+}
+
+TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
+    store.set(K::source, QStringLiteral("/somewhere"));
+    auto* test = button(QStringLiteral("Test"));
+    click(test);
+    EXPECT_EQ(asked, QStringList{QStringLiteral("/somewhere")});
+    EXPECT_EQ(test->text(), QStringLiteral("Testing…"));
+    EXPECT_FALSE(test->isEnabled());
+    click(test);
+    EXPECT_EQ(asked.size(), 1);
+
+    answer(Quote{QStringLiteral("One <b>word</b>"), QStringLiteral("Nobody")});
+    EXPECT_EQ(test->text(), QStringLiteral("Test"));
+    EXPECT_TRUE(test->isEnabled());
+    EXPECT_TRUE(shows_(QStringLiteral("“One <b>word</b>” — Nobody")));
+    EXPECT_FALSE(store.value(K::cachedText).has_value());
+
+    click(test);
+    EXPECT_FALSE(shows_(QStringLiteral("“One <b>word</b>” — Nobody")));
+    answer(std::nullopt);
+    EXPECT_TRUE(shows_(QStringLiteral("No quote found at that source.")));
+    EXPECT_EQ(store.text(K::source), QStringLiteral("/somewhere"));
+}
+
+TEST_F(SettingsViewTest, ResultSurvivesHiding) {
+    view().test();
+    answer(std::nullopt);
+    view().hide();
+    view().show();
+    EXPECT_TRUE(shows_(QStringLiteral("No quote found at that source.")));
+}
+
+TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
+    login.current = LoginItem::Status::Enabled;
+    Switch* control = switchNamed(QStringLiteral("Open at login"));
+    EXPECT_TRUE(control->isChecked());
+    EXPECT_EQ(login.calls, 0);
+    click(control);
+    EXPECT_EQ(login.current, LoginItem::Status::NotRegistered);
+    EXPECT_EQ(login.calls, 1);
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(SettingsViewTest, RefusedLoginFlipsBackWithOneBeep) {
+    login.refuses = true;
+    Switch* control = switchNamed(QStringLiteral("Open at login"));
+    EXPECT_FALSE(control->isChecked());
+    click(control);
+    EXPECT_FALSE(control->isChecked());
+    EXPECT_EQ(login.calls, 1);
+    EXPECT_EQ(beeps, 1);
+}
+
+TEST_F(SettingsViewTest, ApprovalThatIsMissingCountsAsOff) {
+    login.current = LoginItem::Status::RequiresApproval;
+    EXPECT_FALSE(switchNamed(QStringLiteral("Open at login"))->isChecked());
+}
+
+TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
+    QStringList names;
+    QWidget* at = &view();
+    for (QWidget* next = at->nextInFocusChain(); next != at; next = next->nextInFocusChain()) {
+        if (next->isVisible() && (next->focusPolicy() & Qt::TabFocus) != 0 && !next->isWindow() &&
+            next->focusProxy() == nullptr) {
+            const auto* face = QAccessible::queryAccessibleInterface(next);
+            ASSERT_NE(face, nullptr);
+            // A box of choices is named by its label.
+            const auto labels = face->relations(QAccessible::Label);
+            names.append(labels.isEmpty() ? face->text(QAccessible::Name)
+                                          : labels.first().first->text(QAccessible::Name));
+        }
+    }
+    EXPECT_EQ(names, QStringList({QStringLiteral("Edit Appearance…"),
+                                  QStringLiteral("Show on wake and unlock"),
+                                  QStringLiteral("New quote"), QStringLiteral("Close after"),
+                                  QStringLiteral("Open at login"), QStringLiteral("Source URL"),
+                                  QStringLiteral("Presets"), QStringLiteral("Test"),
+                                  QStringLiteral("Show Today's Quote"), QStringLiteral("Quit")}));
+}
+
+} // namespace
+} // namespace morrowleaf
