@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -244,9 +245,11 @@ void AppDelegate::openSettings() {
         settingsWindow_ = makeSettingsWindow(
             around_.makeSettingsView([this] { show(); }, [this] { editAppearance(); }));
         if (const QScreen* screen = around_.platform.mainScreen->current()) {
-            settingsWindow_->winId(); // the frame is known to it only
-            settingsWindow_->move(settingsWindowOrigin(screen->availableGeometry(),
-                                                       settingsWindow_->frameGeometry().size()));
+            // The frame is not there yet; a title bar of the usual height will be.
+            const int title = settingsWindow_->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+            const QSize frame = settingsWindow_->size() + QSize(0, title);
+            settingsWindow_->move(settingsWindowOrigin(screen->availableGeometry(), frame) +
+                                  QPoint(0, title));
         }
     }
     settingsWindow_->show();

@@ -1,0 +1,69 @@
+#!/bin/bash
+# One instance in a session, however it is started, with and without a bus.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+start_x 640x480
+start_manager openbox
+settings '{"dismissSeconds": 60}'
+running() { pgrep -c -P $$ -f "^$MORROWLEAF"; }
+
+four_at_once() {
+    local round=$1 i racers=() ended=0
+    for i in 1 2 3 4; do
+        start "race$round-$i" "$MORROWLEAF"
+        racers+=("$last")
+    done
+    three_ended() {
+        local left=0 p
+        for p in "${racers[@]}"; do kill -0 "$p" 2>/dev/null && left=$((left + 1)); done
+        [ "$left" -eq 1 ]
+    }
+    must "$round: of four launches one stays" until_true 15 three_ended
+    sleep 0.5
+    check "$round: and stays" three_ended
+    must "$round: and shows the quotation" is_shown
+    for i in "${racers[@]}"; do
+        if kill -0 "$i" 2>/dev/null; then app=$i; else
+            wait "$i" || fail "$round: a later launch ends with status 0"
+        fi
+    done
+    xdotool key Escape
+    must "$round: a key closes it" is_gone
+    local n
+    n=$(maps)
+    "$MORROWLEAF" --settings || fail "$round: status 0 with --settings"
+    must "$round: a launch with --settings opens the settings of the first" \
+        xdotool search --onlyvisible --name '^Morrowleaf Settings$'
+    check "$round: and shows nothing else" mapped_times "$n"
+    check "$round: the self-test runs beside it" \
+        sh -c '"$MORROWLEAF" --selftest | grep -qx "selftest ok — 124 quotes, connector parsing ok"'
+    check "$round: and the login item" \
+        sh -c '"$MORROWLEAF" --register-login | grep -qx "login item: enabled"'
+}
+
+four_at_once "without a bus"
+kill -9 "$app"
+wait "$app" 2>/dev/null
+until_true 10 is_gone
+n=$(maps)
+start app "$MORROWLEAF"
+must "a killed one is no hindrance" opened_since "$n"
+kill "$last"
+wait "$last"
+check "SIGTERM ends it with status 0" test $? -eq 0
+must "its window is gone" is_gone
+
+start_session_bus
+four_at_once "with a bus"
+n=$(maps)
+application() {
+    gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
+        -m "org.freedesktop.Application.$1" "${@:2}"
+}
+application Activate '{"activation-token": <"abc">}'
+must "the desktop's way of activating shows it" opened_since "$n"
+application ActivateAction quit '[]' '{}'
+must "and its way of quitting ends it" not kill -0 "$app"
+finish

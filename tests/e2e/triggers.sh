@@ -1,0 +1,107 @@
+#!/bin/bash
+# Waking and unlocking, in every order they come in: one showing each.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+. "$here/logind.sh"
+
+start_x 640x480
+start_manager openbox
+start_session_bus
+start_system_bus
+start_logind
+settings '{"dismissSeconds": 60}'
+start app "$MORROWLEAF"
+app=$last
+must "a launch shows the quotation" opened_since 0
+sleep 0.5
+
+throttle_over() { sleep 8.2; }
+close_it() {
+    xdotool key Escape
+    until_true 10 is_gone || fail "it could not be closed"
+}
+# order NAME COMMAND...: the commands lead to exactly one showing
+order() {
+    local name=$1 n
+    shift
+    close_it
+    throttle_over
+    n=$(maps)
+    "$@"
+    must "$name: shows" opened_since "$n"
+    sleep 0.7
+    check "$name: shows once" mapped_times $((n + 1))
+}
+
+wake_then_unlock() { wake; sleep 0.2; unlock; }
+unlock_then_wake() { unlock; wake; }
+everything_at_once() {
+    wake
+    set_active false
+    set_active true
+    set_hint true
+    set_hint false
+    unlock
+}
+wake_while_locked() {
+    set_hint true
+    n=$(maps)
+    wake
+    sleep "${LOCKED_SECONDS:-12}"
+    check "nothing while locked" mapped_times "$n"
+    unlock
+    sleep 0.2
+    set_hint false
+}
+hint_alone() { set_hint false; }
+hint_goes() { set_hint true; set_hint false; }
+saver_ends() { saver_active true; saver_active false; }
+active_alone() { set_active true; }
+wake_twice() { wake; sleep 3; wake; }
+
+order "wake, then unlock" wake_then_unlock
+order "unlock, then wake" unlock_then_wake
+order "wake, active, hint and unlock" everything_at_once
+order "wake while locked" wake_while_locked
+order "the locked hint alone" hint_goes
+start_saver
+order "the end of a screen saver alone" saver_ends
+session_call c1 $mock.UpdateProperties $login.Session '{"Active": <false>}'
+order "becoming active alone" active_alone
+order "two wakes, three seconds apart" wake_twice
+
+close_it
+throttle_over
+n=$(maps)
+unlock c2
+sleep 0.7
+check "another user's unlock shows nothing" mapped_times "$n"
+settings '{"dismissSeconds": 60, "showOnWake": false}'
+sleep 0.5
+wake
+sleep 0.7
+check "nor a wake when the user wants none" mapped_times "$n"
+settings '{"dismissSeconds": 60}'
+sleep 0.5
+
+kill "$logind_pid"
+sleep 0.3
+start_logind
+wake
+must "a restarted login manager is heard" opened_since "$n"
+close_it
+throttle_over
+n=$(maps)
+kill "$system_bus_pid"
+sleep 0.5
+check "the program outlives the bus" kill -0 "$app"
+start_system_bus
+start_logind
+sleep 0.5
+wake
+must "and hears a bus that comes back" opened_since "$n"
+kill -TERM "$app"
+wait "$app"
+check "it ends with status 0" test $? -eq 0
+finish

@@ -1,0 +1,83 @@
+#!/bin/bash
+# One showing after another on Wayland, under a compositor with layer surfaces.
+# Such a compositor refuses to run as root.
+here=$(dirname "$0")
+if [ "$(id -u)" = 0 ]; then
+    exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"
+fi
+. "$here/lib.sh"
+
+cat >"$work/sway.conf" <<'EOF'
+output * bg #206040 solid_color
+output HEADLESS-1 mode 1280x800@60Hz position 0 0
+xwayland disable
+default_border none
+for_window [title=".*"] floating enable
+EOF
+export WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman
+start sway sway -c "$work/sway.conf"
+until_true 20 test -S "$work/run/wayland-1" || die "no compositor"
+export WAYLAND_DISPLAY=wayland-1
+export SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
+until_true 20 swaymsg -t get_version || die "no compositor"
+start_session_bus
+
+shot() { grim "$work/$1.png"; }
+pixel() { convert "$work/$1.png" -format "%[pixel:p{$2}]" info:; }
+share() {
+    convert "$work/$1.png" -fill black +opaque "$2" -fill white -opaque "$2" \
+        -colorspace gray -format '%[fx:mean]' info:
+}
+covered() { shot now && [ "$(share now '#206040')" = 0 ]; }
+uncovered() { shot now && [ "$(share now '#206040')" != 0 ] && [ "$(share now '#ffff00')" != 0 ]; }
+
+QT_QPA_PLATFORM=wayland start window "$E2E_WINDOW" typing '#ffff00' 100 100 400 300
+must "a window stands on the desktop" uncovered
+settings '{"dismissSeconds": 2}'
+start app "$MORROWLEAF"
+app=$last
+must "a launch covers it" covered
+opened=${EPOCHREALTIME/./}
+must "it goes by itself" uncovered
+waited=$(((${EPOCHREALTIME/./} - opened) / 100000))
+check "after its five seconds" test "$waited" -ge 40
+
+settings '{"dismissSeconds": 60}'
+sleep 0.5
+"$MORROWLEAF" || fail "a second launch ends with status 0"
+must "a second launch shows it again" covered
+sleep 2
+shot shown
+QT_QPA_PLATFORM=wayland start late "$E2E_WINDOW" late '#00ffff' 500 500 200 200
+sleep 1
+shot late
+check "a later window stays below" [ "$(share late '#00ffff')" = 0 ]
+wtype -s 200 -k q
+must "a key closes it" uncovered
+check "and goes nowhere else" not grep -q '^key q' "$work/window.log" "$work/late.log"
+wtype -s 200 x
+must "the window has the keyboard again" grep -q '^key x' "$work/window.log" "$work/late.log"
+
+settings '{"dismissSeconds": 60, "backdropTransparency": 0.7}'
+sleep 0.5
+"$MORROWLEAF"
+must "it shows over a picture of the desktop" covered
+sleep 2
+shot transparent
+wtype -s 200 -k Escape
+must "and closes" uncovered
+
+gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
+    -m org.freedesktop.Application.ActivateAction edit-appearance '[]' '{}' >/dev/null
+must "the editor opens" covered
+sleep 1.5
+shot editor
+wtype -s 200 -k a
+sleep 0.7
+check "other keys leave it open" covered
+wtype -s 200 -k Escape
+must "Escape closes it" uncovered
+kill -TERM "$app"
+wait "$app"
+check "SIGTERM ends it with status 0" test $? -eq 0
+finish
