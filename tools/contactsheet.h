@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QStringList>
+
+namespace morrowleaf {
+
+// The pictures side by side in rows, each `cellWidth` pixels wide, with a
+// caption beneath.
+QImage contactSheet(const QList<QImage>& pictures, const QStringList& captions, int columns,
+                    int cellWidth);
+
+} // namespace morrowleaf
