@@ -62,22 +62,20 @@ Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading) {
 ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
                         double quoteSize) {
     const double middle = viewHeight / 2;
-    const double above = middle - headerBottom - measure::leastSpace;
-    const double below = hintTop - measure::leastSpace - middle;
-    const double room = 2 * std::min(above, below);
-
+    const auto roomWith = [&](double space) {
+        return 2 * std::min(middle - headerBottom - space, hintTop - space - middle);
+    };
     ColumnPlace place;
     place.bottom = hintTop - measure::leastSpace;
-    if (columnHeight > room) {
+    if (columnHeight > roomWith(measure::leastSpace)) {
         const double least = std::min(1.0, measure::leastQuoteSize / quoteSize);
-        place.scale = std::max(room / columnHeight, least);
+        place.scale = std::max(roomWith(measure::shrunkSpace) / columnHeight, least);
     }
     const double height = columnHeight * place.scale;
     place.top = middle - height / 2;
-    // Rounding in the last digits is no overflow.
-    if (height > room + 0.001) {
+    if (height > roomWith(measure::leastSpace)) {
         place.overflows = true;
-        place.top = headerBottom + measure::leastSpace;
+        place.top = headerBottom + measure::shrunkSpace;
     }
     return place;
 }

@@ -1,0 +1,329 @@
+#include "screen/quotescreen.h"
+
+#include "quotes/bgstore.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/quoteview.h"
+#include "screen/renderframe.h"
+#include "tests/screen/sceneforscreens.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QPaintEvent>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace morrowleaf;
+
+namespace {
+
+const char* const lake = MORROWLEAF_RESOURCE_DIR "/Backgrounds/lake.jpg";
+
+class CountingScreen : public QuoteScreen {
+public:
+    using QuoteScreen::QuoteScreen;
+    int frames = 0;
+    QRegion lastRegion;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        ++frames;
+        lastRegion = event->region();
+        QuoteScreen::paintEvent(event);
+    }
+};
+
+class QuoteScreens : public ::testing::Test {
+protected:
+    QuoteScreens() {
+        registerAppDefaults(store);
+        store.set(K::screenAnim, "still");
+        store.set(K::palette, 0);
+    }
+
+    ScreenSurroundings surroundings() {
+        return {store,
+                bundledFonts(),
+                photos,
+                [] { return plainState().moment; },
+                [](qsizetype) -> qsizetype { return 0; },
+                [this](const QString&, std::function<void(std::optional<Quote>)> done) {
+                    loaded = std::move(done);
+                },
+                [this] { return time; }};
+    }
+
+    std::unique_ptr<CountingScreen> shown(std::optional<QuoteScreen::Editing> editing = {}) {
+        auto screen = std::make_unique<CountingScreen>(surroundings(), std::move(editing));
+        screen->resize(640, 480);
+        screen->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(screen.get()));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return screen->view() != nullptr; }));
+        return screen;
+    }
+
+    // Lets the time of the entrances jump, and the screen follow.
+    void jumpTo(CountingScreen& screen, double seconds) {
+        time = seconds;
+        const int before = screen.frames;
+        if (screen.awake()) {
+            EXPECT_TRUE(QTest::qWaitFor([&] { return screen.frames > before || !screen.awake(); }));
+        }
+    }
+
+    void settle(CountingScreen& screen) {
+        time += 100;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !screen.awake(); }));
+        QTest::qWait(20);
+    }
+
+    // What the screen should look like, by the way that needs no window.
+    static QImage expected(const QuoteScreen& screen, double seconds) {
+        const QuoteView& view = *screen.view();
+        BackdropPainter painter;
+        return renderFrame(painter, backdropFor(view.state().settings, view.state().palette, false),
+                           view, seconds, view.state().moment.unixSeconds - unixToReference);
+    }
+
+    QTemporaryDir folder;
+    SettingsStore store;
+    BGStore photos{store, folder.path(), folder.path()};
+    std::function<void(std::optional<Quote>)> loaded;
+    double time = 50;
+};
+
+int differing(const QImage& a, const QImage& b) {
+    int count = a.size() == b.size() ? 0 : 1 << 30;
+    for (int y = 0; count == 0 && y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor one = a.pixelColor(x, y);
+            const QColor two = b.pixelColor(x, y);
+            count += std::abs(one.red() - two.red()) + std::abs(one.green() - two.green()) +
+                                 std::abs(one.blue() - two.blue()) >
+                             6
+                         ? 1
+                         : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+TEST_F(QuoteScreens, AsksForNoFramesOnceAStillScreenIsFinished) {
+    const auto screen = shown();
+    EXPECT_TRUE(screen->awake());
+    settle(*screen);
+    const int frames = screen->frames;
+    QTest::qWait(200);
+    EXPECT_EQ(screen->frames, frames);
+    EXPECT_FALSE(screen->awake());
+    EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
+}
+
+TEST_F(QuoteScreens, GrabsAndWindowFramesAreTheSameAsThoseWithoutAWindow) {
+    const auto screen = shown();
+    for (const double after : {0.4, 0.8, 1.2, 2.0, 3.1}) {
+        jumpTo(*screen, 50 + after);
+        const QImage picture = screen->grab().toImage();
+        EXPECT_EQ(differing(picture, expected(*screen, after)), 0) << after;
+    }
+}
+
+TEST_F(QuoteScreens, SleepsUntilSomethingMoves) {
+    const auto screen = shown();
+    time = 50.01;
+    QTest::qWait(150); // the first thing to move is the mark, at 0.35 s
+    const int frames = screen->frames;
+    QTest::qWait(150);
+    EXPECT_EQ(screen->frames, frames);
+    EXPECT_TRUE(screen->awake());
+}
+
+TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
+    const auto screen = shown();
+    jumpTo(*screen, 50 + 3.0); // only the hint is on its way
+    jumpTo(*screen, 50 + 3.1);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        time += 0.01;
+        return screen->lastRegion.boundingRect().height() < 100;
+    }));
+    const QRect hint = screen->view()->rect(QuoteView::Element::Hint).toAlignedRect();
+    EXPECT_TRUE(screen->lastRegion.boundingRect().intersects(hint));
+    EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, time - 50)), 0);
+}
+
+TEST_F(QuoteScreens, SleepsWhileHidden) {
+    store.set(K::screenAnim, "aurora");
+    const auto screen = shown();
+    jumpTo(*screen, 60);
+    EXPECT_TRUE(screen->awake());
+    screen->hide();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        time += 1;
+        return !screen->awake();
+    }));
+    const int frames = screen->frames;
+    QTest::qWait(100);
+    EXPECT_EQ(screen->frames, frames);
+    screen->show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames && screen->awake(); }));
+}
+
+TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
+    const auto screen = shown();
+    settle(*screen);
+    for (int palette = 1; palette < 9; ++palette) {
+        store.set(K::palette, palette);
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            return screen->view()->state().palette.name == Palette::all()[size_t(palette)].name;
+        }));
+        EXPECT_EQ(screen->view()->lineAppearedAt(0), 0);
+        EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
+    }
+    EXPECT_FALSE(screen->awake());
+    store.set(K::textAnim, "rise");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->lineAppearedAt(0) > 0; }));
+    EXPECT_EQ(screen->view()->lineAppearedAt(0), time - 50);
+    EXPECT_TRUE(screen->awake());
+}
+
+TEST_F(QuoteScreens, TakesALateQuotationAndItsAuthor) {
+    store.set(K::source, "https://quotes.example/");
+    const auto screen = shown();
+    settle(*screen);
+    const double rule = screen->view()->closing().rule.delay;
+    ASSERT_TRUE(loaded);
+    loaded(Quote{"Something that came over the wire, rather late in the day", "Source"});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->state().quote.author == "Source"; }));
+    EXPECT_EQ(screen->view()->closing().rule.delay, rule);
+    EXPECT_EQ(screen->view()->lineAppearedAt(0), 100);
+    EXPECT_EQ(screen->spokenTexts().author, "Source");
+    settle(*screen);
+    EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
+}
+
+TEST_F(QuoteScreens, LetsALoadEndAfterItIsGone) {
+    store.set(K::source, "https://quotes.example/");
+    { const auto screen = shown(); }
+    loaded(Quote{"Too late to be seen", "Source"});
+    EXPECT_EQ(store.text(K::cachedText), "Too late to be seen");
+}
+
+TEST_F(QuoteScreens, SlidesTheEditorInBesideAColumnThatStandsStill) {
+    QWidget* panel = nullptr;
+    bool done = false;
+    const auto screen =
+        shown(QuoteScreen::Editing{[&](QWidget* parent, const std::function<void()>& onDone) {
+                                       panel = new QWidget(parent);
+                                       onDone();
+                                       return panel;
+                                   },
+                                   [&] { done = true; }});
+    EXPECT_TRUE(done);
+    const QRectF mark = screen->view()->rect(QuoteView::Element::Mark);
+    EXPECT_NEAR(mark.center().x(), (640 - 320) / 2.0, 1);
+    EXPECT_EQ(panel->x(), 640);
+    EXPECT_EQ(panel->size(), QSize(320, 480));
+    time = 50 + 0.14;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return panel->x() < 640; }));
+    EXPECT_NEAR(panel->x(), 640 - 320 * 0.6846, 1.5);
+    EXPECT_EQ(screen->view()->rect(QuoteView::Element::Mark), mark);
+    settle(*screen);
+    EXPECT_EQ(panel->x(), 320);
+    screen->resize(700, 500);
+    EXPECT_EQ(panel->geometry(), QRect(380, 0, 320, 500));
+    EXPECT_EQ(screen->spokenTexts().hint, "esc to finish");
+}
+
+TEST_F(QuoteScreens, ShowsThePhotosPaletteBeforeItsPixels) {
+    store.set(K::bgImage, lake);
+    const auto screen = shown();
+    EXPECT_EQ(screen->view()->state().palette.name, "Photo");
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        time += 1;
+        return screen->grab().toImage().pixelColor(320, 60) != QColor(15, 15, 19);
+    }));
+    settle(*screen);
+    const QImage picture = screen->grab().toImage();
+    EXPECT_NE(picture.pixel(100, 100), picture.pixel(100, 400));
+    store.set(K::bgImage, "");
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return screen->view()->state().palette.name == "Midnight"; }));
+    EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
+}
+
+TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
+    // A header that promises a picture, and nothing after it.
+    QFile whole(lake);
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QString broken = folder.filePath("broken.png");
+    QImage(64, 64, QImage::Format_RGB32).save(broken);
+    QFile file(broken);
+    ASSERT_TRUE(file.resize(40));
+    store.set(K::bgImage, broken);
+    const auto screen = shown();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return screen->view()->state().palette.name == "Midnight"; }));
+    settle(*screen);
+    EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
+}
+
+TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
+    for (int i = 0; i < 8; ++i) {
+        store.set(K::bgImage, lake);
+        const auto screen = shown();
+        store.set(K::bgImage, "");
+        QTest::qWait(5);
+    }
+    const auto screen = shown();
+    QTest::qWait(300);
+    EXPECT_EQ(screen->view()->state().palette.name, "Midnight");
+}
+
+TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {
+    QWidget window;
+    window.resize(700, 560);
+    auto* screen = new CountingScreen(surroundings(), std::nullopt, &window);
+    screen->setGeometry(30, 40, 640, 480);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view() != nullptr; }));
+    time += 100;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !screen->awake(); }));
+    QTest::qWait(20);
+    const QImage whole = QApplication::primaryScreen()->grabWindow(window.winId()).toImage();
+    ASSERT_FALSE(whole.isNull());
+    EXPECT_EQ(differing(whole.copy(30, 40, 640, 480), expected(*screen, 100)), 0);
+}
+
+TEST_F(QuoteScreens, SpeaksToThoseWhoDoNotSeeIt) {
+    const auto screen = shown();
+    settle(*screen);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(screen.get());
+    ASSERT_TRUE(spoken);
+    const SpokenTexts texts = screen->spokenTexts();
+    EXPECT_EQ(spoken->text(QAccessible::Name),
+              texts.quotation + QString::fromUtf8(" — ") + texts.author);
+    ASSERT_EQ(spoken->childCount(), 5);
+    QStringList heard;
+    for (int i = 0; i < 5; ++i) {
+        QAccessibleInterface* child = spoken->child(i);
+        ASSERT_TRUE(child);
+        EXPECT_EQ(child->role(), QAccessible::StaticText);
+        EXPECT_FALSE(child->state().invisible);
+        EXPECT_FALSE(child->rect().isEmpty());
+        EXPECT_EQ(spoken->indexOfChild(child), i);
+        EXPECT_EQ(child->parent(), spoken);
+        heard += child->text(QAccessible::Name);
+    }
+    EXPECT_EQ(heard, texts.all());
+    EXPECT_EQ(heard.first(), "Good morning");
+    EXPECT_FALSE(spoken->child(5));
+    EXPECT_FALSE(spoken->child(-1));
+    const QPoint middle = spoken->child(2)->rect().center();
+    EXPECT_EQ(spoken->childAt(middle.x(), middle.y()), spoken->child(2));
+}

@@ -1,0 +1,319 @@
+#include "screen/quoteview.h"
+
+#include "tests/screen/sceneforscreens.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace morrowleaf;
+using Element = QuoteView::Element;
+
+namespace {
+
+const QString threeLines =
+    "It is not the mountain we conquer but ourselves, and the path is where we learn to walk.";
+
+QImage drawn(const QuoteView& view, double seconds) {
+    const QSizeF pixels = view.state().size * view.state().devicePixelRatio;
+    QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(view.state().devicePixelRatio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    view.paint(painter, seconds, QRectF(QPointF(), view.state().size));
+    return image;
+}
+
+// The bounds of the light ink within a part, device pixels; shadows are black.
+QRect inkWithin(const QImage& image, const QRect& part, int least = 24) {
+    QRect ink;
+    const QRect inside = part.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            if (qGreen(image.pixel(x, y)) >= least) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
+} // namespace
+
+TEST(LineIdentity, IsMadeOfAnimationIndexAndLength) {
+    EXPECT_EQ(lineIdentity("fade", 2, "abc"), "fade-2-3");
+    EXPECT_EQ(lineIdentity("", 0, ""), "-0-0");
+    EXPECT_EQ(lineIdentity("x", 11, QString::fromUtf8("e\u0301👨‍👩‍👧")), "x-11-2");
+}
+
+TEST(QuoteView, PlacesEverythingByTheNumbers) {
+    QuoteViewState state = plainState();
+    state.quote = {threeLines, "Anonymous"};
+    const QuoteView view(state, bundledFonts());
+    ASSERT_EQ(view.lineCount(), 3);
+
+    EXPECT_EQ(view.rect(Element::Greeting).left(), 166 + 46);
+    EXPECT_NEAR(view.rect(Element::Greeting).top(), 38, 0.5);
+    EXPECT_NEAR(view.rect(Element::Today).right() - 2.2, 1512 - 166 - 46, 0.6);
+    EXPECT_NEAR(view.rect(Element::Hint).bottom(), 982 - 40, 0.5);
+    EXPECT_NEAR(view.rect(Element::Hint).center().x() - 1, 756, 0.6);
+
+    const QRectF mark = view.rect(Element::Mark);
+    EXPECT_NEAR(mark.center().x(), 756, 0.6);
+    EXPECT_NEAR(view.lineRect(0).top() - mark.bottom(), 30, 1.1);
+    EXPECT_NEAR(view.lineRect(1).top() - view.lineRect(0).bottom(), 12, 1.1);
+    EXPECT_NEAR(view.rect(Element::Rule).top() - view.lineRect(2).bottom(), 46, 1.1);
+    EXPECT_NEAR(view.rect(Element::Author).top() - view.rect(Element::Rule).bottom(), 22, 1.1);
+    EXPECT_EQ(view.rect(Element::Rule).size(), QSizeF(56, 1));
+
+    double block = 0;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(view.lineRect(i).left(), view.lineRect(0).left());
+        block = std::max(block, view.lineRect(i).width());
+    }
+    EXPECT_NEAR(view.lineRect(0).left() + block / 2, 756, 0.6);
+    const double height = view.rect(Element::Author).bottom() - mark.top();
+    EXPECT_NEAR(mark.top() + height / 2, 491, 1);
+    EXPECT_EQ(view.columnScale(), 1);
+}
+
+TEST(QuoteView, KeepsClearOfTheInspector) {
+    QuoteViewState state = plainState({1440, 900});
+    state.quote = {threeLines, "Anonymous"};
+    state.sideInset = 320;
+    const QuoteView view(state, bundledFonts());
+    EXPECT_LE(view.rect(Element::Today).right(), 1440 - 320 - 46 + 3);
+    EXPECT_NEAR(view.rect(Element::Mark).center().x(), 560, 0.6);
+    EXPECT_NEAR(view.rect(Element::Hint).center().x() - 1, 560, 0.6);
+    for (int i = 0; i < view.lineCount(); ++i) {
+        EXPECT_LE(view.lineRect(i).right(), 1120 - 90 + 1);
+    }
+}
+
+TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
+    QuoteViewState state = plainState();
+    state.quote = {"One", "Two"};
+    const double base = QuoteView(state, bundledFonts()).lineRect(0).height();
+    const auto heightWith = [&](std::optional<QSizeF> screen, double sizeScale) {
+        state.mainScreen = screen;
+        state.settings.sizeScale = sizeScale;
+        return QuoteView(state, bundledFonts()).lineRect(0).height() / base;
+    };
+    EXPECT_NEAR(heightWith(QSizeF(1512, 700), 1), 0.85, 0.001);
+    EXPECT_NEAR(heightWith(QSizeF(1512, 2000), 1), 1.55, 0.001);
+    EXPECT_NEAR(heightWith(std::nullopt, 1), 1, 0.001);
+    EXPECT_NEAR(heightWith(QSizeF(1512, 982), 1.3), 1.3, 0.001);
+}
+
+TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
+    QuoteViewState state = plainState();
+    state.quote = {threeLines, "Anonymous"};
+    QuoteView view(state, bundledFonts());
+    const double ruleAt = view.closing().rule.delay;
+
+    state.palette = Palette::all()[7];
+    state.settings.fontName = "mono";
+    view.update(state, 5);
+    EXPECT_EQ(view.lineAppearedAt(0), 0);
+    EXPECT_EQ(view.lineAppearedAt(2), 0);
+
+    state.settings.textAnimRaw = "rise";
+    view.update(state, 7);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(view.lineAppearedAt(i), 7);
+    }
+    state.settings.textAnimRaw = "no such thing"; // drawn as fade, yet another identity
+    view.update(state, 8);
+    EXPECT_EQ(view.lineAppearedAt(0), 8);
+    EXPECT_EQ(view.closing().rule.delay, ruleAt);
+}
+
+TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
+    QuoteViewState state = plainState();
+    state.quote = {"aaaa bbbb", "A"};
+    QuoteView view(state, bundledFonts());
+    state.quote = {"cccc dddd", "B"}; // as many characters
+    view.update(state, 3);
+    EXPECT_EQ(view.lineText(0), "cccc dddd");
+    EXPECT_EQ(view.lineAppearedAt(0), 0);
+    state.quote = {"cccc ddddd", "B"};
+    view.update(state, 4);
+    EXPECT_EQ(view.lineAppearedAt(0), 4);
+}
+
+TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
+    QuoteViewState state = plainState();
+    state.quote = {"Short", "A"};
+    QuoteView view(state, bundledFonts());
+    const ClosingEntrances before = view.closing();
+    state.quote = {threeLines + " " + threeLines, "Somebody Else"};
+    state.settings.textAnimRaw = "handwrite";
+    view.update(state, 6);
+    EXPECT_EQ(view.closing().rule.delay, before.rule.delay);
+    EXPECT_EQ(view.closing().author.delay, before.author.delay);
+    EXPECT_EQ(view.lineAppearedAt(1), 6);
+    // The author stands there while the new lines have not begun.
+    const QRect place = view.rect(Element::Author).toAlignedRect();
+    EXPECT_FALSE(inkWithin(drawn(view, 6), place).isEmpty());
+    const QRect line = view.lineRect(1).toAlignedRect();
+    EXPECT_EQ(inkWithin(drawn(view, 6), line), QRect());
+}
+
+TEST(QuoteView, BringsEachElementInAtItsTime) {
+    QuoteViewState state = plainState({1280, 720});
+    state.quote = {"Now", "Then"};
+    const QuoteView view(state, bundledFonts());
+    struct Row {
+        Element element;
+        double begins;
+    };
+    const double revealed = 0.16 + 0.55;
+    for (const Row row : {Row{Element::Mark, 0.35}, Row{Element::Greeting, 0.9},
+                          Row{Element::Today, 0.9}, Row{Element::Rule, revealed + 0.1},
+                          Row{Element::Author, revealed + 0.25}, Row{Element::Hint, 2.6}}) {
+        const QRect place = view.rect(row.element).toAlignedRect();
+        EXPECT_TRUE(inkWithin(drawn(view, row.begins), place, 1).isEmpty()) << row.begins;
+        EXPECT_FALSE(inkWithin(drawn(view, row.begins + 0.5), place, 4).isEmpty()) << row.begins;
+    }
+    EXPECT_TRUE(view.nextMotion(0).has_value());
+    EXPECT_DOUBLE_EQ(*view.nextMotion(0), 0.35);
+    EXPECT_DOUBLE_EQ(*view.nextMotion(0.4), 0.4);
+    EXPECT_FALSE(view.nextMotion(10).has_value());
+}
+
+TEST(QuoteView, NamesEverythingThatChanges) {
+    for (const char* animation : {"fade", "handwrite", "typewriter", "rise", "blur"}) {
+        QuoteViewState state = plainState({1024, 600});
+        state.settings.textAnimRaw = animation;
+        state.quote = {"The quiet morning asks nothing of anyone", "Nobody"};
+        const QuoteView view(state, bundledFonts());
+        double from = 0;
+        for (const double to : {0.2, 0.5, 0.62, 0.7, 0.9, 1.3, 1.31, 2.0, 2.7, 3.9, 9.0}) {
+            const QImage before = drawn(view, from);
+            const QImage after = drawn(view, to);
+            const QRegion changed = view.changedBetween(from, to);
+            int missed = 0;
+            for (int y = 0; y < before.height(); ++y) {
+                for (int x = 0; x < before.width(); ++x) {
+                    missed +=
+                        before.pixel(x, y) != after.pixel(x, y) && !changed.contains(QPoint(x, y))
+                            ? 1
+                            : 0;
+                }
+            }
+            EXPECT_EQ(missed, 0) << animation << ' ' << from << " to " << to;
+            from = to;
+        }
+        EXPECT_TRUE(view.changedBetween(20, 30).isEmpty());
+    }
+}
+
+TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
+    QuoteViewState state = plainState({1024, 600});
+    state.quote = {threeLines, "Anonymous"};
+    const QuoteView view(state, bundledFonts());
+    const QImage whole = drawn(view, 0.95);
+    const QRect part(300, 200, 211, 97);
+    QImage image(whole.size(), whole.format());
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setClipRect(part);
+    view.paint(painter, 0.95, part);
+    painter.end();
+    EXPECT_EQ(image.copy(part), whole.copy(part));
+}
+
+TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
+    QuoteViewState state = plainState();
+    state.quote = {QString("A sentence that goes on and on. ").repeated(30), "Anonymous"};
+    const QuoteView view(state, bundledFonts());
+    EXPECT_LT(view.columnScale(), 1);
+    EXPECT_GT(view.columnScale(), 12.0 / 44);
+    EXPECT_GE(view.rect(Element::Mark).top(), view.rect(Element::Greeting).bottom());
+    EXPECT_LE(view.rect(Element::Author).bottom(), view.rect(Element::Hint).top());
+    const int target = wrapTarget(1512, 0, 1);
+    EXPECT_GE(view.lineCount(), 960 / (target + 3));
+    EXPECT_FALSE(inkWithin(drawn(view, 20), view.rect(Element::Author).toAlignedRect()).isEmpty());
+}
+
+TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
+    QuoteViewState state = plainState();
+    state.quote = {QString("Thousands of characters may arrive here. ").repeated(200), "Anonymous"};
+    const QuoteView view(state, bundledFonts());
+    EXPECT_DOUBLE_EQ(view.columnScale(), 12.0 / 44);
+    const QImage image = drawn(view, 100);
+    const int hintTop = static_cast<int>(view.rect(Element::Hint).top());
+    EXPECT_TRUE(inkWithin(image, QRect(0, hintTop - 8, 1512, 7), 2).isEmpty());
+    EXPECT_FALSE(inkWithin(image, QRect(0, hintTop - 120, 1512, 30)).isEmpty());
+    EXPECT_FALSE(inkWithin(image, view.rect(Element::Hint).toAlignedRect()).isEmpty());
+}
+
+TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
+    QuoteViewState state = plainState({1024, 600});
+    state.settings.fontName = "mono";
+    state.settings.sizeScale = 1.6;
+    state.quote = {"Wheresoever you go, go with all your heart and nothing less", "Confucius"};
+    const QuoteView view(state, bundledFonts());
+    const double width = columnWidth(contentBox({1024, 600}, 0));
+    for (int i = 0; i < view.lineCount(); ++i) {
+        EXPECT_LE(view.lineRect(i).width(), width + 0.01);
+    }
+    state.quote = {QString(400, 'w'), "One Word"};
+    const QuoteView word(state, bundledFonts());
+    ASSERT_EQ(word.lineCount(), 1);
+    EXPECT_LE(word.lineRect(0).width(), width + 0.01);
+    const QRect ink = inkWithin(drawn(word, 20), word.lineRect(0).toAlignedRect());
+    EXPECT_GT(ink.width(), width * 0.95);
+}
+
+TEST(QuoteView, AlignsRightToLeftTextAtItsOwnLeadingEdge) {
+    QuoteViewState state = plainState();
+    state.quote = {QString::fromUtf8("السلام عليكم ورحمة الله وبركاته وكل يوم هو بداية جديدة لمن "
+                                     "أراد أن يمشي في طريقه بهدوء وصبر"),
+                   "A"};
+    const QuoteView view(state, bundledFonts());
+    ASSERT_GT(view.lineCount(), 1);
+    for (int i = 1; i < view.lineCount(); ++i) {
+        EXPECT_NEAR(view.lineRect(i).right(), view.lineRect(0).right(), 1.01);
+    }
+}
+
+TEST(QuoteView, StandsOnWholePixels) {
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+        QuoteViewState state = plainState();
+        state.devicePixelRatio = ratio;
+        state.quote = {threeLines, "Anonymous"};
+        const QuoteView view(state, bundledFonts());
+        const QRectF rule = view.rect(Element::Rule);
+        EXPECT_NEAR(rule.top() * ratio, std::round(rule.top() * ratio), 1e-6);
+        EXPECT_NEAR(rule.height() * ratio, std::round(rule.height() * ratio), 1e-6);
+        const QImage image = drawn(view, 20);
+        const QPoint middle = (rule.center() * ratio).toPoint();
+        int rows = 0;
+        for (int y = middle.y() - 4; y <= middle.y() + 4; ++y) {
+            rows += qGreen(image.pixel(middle.x(), y)) > 8 ? 1 : 0;
+        }
+        EXPECT_EQ(rows, static_cast<int>(std::floor(ratio))) << ratio;
+    }
+}
+
+TEST(QuoteView, SurvivesAbsurdStates) {
+    for (const double sizeScale : {0.0, -4.0, 1e9, 1e-12, std::nan(""), double(INFINITY)}) {
+        for (const QSizeF size : {QSizeF(1024, 600), QSizeF(40, 30), QSizeF(1, 1)}) {
+            for (const char* animation : {"fade", "handwrite", "typewriter"}) {
+                QuoteViewState state = plainState(size);
+                state.settings.sizeScale = sizeScale;
+                state.settings.textAnimRaw = animation;
+                state.sideInset = 320;
+                state.quote = {"Be here", ""};
+                const QuoteView view(state, bundledFonts());
+                EXPECT_FALSE(drawn(view, 3).isNull());
+            }
+        }
+    }
+    QuoteViewState state = plainState();
+    state.quote = {"", ""};
+    EXPECT_EQ(QuoteView(state, bundledFonts()).lineCount(), 0);
+    EXPECT_FALSE(drawn(QuoteView(state, bundledFonts()), 3).isNull());
+}

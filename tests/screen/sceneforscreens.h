@@ -1,0 +1,31 @@
+#pragma once
+
+#include "screen/quoteview.h"
+#include "textanim/fonts.h"
+
+namespace morrowleaf {
+
+inline const FontBook& bundledFonts() {
+    static const FontBook book = [] {
+        FontBook fonts;
+        fonts.registerBundledFonts(QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Fonts"));
+        return fonts;
+    }();
+    return book;
+}
+
+// "Midnight" in Fraunces on a Friday morning, on a screen of this size.
+inline QuoteViewState plainState(QSizeF size = {1512, 982}) {
+    QuoteViewState state;
+    state.settings.fontName = QStringLiteral("fraunces");
+    state.settings.paletteIndex = 0;
+    state.palette = Palette::all()[0];
+    state.mainScreen = size;
+    state.size = size;
+    const QDateTime morning(QDate(2025, 11, 14), QTime(9, 30), Qt::UTC);
+    state.moment = {static_cast<double>(morning.toSecsSinceEpoch()), QTimeZone::utc()};
+    state.locale = QLocale(QStringLiteral("en_US"));
+    return state;
+}
+
+} // namespace morrowleaf

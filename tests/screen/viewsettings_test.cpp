@@ -1,0 +1,107 @@
+#include "screen/viewsettings.h"
+
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/greeting.h"
+
+#include <QJsonArray>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace morrowleaf;
+
+namespace {
+
+Moment at(int hour, int minute, const QDate& date = {2025, 11, 14}) {
+    const QDateTime time(date, QTime(hour, minute), Qt::UTC);
+    return {static_cast<double>(time.toSecsSinceEpoch()), QTimeZone::utc()};
+}
+
+} // namespace
+
+TEST(ViewSettings, HasItsOwnFallbacksWithoutRegisteredDefaults) {
+    const SettingsStore store;
+    EXPECT_EQ(readViewSettings(store), ViewSettings());
+    EXPECT_EQ(readViewSettings(store).fontName, "serif");
+    EXPECT_EQ(readViewSettings(store).paletteIndex, -1);
+}
+
+TEST(ViewSettings, ShowsTheRegisteredDefaults) {
+    SettingsStore store;
+    registerAppDefaults(store);
+    ViewSettings expected;
+    expected.fontName = "fraunces";
+    EXPECT_EQ(readViewSettings(store), expected);
+}
+
+TEST(ViewSettings, TakesWhatIsStored) {
+    SettingsStore store;
+    store.set(K::palette, 7);
+    store.set(K::textScale, "1.5");
+    store.set(K::textAnim, "Handwrite");
+    store.set(K::grain, false);
+    store.set(K::transparency, 0.3);
+    store.set(K::font, 12); // no text
+    const ViewSettings settings = readViewSettings(store);
+    EXPECT_EQ(settings.paletteIndex, 7);
+    EXPECT_EQ(settings.sizeScale, 1.5);
+    EXPECT_EQ(settings.textAnimRaw, "Handwrite");
+    EXPECT_FALSE(settings.grainOn);
+    EXPECT_EQ(settings.transparency, 0.3);
+    EXPECT_EQ(settings.fontName, "serif");
+    store.set(K::palette, QJsonArray{1});
+    EXPECT_EQ(readViewSettings(store).paletteIndex, 0); // stored, though no number
+}
+
+TEST(ViewSettings, ToleratesAnySizeScale) {
+    EXPECT_EQ(usableSizeScale(1.37), 1.37);
+    EXPECT_EQ(usableSizeScale(0), 1);
+    EXPECT_EQ(usableSizeScale(-3), 1);
+    EXPECT_EQ(usableSizeScale(std::nan("")), 1);
+    EXPECT_EQ(usableSizeScale(INFINITY), 1);
+    EXPECT_EQ(usableSizeScale(1e9), 16);
+    EXPECT_EQ(usableSizeScale(1e-9), 0.1);
+}
+
+TEST(ViewPalette, IsThePhotosWhileOneIsReadable) {
+    ViewSettings settings;
+    settings.paletteIndex = 7;
+    EXPECT_EQ(viewPalette(settings, true, at(9, 0)).name, "Photo");
+    EXPECT_EQ(viewPalette(settings, false, at(9, 0)).name, "Paper");
+    settings.paletteIndex = 9;
+    EXPECT_EQ(viewPalette(settings, false, at(9, 0)).name, Palette::ofTheDay(at(9, 0)).name);
+}
+
+TEST(Greeting, FollowsTheHour) {
+    EXPECT_EQ(greeting(at(4, 59)), "Still awake");
+    EXPECT_EQ(greeting(at(5, 0)), "Good morning");
+    EXPECT_EQ(greeting(at(11, 59)), "Good morning");
+    EXPECT_EQ(greeting(at(12, 0)), "Good afternoon");
+    EXPECT_EQ(greeting(at(16, 59)), "Good afternoon");
+    EXPECT_EQ(greeting(at(17, 0)), "Good evening");
+    EXPECT_EQ(greeting(at(21, 59)), "Good evening");
+    EXPECT_EQ(greeting(at(22, 0)), "Still awake");
+    EXPECT_EQ(greeting(at(0, 0)), "Still awake");
+}
+
+TEST(Greeting, TakesTheLocalHour) {
+    Moment moment = at(23, 30);
+    moment.zone = QTimeZone("Asia/Tokyo");
+    EXPECT_EQ(greeting(moment), "Good morning");
+    EXPECT_EQ(today(moment, QLocale("en_US")), "SATURDAY, 15 NOVEMBER");
+}
+
+TEST(Today, SpeaksTheLocale) {
+    EXPECT_EQ(today(at(9, 0), QLocale("en_US")), "FRIDAY, 14 NOVEMBER");
+    EXPECT_EQ(today(at(9, 0, {2025, 11, 4}), QLocale::c()), "TUESDAY, 4 NOVEMBER");
+    EXPECT_EQ(today(at(9, 0), QLocale("de_DE")), "FREITAG, 14 NOVEMBER");
+    // The upper case is the locale's own too.
+    EXPECT_EQ(today(at(9, 0, {2025, 6, 2}), QLocale("tr_TR")),
+              QString::fromUtf8("PAZARTESİ, 2 HAZİRAN"));
+}
+
+TEST(Hint, TellsHowToEnd) {
+    EXPECT_EQ(hintText(0), "press any key");
+    EXPECT_EQ(hintText(320), "esc to finish");
+}
