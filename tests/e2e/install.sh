@@ -1,0 +1,45 @@
+#!/bin/bash
+# What is installed: valid, whole, and at home in any folder.
+#   install.sh BUILD-FOLDER
+here=$(dirname "$0")
+. "$here/lib.sh"
+id=org.morrowleaf.Morrowleaf
+
+DESTDIR=$work/root cmake --install "$1" --prefix /usr >"$work/install.log" 2>&1
+check "it installs" test -x "$work/root/usr/bin/morrowleaf"
+share=$work/root/usr/share
+check "the desktop file is valid" desktop-file-validate "$share/applications/$id.desktop"
+check "the metainfo is valid" appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
+for file in icons/hicolor/scalable/apps/$id.svg icons/hicolor/symbolic/apps/$id-symbolic.svg \
+    dbus-1/services/$id.service man/man1/morrowleaf.1.gz morrowleaf/Fonts/Fraunces72pt-Light.ttf \
+    morrowleaf/Backgrounds/sea.jpg morrowleaf/icons/quote-sym-22.svg; do
+    check "$file is there" test -f "$share/$file"
+done
+check "the bus starts the installed program" \
+    grep -qx 'Exec=/.*/bin/morrowleaf' "$share/dbus-1/services/$id.service"
+
+mv "$work/root/usr" "$work/elsewhere"
+cd /
+self_test() { [ "$("$work/elsewhere/bin/morrowleaf" --selftest)" = \
+    "selftest ok — 124 quotes, connector parsing ok" ]; }
+check "it runs from any place, without a display" self_test
+opened() { strace -f -e trace=openat -o "$work/trace.log" "$work/elsewhere/bin/morrowleaf" --selftest; }
+if command -v strace >/dev/null; then
+    opened >/dev/null
+    check "with its own typefaces" grep -q "elsewhere/.*Fraunces72pt-Light.ttf" "$work/trace.log"
+fi
+
+registered() { XDG_CONFIG_HOME=$1 "$work/elsewhere/bin/morrowleaf" --register-login; }
+check "the login item is enabled" [ "$(registered "$work/config")" = "login item: enabled" ]
+check "and starts this program" \
+    grep -qx "Exec=\"$work/elsewhere/bin/morrowleaf\"" "$work/config/autostart/$id.desktop"
+touch "$work/blocked"
+check "a failure is told in the system's words" \
+    [ "$(registered "$work/blocked")" = "login item failed: Not a directory" ]
+
+if command -v lintian >/dev/null; then
+    cpack --config "$1/CPackConfig.cmake" -B "$work/package" >"$work/cpack.log" 2>&1
+    check "the Debian package is built" ls "$work"/package/*.deb
+    check "without errors" lintian --allow-root --fail-on error "$work"/package/*.deb
+fi
+finish
