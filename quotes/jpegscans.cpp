@@ -79,7 +79,7 @@ bool scan(QIODevice& device) {
             quint8 inScan = 0;
             return !readByte(device, inScan) || components == 0 || inScan < components;
         }
-        if (!device.seek(end)) {
+        if (end > device.size() || !device.seek(end)) {
             return true;
         }
     }

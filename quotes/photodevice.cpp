@@ -23,6 +23,7 @@ qint64 PhotoDevice::readData(char* data, qint64 maxSize) {
     }
     const qint64 read = file_.read(data, qMin(maxSize, bytesLeft_));
     bytesLeft_ -= qMax<qint64>(read, 0);
+    exhausted_ = bytesLeft_ <= 0;
     return read;
 }
 

@@ -1,0 +1,96 @@
+// Time and peak memory of showing a 48-megapixel JPEG at 1920 x 1080.
+
+#include "quotes/photo.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <cmath>
+#include <malloc.h>
+
+using namespace morrowleaf;
+
+namespace {
+
+constexpr QSize photoSize(8000, 6000);
+constexpr QSize shownSize(1920, 1080);
+
+qint64 statusKilobytes(const QByteArray& name) {
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith(name + ':')) {
+                return line.mid(name.size() + 1).simplified().split(' ').value(0).toLongLong();
+            }
+        }
+    }
+    return 0;
+}
+
+void forgetPeak() {
+    malloc_trim(0);
+    QFile refs(QStringLiteral("/proc/self/clear_refs"));
+    if (refs.open(QIODevice::WriteOnly)) {
+        refs.write("5");
+    }
+}
+
+const QString& largePhoto() {
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        const QString file = folder.filePath(QStringLiteral("large.jpg"));
+        QImage image(photoSize, QImage::Format_RGB888);
+        for (int y = 0; y < image.height(); ++y) {
+            uchar* row = image.scanLine(y);
+            for (int x = 0; x < image.width(); ++x) {
+                row[3 * x] = uchar(x ^ (y * 3));
+                row[3 * x + 1] = uchar(128 + 100 * std::sin(x * 0.01));
+                row[3 * x + 2] = uchar((x * y) >> 12);
+            }
+        }
+        image.save(file, "jpg", 85);
+        return file;
+    }();
+    return path;
+}
+
+void decodeLargePhoto(benchmark::State& state) {
+    const Photo photo{largePhoto(), photoSize};
+    forgetPeak();
+    const qint64 before = statusKilobytes("VmRSS");
+    for ([[maybe_unused]] auto _ : state) {
+        const QImage image = photo.decodeFilling(shownSize);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.counters["peak_MiB_above_idle"] = double(statusKilobytes("VmHWM") - before) / 1024;
+}
+
+void decodeTile(benchmark::State& state) {
+    const Photo photo{largePhoto(), photoSize};
+    for ([[maybe_unused]] auto _ : state) {
+        const QImage image = photo.decodeFilling({88, 38});
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+
+void readHeader(benchmark::State& state) {
+    for ([[maybe_unused]] auto _ : state) {
+        benchmark::DoNotOptimize(inspectPhoto(largePhoto()));
+    }
+}
+
+BENCHMARK(decodeLargePhoto)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeTile)->Unit(benchmark::kMillisecond);
+BENCHMARK(readHeader)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
