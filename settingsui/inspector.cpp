@@ -65,6 +65,8 @@ Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<vo
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setWidgetResizable(true);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Its room stays where there is nothing to scroll, so that no edge moves.
+    scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     scroll_->setVerticalScrollBar(new PanelScrollBar(scroll_));
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidget(makeGroups());

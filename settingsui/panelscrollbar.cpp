@@ -25,6 +25,9 @@ QRectF PanelScrollBar::thumb() const {
 }
 
 void PanelScrollBar::paintEvent(QPaintEvent* /*event*/) {
+    if (maximum() <= minimum()) {
+        return;
+    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
