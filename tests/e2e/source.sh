@@ -1,0 +1,68 @@
+#!/bin/bash
+# A quotation from a source: the scheduled one stands first, the loaded one
+# replaces it, and once the server is gone the cached one is shown.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+start_x 1280x800
+start_manager openbox
+start_compositor
+start_session_bus
+start server "$here/patientserver.py" "$work/port" "$work/release"
+server=$last
+until_true 10 test -s "$work/port" || die "no server"
+address=http://127.0.0.1:$(cat "$work/port")/quote
+
+# Nothing moves once the entrance is over, so pictures can be compared.
+look='"dismissSeconds": 60, "screenAnimation": "still", "paletteIndex": 4'
+store=$XDG_CONFIG_HOME/morrowleaf/settings.json
+
+launch() {
+    local n
+    n=$(maps)
+    start app "$MORROWLEAF"
+    app=$last
+    until_true 10 opened_since "$n" || die "no showing"
+}
+leave() {
+    kill -TERM "$app"
+    wait "$app"
+    check "it ends with status 0" test $? -eq 0
+}
+differing() {
+    local n
+    n=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
+    printf '%.0f' "$n"
+}
+same() { [ "$(differing "$1" "$2")" -eq 0 ]; }
+cached() { grep -q '"cachedQuoteText": *"The lamp that is lit' "$store"; }
+
+settings "{$look}"
+launch
+sleep 4.3
+shot scheduled
+leave
+
+settings "{$look, \"quoteSourceURL\": \"$address\"}"
+launch
+sleep 4.3
+shot waiting
+check "while the source is silent the scheduled quotation stands" same scheduled waiting
+check "the source was asked once" test "$(grep -c 'asked for /quote' "$work/server.log")" -eq 1
+check "for JSON" grep -q 'accepting application/json$' "$work/server.log"
+touch "$work/release"
+must "the loaded quotation is cached" cached
+check "with its author" grep -q '"cachedQuoteAuthor": *"A Neighbour"' "$store"
+sleep 2.5
+shot loaded
+check "and shown" not same scheduled loaded
+leave
+
+kill "$server"
+launch
+sleep 4.3
+shot offline
+check "without the server the cached quotation stands" same loaded offline
+leave
+finish
