@@ -1,5 +1,6 @@
 #include "quotes/webload.h"
 
+#include "quotes/floodguard.h"
 #include "quotes/hostlookup.h"
 #include "quotes/systemproxies.h"
 
@@ -8,28 +9,44 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <utility>
+
 namespace morrowleaf {
 
 namespace {
 
+bool isSecure(const QUrl& url) {
+    return url.scheme() == QLatin1StringView("https");
+}
+
+bool isWeb(const QUrl& url) {
+    return isSecure(url) || url.scheme() == QLatin1StringView("http");
+}
+
 constexpr int redirectLimit = 20;
 constexpr qint64 readBuffer = 64 * 1024;
+
+// No honest answer takes as much on the wire: while loading, and at its end.
+constexpr std::uint64_t floodBytes = std::uint64_t{8} << 20U;
+constexpr std::uint64_t remainderBytes = std::uint64_t{1} << 20U;
+constexpr auto guardPause = std::chrono::milliseconds(100);
 
 QNetworkRequest requestFor(const QUrl& url) {
     QNetworkRequest request(url);
     request.setRawHeader("Accept", "application/json");
-    // Followed after a look at each (see WebLoad::redirected).
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
+                         QNetworkRequest::NoLessSafeRedirectPolicy);
     request.setMaximumRedirectsAllowed(redirectLimit);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     return request;
-}
-
-bool isWeb(const QUrl& url) {
-    return url.scheme() == QLatin1StringView("http") || url.scheme() == QLatin1StringView("https");
 }
 
 // Every status counts as an answer, though the network layer calls some of
@@ -57,10 +74,18 @@ bool isAnswer(const QNetworkReply& reply) {
     }
 }
 
+// An error status hides from us that its body broke off.
+bool isComplete(const QNetworkReply& reply, qsizetype received) {
+    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
+    return reply.error() == QNetworkReply::NoError || !announced.isValid() ||
+           reply.hasRawHeader("Content-Encoding") || received >= announced.toLongLong();
+}
+
 class WebLoad : public QObject {
 public:
     WebLoad(const QUrl& url, qsizetype limit)
-        : limit_(limit) {
+        : at_(url)
+        , limit_(limit) {
         manager_.setProxyFactory(systemProxies().release());
         reply_.reset(manager_.get(requestFor(url)));
         reply_->setReadBufferSize(readBuffer);
@@ -71,6 +96,9 @@ public:
 
     std::optional<QByteArray> run() {
         loop_.exec();
+        // The network layer reads on in its own thread as long as a header
+        // keeps coming, whether or not anybody waits for it.
+        flood_.end(remainderBytes);
         return std::move(body_);
     }
 
@@ -87,32 +115,48 @@ private:
 
     void finish() {
         take();
-        if (received_.size() <= limit_ && isAnswer(*reply_)) {
+        if (received_.size() <= limit_ && isAnswer(*reply_) &&
+            isComplete(*reply_, received_.size())) {
             body_ = std::move(received_);
         }
         loop_.quit();
     }
 
+    void watch(const std::stop_token& stop) const {
+        std::mutex mutex;
+        std::unique_lock lock(mutex);
+        std::condition_variable_any ended;
+        while (!stop.stop_requested()) {
+            ended.wait_for(lock, stop, guardPause, [] { return false; });
+            flood_.end(floodBytes);
+        }
+    }
+
+    // The next request goes out once this has returned.
     void redirected(const QUrl& next) {
-        const bool downgrade = isSecure(reply_->url()) && !isSecure(next);
-        if (isWeb(next) && !downgrade && canBeReached(next)) {
-            emit reply_->redirectAllowed();
-        } else {
+        const QUrl from = std::exchange(at_, next);
+        if (!mayRedirect(from, next) || !canBeReached(next)) {
             loop_.quit();
         }
     }
 
-    static bool isSecure(const QUrl& url) { return url.scheme() == QLatin1StringView("https"); }
-
+    QUrl at_;
     qsizetype limit_;
     QByteArray received_;
     std::optional<QByteArray> body_;
     QEventLoop loop_;
+    FloodGuard flood_;
     QNetworkAccessManager manager_;
     std::unique_ptr<QNetworkReply> reply_;
+    // A flood keeps this thread too busy for a timer of its own.
+    std::jthread watch_{[this](const std::stop_token& stop) { watch(stop); }};
 };
 
 } // namespace
+
+bool mayRedirect(const QUrl& from, const QUrl& to) {
+    return isWeb(to) && (!isSecure(from) || isSecure(to));
+}
 
 std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit) {
     if (isWeb(url) && !canBeReached(url)) {

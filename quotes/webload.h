@@ -12,4 +12,8 @@ namespace morrowleaf {
 // bytes. Blocks; to be called in a QThread of its own, whose quit() ends it.
 std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit);
 
+// Whether an answer from `from` may send the load on to `to`: to the web only,
+// and never from https down to http.
+bool mayRedirect(const QUrl& from, const QUrl& to);
+
 } // namespace morrowleaf

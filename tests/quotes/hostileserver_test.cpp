@@ -1,0 +1,230 @@
+// Loads from a server that means harm, each load in a process of its own so
+// that its time, memory and main thread can be watched; several at once, for
+// most of them last until the deadline.
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+namespace {
+
+const char* const nothing = nullptr;
+const char* const anything = "*";
+
+struct Case {
+    const char* place; // a path, or an address with the ports' places in it
+    const char* text;  // what is shown of it
+    int count = 1;     // loads at once
+};
+
+constexpr std::array cases{
+    Case{"ok", "A"},
+    Case{"ok", "A", 2},
+    Case{"silent", nothing},
+    Case{"silent", nothing, 2},
+    Case{"drip-header", nothing},
+    Case{"drip-body", nothing},
+    Case{"drip-endless", nothing},
+    Case{"slow-but-in-time", "A"},
+    Case{"endless", nothing},
+    Case{"endless-chunked", nothing},
+    Case{"endless-tiny-chunks", nothing},
+    Case{"terabyte-announced", nothing},
+    Case{"at-the-cap", "A"},
+    Case{"over-the-cap", nothing},
+    Case{"gzip-over-the-cap", nothing},
+    Case{"hungry-json", nothing},
+    Case{"deep-json", nothing},
+    Case{"endless-header", nothing},
+    Case{"endless-headers", nothing},
+    Case{"endless-status", nothing},
+    Case{"endless-continue", nothing},
+    Case{"endless-chunk-extension", nothing},
+    Case{"reset-at-once", nothing},
+    Case{"reset-in-body", nothing},
+    Case{"close-at-once", nothing},
+    Case{"too-short", nothing},
+    Case{"error-too-short", nothing},
+    Case{"too-long", "A"},
+    Case{"no-length", "A"},
+    Case{"gzipped", "A"},
+    Case{"deflated", "A"},
+    Case{"gzip-bomb", nothing},
+    Case{"deflate-bomb", nothing},
+    Case{"gzip-endless", nothing},
+    Case{"gzip-empty-members", nothing},
+    Case{"gzip-garbage", nothing},
+    Case{"gzip-cut", nothing},
+    Case{"redirect/19", "A"},
+    Case{"redirect/20", "A"},
+    Case{"redirect/21", nothing},
+    Case{"redirect-loop", nothing},
+    Case{"redirect-to-file", nothing},
+    Case{"redirect-to-data", nothing},
+    Case{"redirect-to-ftp", nothing},
+    Case{"redirect-nowhere", nothing},
+    Case{"redirect-flood", nothing},
+    Case{"no-content", nothing},
+    Case{"not-modified", nothing},
+    Case{"status-401", "A"},
+    Case{"status-404", "A"},
+    Case{"status-407", "A"},
+    Case{"status-418", "A"},
+    Case{"status-500", "A"},
+    Case{"status-599", "A"},
+    Case{"asks-for-password", "A"},
+    Case{"html", nothing},
+    Case{"wrong-type", "A"},
+    Case{"chunked", "A"},
+    Case{"chunked-garbage", nothing},
+    Case{"chunked-cut", anything}, // whether that is an error depends on how it arrives
+    Case{"not-http", nothing},
+    Case{"binary-noise", nothing},
+    Case{"https://127.0.0.1:IPV4/ok", nothing},
+    Case{"http://[::1]:IPV6/ok", "A"},
+    Case{"http://127.0.0.1:FULL/", nothing},
+    Case{"http://127.0.0.1:1/", nothing},
+    Case{"http://nothing.invalid/", nothing},
+};
+
+class HostileServer : public testing::Test {
+protected:
+    void SetUp() override {
+        server.start("python3", {"-B", MORROWLEAF_SOURCE_DIR "/tests/fakes/hostileserver.py"});
+        while (!server.canReadLine() && server.waitForReadyRead(20000)) {
+        }
+        ports = server.readLine().simplified().split(' ');
+        ASSERT_EQ(ports.size(), 3);
+        // A proxy of the machine has no business with the loopback address.
+        qputenv("no_proxy", "127.0.0.1,::1,nothing.invalid");
+    }
+    void TearDown() override {
+        server.closeWriteChannel();
+        EXPECT_TRUE(server.waitForFinished(10000));
+    }
+
+    QString address(const char* place) const {
+        QString text = QString::fromUtf8(place);
+        if (!text.startsWith("http")) {
+            text.prepend("http://127.0.0.1:IPV4/");
+        }
+        return text.replace("IPV4", ports[0]).replace("IPV6", ports[1]).replace("FULL", ports[2]);
+    }
+
+    void start(const Case& one, std::function<void(const QJsonObject&)> done) const {
+        auto* probe = new QProcess(QCoreApplication::instance());
+        QObject::connect(probe, &QProcess::finished, probe, [probe, done = std::move(done)] {
+            QJsonObject report = QJsonDocument::fromJson(probe->readAllStandardOutput()).object();
+            report["crashed"] =
+                probe->exitStatus() != QProcess::NormalExit || probe->exitCode() != 0;
+            report["errors"] = QString::fromUtf8(probe->readAllStandardError());
+            probe->deleteLater();
+            done(report);
+        });
+        probe->start(LOADPROBE, {address("ok"), address(one.place), QString::number(one.count)});
+    }
+
+    QProcess server;
+    QByteArrayList ports;
+};
+
+void check(const Case& one, const QJsonObject& report) {
+    SCOPED_TRACE(std::string(one.place) + ' ' +
+                 QJsonDocument(report).toJson(QJsonDocument::Compact).left(300).toStdString());
+    EXPECT_FALSE(report["crashed"].toBool());
+    if (one.text != anything) {
+        EXPECT_EQ(report["text"].toString(), QString::fromUtf8(one.text));
+    }
+    EXPECT_LE(report["milliseconds"].toInt(99999), 6500);
+    EXPECT_LE(report["partingMilliseconds"].toInt(99999), 1000);
+#if !defined(__SANITIZE_ADDRESS__)
+    EXPECT_LE(report["memoryKiB"].toInt(99999), 32 * 1024);
+#endif
+}
+
+bool stalls(const QJsonObject& report) {
+    return report["gap"].toInt(99999) > report["quietGap"].toInt() + 50;
+}
+
+TEST_F(HostileServer, CannotHangCrashBloatOrStallTheProgram) {
+    QEventLoop loop;
+    std::size_t next = 0;
+    int running = 0;
+    std::vector<std::size_t> stalled;
+    const std::function<void()> fill = [&] {
+        while (running < 6 && next < cases.size()) {
+            const std::size_t index = next++;
+            ++running;
+            start(cases[index], [&, index](const QJsonObject& report) {
+                check(cases[index], report);
+                if (stalls(report)) {
+                    stalled.push_back(index);
+                }
+                --running;
+                fill();
+            });
+        }
+        if (running == 0) {
+            loop.quit();
+        }
+    };
+    QTimer::singleShot(0, &loop, fill);
+    loop.exec();
+    // A busy machine stalls a thread now and then; three times in a row it is us.
+    for (const std::size_t index : stalled) {
+        bool again = true;
+        for (int attempt = 0; attempt < 2 && again; ++attempt) {
+            start(cases[index], [&](const QJsonObject& report) {
+                again = stalls(report);
+                loop.quit();
+            });
+            loop.exec();
+        }
+        EXPECT_FALSE(again) << cases[index].place;
+    }
+}
+
+TEST_F(HostileServer, SeesOnlyOneHeaderOfOurs) {
+    QEventLoop loop;
+    QString text;
+    start({"echo", nothing}, [&](const QJsonObject& report) {
+        text = report["text"].toString();
+        loop.quit();
+    });
+    loop.exec();
+    QStringList names;
+    for (const QString& line : text.split('\n')) {
+        if (line.contains(':')) {
+            names << line.section(':', 0, 0);
+        }
+    }
+    // All but "Accept" are the network layer's own.
+    EXPECT_EQ(names, QStringList({"Accept-Encoding", "Accept-Language", "Accept", "Connection",
+                                  "Host", "User-Agent"}));
+    EXPECT_TRUE(text.contains("Accept: application/json\n")) << text.toStdString();
+}
+
+TEST_F(HostileServer, GetsNoCookieBack) {
+    QEventLoop loop;
+    QString text;
+    start({"sets-cookie", nothing}, [&](const QJsonObject& report) {
+        text = report["text"].toString();
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_TRUE(text.contains("Accept:")) << text.toStdString();
+    EXPECT_FALSE(text.contains("Cookie")) << text.toStdString();
+}
+
+} // namespace

@@ -1,0 +1,110 @@
+#include "quotes/quotebox.h"
+#include "quotes/schedule.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace morrowleaf;
+
+namespace {
+
+class QuoteBoxTest : public testing::Test {
+protected:
+    std::unique_ptr<QuoteBox> box() {
+        return std::make_unique<QuoteBox>(
+            store,
+            [this](const QString& source, std::function<void(std::optional<Quote>)> done) {
+                sources.append(source);
+                answer = std::move(done);
+            },
+            [this] { return moment; }, [](qsizetype) { return qsizetype{0}; });
+    }
+    void set(QLatin1StringView key, const char* text) { store.set(key, QString::fromUtf8(text)); }
+    std::string cache() const {
+        return (store.text(K::cachedText).value_or("-") + u'|' +
+                store.text(K::cachedAuthor).value_or("-"))
+            .toStdString();
+    }
+
+    SettingsStore store;
+    Moment moment{1.7e9, QTimeZone::utc()};
+    QStringList sources;
+    std::function<void(std::optional<Quote>)> answer;
+};
+
+TEST_F(QuoteBoxTest, WithoutASourceShowsTheScheduleAndLoadsNothing) {
+    set(K::cachedText, "C");
+    EXPECT_EQ(box()->quote().text, quoteOfTheDay(moment).text);
+    EXPECT_TRUE(sources.isEmpty());
+}
+
+TEST_F(QuoteBoxTest, TheCacheStandsFirstWhereASourceIsSet) {
+    set(K::source, "  ");
+    EXPECT_EQ(box()->quote().text, quoteOfTheDay(moment).text);
+    set(K::cachedText, "");
+    EXPECT_EQ(box()->quote().text, quoteOfTheDay(moment).text);
+    set(K::cachedText, " ");
+    EXPECT_EQ(box()->quote().text, " ");
+    EXPECT_EQ(box()->quote().author, "Unknown");
+    set(K::cachedAuthor, "");
+    EXPECT_EQ(box()->quote().author, "");
+    EXPECT_EQ(sources, QStringList(5, "  "));
+}
+
+TEST_F(QuoteBoxTest, AnAnswerIsAnnouncedAndThenCached) {
+    set(K::source, "/x");
+    const auto holder = box();
+    QStringList events;
+    QObject::connect(holder.get(), &QuoteBox::quoteWillChange, [&](const Quote& next) {
+        events << "will " + next.text << (holder->quote().text == next.text ? "late" : "old");
+    });
+    QObject::connect(holder.get(), &QuoteBox::quoteChanged,
+                     [&] { events << "now " + holder->quote().text; });
+    QObject::connect(&store, &SettingsStore::changed, [&](const QString& key) { events << key; });
+    answer(Quote{"A", "B"});
+    EXPECT_EQ(events,
+              QStringList({"will A", "old", "now A", "cachedQuoteText", "cachedQuoteAuthor"}));
+    EXPECT_EQ(cache(), "A|B");
+    EXPECT_EQ(sources, QStringList{"/x"});
+}
+
+TEST_F(QuoteBoxTest, AFailureChangesNothing) {
+    set(K::source, "/x");
+    set(K::cachedText, "C");
+    const auto holder = box();
+    QObject::connect(holder.get(), &QuoteBox::quoteWillChange, [] { FAIL(); });
+    answer(std::nullopt);
+    EXPECT_EQ(holder->quote().text, "C");
+    EXPECT_EQ(cache(), "C|-");
+}
+
+TEST_F(QuoteBoxTest, AnAnswerAfterTheEndStillWritesTheCache) {
+    set(K::source, "/x");
+    box().reset();
+    answer(Quote{"A", ""});
+    EXPECT_EQ(cache(), "A|");
+}
+
+TEST_F(QuoteBoxTest, AnObserverMayEndTheHolder) {
+    set(K::source, "/x");
+    auto holder = box();
+    QObject::connect(holder.get(), &QuoteBox::quoteChanged, [&] { holder.reset(); });
+    answer(Quote{"A", "B"});
+    EXPECT_EQ(cache(), "A|B");
+}
+
+TEST_F(QuoteBoxTest, TheLastOfTwoLoadsWins) {
+    set(K::source, "/x");
+    const auto one = box();
+    const auto late = answer;
+    const auto two = box();
+    answer(Quote{"2", "2"});
+    late(Quote{"1", "1"});
+    EXPECT_EQ(cache(), "1|1");
+    EXPECT_EQ(two->quote().text, "2");
+}
+
+} // namespace
