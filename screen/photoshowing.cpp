@@ -25,6 +25,7 @@ void PhotoShowing::want(const QString& path, QSize pixels) {
         path_.clear();
         size_ = {};
         pixels_ = {};
+        replaced_ = {};
         request_.reset();
         return;
     }
@@ -68,6 +69,7 @@ void PhotoShowing::arrived(const Request& request, const QImage& image) {
         path_.clear();
         size_ = {};
     }
+    replaced_ = image.isNull() ? QImage() : pixels_;
     pixels_ = image;
     request_.reset();
     emit changed();

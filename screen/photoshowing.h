@@ -30,6 +30,9 @@ public:
     // Null until the pixels are there. A photo that takes another's place
     // lets the old one stand until then.
     const QImage& pixels() const { return pixels_; }
+    // The pixels whose place these took, until they are let go.
+    const QImage& replaced() const { return replaced_; }
+    void dropReplaced() { replaced_ = {}; }
 
 signals:
     // The pixels have come, or the photo has turned out to be unreadable.
@@ -47,6 +50,7 @@ private:
     QString path_;
     QSize size_;
     QImage pixels_;
+    QImage replaced_;
     std::shared_ptr<Request> request_;
 };
 

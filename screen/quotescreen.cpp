@@ -17,6 +17,27 @@
 
 namespace morrowleaf {
 
+namespace {
+
+// At a fractional ratio the edges of a repaint must not cut through a pixel:
+// every ratio in steps of 5 percent has whole ones every 20 points.
+QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
+    if (devicePixelRatio == std::floor(devicePixelRatio)) {
+        return region;
+    }
+    constexpr int step = 20;
+    QRegion wider;
+    for (const QRect& rect : region) {
+        const int left = rect.left() / step * step;
+        const int top = rect.top() / step * step;
+        wider += QRect(QPoint(left, top), QPoint((rect.right() / step + 1) * step - 1,
+                                                 (rect.bottom() / step + 1) * step - 1));
+    }
+    return wider;
+}
+
+} // namespace
+
 struct QuoteScreen::Private {
     Private(QuoteScreen& owner, const ScreenSurroundings& surroundings)
         : screen(owner)
@@ -34,6 +55,7 @@ struct QuoteScreen::Private {
     void appear();
     void evaluate();
     void followPhoto();
+    void showPhoto(double progress);
     void advance(double seconds, bool freshBackdrop);
     void tick();
     void schedule();
@@ -129,10 +151,25 @@ bool QuoteScreen::Private::photoFades(double seconds) const {
     return backdrop.hasPhoto && !photo.pixels().isNull() && seconds < photoFadesFrom + photoFade;
 }
 
+// One photo gives way to another without a dark moment between them.
+void QuoteScreen::Private::showPhoto(double progress) {
+    if (progress >= 1) {
+        photo.dropReplaced();
+    }
+    backdrop.photo = photo.pixels();
+    backdrop.photoOpacity = progress;
+    if (!photo.replaced().isNull()) {
+        backdrop.photo = photo.replaced();
+        QPainter painter(&backdrop.photo);
+        painter.setOpacity(progress);
+        painter.drawImage(QPoint(0, 0), photo.pixels());
+        backdrop.photoOpacity = 1;
+    }
+}
+
 void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
     frameSeconds = seconds;
-    backdrop.photo = photo.pixels();
-    backdrop.photoOpacity = std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0);
+    showPhoto(std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0));
     if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
         backdropTickShown = backdropTick(seconds);
         backdropInstant = around.clock().unixSeconds - unixToReference;
@@ -162,7 +199,7 @@ void QuoteScreen::Private::tick() {
     } else {
         const QRegion changed = view->changedBetween(frameSeconds, seconds);
         advance(seconds, false);
-        screen.update(changed);
+        screen.update(onWholePixels(changed, screen.devicePixelRatioF()));
     }
     schedule();
 }

@@ -272,6 +272,39 @@ TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
 
+TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
+    QImage first(1280, 960, QImage::Format_RGB32);
+    first.fill(QColor(200, 40, 40));
+    ASSERT_TRUE(first.save(folder.filePath("first.png")));
+    first.fill(QColor(40, 200, 40));
+    ASSERT_TRUE(first.save(folder.filePath("second.png")));
+    store.set(K::vignette, 0);
+    store.set(K::grain, false);
+    store.set(K::bgImage, folder.filePath("first.png"));
+    const auto screen = shown();
+    // Well above the text.
+    const auto ground = [&] { return screen->grab().toImage().pixelColor(20, 100); };
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        time += 1;
+        return ground().red() > 130;
+    }));
+    settle(*screen);
+
+    const int frames = screen->frames;
+    store.set(K::bgImage, folder.filePath("second.png"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames; }));
+    time += 5; // the decoder took its time
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->awake(); }));
+    EXPECT_GT(ground().red(), 130);
+    time += 0.15;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ground().red() < 110; }));
+    EXPECT_GT(ground().red(), 50);
+    EXPECT_GT(ground().green(), 50);
+    settle(*screen);
+    EXPECT_GT(ground().green(), 130);
+    EXPECT_LT(ground().red(), 40);
+}
+
 TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
     for (int i = 0; i < 8; ++i) {
         store.set(K::bgImage, lake);
@@ -282,6 +315,27 @@ TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
     const auto screen = shown();
     QTest::qWait(300);
     EXPECT_EQ(screen->view()->state().palette.name, "Midnight");
+}
+
+TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
+    store.set(K::screenAnim, "aurora");
+    ScreenSurroundings real = surroundings();
+    const Monotonic steady = steadySeconds();
+    double ahead = 0;
+    real.monotonic = [&] { return steady() + ahead; };
+    CountingScreen screen(real);
+    screen.resize(320, 240);
+    screen.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&screen));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen.view() != nullptr; }));
+    ahead = 100; // the entrance is over
+    QTest::qWait(50);
+    const int before = screen.frames;
+    const double begun = steady();
+    QTest::qWait(1000);
+    const double seconds = steady() - begun;
+    EXPECT_LE(screen.frames - before, 30 * seconds + 1.01);
+    EXPECT_GE(screen.frames - before, 3);
 }
 
 TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {
