@@ -53,12 +53,15 @@ FloodGuard::FloodGuard() {
     forEachSocket([this](int, std::uint64_t identity) { others_.insert(identity); });
 }
 
-void FloodGuard::end(std::uint64_t bytes) const {
-    forEachSocket([this, bytes](int fd, std::uint64_t identity) {
+bool FloodGuard::end(std::uint64_t bytes) const {
+    bool flood = false;
+    forEachSocket([&](int fd, std::uint64_t identity) {
         if (!others_.contains(identity) && bytesReceived(fd) > bytes) {
             ::shutdown(fd, SHUT_RDWR);
+            flood = true;
         }
     });
+    return flood;
 }
 
 } // namespace morrowleaf

@@ -14,8 +14,8 @@ public:
     FloodGuard();
 
     // Shuts every later TCP connection of the process down that has received
-    // more than `bytes`.
-    void end(std::uint64_t bytes) const;
+    // more than `bytes`; whether there was one.
+    bool end(std::uint64_t bytes) const;
 
 private:
     std::set<std::uint64_t> others_;

@@ -33,7 +33,7 @@ constexpr int redirectLimit = 20;
 constexpr qint64 readBuffer = 64 * 1024;
 
 // No honest answer takes as much on the wire: while loading, and at its end.
-constexpr std::uint64_t floodBytes = std::uint64_t{8} << 20U;
+constexpr std::uint64_t floodBytes = std::uint64_t{5} << 20U;
 constexpr std::uint64_t remainderBytes = std::uint64_t{1} << 20U;
 constexpr auto guardPause = std::chrono::milliseconds(100);
 
@@ -122,13 +122,15 @@ private:
         loop_.quit();
     }
 
-    void watch(const std::stop_token& stop) const {
+    void watch(const std::stop_token& stop) {
         std::mutex mutex;
         std::unique_lock lock(mutex);
         std::condition_variable_any ended;
         while (!stop.stop_requested()) {
             ended.wait_for(lock, stop, guardPause, [] { return false; });
-            flood_.end(floodBytes);
+            if (flood_.end(floodBytes)) {
+                loop_.quit();
+            }
         }
     }
 
