@@ -3,6 +3,7 @@
 #include "textanim/fontnames.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QRawFont>
@@ -58,6 +59,17 @@ QFont systemFace(FontDesign design, FontWeight weight) {
     return unhinted(face);
 }
 
+// Held in memory, so that a running program keeps its faces when the files
+// are replaced by a newer version.
+QByteArray wholeFile(const QString& path) {
+    constexpr qint64 largest = 32 << 20;
+    QFile file(path);
+    if (file.size() > largest || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return file.readAll();
+}
+
 // Lets another face draw the characters that this one lacks, ahead of the
 // faces that the system would choose.
 void appendFallback(TextFont& font, const std::optional<TextFont>& fallback) {
@@ -76,9 +88,10 @@ void FontBook::registerBundledFonts(const QString& folder) {
             continue;
         }
         const QString path = file.absoluteFilePath();
-        const auto names = readNameTable(QRawFont(path, 16).fontTable("name"));
-        const int id = QFontDatabase::addApplicationFont(path);
-        if (!names || id < 0) {
+        const QByteArray bytes = wholeFile(path);
+        const auto names = readNameTable(QRawFont(bytes, 16).fontTable("name"));
+        const int id = names ? QFontDatabase::addApplicationFontFromData(bytes) : -1;
+        if (id < 0) {
             continue;
         }
         const QStringList families = QFontDatabase::applicationFontFamilies(id);

@@ -22,8 +22,9 @@ struct Plane {
 
 // Convolves with a Gaussian of standard deviation `sigma` in cells; what
 // leaves the plane is lost, so keep three `sigma` around what matters. Up to
-// 2.5 the kernel itself, beyond that three box means of fractional width with
-// the same variance, whose cost does not grow with `sigma`.
+// 2.5 (5 in a small plane) the kernel itself, beyond that three box means of
+// fractional width with the same variance, whose cost does not grow with
+// `sigma`.
 void gaussianBlur(Plane& plane, double sigma);
 
 } // namespace morrowleaf

@@ -13,7 +13,7 @@ namespace morrowleaf {
 // Glyphs without an outline are left out. The size is in whole points.
 struct GlyphPath {
     QPainterPath path; // fill rule winding
-    QSizeF size;
+    QSizeF size{0, 0};
 };
 
 GlyphPath glyphPath(const QString& text, const TextFont& font);

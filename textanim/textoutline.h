@@ -43,7 +43,7 @@ struct TextOutline {
     std::vector<OutlinePart> parts; // in the order of the text
     std::vector<OutlineGroup> groups;
     bool hasPictures = false;
-    QSizeF size;
+    QSizeF size{0, 0};
     double baseline = 0; // of the first row
     qsizetype characterCount = 0;
     QRectF ink; // what outlines and pictures cover

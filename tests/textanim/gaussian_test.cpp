@@ -1,0 +1,127 @@
+#include "textanim/blurredlayer.h"
+#include "textanim/gaussian.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace morrowleaf;
+
+namespace {
+
+// Plain and in double precision, to compare with.
+std::vector<double> referenceBlur(const std::vector<double>& values, int width, int height,
+                                  double sigma) {
+    const int reach = static_cast<int>(std::ceil(5 * sigma));
+    std::vector<double> kernel;
+    double sum = 0;
+    for (int i = -reach; i <= reach; ++i) {
+        kernel.push_back(std::exp(-i * i / (2 * sigma * sigma)));
+        sum += kernel.back();
+    }
+    const auto pass = [&](const std::vector<double>& from, int dx, int dy) {
+        std::vector<double> to(from.size());
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                double mean = 0;
+                for (int i = -reach; i <= reach; ++i) {
+                    const int fx = x + i * dx;
+                    const int fy = y + i * dy;
+                    if (fx >= 0 && fy >= 0 && fx < width && fy < height) {
+                        mean += kernel[static_cast<std::size_t>(i + reach)] / sum *
+                                from[static_cast<std::size_t>(fy * width + fx)];
+                    }
+                }
+                to[static_cast<std::size_t>(y * width + x)] = mean;
+            }
+        }
+        return to;
+    };
+    return pass(pass(values, 1, 0), 0, 1);
+}
+
+QImage someLetters() {
+    QImage picture(160, 48, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::black);
+    painter.drawEllipse(QRectF(4, 6, 30, 36));
+    for (int x = 48; x < 150; x += 17) {
+        painter.fillRect(QRectF(x, 4, 5.5, 40), Qt::black);
+    }
+    return picture;
+}
+
+TEST(GaussianBlur, KeepsTheSumAndTheVariance) {
+    for (const double sigma : {0.6, 0.8, 1.7, 2.5, 2.6, 3.3, 4.99, 9.0, 26.0}) {
+        const int size = 2 * static_cast<int>(std::ceil(5 * sigma)) + 5;
+        Plane plane(size, size);
+        plane.row(size / 2)[size / 2] = 1000;
+        gaussianBlur(plane, sigma);
+        double sum = 0;
+        double moment = 0;
+        for (int y = 0; y < size; ++y) {
+            for (int x = 0; x < size; ++x) {
+                sum += plane.row(y)[x];
+                moment += plane.row(y)[x] * std::pow(x - size / 2, 2);
+            }
+        }
+        EXPECT_NEAR(sum, 1000, 2) << sigma;
+        EXPECT_NEAR(std::sqrt(moment / sum), sigma, 0.05 * sigma + 0.12) << sigma;
+    }
+}
+
+TEST(GaussianBlur, NothingHappensWithoutASigmaOrAPlane) {
+    Plane plane(3, 1);
+    plane.values = {1, 2, 3};
+    gaussianBlur(plane, 0);
+    EXPECT_EQ(plane.values, (std::vector<float>{1, 2, 3}));
+    Plane nothing;
+    gaussianBlur(nothing, 4);
+    EXPECT_TRUE(nothing.values.empty());
+}
+
+TEST(BlurredLayer, LooksLikeTheGaussianAtEveryStrength) {
+    const QImage letters = someLetters();
+    for (const double sigma : {0.7, 1.5, 2.4, 3.0, 4.9, 6.0, 9.0, 14.0, 18.0, 26.0, 52.0}) {
+        const int cell = BlurredLayer::cellSize(sigma);
+        const BlurredLayer layer(reduced(letters, cell), {7, -3}, cell, sigma, {Channel::Alpha});
+        const int halo = BlurredLayer::halo(sigma);
+        const QRect rect = QRect({7, -3}, letters.size()).adjusted(-halo, -halo, halo, halo);
+        EXPECT_TRUE(layer.rect().contains(rect));
+
+        std::vector<double> values(static_cast<std::size_t>(rect.width() * rect.height()));
+        for (int y = 0; y < letters.height(); ++y) {
+            for (int x = 0; x < letters.width(); ++x) {
+                values[static_cast<std::size_t>((y + halo) * rect.width() + x + halo)] =
+                    qAlpha(letters.pixel(x, y));
+            }
+        }
+        values = referenceBlur(values, rect.width(), rect.height(), sigma);
+        std::vector<float> row;
+        double worst = 0;
+        double peak = 0;
+        for (int y = 0; y < rect.height(); ++y) {
+            layer.row(0, rect.top() + y, rect.left(), rect.width(), row);
+            for (int x = 0; x < rect.width(); ++x) {
+                const double wanted = values[static_cast<std::size_t>(y * rect.width() + x)];
+                peak = std::max(peak, wanted);
+                worst =
+                    std::max(worst, std::abs(wanted - double{row[static_cast<std::size_t>(x)]}));
+            }
+        }
+        EXPECT_LT(worst, 0.03 * peak + 1) << "sigma " << sigma << ", peak " << peak;
+    }
+}
+
+TEST(BlurredLayer, ResolutionFallsAsTheBlurGrows) {
+    EXPECT_EQ(BlurredLayer::cellSize(1), 1);
+    EXPECT_EQ(BlurredLayer::cellSize(4.9), 1);
+    EXPECT_EQ(BlurredLayer::cellSize(5), 2);
+    EXPECT_EQ(BlurredLayer::cellSize(26), 8);
+    EXPECT_EQ(BlurredLayer::cellSize(52), 16);
+}
+
+} // namespace

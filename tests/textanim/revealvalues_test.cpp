@@ -1,0 +1,107 @@
+#include "textanim/revealvalues.h"
+
+#include "textanim/curves.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace morrowleaf;
+
+namespace {
+
+TEST(RevealValues, FadeAtItsInstants) {
+    const RevealValues before = revealValues(TextAnim::Fade, -1);
+    EXPECT_EQ(before.opacity, 0);
+    EXPECT_EQ(before.blurRadius, 9);
+    EXPECT_EQ(before.offset, 22);
+    const RevealValues half = revealValues(TextAnim::Fade, 0.575);
+    EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
+    EXPECT_NEAR(half.blurRadius, 9 * 0.3154, 1e-3);
+    EXPECT_NEAR(half.offset, 22 * 0.3154, 3e-3);
+    EXPECT_EQ(half.scale, 1);
+    EXPECT_EQ(revealValues(TextAnim::Fade, 1.15), RevealValues{});
+    EXPECT_NE(revealValues(TextAnim::Fade, 1.14), RevealValues{});
+}
+
+TEST(RevealValues, BlurAtItsInstants) {
+    const RevealValues before = revealValues(TextAnim::Blur, 0);
+    EXPECT_EQ(before.opacity, 0);
+    EXPECT_EQ(before.blurRadius, 26);
+    EXPECT_DOUBLE_EQ(before.scale, 1.06);
+    EXPECT_EQ(before.offset, 0);
+    const RevealValues half = revealValues(TextAnim::Blur, 0.7);
+    EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
+    EXPECT_NEAR(half.blurRadius, 26 * 0.3154, 3e-3);
+    EXPECT_NEAR(half.scale, 1 + 0.06 * 0.3154, 1e-4);
+    EXPECT_EQ(revealValues(TextAnim::Blur, 1.4), RevealValues{});
+}
+
+TEST(RevealValues, RiseOvershootsItsPlaceButNotItsOpacity) {
+    const RevealValues before = revealValues(TextAnim::Rise, 0);
+    EXPECT_EQ(before.opacity, 0);
+    EXPECT_EQ(before.offset, 46);
+    double highest = 0;
+    for (double t = 0; t < 3; t += 0.001) {
+        const RevealValues values = revealValues(TextAnim::Rise, t);
+        highest = std::min(highest, values.offset);
+        EXPECT_LE(values.opacity, 1);
+        EXPECT_NEAR(values.offset, 46 * (1 - spring(t, 0.9, 0.72)), 0.03);
+        EXPECT_EQ(values.blurRadius, 0);
+    }
+    EXPECT_NEAR(highest, -1.77, 0.05);
+    EXPECT_EQ(revealValues(TextAnim::Rise, revealDuration(TextAnim::Rise)), RevealValues{});
+    EXPECT_LT(revealDuration(TextAnim::Rise), 2);
+}
+
+TEST(RevealValues, HandwritingTracesThenInks) {
+    const auto at = [](double t) { return revealValues(TextAnim::Handwrite, t); };
+    EXPECT_EQ(at(-0.1).traced, 0);
+    EXPECT_EQ(at(0).ink, 0);
+    EXPECT_NEAR(at(0.625).traced, 0.5, 1e-9);
+    EXPECT_NEAR(at(0.3125).traced, easeInEaseOut(0.25), 1e-9);
+    EXPECT_EQ(at(0.875).ink, 0);
+    EXPECT_NEAR(at(0.875 + 0.5625 / 2).ink, 0.5, 1e-9);
+    EXPECT_EQ(at(1.25).traced, 1);
+    EXPECT_NEAR(at(1.25).ink, 0.375 / 0.5625, 1e-9);
+    EXPECT_EQ(at(1.4375).ink, 1);
+    EXPECT_DOUBLE_EQ(revealDuration(TextAnim::Handwrite), 1.4375);
+    EXPECT_EQ(at(0.5).opacity, 1);
+}
+
+TEST(RevealValues, ANumberThatIsNoneHasNotBegun) {
+    const double nothing = std::numeric_limits<double>::quiet_NaN();
+    for (const TextAnim style :
+         {TextAnim::Fade, TextAnim::Rise, TextAnim::Blur, TextAnim::Handwrite}) {
+        EXPECT_EQ(revealValues(style, nothing), revealValues(style, 0));
+    }
+}
+
+TEST(TypedCharacters, AreTwentySixASecondTruncated) {
+    EXPECT_EQ(typedCharacters(-3, 30), 0);
+    EXPECT_EQ(typedCharacters(0.55 - 0.55, 30), 0);
+    EXPECT_EQ(typedCharacters(0.6 - 0.55, 30), 1);
+    EXPECT_EQ(typedCharacters(1.0 - 0.55, 30), 11);
+    EXPECT_EQ(typedCharacters(1.0 / 26, 30), 1);
+    EXPECT_EQ(typedCharacters(1.153, 30), 29);
+    EXPECT_EQ(typedCharacters(1.154, 30), 30);
+    EXPECT_EQ(typedCharacters(1e9, 30), 30);
+    EXPECT_EQ(typedCharacters(5, 0), 0);
+}
+
+TEST(TypedCharacters, TheLineStandsExactlyAfterItsDuration) {
+    for (qint64 length = 0; length < 300; ++length) {
+        const double end = typingDuration(length);
+        EXPECT_EQ(typedCharacters(end, length), length);
+        EXPECT_NEAR(end, static_cast<double>(length) / 26, 1e-9);
+    }
+}
+
+TEST(TypedCharactersDeathTest, ATimeBeyondCountingIsFatal) {
+    EXPECT_DEATH(typedCharacters(std::numeric_limits<double>::quiet_NaN(), 3), "cannot be typed");
+    EXPECT_DEATH(typedCharacters(std::numeric_limits<double>::infinity(), 3), "cannot be typed");
+    EXPECT_DEATH(typedCharacters(-std::numeric_limits<double>::infinity(), 3), "cannot be typed");
+    EXPECT_DEATH(typedCharacters(1e18, 3), "cannot be typed");
+}
+
+} // namespace

@@ -1,0 +1,192 @@
+#include "textanim/shapedtext.h"
+#include "textanim/shapedtextdata.h"
+
+#include "textanim/glyphpath.h"
+#include "textanim/textlayout.h"
+
+#include <QPainter>
+#include <gtest/gtest.h>
+
+using namespace morrowleaf;
+
+namespace {
+
+const FontBook& book() {
+    static const FontBook filled = [] {
+        FontBook shipped;
+        shipped.registerBundledFonts(MORROWLEAF_RESOURCE_DIR "/Fonts");
+        return shipped;
+    }();
+    return filled;
+}
+
+TextFont face(const char* name, double size = 44) {
+    return quoteFont(book(), name, size);
+}
+
+const QString sentence = "The office of AVA: “find, affix”";
+
+bool hasPart(const ShapedText& text, bool rightToLeft) {
+    for (const OutlinePart& part : text.data().text.parts) {
+        if (part.rightToLeft == rightToLeft && !part.outline.isEmpty()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST(ShapedText, EverythingScalesWithTheSize) {
+    for (const char* name : {"fraunces", "serif", "sans", "rounded", "mono"}) {
+        const ShapedText large(sentence, face(name, 88));
+        for (const double size : {11.0, 37.4, 44.0, 68.2}) {
+            const ShapedText text(sentence, face(name, size));
+            const double ratio = size / 88;
+            EXPECT_NEAR(text.size().width(), large.size().width() * ratio, 1e-6) << name;
+            EXPECT_NEAR(text.baseline(), large.baseline() * ratio, 1e-9) << name;
+            const auto& parts = text.data().text.parts;
+            const auto& largeParts = large.data().text.parts;
+            ASSERT_EQ(parts.size(), largeParts.size());
+            for (std::size_t i = 0; i < parts.size(); ++i) {
+                EXPECT_NEAR(parts[i].left, largeParts[i].left * ratio, 1e-6);
+            }
+        }
+    }
+}
+
+TEST(ShapedText, MetricsAreTheFaces) {
+    const ShapedText text("x", face("fraunces", 100));
+    EXPECT_NEAR(text.baseline(), 97.8, 1e-6);
+    EXPECT_NEAR(text.size().height(), 123.3, 1e-6);
+    EXPECT_NEAR(ShapedText("0000000000", face("mono", 37.4)).size().width(), 224.4, 0.05);
+}
+
+TEST(ShapedText, KernsAndJoinsLetters) {
+    const double apart = ShapedText("A", face("serif")).size().width() +
+                         ShapedText("V", face("serif")).size().width();
+    EXPECT_LT(ShapedText("AV", face("serif")).size().width(), apart - 0.5);
+    const ShapedText joined("office", face("serif"));
+    EXPECT_LT(joined.data().text.parts.size(), 6U);
+    EXPECT_EQ(joined.data().text.characterCount, 6);
+}
+
+TEST(ShapedText, TrackingComesAfterEveryCharacter) {
+    const double plain = ShapedText("ANN", face("mono", 12)).size().width();
+    EXPECT_NEAR(ShapedText("ANN", face("mono", 12), 3.4).size().width(), plain + 3 * 3.4, 0.01);
+}
+
+TEST(ShapedText, GreekAndCyrillicComeFromTheShippedSerif) {
+    for (const char* text : {"Ελλάς", "Добро"}) {
+        const TextLayout layout =
+            layOut(QString::fromUtf8(text), face("fraunces").face, 0, 0, LineBreaks::Kept);
+        for (const GlyphCluster& cluster : layout.rows.front().clusters) {
+            for (const PlacedGlyph& glyph : cluster.glyphs) {
+                EXPECT_EQ(glyph.face.familyName(), "EB Garamond");
+            }
+        }
+    }
+}
+
+TEST(ShapedText, WrapsAtWordsIntoLeadingRows) {
+    const ShapedText whole("one two three four", face("mono"));
+    const ShapedText rows("one two three four", face("mono"), 0, whole.size().width() * 0.6);
+    EXPECT_NEAR(rows.size().height(), 2 * whole.size().height(), 1e-6);
+    EXPECT_LE(rows.size().width(), whole.size().width() * 0.6);
+    EXPECT_NEAR(rows.baseline(), whole.baseline(), 1e-9);
+    const ShapedText fits("one two three four", face("mono"), 0, whole.size().width() + 1);
+    EXPECT_EQ(fits.size().height(), whole.size().height());
+}
+
+TEST(ShapedText, AWordTooWideIsScaledDown) {
+    const ShapedText text("a Donaudampfschifffahrtsgesellschaft", face("serif"), 0, 300);
+    EXPECT_NEAR(text.size().width(), 300, 1e-6);
+    EXPECT_LE(text.data().text.ink.right(), 302);
+    EXPECT_LT(text.size().height(), 2 * ShapedText("a", face("serif")).size().height());
+}
+
+TEST(ShapedText, RightToLeftRowsEndAtTheRight) {
+    const ShapedText text("שלום עולם טוב מאוד", face("sans"), 0, 250);
+    EXPECT_GT(text.size().height(), ShapedText("x", face("sans")).size().height() * 1.5);
+    EXPECT_TRUE(hasPart(text, true));
+    EXPECT_FALSE(hasPart(text, false));
+    EXPECT_GT(text.data().text.parts.front().left, text.data().text.parts.back().left);
+}
+
+TEST(ShapedText, EmptyAndBlankTextsDrawNothing) {
+    const ShapedText nothing(QString(), face("fraunces"));
+    EXPECT_EQ(nothing.size().width(), 0);
+    EXPECT_GT(nothing.size().height(), 40);
+    const ShapedText spaces("   ", face("fraunces"));
+    EXPECT_GT(spaces.size().width(), 20);
+    EXPECT_TRUE(spaces.data().text.ink.isEmpty());
+    EXPECT_EQ(ShapedText().size(), QSizeF(0, 0));
+    EXPECT_EQ(ShapedText("x", face("serif", 0)).size(), QSizeF(0, 0));
+}
+
+TEST(ShapedText, EmojiKeepTheirPictures) {
+    const ShapedText text("a 🇩🇪 b", face("fraunces"));
+    if (!text.data().text.hasPictures) {
+        GTEST_SKIP() << "no face with colour glyphs is installed";
+    }
+    EXPECT_LT(text.size().height(), 100);
+    QImage picture(300, 80, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    text.paint(painter, {}, Qt::black);
+    painter.end();
+    bool red = false;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor pixel = picture.pixelColor(x, y);
+            red = red || (pixel.red() > 150 && pixel.green() < 60);
+        }
+    }
+    EXPECT_TRUE(red);
+}
+
+TEST(ShapedText, LineBreaksInsideMakeRows) {
+    const double row = ShapedText("a", face("serif")).size().height();
+    EXPECT_NEAR(ShapedText("a\nb", face("serif")).size().height(), 2 * row, 1e-6);
+    EXPECT_NEAR(ShapedText("a\r\nb", face("serif")).size().height(), 2 * row, 1e-6);
+    EXPECT_EQ(handwrittenLine("a\nb", face("serif")).text.parts.size(), 3U);
+}
+
+TEST(GlyphPath, SizeIsInWholePoints) {
+    const GlyphPath line = glyphPath("Hxg", face("fraunces", 44));
+    const ShapedText text("Hxg", face("fraunces", 44));
+    EXPECT_EQ(line.size.width(), std::ceil(text.size().width()));
+    EXPECT_EQ(line.size.height(), std::ceil(44 * 1.233));
+    EXPECT_EQ(line.path.fillRule(), Qt::WindingFill);
+}
+
+TEST(GlyphPath, TheBaselineLiesAtTheDepthOfTheRequestedFont) {
+    const double depth = 44 * (1.233 - 0.978);
+    EXPECT_NEAR(glyphPath("HH", face("fraunces")).path.boundingRect().top(), depth, 0.05);
+    // A letter of another face stands on the same line.
+    EXPECT_NEAR(glyphPath("Н", face("fraunces")).path.boundingRect().top(), depth, 0.3);
+    const QRectF descending = glyphPath("p", face("fraunces")).path.boundingRect();
+    EXPECT_GT(descending.top(), -1);
+    EXPECT_LT(descending.top(), depth - 5);
+}
+
+TEST(GlyphPath, EmptyAndBlankLines) {
+    EXPECT_TRUE(glyphPath("", face("serif")).path.isEmpty());
+    EXPECT_EQ(glyphPath("", face("serif")).size.width(), 0);
+    EXPECT_TRUE(glyphPath("  ", face("serif")).path.isEmpty());
+    EXPECT_GT(glyphPath("  ", face("serif")).size.width(), 10);
+}
+
+TEST(GlyphPath, ALineWiderThanTheColumnIsSetSmaller) {
+    const QSizeF whole = handwrittenLineSize(sentence, face("mono"));
+    const QSizeF fitted = handwrittenLineSize(sentence, face("mono"), 400.5);
+    EXPECT_EQ(fitted.width(), 400);
+    EXPECT_LT(fitted.height(), whole.height() * 0.8);
+    EXPECT_EQ(handwrittenLineSize(sentence, face("mono"), whole.width()), whole);
+}
+
+TEST(PenWidth, NeverAHair) {
+    EXPECT_DOUBLE_EQ(penWidth(30), 0.7);
+    EXPECT_DOUBLE_EQ(penWidth(60), 1.08);
+    EXPECT_DOUBLE_EQ(penWidth(44), 0.792);
+}
+
+} // namespace
