@@ -1,13 +1,18 @@
 // Prints a line each time a top-level window of a given name comes onto the
-// screen of an X server ("map") or leaves it ("unmap").
+// screen of an X server ("map") or leaves it ("unmap"). For a moment after each
+// "map" the middle of the screen is watched: "painted" when it begins to
+// change, "flash" when it is wholly white or black. "at" gives milliseconds.
 //   e2e_mapwatch NAME
 #include <xcb/xcb.h>
 
+#include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <set>
 #include <string>
+#include <thread>
 
 namespace {
 
@@ -24,9 +29,53 @@ std::string nameOf(xcb_connection_t* c, xcb_window_t window) {
     return name;
 }
 
+std::uint32_t middlePixel(xcb_connection_t* c, const xcb_screen_t& screen) {
+    const auto x = static_cast<std::int16_t>(screen.width_in_pixels / 2);
+    const auto y = static_cast<std::int16_t>(screen.height_in_pixels / 2);
+    auto* image = xcb_get_image_reply(
+        c, xcb_get_image(c, XCB_IMAGE_FORMAT_Z_PIXMAP, screen.root, x, y, 1, 1, 0xFFFFFFFF),
+        nullptr);
+    std::uint32_t pixel = 0x808080;
+    if (image != nullptr && xcb_get_image_data_length(image) >= 4) {
+        std::memcpy(&pixel, xcb_get_image_data(image), sizeof pixel);
+    }
+    std::free(image); // NOLINT: xcb allocates with malloc
+    return pixel & 0xFFFFFF;
+}
+
+double milliseconds() {
+    return static_cast<double>(std::chrono::duration_cast<std::chrono::microseconds>(
+                                   std::chrono::system_clock::now().time_since_epoch())
+                                   .count()) /
+           1000;
+}
+
+void sayAt(const char* what) {
+    std::printf("at %.1f %s\n", milliseconds(), what);
+}
+
 void say(const char* what) {
     std::puts(what);
     std::fflush(stdout);
+}
+
+// `before`: the pixel as it was while nothing was shown.
+void watchFirstFrames(xcb_connection_t* c, const xcb_screen_t& screen, std::uint32_t before) {
+    constexpr double watched = 350; // milliseconds
+    const double start = milliseconds();
+    bool painted = false;
+    while (milliseconds() - start < watched) {
+        const std::uint32_t pixel = middlePixel(c, screen);
+        if (pixel == 0 || pixel == 0xFFFFFF) {
+            sayAt("flash");
+            return;
+        }
+        if (!painted && pixel != before) {
+            painted = true;
+            sayAt("painted");
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 }
 
 } // namespace
@@ -36,11 +85,13 @@ int main(int argc, char** argv) {
     if (argc < 2 || xcb_connection_has_error(c) != 0) {
         return 2;
     }
-    const auto root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+    const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(c)).data;
+    const auto root = screen.root;
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(c, root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(c);
     std::set<xcb_window_t> known;
+    std::uint32_t before = middlePixel(c, screen);
     say("watching");
     while (auto* event = xcb_wait_for_event(c)) {
         // What was only sent, as the sign of a withdrawal is, did not happen.
@@ -49,12 +100,15 @@ int main(int argc, char** argv) {
             const auto window = reinterpret_cast<const xcb_map_notify_event_t*>(event)->window;
             if (nameOf(c, window) == argv[1]) {
                 known.insert(window);
+                sayAt("map");
                 say("map");
+                watchFirstFrames(c, screen, before);
             }
         } else if (type == XCB_UNMAP_NOTIFY) {
             const auto window = reinterpret_cast<const xcb_unmap_notify_event_t*>(event)->window;
             if (known.contains(window)) {
                 say("unmap");
+                before = middlePixel(c, screen);
             }
         }
         std::free(event); // NOLINT: xcb allocates with malloc

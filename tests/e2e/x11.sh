@@ -55,4 +55,3 @@ shows_some_of() { [ "$(share "$1" "$2")" != 0 ]; }
 
 focused_title() { xdotool getwindowname "$(xdotool getwindowfocus)"; }
 focus_is() { [ "$(focused_title)" = "$1" ]; }
-keyboard_free() { ! "$E2E_MAPWATCH" --grabbed; }

@@ -94,4 +94,5 @@ sleep 0.3
 kill -TERM "$app"
 wait "$app"
 check "SIGTERM ends it with status 0, in the middle of a fade" test $? -eq 0
+check "no showing flashed white or black" not grep -q flash "$work/mapwatch.log"
 finish

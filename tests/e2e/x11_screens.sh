@@ -1,0 +1,86 @@
+#!/bin/bash
+# Several monitors, scales, and monitors that change while something is shown.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+start_x 1600x600
+start_manager openbox
+xrandr --setmonitor left 800/200x600/150+0+0 screen
+xrandr --setmonitor right 800/200x600/150+800+0 none
+start_session_bus
+settings '{"dismissSeconds": 60}'
+put_window onleft '#ffff00' 100 100 300 300
+put_window onright '#ff00ff' 1000 100 300 300
+
+title_focus() {
+    xdotool windowactivate --sync "$(xdotool search --name "^$1\$")"
+    until_true 10 focus_is "$1"
+}
+overlay() { xdotool search --onlyvisible --name '^Morrowleaf$' | tail -1; }
+geometry_is() {
+    [ "$(xwininfo -id "$(overlay)" | awk '/Absolute upper-left|Width|Height/ {printf "%s ", $NF}')" \
+        = "$1 " ]
+}
+
+title_focus onright
+start app "$MORROWLEAF"
+app=$last
+must "it covers the monitor with the focus" geometry_is "800 0 800 600"
+sleep 1.5
+shot right
+check "and nothing else" shows_some_of right '#ffff00'
+check "all of it" shows_none_of right '#ff00ff'
+xdotool key q
+must "a key closes it" is_gone
+title_focus onleft
+n=$(maps)
+"$MORROWLEAF"
+must "then the other one" opened_since "$n"
+must "that has it by then" geometry_is "0 0 800 600"
+xrandr --delmonitor left
+sleep 1
+check "a monitor that goes does not end the program" kill -0 "$app"
+xdotool key q
+must "and leaves nothing behind" is_gone
+kill -TERM "$app"
+wait "$app"
+xrandr --delmonitor right
+
+n=$(maps)
+start app "$MORROWLEAF"
+app=$last
+must "it shows on the one monitor" opened_since "$n"
+must "all over it" geometry_is "0 0 1600 600"
+xrandr --newmode smaller 40 800 840 968 1056 600 601 605 628
+xrandr --addmode screen smaller
+xrandr --output screen --mode smaller
+must "it follows a smaller resolution" geometry_is "0 0 800 600"
+xrandr --output screen --mode 1600x600
+must "and a larger one" geometry_is "0 0 1600 600"
+xrandr --output screen --off
+sleep 1
+check "the last monitor's end is not the program's" kill -0 "$app"
+xrandr --output screen --mode 1600x600
+sleep 1
+"$MORROWLEAF"
+must "it shows again when a monitor is back" geometry_is "0 0 1600 600"
+kill -TERM "$app"
+wait "$app"
+must "it is gone" is_gone
+
+for scale in 1.25 2; do
+    n=$(maps)
+    QT_SCALE_FACTOR=$scale start app "$MORROWLEAF"
+    app=$last
+    must "at scale $scale it shows" opened_since "$n"
+    must "at scale $scale it is as large as the screen" geometry_is "0 0 1600 600"
+    sleep 2.5
+    shot "scale$scale"
+    for colour in '#ffff00' '#ff00ff' '#206040'; do
+        check "at scale $scale it covers $colour" shows_none_of "scale$scale" "$colour"
+    done
+    kill -TERM "$app"
+    wait "$app"
+done
+finish
