@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace morrowleaf {
 
@@ -27,6 +28,16 @@ Plane channelPlane(const QImage& picture, int margin, int shift) {
     return plane;
 }
 
+// In cells; one more, so that the last slope ends at nothing.
+int marginFor(double sigma, int cell) {
+    return (BlurredLayer::halo(sigma) + cell - 1) / cell + 1;
+}
+
+QRect blurredRect(QPoint origin, QSize cells, int cell, double sigma) {
+    const int margin = marginFor(sigma, cell);
+    return {origin - QPoint(margin, margin) * cell, (cells + QSize(2 * margin, 2 * margin)) * cell};
+}
+
 } // namespace
 
 int BlurredLayer::cellSize(double sigma) {
@@ -43,14 +54,25 @@ int BlurredLayer::halo(double sigma) {
 
 BlurredLayer::BlurredLayer(const QImage& picture, QPoint origin, int cell, double sigma,
                            const std::vector<Channel>& channels)
-    : cell_(cell) {
-    const int margin = (halo(sigma) + cell - 1) / cell + 1;
-    rect_ = QRect(origin - QPoint(margin, margin) * cell,
-                  (picture.size() + QSize(2 * margin, 2 * margin)) * cell);
+    : cell_(cell)
+    , rect_(blurredRect(origin, picture.size(), cell, sigma)) {
     for (const Channel channel : channels) {
-        planes_.push_back(channelPlane(picture, margin, 8 * static_cast<int>(channel)));
+        planes_.push_back(
+            channelPlane(picture, marginFor(sigma, cell), 8 * static_cast<int>(channel)));
         gaussianBlur(planes_.back(), remainingSigma(sigma, cell));
     }
+}
+
+BlurredLayer::BlurredLayer(const Plane& reduced, QPoint origin, int cell, double sigma)
+    : cell_(cell)
+    , rect_(blurredRect(origin, {reduced.width, reduced.height}, cell, sigma)) {
+    const int margin = marginFor(sigma, cell);
+    Plane plane(reduced.width + 2 * margin, reduced.height + 2 * margin);
+    for (int y = 0; y < reduced.height; ++y) {
+        std::copy_n(reduced.row(y), reduced.width, plane.row(y + margin) + margin);
+    }
+    gaussianBlur(plane, remainingSigma(sigma, cell));
+    planes_.push_back(std::move(plane));
 }
 
 void BlurredLayer::row(std::size_t channel, int y, int left, int width,
@@ -118,6 +140,29 @@ QImage reduced(const QImage& premultiplied, int cell) {
         }
     }
     return result;
+}
+
+Plane reducedAlpha(const QImage& premultiplied, int cell) {
+    const int width = premultiplied.width();
+    Plane plane((width + cell - 1) / cell, (premultiplied.height() + cell - 1) / cell);
+    const float weight = 1.0F / static_cast<float>(cell * cell);
+    std::vector<unsigned> sums;
+    for (int y = 0; y < plane.height; ++y) {
+        sums.assign(static_cast<std::size_t>(plane.width) * static_cast<std::size_t>(cell), 0);
+        const int bottom = std::min((y + 1) * cell, premultiplied.height());
+        for (int from = y * cell; from < bottom; ++from) {
+            const auto* pixels = reinterpret_cast<const QRgb*>(premultiplied.constScanLine(from));
+            for (int x = 0; x < width; ++x) {
+                sums[static_cast<std::size_t>(x)] += pixels[x] >> 24;
+            }
+        }
+        float* to = plane.row(y);
+        for (int x = 0; x < plane.width; ++x) {
+            const auto* first = sums.data() + static_cast<std::ptrdiff_t>(x) * cell;
+            to[x] = weight * static_cast<float>(std::accumulate(first, first + cell, 0U));
+        }
+    }
+    return plane;
 }
 
 float ditherAt(int x, int y) {

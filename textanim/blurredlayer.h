@@ -27,20 +27,26 @@ public:
     BlurredLayer(const QImage& picture, QPoint origin, int cell, double sigma,
                  const std::vector<Channel>& channels);
 
+    // One channel only, already reduced.
+    BlurredLayer(const Plane& reduced, QPoint origin, int cell, double sigma);
+
     QRect rect() const { return rect_; } // device pixels; nothing is outside it
 
-    // Adds 255 × the values of a channel over `width` pixels from `left` on in
-    // the row `y` of the device.
+    // Gives a channel (0...255) over `width` pixels from `left` on in the row
+    // `y` of the device.
     void row(std::size_t channel, int y, int left, int width, std::vector<float>& out) const;
 
 private:
-    QRect rect_;
     int cell_ = 1;
+    QRect rect_;
     std::vector<Plane> planes_;
 };
 
 // A picture reduced by a whole number of pixels to a cell, each the mean.
 QImage reduced(const QImage& premultiplied, int cell);
+
+// The alpha of such a picture in the same way.
+Plane reducedAlpha(const QImage& premultiplied, int cell);
 
 // Threshold for turning 0...255 into a byte at a device pixel, so that slow
 // slopes show no steps.

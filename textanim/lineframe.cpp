@@ -19,10 +19,15 @@ QRectF scaled(const QRectF& rect, double scale) {
     return {rect.topLeft() * scale, rect.size() * scale};
 }
 
-QImage transparent(QSize size) {
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    return picture;
+QImage viewOf(std::vector<QRgb>& memory, QSize size) {
+    return {reinterpret_cast<uchar*>(memory.data()), size.width(), size.height(),
+            qsizetype{4} * size.width(), QImage::Format_ARGB32_Premultiplied};
+}
+
+QImage transparent(QSize size, std::vector<QRgb>& memory) {
+    memory.assign(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()),
+                  0);
+    return viewOf(memory, size);
 }
 
 // What brings the resting baseline onto whole pixels.
@@ -51,8 +56,8 @@ QRect deviceRect(const QRectF& points, double scale) {
 }
 
 QImage plainLetters(const LineShapes& line, const LineStage& stage, const QTransform& transform,
-                    QRect rect, const QColor& color) {
-    QImage picture = transparent(rect.size());
+                    QRect rect, const QColor& color, std::vector<QRgb>& memory) {
+    QImage picture = transparent(rect.size(), memory);
     QPainter painter(&picture);
     painter.setTransform(transform * QTransform::fromTranslate(-rect.x(), -rect.y()));
     paintTyped(painter, line.text, stage.typed, color);
@@ -81,62 +86,69 @@ void drawPen(QImage& letters, const QImage& pen, QPoint at, const QColor& color)
 }
 
 QImage writtenLetters(const LineShapes& line, const LineStage& stage, double scale, QRect rect,
-                      const QColor& color, std::optional<PenDrawing>& pen) {
-    QImage picture = transparent(rect.size());
-    if (stage.values.ink > 0) {
-        QImage ink = plainLetters(line, stage, onDevice(line, stage, scale, 1), rect, color);
-        QPainter painter(&picture);
-        painter.setOpacity(stage.values.ink);
-        painter.drawImage(0, 0, ink);
-    }
+                      const QColor& color, LineCanvas& canvas) {
+    QImage picture = transparent(rect.size(), canvas.letters);
+    std::optional<PenDrawing>& pen = canvas.pen;
     if (!pen || pen->scale() != scale || pen->rect() != rect) {
         pen.emplace(scale, line.penWidth, rect, baselineShift(line, scale));
+        canvas.ink.clear();
+    }
+    if (stage.values.ink > 0) {
+        if (canvas.ink.empty()) {
+            plainLetters(line, stage, onDevice(line, stage, scale, 1), rect, color, canvas.ink);
+        }
+        QPainter painter(&picture);
+        painter.setOpacity(stage.values.ink);
+        painter.drawImage(0, 0, viewOf(canvas.ink, rect.size()));
     }
     drawPen(picture, pen->at(line.trace, line.trace.length * stage.values.traced), {}, color);
     return picture;
 }
 
+// Turns a row of values into bytes of a channel that is still 0. The same
+// threshold in all channels keeps each below its alpha.
+void writeChannel(const std::vector<float>& values, float factor, const std::vector<float>& dither,
+                  int shift, QRgb* pixels) {
+    const auto count = static_cast<int>(values.size());
+    const float* from = values.data();
+    const float* threshold = dither.data();
+    for (int x = 0; x < count; ++x) {
+        const float value = std::min(from[x] * factor + threshold[x], 255.0F);
+        pixels[x] |= static_cast<QRgb>(static_cast<int>(value)) << shift;
+    }
+}
+
+// A layer without colours of its own takes `color`.
 void writePixels(const BlurredLayer& layer, bool colored, const QColor& color, double opacity,
                  QImage& to, QPoint origin) {
     const int width = to.width();
-    std::vector<float> channel;
-    const auto strength = static_cast<float>(opacity);
-    const std::array<float, 4> parts =
-        colored ? std::array{1.0F, 1.0F, 1.0F, 1.0F}
-                : std::array{color.blueF(), color.greenF(), color.redF(), 1.0F};
-    std::array<float, 8> dither{};
+    std::vector<float> values;
+    std::vector<float> dither(static_cast<std::size_t>(width));
+    const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
     const QRect rows = layer.rect() & QRect(origin, to.size());
     for (int y = rows.top(); y <= rows.bottom(); ++y) {
         auto* pixels = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
-        for (int i = 0; i < 8; ++i) {
-            dither[static_cast<std::size_t>(i)] = ditherAt(origin.x() + i, y);
+        for (int x = 0; x < width; ++x) {
+            const auto at = static_cast<std::size_t>(x);
+            dither[at] = x < 8 ? ditherAt(origin.x() + x, y) : dither[at - 8];
         }
-        for (int i = 0; i < 4; ++i) {
-            if (!colored && i > 0 && i < 3 && parts[static_cast<std::size_t>(i)] == parts[0] &&
-                parts[0] == 0) {
-                continue;
+        if (!colored) {
+            layer.row(0, y, origin.x(), width, values);
+        }
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            if (colored) {
+                layer.row(i, y, origin.x(), width, values);
             }
-            if (colored || i == 0) {
-                layer.row(colored ? static_cast<std::size_t>(i) : 0, y, origin.x(), width, channel);
-            }
-            const float factor = strength * parts[static_cast<std::size_t>(i)];
-            if (factor == 0) {
-                continue;
-            }
-            const int shift = 8 * i;
-            for (int x = 0; x < width; ++x) {
-                // The same threshold in all channels keeps each below its alpha.
-                const float value = channel[static_cast<std::size_t>(x)] * factor +
-                                    dither[static_cast<std::size_t>(x & 7)];
-                pixels[x] |= static_cast<QRgb>(std::clamp(static_cast<int>(value), 0, 255))
-                             << shift;
+            const float factor = static_cast<float>(opacity) * (colored ? 1.0F : parts[i]);
+            if (factor > 0) {
+                writeChannel(values, factor, dither, 8 * static_cast<int>(i), pixels);
             }
         }
     }
 }
 
 PlacedPicture blurredLetters(const LineShapes& line, const LineStage& stage, double scale,
-                             QRect rect, const QColor& color, double sigma) {
+                             QRect rect, const QColor& color, double sigma, LineCanvas& canvas) {
     const int cell = BlurredLayer::cellSize(sigma);
     // The sharp letters, drawn small at once.
     LineStage sharp = stage;
@@ -146,30 +158,32 @@ PlacedPicture blurredLetters(const LineShapes& line, const LineStage& stage, dou
                         static_cast<int>(std::floor(static_cast<double>(box.top()) / cell)));
     const QSize cells(box.right() / cell - corner.x() + 2, box.bottom() / cell - corner.y() + 2);
     const bool colored = line.text.hasPictures;
-    const QImage small = plainLetters(line, sharp, onDevice(line, sharp, scale, cell),
-                                      {corner, cells}, colored ? color : QColor(Qt::black));
+    const QImage small =
+        plainLetters(line, sharp, onDevice(line, sharp, scale, cell), {corner, cells},
+                     colored ? color : QColor(Qt::black), canvas.letters);
     const BlurredLayer layer(
         small, corner * cell, cell, sigma,
         colored ? std::vector{Channel::Blue, Channel::Green, Channel::Red, Channel::Alpha}
                 : std::vector{Channel::Alpha});
-    PlacedPicture result{transparent(rect.size()), rect.topLeft()};
+    PlacedPicture result{transparent(rect.size(), canvas.letters), rect.topLeft()};
     writePixels(layer, colored, color, stage.values.opacity * (colored ? 1 : color.alphaF()),
                 result.picture, result.origin);
     return result;
 }
 
 PlacedPicture letters(const LineShapes& line, const LineStage& stage, double scale,
-                      const QColor& color, std::optional<PenDrawing>& pen) {
+                      const QColor& color, LineCanvas& canvas) {
     const QRect rect = deviceRect(letterRect(line, stage), scale);
     if (!line.trace.stretches.empty()) {
-        return {writtenLetters(line, stage, scale, rect, color, pen), rect.topLeft()};
+        return {writtenLetters(line, stage, scale, rect, color, canvas), rect.topLeft()};
     }
     const double sigma = stage.values.blurRadius * stage.values.scale * scale;
     if (sigma > sharpBelow) {
-        return blurredLetters(line, stage, scale, rect, color, sigma);
+        return blurredLetters(line, stage, scale, rect, color, sigma, canvas);
     }
-    PlacedPicture result{plainLetters(line, stage, onDevice(line, stage, scale, 1), rect, color),
-                         rect.topLeft()};
+    PlacedPicture result{
+        plainLetters(line, stage, onDevice(line, stage, scale, 1), rect, color, canvas.letters),
+        rect.topLeft()};
     if (stage.values.opacity < 1) {
         QPainter painter(&result.picture);
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
@@ -202,19 +216,17 @@ QRectF lineRect(const LineShapes& line, const LineStage& stage, const LineShadow
 }
 
 PlacedPicture lineFrame(const LineShapes& line, const LineStage& stage, double scale,
-                        const QColor& color, const LineShadow& shadow,
-                        std::optional<PenDrawing>& pen) {
-    const PlacedPicture own = letters(line, stage, scale, color, pen);
+                        const QColor& color, const LineShadow& shadow, LineCanvas& canvas) {
+    const PlacedPicture own = letters(line, stage, scale, color, canvas);
     if (shadow.opacity <= 0) {
         return own;
     }
     const QRect rect = deviceRect(lineRect(line, stage, shadow), scale);
-    PlacedPicture result{transparent(rect.size()), rect.topLeft()};
+    PlacedPicture result{transparent(rect.size(), canvas.frame), rect.topLeft()};
     const double sigma = shadow.radius * scale;
     const int cell = BlurredLayer::cellSize(sigma);
     const QPoint offset = (shadow.offset * scale).toPoint();
-    const BlurredLayer layer(reduced(own.picture, cell), own.origin + offset, cell, sigma,
-                             {Channel::Alpha});
+    const BlurredLayer layer(reducedAlpha(own.picture, cell), own.origin + offset, cell, sigma);
     writePixels(layer, false, Qt::black, shadow.opacity, result.picture, result.origin);
     QPainter painter(&result.picture);
     painter.drawImage(own.origin - result.origin, own.picture);

@@ -8,6 +8,9 @@
 #include <QImage>
 #include <QRect>
 
+#include <optional>
+#include <vector>
+
 namespace morrowleaf {
 
 // How far a line has come; equal stages look alike.
@@ -36,10 +39,18 @@ struct PlacedPicture {
     QPoint origin;
 };
 
-// Letters and shadow at a stage, at a device scale. `pen` is kept by the
-// caller between the stages of a handwritten line.
+// What the caller keeps for a line between its frames: memory for the pixels
+// and what the pen has drawn.
+struct LineCanvas {
+    std::vector<QRgb> letters;
+    std::vector<QRgb> frame;
+    std::optional<PenDrawing> pen;
+    std::vector<QRgb> ink; // of the line that the pen is at
+};
+
+// Letters and shadow at a stage, at a device scale. The pixels live in the
+// canvas until the next call.
 PlacedPicture lineFrame(const LineShapes& line, const LineStage& stage, double scale,
-                        const QColor& color, const LineShadow& shadow,
-                        std::optional<PenDrawing>& pen);
+                        const QColor& color, const LineShadow& shadow, LineCanvas& canvas);
 
 } // namespace morrowleaf

@@ -39,7 +39,7 @@ struct RevealLine::Private {
         PlacedPicture frame;
     };
     mutable std::optional<Kept> kept;
-    mutable std::optional<PenDrawing> pen;
+    mutable LineCanvas canvas;
 
     LineStage stageAt(double seconds) const {
         const double since = seconds - delay;
@@ -55,11 +55,14 @@ struct RevealLine::Private {
 
     const PlacedPicture& frameAt(const LineStage& stage, double scale) const {
         if (!kept || kept->scale != scale || kept->stage != stage) {
-            kept =
-                Kept{stage, scale, lineFrame(shapes, stage, scale, parts.color, parts.shadow, pen)};
+            kept = Kept{stage, scale,
+                        lineFrame(shapes, stage, scale, parts.color, parts.shadow, canvas)};
         }
-        if (stage.values.traced >= 1 && stage.values.ink >= 1) {
-            pen.reset();
+        if (stage == LineStage{{}, shapes.text.characterCount} && parts.shadow.opacity > 0) {
+            // At rest only the finished picture is needed.
+            canvas.pen.reset();
+            canvas.letters = {};
+            canvas.ink = {};
         }
         return kept->frame;
     }
