@@ -4,7 +4,7 @@
 
 namespace morrowleaf {
 
-using std::chrono_literals::operator""ms;
+using namespace std::chrono_literals;
 
 namespace {
 

@@ -14,7 +14,7 @@ namespace {
 
 using Kind = JsonTree::Kind;
 using Node = JsonTree::Node;
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 // In the order in which they are tried. "quote" stands in two lists: around an
 // object it is a wrapper, with a string it is the text.

@@ -30,7 +30,7 @@ bool isWeb(const QUrl& url) {
 }
 
 constexpr int redirectLimit = 20;
-constexpr qint64 readBuffer = 64 * 1024;
+constexpr qint64 readBuffer = qint64{64} * 1024;
 
 // No honest answer takes as much on the wire: while loading, and at its end.
 constexpr std::uint64_t floodBytes = std::uint64_t{5} << 20U;
