@@ -14,10 +14,11 @@ cleanup() {
     local i
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
         kill "${pids[i]}" 2>/dev/null || true
-        wait "${pids[i]}" 2>/dev/null || true
+        until_true 5 ended "${pids[i]}" || kill -9 "${pids[i]}" 2>/dev/null || true
     done
     rm -rf "$work"
 }
+ended() { ! kill -0 "$1"; }
 trap cleanup EXIT
 trap 'exit 1' INT TERM
 
@@ -60,48 +61,59 @@ until_true 20 test -s "$work/display" || die "The virtual screen does not start.
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
 until_true 20 xdpyinfo || die "The virtual screen does not answer."
-xsetroot -solid '#46606e'
 start manager openbox
 until_true 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
     die "The window manager does not start."
 start compositor picom --backend xrender --config /dev/null
-until_true 20 sh -c 'xwininfo -root -tree | grep -qi picom' || die "The compositor does not start."
+# It has taken over once it has drawn the desktop.
+drawn() { ! import -silent -window root -resize 1x1 txt:- | grep -q black; }
+until_true 20 drawn || die "The compositor does not start."
 
 window() { xdotool search --onlyvisible --class '^morrowleaf$'; }
 gone() { ! window; }
 # An uncompressed picture is soon taken.
 shot() { import -silent -window root "$work/$1.ppm"; }
+brightness() { convert "$work/$1.ppm" -resize '1x1!' -format '%[fx:int(mean*1000)]' info:; }
+differs() { shot now && [ "$(brightness now)" != "$desktop" ]; }
 
+shot desktop
+desktop=$(brightness desktop)
 start morrowleaf "$program"
-until_true 60 window || die "The quote screen does not appear."
+until_true 60 differs || die "The quote screen does not appear."
 shot 1-entrance-a
 sleep 0.3
 shot 1-entrance-b
-sleep 0.4
+sleep 0.6
 shot 1-entrance-c
-sleep 4.5
+sleep 4
 shot 2-whole
 xdotool key space
 fades=0
 while window >/dev/null 2>&1 && [ "$fades" -lt 60 ]; do
     fades=$((fades + 1))
-    shot "fade-$(printf %02d "$fades")"
+    shot "fade-$fades"
 done
 until_true 10 gone || die "The quote screen does not go away."
 [ "$fades" -gt 0 ] || die "The quote screen went away without fading."
 
-# The picture in the middle of the fade, and the desktop after it.
-sleep 0.2
-shot 4-gone
-cp "$work/fade-$(printf %02d $(((2 * fades + 2) / 3))).ppm" "$work/3-fading-out.ppm"
+# Of the pictures of the fade the one nearest to its middle.
+middle=$((($(brightness 2-whole) + desktop) / 2))
+nearest=10000
+for ((i = 1; i <= fades; i++)); do
+    distance=$(($(brightness "fade-$i") - middle))
+    if [ "${distance#-}" -lt "$nearest" ]; then
+        nearest=${distance#-}
+        cp "$work/fade-$i.ppm" "$work/3-fading-out.ppm"
+    fi
+done
 
 mkdir -p "$folder"
 rm -f "$folder"/showing-*.png
-for picture in "$work"/[1-4]-*.ppm; do
+for picture in "$work"/[1-3]-*.ppm; do
     name=showing-$(basename "$picture" .ppm).png
     convert "$picture" "$folder/$name"
     echo "Picture: $folder/$name"
 done
-montage "$work"/[1-4]-*.ppm -resize 756x -geometry +12+12 -tile 2x -background '#202020' \
+montage "$work"/[1-3]-*.ppm -resize 756x -geometry +12+12 -tile 2x -background '#202020' \
     "$folder/showing-sheet.png"
 echo "Contact sheet: $folder/showing-sheet.png"
