@@ -27,7 +27,7 @@ WindowPixels::WindowPixels(const QWidget& widget, QPaintDevice* device, QPoint o
                             static_cast<int>(std::lround(origin.y() * ratio)));
         const QRect own = QRect(corner, wanted).intersected(whole.rect());
         if (isPlain32Bit(whole) && own.topLeft() == corner && !own.isEmpty()) {
-            uchar* first = whole.bits() + corner.y() * whole.bytesPerLine() + corner.x() * 4;
+            uchar* first = whole.scanLine(corner.y()) + ptrdiff_t{4} * corner.x();
             image_ = QImage(first, own.width(), own.height(), whole.bytesPerLine(),
                             QImage::Format_ARGB32_Premultiplied);
             direct_ = true;
