@@ -97,12 +97,13 @@ void BlurredLayer::row(std::size_t channel, int y, int left, int width,
     const float step = 1.0F / static_cast<float>(cell_);
     for (int x = begin; x < end;) {
         const int inside = x - rect_.left();
-        const int cellOfRight = (inside + cell_ / 2) / cell_;
-        const int cellEnd = std::min(end, rect_.left() + (cellOfRight + 1) * cell_ - cell_ / 2);
+        const int half = cell_ / 2;
+        const int cellOfRight = (inside + half) / cell_;
+        const int cellEnd = std::min(end, rect_.left() + (cellOfRight + 1) * cell_ - half);
         const float from = valueAt(cellOfRight - 1);
         const float slope = (valueAt(cellOfRight) - from) * step;
         const float first =
-            cell_ == 1 ? 1 : static_cast<float>(inside + cell_ / 2 - cellOfRight * cell_) + 0.5F;
+            cell_ == 1 ? 1 : static_cast<float>(inside + half - cellOfRight * cell_) + 0.5F;
         float* to = out.data() + (x - left);
         for (int i = 0; i < cellEnd - x; ++i) {
             to[i] = from + slope * (first + static_cast<float>(i));

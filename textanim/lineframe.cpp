@@ -217,7 +217,7 @@ QRectF lineRect(const LineShapes& line, const LineStage& stage, const LineShadow
 
 PlacedPicture lineFrame(const LineShapes& line, const LineStage& stage, double scale,
                         const QColor& color, const LineShadow& shadow, LineCanvas& canvas) {
-    const PlacedPicture own = letters(line, stage, scale, color, canvas);
+    PlacedPicture own = letters(line, stage, scale, color, canvas);
     if (shadow.opacity <= 0) {
         return own;
     }
