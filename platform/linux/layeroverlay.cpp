@@ -3,6 +3,7 @@
 #include "platform/linux/waylandnative.h"
 
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -15,6 +16,8 @@ constexpr std::uint32_t allEdges =
     ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
 constexpr std::int32_t overPanels = -1;
 constexpr std::uint32_t exclusive = 1;
+// Milliseconds until the compositor has told other windows what it has to.
+constexpr int focusPatience = 150;
 
 class LayerOverlay final : public OverlayWindow {
 public:
@@ -25,6 +28,13 @@ public:
         window.setAttribute(Qt::WA_TranslucentBackground);
         window.setScreen(&screen);
         window.setGeometry(screen.geometry());
+        focus_.setSingleShot(true);
+        focus_.setInterval(focusPatience);
+        QObject::connect(&focus_, &QTimer::timeout, &focus_, [this] {
+            if (window_.isVisible() && layer_ != nullptr) {
+                wayland::takeFocus(*window_.windowHandle());
+            }
+        });
         createSurface();
     }
 
@@ -40,9 +50,12 @@ public:
         }
         window_.show();
         window_.raise();
+        wayland::takeFocus(*window_.windowHandle());
+        focus_.start();
     }
 
     void orderOut() override {
+        focus_.stop();
         destroySurface();
         window_.hide();
         if (auto* handle = window_.windowHandle()) {
@@ -141,6 +154,7 @@ private:
     zwlr_layer_surface_v1* layer_ = nullptr;
     org_kde_kwin_blur* blur_ = nullptr;
     bool configured_ = false;
+    QTimer focus_;
 };
 
 class LayerOverlays final : public OverlayMaker {

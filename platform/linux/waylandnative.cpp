@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <qpa/qplatformnativeinterface.h>
+#include <qpa/qwindowsysteminterface.h>
 
 namespace morrowleaf::wayland {
 
@@ -20,6 +21,10 @@ wl_surface* surfaceOf(QWindow& window) {
 wl_output* outputOf(QScreen& screen) {
     auto* native = QGuiApplication::platformNativeInterface();
     return static_cast<wl_output*>(native->nativeResourceForScreen("output", &screen));
+}
+
+void takeFocus(QWindow& window) {
+    QWindowSystemInterface::handleWindowActivated(&window, Qt::ActiveWindowFocusReason);
 }
 
 } // namespace morrowleaf::wayland

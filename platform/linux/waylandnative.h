@@ -13,4 +13,8 @@ wl_display* display();
 wl_surface* surfaceOf(QWindow& window);
 wl_output* outputOf(QScreen& screen);
 
+// Makes the toolkit send keys to `window`: a surface with a role of its own
+// never hears from the compositor that it is the active one.
+void takeFocus(QWindow& window);
+
 } // namespace morrowleaf::wayland
