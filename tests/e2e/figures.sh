@@ -14,7 +14,9 @@ start app "$MORROWLEAF"
 app=$last
 until_true 20 opened_since 0 || die "no showing"
 ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
+# of the threads that live: idle workers end after half a minute
 switches() { cat /proc/"$app"/task/*/status | awk '/^voluntary/ {s += $2} END {print s}'; }
+threads() { ls "/proc/$app/task" | wc -l; }
 pss() { awk '/^Pss:/ {print $2}' "/proc/$app/smaps_rollup"; }
 activate() {
     gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
@@ -34,8 +36,11 @@ echo "PSS while shown: $(pss) kB"
 close_it
 sleep 2
 echo "PSS idle: $(pss) kB, private $(awk '/^Private/ {s += $2} END {print s}' "/proc/$app/smaps_rollup") kB"
+sleep 35
 before=$(switches)
+workers=$(threads)
 sleep 60
+[ "$(threads)" -eq "$workers" ] || echo "threads have ended meanwhile: the next figure is too low"
 echo "wake-ups in 60 idle seconds: $(($(switches) - before))"
 for _ in 1 2 3 4 5; do
     asked=${EPOCHREALTIME/./}
@@ -49,10 +54,13 @@ for _ in 1 2 3 4 5; do
 done
 memory=$(pss)
 files=$(ls "/proc/$app/fd" | wc -l)
-for _ in $(seq "$showings"); do
-    activate
-    sleep 0.15
+for round in 1 2 3 4; do
+    for _ in $(seq $((showings / 4))); do
+        activate
+        sleep 0.15
+    done
+    close_it
+    sleep 2
+    echo "after $((round * (showings / 4))) showings: PSS $(($(pss) - memory)) kB more," \
+        "$(($(ls "/proc/$app/fd" | wc -l) - files)) files more"
 done
-close_it
-sleep 2
-echo "after $showings showings: PSS $(($(pss) - memory)) kB more, $(($(ls "/proc/$app/fd" | wc -l) - files)) files more"

@@ -8,7 +8,7 @@ here=$(dirname "$0")
 start_x 1280x1024
 start_manager openbox
 file=$XDG_CONFIG_HOME/morrowleaf/settings.json
-settings '{"screenAnimation": "still", "grainEnabled": false, "transparency": 0}'
+settings '{"screenAnimation": "still", "grainEnabled": false}'
 
 # stored KEY VALUE: the file holds the key with this JSON value
 stored() {
@@ -38,16 +38,13 @@ app=$last
 window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$'; }
 must "the settings window opens" window
 sleep 0.5
-eval "$(xdotool getwindowgeometry --shell "$(window | head -1)")"
 shot settings
 # The buttons and rows, by their places in the view of 520 x 545 points.
-in_settings() { click $((X + $1)) $((Y + $2)); }
+in_settings() { xdotool mousemove --window "$(window | head -1)" "$1" "$2" click 1; }
 in_settings 460 137
 must "the wake switch is stored" stored showOnWake false
 in_settings 460 137
 must "and goes back" stored showOnWake true
-in_settings 230 217
-must "the slider is stored" test -s "$file"
 in_settings 300 335
 xdotool type --delay 20 'http://127.0.0.1:9/none'
 must "the source is stored as typed" stored quoteSourceURL '"http://127.0.0.1:9/none"'
@@ -67,7 +64,6 @@ press space
 must "the second palette is stored" stored paletteIndex 1
 tabs 8
 press space
-must "the first photo is stored" test "$(grep -c 'aurora.jpg' "$file")" -ge 0
 must "the photo is chosen" grep -q 'backgroundImagePath.*aurora.jpg' "$file"
 check "and the palette stays" stored paletteIndex 1
 tabs 7

@@ -52,6 +52,7 @@ double milliseconds() {
 
 void sayAt(const char* what) {
     std::printf("at %.1f %s\n", milliseconds(), what);
+    std::fflush(stdout);
 }
 
 void say(const char* what) {
