@@ -24,7 +24,8 @@ struct LineShadow {
 
 // One line of the quotation and the way it comes in. The drawing is a pure
 // function of the line and the seconds since it appeared; what is costly is
-// kept between calls.
+// kept between calls. Seconds are finite: a typed line takes others for a fatal
+// error. For a line that is there at once, use `settledAfter`.
 class RevealLine {
 public:
     struct Parts {
