@@ -107,8 +107,8 @@ shot editor-reset
 click 300 500
 sleep 0.3
 check "a click on the picture ends nothing" is_shown
-click 1095 150
-must "a palette can be clicked" not stored paletteIndex -1
+click 1062 113
+must "a palette can be clicked" stored paletteIndex 0
 shot editor-mouse
 press Escape
 must "Escape ends the editing" is_gone
