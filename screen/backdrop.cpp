@@ -1,33 +1,59 @@
 #include "screen/backdrop.h"
 
 #include "screen/ground/grain.h"
-#include "screen/meshdrift.h"
+#include "screen/kernel.h"
+#include "screen/layers.h"
+#include "screen/meshlattice.h"
 #include "screen/meshsurface.h"
-#include "screen/vignette.h"
+#include "screen/photoground.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace morrowleaf {
 
 namespace {
 
-constexpr double leastTransparency = 0.01;
+void copyRows(QImage& target, const QRect& clip, const QImage& from) {
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        std::memcpy(target.scanLine(y) + clip.left() * 4, from.constScanLine(y) + clip.left() * 4,
+                    static_cast<std::size_t>(clip.width()) * 4);
+    }
+}
 
-struct Pixel {
-    double r = 0, g = 0, b = 0, a = 0; // premultiplied, 0...1
-};
-
-quint8 grainByte(double x, double y) {
-    const auto wrapped = [](double at) {
-        return static_cast<std::size_t>(static_cast<qint64>(std::floor(at)) % grainSize);
-    };
-    return grain()[(wrapped(y) * grainSize + wrapped(x)) * 4];
+void clear(QImage& target, const QRect& clip) {
+    for (int y = clip.top(); y <= clip.bottom(); ++y)
+        std::memset(target.scanLine(y) + clip.left() * 4, 0,
+                    static_cast<std::size_t>(clip.width()) * 4);
 }
 
 } // namespace
 
-struct BackdropPainter::Private {};
+struct BackdropPainter::Private {
+    FittedPicture photo;
+    FittedPicture desktop;
+    PhotoGround photoGround;
+    MeshLattice mesh;
+    MeshPoints meshPoints{};
+    std::array<QColor, 9> meshColors;
+    bool meshBuilt = false;
+    NodeGrid nodes;
+    GrainTile tile;
+
+    void buildMesh(const MeshPoints& points, const std::array<QColor, 9>& colors) {
+        const auto same = [](const MeshPoint& a, const MeshPoint& b) {
+            return a.x == b.x && a.y == b.y;
+        };
+        if (meshBuilt && colors == meshColors &&
+            std::equal(points.begin(), points.end(), meshPoints.begin(), same))
+            return;
+        meshPoints = points;
+        meshColors = colors;
+        meshBuilt = true;
+        mesh.build(unfolded(points), colors);
+    }
+};
 
 BackdropPainter::BackdropPainter()
     : d_(std::make_unique<Private>()) {}
@@ -43,69 +69,59 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const QRect area = clip & target.rect();
     if (area.isEmpty())
         return;
+    if (target.format() != QImage::Format_ARGB32_Premultiplied &&
+        target.format() != QImage::Format_RGB32)
+        qFatal("The backdrop can only be drawn into premultiplied 32-bit images.");
     const double ratio = target.devicePixelRatio();
-    const double phase = since2001 * speed(state.screenAnim);
-    const double scale = backdropScale(state.screenAnim, phase);
-    const MeshLattice mesh(meshDrift(phase, amplitude(state.screenAnim)), state.palette.colors);
-    const double strength =
-        state.vignette * (state.palette.light && !state.hasPhoto ? lightVignette : 1);
-    const bool seenThrough = state.behind.kind != Behind::Kind::Nothing;
-    const double t = std::clamp(state.transparency, 0.0, 1.0);
-    const double opacity = seenThrough ? 1 - t : 1;
-    const double glass = t > leastTransparency ? std::min((1 - t) * 4, 1.0) : 0;
-    const double tintOpacity = ((1 - t) * 0.5 + 0.06) * glass;
-    const QColor tint = state.palette.colors[4];
-    const double grainAmount = state.grainOn ? grainOpacity : 0;
-    const double width = target.width() / ratio;
-    const double height = target.height() / ratio;
+    const QSize size = target.size();
 
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(target.scanLine(y));
-        for (int x = area.left(); x <= area.right(); ++x) {
-            const double px = (x + 0.5) / ratio;
-            const double py = (y + 0.5) / ratio;
-            Rgb ground =
-                mesh.at((px / width - 0.5) / scale + 0.5, (py / height - 0.5) / scale + 0.5);
-            if (state.hasPhoto && !state.photo.isNull()) {
-                const QRgb photo = state.photo.pixel(std::min(x, state.photo.width() - 1),
-                                                     std::min(y, state.photo.height() - 1));
-                const auto shade = [&](float from, int to) {
-                    return static_cast<float>(double(from) * (1 - state.photoOpacity) +
-                                              to / 255.0 * 0.7 * state.photoOpacity);
-                };
-                ground = {shade(ground.r, qRed(photo)), shade(ground.g, qGreen(photo)),
-                          shade(ground.b, qBlue(photo))};
-            }
-            const double lit =
-                1 - vignetteAt(std::hypot(px - width / 2, py - height / 2), strength);
-            const double noise = grainByte(px, py) / 255.0;
-            Pixel under;
-            if (seenThrough) {
-                under = {tint.redF() * tintOpacity, tint.greenF() * tintOpacity,
-                         tint.blueF() * tintOpacity, tintOpacity};
-                if (state.behind.kind == Behind::Kind::Captured && !state.behind.picture.isNull()) {
-                    const QRgb desktop =
-                        state.behind.picture.pixel(std::min(x, state.behind.picture.width() - 1),
-                                                   std::min(y, state.behind.picture.height() - 1));
-                    const double rest = 1 - tintOpacity;
-                    under = {under.r + qRed(desktop) / 255.0 * rest,
-                             under.g + qGreen(desktop) / 255.0 * rest,
-                             under.b + qBlue(desktop) / 255.0 * rest, 1};
-                }
-            }
-            const auto mix = [&](float colour, double below) {
-                const double top = double(colour) * lit * (1 - grainAmount) + noise * grainAmount;
-                return top * opacity + below * (1 - opacity);
-            };
-            const double dither = noise;
-            const auto level = [&](double value) {
-                return std::clamp(static_cast<int>(value * 255 + dither), 0, 255);
-            };
-            line[x] =
-                qRgba(level(mix(ground.r, under.r)), level(mix(ground.g, under.g)),
-                      level(mix(ground.b, under.b)), level(opacity + under.a * (1 - opacity)));
-        }
+    const bool hasDesktop =
+        state.behind.kind == Behind::Kind::Captured && !state.behind.picture.isNull();
+    const Layers layers = layersOf(state, hasDesktop);
+    const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.behind.picture : QImage(), size);
+    if (layers.ground <= 0 && layers.tint <= 0) {
+        if (hasDesktop)
+            copyRows(target, area, desktop);
+        else
+            clear(target, area);
+        return;
     }
+
+    const double shown = state.hasPhoto && !state.photo.isNull() ? unitOf(state.photoOpacity) : 0.0;
+    const double strength = vignetteStrength(state);
+    KernelInput input;
+    if (shown > 0) {
+        const QImage& photo = d_->photoGround.composed(d_->photo.fitted(state.photo, size), ratio,
+                                                       strength, state.grainOn);
+        if (shown >= 1 && layers.ground >= 1) {
+            copyRows(target, area, photo);
+            return;
+        }
+        input.pictures[0] = {&photo, layers.ground * shown};
+        input.pictureCount = 1;
+    }
+    if (hasDesktop && layers.behind > 0)
+        input.pictures[static_cast<std::size_t>(input.pictureCount++)] = {&desktop, layers.behind};
+
+    const double speedOf = speed(state.screenAnim);
+    const double asked = speedOf == 0 ? 0 : since2001 * speedOf;
+    const double phase = std::isfinite(asked) ? asked : 0;
+    const double mesh = layers.ground * (1 - shown);
+    const double grain = state.grainOn ? mesh : 0;
+    d_->buildMesh(meshDrift(phase, amplitude(state.screenAnim)), state.palette.colors);
+    d_->nodes.resize(size, ratio);
+    Shading shading;
+    shading.factor = mesh * (state.grainOn ? 1 - grainOpacity : 1);
+    shading.alpha = mesh;
+    shading.vignette = strength;
+    const QColor& tint = state.palette.colors[4];
+    shading.base = {double(tint.blueF()) * layers.tint, double(tint.greenF()) * layers.tint,
+                    double(tint.redF()) * layers.tint, layers.tint};
+    shadeNodes(d_->nodes, size, ratio, d_->mesh, backdropScale(state.screenAnim, phase), shading);
+    d_->tile.build(ratio, grain, hasDesktop || layers.ground >= 1);
+    input.nodes = &d_->nodes;
+    input.tile = &d_->tile;
+    runKernel(target, area, input);
 }
 
 } // namespace morrowleaf

@@ -1,74 +1,53 @@
 #include "screen/meshsurface.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace morrowleaf {
 
 namespace {
 
-struct Place {
-    double u = 0;
-    double v = 0;
-};
+constexpr int probes = 21; // in each direction
 
-constexpr double paramMin = -0.06;
-constexpr double paramMax = 2.06;
-constexpr double leastDeterminant = 0.01;
-constexpr int mostSteps = 16;
-constexpr double closeEnough = 1e-7;
-
-// Newton's method for the parameters at which the surface passes through (x, y).
-Place placeOf(const MeshPoints& points, double x, double y, Place guess) {
-    for (int step = 0; step < mostSteps; ++step) {
-        const KnotWeights across = knotWeights(guess.u);
-        const KnotWeights down = knotWeights(guess.v);
-        double px = 0, py = 0, xu = 0, xv = 0, yu = 0, yv = 0;
-        for (std::size_t row = 0; row < 3; ++row) {
-            for (std::size_t column = 0; column < 3; ++column) {
+double lowestDeterminant(const MeshPoints& points) {
+    static const std::array<KnotWeights, probes> weights = [] {
+        std::array<KnotWeights, probes> all;
+        for (int i = 0; i < probes; ++i)
+            all[static_cast<std::size_t>(i)] = knotWeights(2.0 * i / (probes - 1));
+        return all;
+    }();
+    double lowest = 1;
+    for (const KnotWeights& down : weights) {
+        // The tensor product, one direction at a time.
+        std::array<double, 3> x{}, y{}, xv{}, yv{};
+        for (std::size_t column = 0; column < 3; ++column) {
+            for (std::size_t row = 0; row < 3; ++row) {
                 const MeshPoint& p = points[row * 3 + column];
-                const double value = across.value[column] * down.value[row];
-                const double byU = across.slope[column] * down.value[row];
-                const double byV = across.value[column] * down.slope[row];
-                px += value * double(p.x);
-                py += value * double(p.y);
-                xu += byU * double(p.x);
-                yu += byU * double(p.y);
-                xv += byV * double(p.x);
-                yv += byV * double(p.y);
+                x[column] += down.value[row] * double(p.x);
+                y[column] += down.value[row] * double(p.y);
+                xv[column] += down.slope[row] * double(p.x);
+                yv[column] += down.slope[row] * double(p.y);
             }
         }
-        const double ex = x - px;
-        const double ey = y - py;
-        if (std::abs(ex) + std::abs(ey) < closeEnough)
-            break;
-        const double determinant = std::max(xu * yv - xv * yu, leastDeterminant);
-        guess.u = std::clamp(guess.u + (ex * yv - ey * xv) / determinant, paramMin, paramMax);
-        guess.v = std::clamp(guess.v + (ey * xu - ex * yu) / determinant, paramMin, paramMax);
-    }
-    return guess;
-}
-
-Rgb colourAt(std::span<const QColor, 9> colors, Place place) {
-    const KnotWeights across = knotWeights(place.u);
-    const KnotWeights down = knotWeights(place.v);
-    double r = 0, g = 0, b = 0;
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            const double weight = across.value[column] * down.value[row];
-            const QColor& color = colors[row * 3 + column];
-            r += weight * double(color.redF());
-            g += weight * double(color.greenF());
-            b += weight * double(color.blueF());
+        const auto dot = [](const std::array<double, 3>& a, const std::array<double, 3>& b) {
+            return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+        };
+        for (const KnotWeights& across : weights) {
+            lowest = std::min(lowest, dot(across.slope, x) * dot(across.value, yv) -
+                                          dot(across.value, xv) * dot(across.slope, y));
         }
     }
-    const auto unit = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
-    return {unit(r), unit(g), unit(b)};
+    return lowest;
 }
 
-std::array<double, 4> splineWeights(double s) {
-    return {((-0.5 * s + 1) * s - 0.5) * s, (1.5 * s - 2.5) * s * s + 1,
-            ((-1.5 * s + 2) * s + 0.5) * s, (0.5 * s - 0.5) * s * s};
+MeshPoints drawnBack(const MeshPoints& points, float swing) {
+    MeshPoints drawn = points;
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        const float restX = 0.5F * static_cast<float>(i % 3);
+        const float restY = 0.5F * static_cast<float>(i / 3);
+        drawn[i].x = restX + (points[i].x - restX) * swing;
+        drawn[i].y = restY + (points[i].y - restY) * swing;
+    }
+    return drawn;
 }
 
 } // namespace
@@ -87,41 +66,34 @@ KnotWeights knotWeights(double u) {
     return {{near, middle, far}, {nearSlope, middleSlope, farSlope}};
 }
 
-MeshLattice::MeshLattice(const MeshPoints& points, std::span<const QColor, 9> colors)
-    : nodes_(static_cast<std::size_t>(stride * (rows + 3))) {
-    // Each node starts where its upper neighbour ended, so the picture depends
-    // on the points alone and not on an earlier one.
-    std::array<Place, stride> places;
-    for (int i = 0; i < stride; ++i)
-        places[static_cast<std::size_t>(i)] = {2.0 * (i - 1) / columns, -1.0 / rows};
-    for (int j = 0; j < rows + 3; ++j) {
-        for (int i = 0; i < stride; ++i) {
-            Place& place = places[static_cast<std::size_t>(i)];
-            place = placeOf(points, double(i - 1) / columns, double(j - 1) / rows, place);
-            nodes_[static_cast<std::size_t>(j * stride + i)] = colourAt(colors, place);
+SurfacePoint surfaceAt(const MeshPoints& points, double u, double v) {
+    const KnotWeights across = knotWeights(u);
+    const KnotWeights down = knotWeights(v);
+    SurfacePoint at;
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            const MeshPoint& p = points[row * 3 + column];
+            at.x += across.value[column] * down.value[row] * double(p.x);
+            at.y += across.value[column] * down.value[row] * double(p.y);
+            at.xByU += across.slope[column] * down.value[row] * double(p.x);
+            at.yByU += across.slope[column] * down.value[row] * double(p.y);
+            at.xByV += across.value[column] * down.slope[row] * double(p.x);
+            at.yByV += across.value[column] * down.slope[row] * double(p.y);
         }
     }
+    return at;
 }
 
-Rgb MeshLattice::at(double x, double y) const {
-    const double across = std::clamp(x, 0.0, 1.0) * columns;
-    const double down = std::clamp(y, 0.0, 1.0) * rows;
-    const int i = std::min(static_cast<int>(across), columns - 1);
-    const int j = std::min(static_cast<int>(down), rows - 1);
-    const std::array<double, 4> wx = splineWeights(across - i);
-    const std::array<double, 4> wy = splineWeights(down - j);
-    double r = 0, g = 0, b = 0;
-    for (int row = 0; row < 4; ++row) {
-        for (int column = 0; column < 4; ++column) {
-            const double weight =
-                wx[static_cast<std::size_t>(column)] * wy[static_cast<std::size_t>(row)];
-            const Rgb& color = node(i + column - 1, j + row - 1);
-            r += weight * double(color.r);
-            g += weight * double(color.g);
-            b += weight * double(color.b);
-        }
+MeshPoints unfolded(const MeshPoints& points) {
+    if (lowestDeterminant(points) >= leastDeterminant)
+        return points;
+    float whole = 0;
+    float folding = 1;
+    for (int step = 0; step < 14; ++step) {
+        const float swing = (whole + folding) / 2;
+        (lowestDeterminant(drawnBack(points, swing)) >= leastDeterminant ? whole : folding) = swing;
     }
-    return {static_cast<float>(r), static_cast<float>(g), static_cast<float>(b)};
+    return drawnBack(points, whole);
 }
 
 } // namespace morrowleaf

@@ -2,11 +2,7 @@
 
 #include "screen/meshdrift.h"
 
-#include <QColor>
-
 #include <array>
-#include <span>
-#include <vector>
 
 namespace morrowleaf {
 
@@ -19,33 +15,22 @@ struct KnotWeights {
 };
 KnotWeights knotWeights(double u);
 
-struct Rgb {
-    float r = 0; // 0...1
-    float g = 0;
-    float b = 0;
+// The surface x(u, v), y(u, v) through a mesh's nine points, and its slopes.
+struct SurfacePoint {
+    double x = 0, y = 0;
+    double xByU = 0, xByV = 0;
+    double yByU = 0, yByV = 0;
+
+    double determinant() const { return xByU * yByV - xByV * yByU; }
 };
+SurfacePoint surfaceAt(const MeshPoints& points, double u, double v);
 
-// The colours of a mesh gradient on a regular lattice over its unit square,
-// `columns` by `rows` cells with one ring of nodes beyond each edge.
-class MeshLattice {
-public:
-    static constexpr int columns = 64;
-    static constexpr int rows = 40;
+// Below this the surface counts as folding; a mesh at rest has 0.25 everywhere.
+inline constexpr double leastDeterminant = 0.06;
 
-    MeshLattice(const MeshPoints& points, std::span<const QColor, 9> colors);
-
-    // Node (column, row), -1...columns + 1 and -1...rows + 1.
-    const Rgb& node(int column, int row) const {
-        return nodes_[static_cast<std::size_t>((row + 1) * stride + column + 1)];
-    }
-
-    // The colour at a point of the unit square, between the nodes by
-    // Catmull-Rom; points outside have the colour of the nearest edge point.
-    Rgb at(double x, double y) const;
-
-private:
-    static constexpr int stride = columns + 3;
-    std::vector<Rgb> nodes_;
-};
+// The points themselves unless the surface through them folds over itself, as
+// the widest swings do for a few seconds; then the same points drawn back
+// towards their resting places, just far enough.
+MeshPoints unfolded(const MeshPoints& points);
 
 } // namespace morrowleaf

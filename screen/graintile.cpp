@@ -1,0 +1,67 @@
+#include "screen/graintile.h"
+
+#include "screen/dither.h"
+#include "screen/ground/grain.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+int ditherAt(int x, int y) {
+    return ditherMask()[static_cast<std::size_t>((y % ditherSize) * ditherSize + x % ditherSize)];
+}
+
+int grainAt(int size, int x, int y) {
+    const int column = (2 * x + 1) * grainSize / (2 * size);
+    const int row = (2 * y + 1) * grainSize / (2 * size);
+    return grain()[static_cast<std::size_t>(row * grainSize + column) * 4];
+}
+
+} // namespace
+
+int GrainTile::addend(int size, double grainWeight, int x, int y) {
+    const int inX = x % size;
+    const int inY = y % size;
+    return static_cast<int>(
+               std::lround(grainAt(size, inX, inY) * grainWeight * grainOpacity * 64)) +
+           ditherAt(inX, inY);
+}
+
+void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) {
+    const int size = std::max(1, static_cast<int>(std::lround(grainSize * devicePixelRatio)));
+    if (size == size_ && grainWeight == weight_ && opaque == opaque_)
+        return;
+    size_ = size;
+    weight_ = grainWeight;
+    opaque_ = opaque;
+    lanes_.resize(stride() * static_cast<std::size_t>(size));
+    std::array<qint16, 256> grainLevels;
+    for (std::size_t g = 0; g < grainLevels.size(); ++g) {
+        grainLevels[g] = static_cast<qint16>(
+            std::lround(static_cast<double>(g) * grainWeight * grainOpacity * 64));
+    }
+    std::vector<std::size_t> columns(static_cast<std::size_t>(size));
+    for (int x = 0; x < size; ++x)
+        columns[static_cast<std::size_t>(x)] =
+            static_cast<std::size_t>((2 * x + 1) * grainSize / (2 * size)) * 4;
+    for (int y = 0; y < size; ++y) {
+        qint16* line = lanes_.data() + stride() * static_cast<std::size_t>(y);
+        const quint8* noise =
+            grain().data() +
+            static_cast<std::size_t>((2 * y + 1) * grainSize / (2 * size)) * grainSize * 4;
+        for (int x = 0; x < size; ++x) {
+            const int dither = ditherAt(x, y);
+            const auto value = static_cast<qint16>(
+                grainLevels[noise[columns[static_cast<std::size_t>(x)]]] + dither);
+            line[x * 4] = line[x * 4 + 1] = line[x * 4 + 2] = value;
+            line[x * 4 + 3] = static_cast<qint16>(opaque ? 256 : dither);
+        }
+        for (int x = 0; x < overhang * 4; ++x)
+            line[size * 4 + x] = line[x % (size * 4)];
+    }
+}
+
+} // namespace morrowleaf

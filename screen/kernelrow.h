@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <array>
+
+namespace morrowleaf {
+
+// A stretch of one row in whole blocks of 8 pixels, for one path of the kernel.
+struct KernelRow {
+    const qint16* nodes = nullptr;  // of this row, from its first cell
+    const qint16* across = nullptr; // weights of a cell's pixels, four lanes each, 32768 is 1
+    int blocksPerCell = 1;
+    int cell = 8;                 // pixels; below 8 for kernelRowFine() alone
+    const qint16* tile = nullptr; // of this row, with its overhang
+    int tileSize = 0;
+    std::array<const quint32*, 3> pictures{}; // of this row, from column 0
+    std::array<quint16, 3> weights{};         // 16384 is 1
+    int pictureCount = 0;
+    bool multiply = false;
+    quint32* out = nullptr; // of this row, from column 0
+};
+
+// Blocks `first` (inclusive) to `last` (exclusive).
+using RowFunction = void (*)(const KernelRow& row, int first, int last);
+void kernelRowPortable(const KernelRow& row, int first, int last);
+void kernelRowAvx2(const KernelRow& row, int first, int last);
+// For the small cells of a small picture, where speed does not matter.
+void kernelRowFine(const KernelRow& row, int first, int last);
+
+// out = above + (below - above) * weight / 32768, for `count` lanes.
+using MixFunction = void (*)(const qint16* above, const qint16* below, qint16 weight, qint16* out,
+                             int count);
+void mixRowsPortable(const qint16* above, const qint16* below, qint16 weight, qint16* out,
+                     int count);
+
+// The processor has AVX2 and this build uses it.
+bool hasAvx2();
+
+} // namespace morrowleaf

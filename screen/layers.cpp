@@ -1,0 +1,28 @@
+#include "screen/layers.h"
+
+#include "screen/vignette.h"
+
+#include <algorithm>
+
+namespace morrowleaf {
+
+double unitOf(double value) {
+    return value > 0 ? std::min(value, 1.0) : 0;
+}
+
+double vignetteStrength(const BackdropState& state) {
+    const bool faint = state.palette.light && !state.hasPhoto;
+    return unitOf(state.vignette * (faint ? lightVignette : 1));
+}
+
+Layers layersOf(const BackdropState& state, bool canSee) {
+    const Behind::Kind kind = state.behind.kind;
+    const double t = unitOf(state.transparency);
+    if (kind == Behind::Kind::Nothing || (kind == Behind::Kind::Captured && !canSee) || t <= 0)
+        return {};
+    const double glass = t > leastTransparency ? std::min((1 - t) * 4, 1.0) : 0;
+    const double tint = glass * ((1 - t) * 0.5 + 0.06);
+    return {.ground = 1 - t, .tint = t * tint, .behind = canSee ? t * (1 - tint) : 0};
+}
+
+} // namespace morrowleaf
