@@ -35,6 +35,13 @@ bool somethingInFront(const QWidget* window) {
     return QApplication::activePopupWidget() != nullptr || (modal != nullptr && modal != window);
 }
 
+Behind behindOf(Behind::Kind kind, const QImage& picture = {}) {
+    Behind behind;
+    behind.kind = kind;
+    behind.picture = picture;
+    return behind;
+}
+
 OverlaySetup overlaySetup(bool preview, bool editing) {
     if (preview) {
         return {.level = WindowLevel::Normal,
@@ -109,6 +116,7 @@ void AppDelegate::present(bool preview, bool editing) {
     }
     auto window = std::make_unique<QuoteWindow>(*around_.platform.overlays, *screen,
                                                 overlaySetup(preview, editing));
+    const Behind behind = lookBehind(*window, *screen, editing);
     const EditingHooks hooks{.onDone =
                                  [self = QPointer(this)] {
                                      if (self) {
@@ -126,9 +134,9 @@ void AppDelegate::present(bool preview, bool editing) {
                                      if (w) {
                                          w->overlay().setLevel(WindowLevel::ScreenSaver);
                                      }
-                                 }};
+                                 },
+                             .glassCanBeDrawn = behind.kind == Behind::Kind::Captured};
     const QuoteContent content = around_.makeQuoteScreen(editing ? &hooks : nullptr);
-    const Behind behind = lookBehind(*window, *screen, editing);
     if (content.setBehind) {
         content.setBehind(behind);
     }
@@ -184,14 +192,14 @@ Behind AppDelegate::lookBehind(QuoteWindow& window, QScreen& screen, bool editin
             window.setDesktop(picture);
         }
         if (!picture.isNull() && looksThrough) {
-            return {.kind = Behind::Kind::Captured, .picture = picture};
+            return behindOf(Behind::Kind::Captured, picture);
         }
     }
     switch (through) {
     case SeeThrough::Plain:
-        return {.kind = Behind::Kind::Plain, .picture = {}};
+        return behindOf(Behind::Kind::Plain);
     case SeeThrough::Blurred:
-        return {.kind = Behind::Kind::LiveBlur, .picture = {}};
+        return behindOf(Behind::Kind::LiveBlur);
     case SeeThrough::No:
         break;
     }

@@ -34,6 +34,7 @@ struct EditingHooks {
     std::function<void()> onDone;
     std::function<void()> lowerForDialog;
     std::function<void()> restoreAfterDialog;
+    bool glassCanBeDrawn = false; // the desktop behind the window is known
 };
 
 // What the controller works with; all of it outlives the controller.

@@ -18,7 +18,7 @@ InspectorFactory inspectorFactory(const ScreenSurroundings& around, const QScree
                                 .photos = around.photos,
                                 .choosePhoto =
                                     photoDialog(hooks.lowerForDialog, hooks.restoreAfterDialog),
-                                .glassCanBeDrawn = true,
+                                .glassCanBeDrawn = hooks.glassCanBeDrawn,
                                 .face = nsFont(around.fonts, faceSize, FontDesign::Default).face,
                                 .screen = std::nullopt};
     if (screen != nullptr) {

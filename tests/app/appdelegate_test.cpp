@@ -467,6 +467,35 @@ TEST_F(AppDelegateTest, DesktopIsCapturedOnlyWhereItIsSeen) {
     EXPECT_EQ(behind->kind, Behind::Kind::Captured);
 }
 
+TEST_F(AppDelegateTest, TheEditorKnowsWhetherGlassCanBeDrawn) {
+    desktop.picture = QImage(8, 8, QImage::Format_RGB32);
+    launch();
+    delegate->editAppearance();
+    EXPECT_TRUE(hooks.value().glassCanBeDrawn);
+    desktop.picture = {};
+    for (const auto through : {SeeThrough::Plain, SeeThrough::Blurred, SeeThrough::No}) {
+        desktop.seeThrough = through;
+        delegate->editAppearance();
+        EXPECT_FALSE(hooks.value().glassCanBeDrawn);
+    }
+}
+
+TEST_F(AppDelegateTest, EscapeInTheSettingsEndsTheEditingAndNothingElse) {
+    launchAndClose();
+    delegate->openSettings();
+    edit();
+    auto* settings = const_cast<QWidget*>(delegate->settingsWindow());
+    auto* field = settings->findChild<QLineEdit*>();
+    QTest::keyClicks(field, "kept");
+    EXPECT_TRUE(isShown());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(isShown());
+    EXPECT_TRUE(settings->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(settings->isVisible());
+    EXPECT_EQ(field->text(), "kept");
+}
+
 TEST_F(AppDelegateTest, WithoutACaptureTheNextRungHolds) {
     store.set(K::transparency, 0.5);
     desktop.seeThrough = SeeThrough::Blurred;
