@@ -1,5 +1,7 @@
 #include "settingsui/formcard.h"
 
+#include "settingsui/switch.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -66,7 +68,7 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     heading->setContentsMargins(sideRoom, 0, 0, 0);
     column_->addWidget(heading);
     auto* rows = new QVBoxLayout(frame_);
-    rows->setContentsMargins(sideRoom, 0, sideRoom, 0);
+    rows->setContentsMargins(sideRoom, 0, sideRoom - Switch::overhang, 0);
     rows->setSpacing(0);
     column_->addWidget(frame_);
 }
@@ -80,7 +82,11 @@ void FormCard::addRow(QWidget* row) {
 
 void FormCard::addContinuation(QWidget* row) {
     row->setMinimumHeight(rowHeight);
-    frame_->layout()->addWidget(row);
+    // What is seen ends in line; a switch's focus ring reaches over the edge.
+    auto* room = new QHBoxLayout;
+    room->setContentsMargins(0, 0, qobject_cast<Switch*>(row) != nullptr ? 0 : Switch::overhang, 0);
+    room->addWidget(row);
+    static_cast<QVBoxLayout*>(frame_->layout())->addLayout(room);
 }
 
 void FormCard::addRow(const QString& label, QWidget* control) {

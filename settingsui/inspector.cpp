@@ -96,9 +96,18 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
     QLabel* label =
         panelLabel(title.toUpper(), panelFont(around_.face, 9, QFont::Medium, 1.8), 0.4, this);
     label->setAccessibleName(title);
+    label->setContentsMargins(PanelStyle::focusRoom, 0, 0, 0);
     group->addWidget(label);
     for (QWidget* row : rows) {
-        group->addWidget(row);
+        // What is seen stands in line; a focus ring may reach over the edge.
+        auto* room = new QHBoxLayout;
+        room->setContentsMargins(qobject_cast<Knob*>(row) != nullptr ? 0 : PanelStyle::focusRoom, 0,
+                                 qobject_cast<Switch*>(row) != nullptr
+                                     ? PanelStyle::focusRoom - Switch::overhang
+                                     : PanelStyle::focusRoom,
+                                 0);
+        room->addWidget(row);
+        group->addLayout(room);
     }
     column.addLayout(group);
 }
@@ -124,8 +133,9 @@ QWidget* Inspector::makeGroups() {
     const QFont& face = around_.face;
     auto* groups = new QWidget(this);
     auto* column = new QVBoxLayout(groups);
-    column->setContentsMargins(PanelStyle::margin - 1, 18,
-                               PanelStyle::margin - PanelScrollBar::thickness, 22);
+    column->setContentsMargins(
+        PanelStyle::margin - PanelStyle::focusRoom - 1, 18,
+        PanelStyle::margin - PanelStyle::focusRoom - PanelScrollBar::thickness, 22);
     column->setSpacing(PanelStyle::groupSpacing);
 
     const auto knob = [&](const char* name, QLatin1StringView key, Knob::Range range,

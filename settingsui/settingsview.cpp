@@ -189,6 +189,7 @@ void SettingsView::addQuotes(FormCard& card) {
     auto* source = new QLineEdit(&card);
     source->setPlaceholderText(QStringLiteral("Leave empty for the built-in 124 quotes"));
     source->setMinimumWidth(330);
+    source->setTextMargins(4, 0, 4, 0);
     bindText(*source, around_.store, K::source, {});
     card.addRow(QStringLiteral("Source URL"), source);
 

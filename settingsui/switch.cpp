@@ -8,8 +8,6 @@
 namespace morrowleaf {
 namespace {
 
-constexpr int inset = 3; // points between the track and the widget's right edge
-
 QColor withAlpha(QColor color, double alpha) {
     color.setAlphaF(float(alpha));
     return color;
@@ -25,8 +23,8 @@ Switch::Switch(const QString& text, Size size, QWidget* parent)
 
 QSize Switch::sizeHint() const {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(text()) + 12 + track_.width() + 2 * inset,
-            qMax(metrics.height(), track_.height() + 2 * inset)};
+    return {metrics.horizontalAdvance(text()) + 12 + track_.width() + overhang,
+            qMax(metrics.height(), track_.height() + 2 * overhang)};
 }
 
 void Switch::paintEvent(QPaintEvent* /*event*/) {
@@ -35,7 +33,7 @@ void Switch::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
 
-    const QRectF track(width() - inset - track_.width(), (height() - track_.height()) / 2.0,
+    const QRectF track(width() - overhang - track_.width(), (height() - track_.height()) / 2.0,
                        track_.width(), track_.height());
     const double radius = track.height() / 2;
     const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);

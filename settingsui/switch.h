@@ -10,6 +10,9 @@ class Switch : public QCheckBox {
     Q_OBJECT
 
 public:
+    // Points right of the track for its focus ring.
+    static constexpr int overhang = 3;
+
     enum class Size { Small, Regular };
     Switch(const QString& text, Size size, QWidget* parent = nullptr);
 
