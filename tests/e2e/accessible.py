@@ -1,0 +1,90 @@
+"""A small screen reader: finds, presses and sets what a program exposes.
+
+accessible.py list
+accessible.py find ROLES NAME     ROLES parted by |, empty for any; NAME may be a beginning
+accessible.py labelled ROLE NAME  what a label of that name belongs to
+accessible.py press NAME
+accessible.py set NAME VALUE
+"""
+import sys
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
+
+def everything(node):
+    yield node
+    for index in range(node.get_child_count()):
+        child = node.get_child_at_index(index)
+        if child is not None:
+            yield from everything(child)
+
+
+def program():
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        application = desktop.get_child_at_index(index)
+        if application is not None and application.get_name().lower() == "morrowleaf":
+            return application
+    sys.exit("the program is not there")
+
+
+def seen(node):
+    return node.get_state_set().contains(Atspi.StateType.SHOWING) or node.get_role_name() in (
+        "static",
+        "label",
+    )
+
+
+def find(roles, name):
+    for node in everything(program()):
+        if not (node.get_name() or "").startswith(name) or not seen(node):
+            continue
+        role = node.get_role_name()
+        if not roles or any(role.endswith(wanted) for wanted in roles.split("|")):
+            return node
+    sys.exit(f"no {roles} {name}")
+
+
+def is_labelled(node, name):
+    return any(
+        relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+        and relation.get_target(0).get_name() == name
+        for relation in node.get_relation_set()
+    )
+
+
+def main():
+    command = sys.argv[1]
+    if command == "list":
+        for node in everything(program()):
+            states = node.get_state_set()
+            print(
+                f"{node.get_role_name()} | {node.get_name()} | {node.get_description()} |"
+                f" {'showing' if states.contains(Atspi.StateType.SHOWING) else 'hidden'}"
+            )
+    elif command == "find":
+        node = find(sys.argv[2], sys.argv[3])
+        print(node.get_role_name(), node.get_name())
+    elif command == "labelled":
+        if not any(
+            node.get_role_name() == sys.argv[2] and is_labelled(node, sys.argv[3])
+            for node in everything(program())
+        ):
+            sys.exit("nothing has that label")
+    elif command == "press":
+        node = find("", sys.argv[2])
+        if not node.do_action(0):
+            sys.exit("cannot be pressed")
+    elif command == "set":
+        node = find("slider", sys.argv[2])
+        if not node.set_current_value(float(sys.argv[3])):
+            sys.exit("cannot be set")
+
+
+try:
+    main()
+except GLib.Error as error:
+    sys.exit(str(error))
