@@ -1,5 +1,6 @@
 #include "screen/backdrop.h"
 
+#include "screen/glass.h"
 #include "screen/ground/grain.h"
 #include "screen/kernel.h"
 #include "screen/layers.h"
@@ -60,6 +61,10 @@ BackdropPainter::BackdropPainter()
 
 BackdropPainter::~BackdropPainter() = default;
 
+bool glassAvailable(const Behind& behind) {
+    return behind.kind == Behind::Kind::Captured;
+}
+
 bool BackdropPainter::moves(const BackdropState& state) {
     return state.animated && !state.hasPhoto && state.screenAnim != ScreenAnim::Still;
 }
@@ -77,7 +82,10 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
 
     const bool hasDesktop =
         state.behind.kind == Behind::Kind::Captured && !state.behind.picture.isNull();
-    const Layers layers = layersOf(state, hasDesktop);
+    const std::shared_ptr<const Glass> glass =
+        hasDesktop && state.behind.glass && state.behind.glass->size == size ? state.behind.glass
+                                                                             : nullptr;
+    const Layers layers = layersOf(state, hasDesktop, glass != nullptr);
     const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.behind.picture : QImage(), size);
     if (layers.ground <= 0 && layers.tint <= 0) {
         if (hasDesktop)
@@ -100,8 +108,16 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         input.pictures[0] = {&photo, layers.ground * shown};
         input.pictureCount = 1;
     }
-    if (hasDesktop && layers.behind > 0)
-        input.pictures[static_cast<std::size_t>(input.pictureCount++)] = {&desktop, layers.behind};
+    const auto shines = [&input](const QImage& image, double weight) {
+        if (weight > 0)
+            input.pictures[static_cast<std::size_t>(input.pictureCount++)] = {&image, weight};
+    };
+    const bool clearGlass = state.liquidGlass && state.transparency > clearFrom;
+    if (hasDesktop) {
+        shines(desktop, layers.sharp);
+        if (glass && clearGlass)
+            shines(glass->clear, layers.glass);
+    }
 
     const double speedOf = speed(state.screenAnim);
     const double asked = speedOf == 0 ? 0 : since2001 * speedOf;
@@ -117,11 +133,17 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const QColor& tint = state.palette.colors[4];
     shading.base = {double(tint.blueF()) * layers.tint, double(tint.greenF()) * layers.tint,
                     double(tint.redF()) * layers.tint, layers.tint};
+    if (glass && !clearGlass) {
+        shading.under = &glass->frosted;
+        shading.underWeight = layers.glass;
+    }
     shadeNodes(d_->nodes, size, ratio, d_->mesh, backdropScale(state.screenAnim, phase), shading);
     d_->tile.build(ratio, grain, hasDesktop || layers.ground >= 1);
     input.nodes = &d_->nodes;
     input.tile = &d_->tile;
     runKernel(target, area, input);
+    if (layers.rim > 0)
+        addRim(target, area, clearGlass ? GlassStyle::Clear : GlassStyle::Regular, layers.rim);
 }
 
 } // namespace morrowleaf

@@ -11,16 +11,22 @@
 
 namespace morrowleaf {
 
+struct Glass; // glass.h
+
 // What lies behind the window, as far as the desktop lets us know.
 struct Behind {
     enum class Kind {
-        Nothing,   // cannot be seen through: the ground is drawn opaque
-        Plain,     // seen through the window's alpha, unblurred
-        LiveBlur,  // the same, blurred by the compositor
-        Captured,  // `picture` holds it, and the window is opaque
+        Nothing,  // cannot be seen through: the ground is drawn opaque
+        Plain,    // seen through the window's alpha, unblurred
+        LiveBlur, // the same, blurred by the compositor
+        Captured, // `picture` holds it, and the window is opaque
     };
     Kind kind = Kind::Nothing;
     QImage picture; // device pixels of the whole window, for Captured
+    // For Captured: the picture under glass, by makeGlass() in a worker. Until
+    // it is there the picture shows unblurred under the tint.
+    std::shared_ptr<const Glass> glass;
+    double glassOpacity = 1; // 0...1 while the glass fades in over the sharp picture
 };
 
 // Everything behind the text, as a value. Its picture depends on this, the
@@ -58,6 +64,9 @@ private:
     struct Private;
     std::unique_ptr<Private> d_;
 };
+
+// The glass material can be had: the pixels behind are at hand.
+bool glassAvailable(const Behind& behind);
 
 // Frames of a moving backdrop are at least this far apart.
 inline constexpr double backdropInterval = 1.0 / 30.0; // seconds

@@ -7,7 +7,7 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int lane = 104; // nodes of a row, the padding included
+constexpr int lane = 136; // nodes of a row, the padding included
 using Line = std::array<float, lane>;
 
 // Just beyond the mesh, where the ring of nodes lies.

@@ -15,8 +15,8 @@ namespace morrowleaf {
 // on points and colours alone, not on an earlier picture.
 class MeshLattice {
 public:
-    static constexpr int columns = 96; // cells
-    static constexpr int rows = 60;
+    static constexpr int columns = 128; // cells
+    static constexpr int rows = 80;
 
     // The points must not fold, see unfolded().
     void build(const MeshPoints& points, std::span<const QColor, 9> colors);
@@ -28,7 +28,7 @@ public:
     }
 
 private:
-    static constexpr int stride = 104; // columns + 3, padded to whole vectors
+    static constexpr int stride = 136; // columns + 3, padded to whole vectors
     static constexpr int planeSize = stride * (rows + 3);
     std::vector<float> nodes_;
 };

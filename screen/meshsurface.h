@@ -26,7 +26,7 @@ struct SurfacePoint {
 SurfacePoint surfaceAt(const MeshPoints& points, double u, double v);
 
 // Below this the surface counts as folding; a mesh at rest has 0.25 everywhere.
-inline constexpr double leastDeterminant = 0.06;
+inline constexpr double leastDeterminant = 0.03;
 
 // The points themselves unless the surface through them folds over itself, as
 // the widest swings do for a few seconds; then the same points drawn back

@@ -1,0 +1,134 @@
+#include "screen/glass.h"
+
+#include "screen/blurredgrid.h"
+#include "screen/dither.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double bevel = 56; // points from the edge in which the clear glass bends
+constexpr double bend = 24;  // points, at the edge itself
+
+// From where, in pixels, the clear glass shows what is seen at `at`.
+double bent(double at, int length, double ratio) {
+    const auto shift = [&](double distance) {
+        const double near = std::max(0.0, 1 - distance / (bevel * ratio));
+        return near * near * bend * ratio;
+    };
+    // A picture smaller than two bevels bends less.
+    const double most = std::min(1.0, length / (2 * bevel * ratio));
+    return at + most * (shift(at) - shift(length - at));
+}
+
+NodeGrid frostedNodes(const QImage& picture, double ratio) {
+    NodeGrid nodes;
+    nodes.resize(picture.size(), ratio);
+    const BlurredGrid grid(picture, NodeGrid::cellFor(picture.size(), ratio), frostSigma * ratio);
+    for (int j = 0; j < nodes.rows; ++j) {
+        qint16* to = nodes.row(j);
+        for (int i = 0; i < nodes.columns; ++i, to += 4) {
+            const std::array<float, 3> c = grid.at(nodes.place(i), nodes.place(j));
+            const float luma = 0.0722F * c[0] + 0.7152F * c[1] + 0.2126F * c[2];
+            for (std::size_t n = 0; n < 3; ++n) {
+                const float lifted = luma + (c[n] - luma) * float(frostSaturation);
+                to[n] = static_cast<qint16>(std::lround(std::clamp(lifted, 0.0F, 255.0F) * 64));
+            }
+            to[3] = fullLane;
+        }
+    }
+    return nodes;
+}
+
+QImage clearPicture(const QImage& picture, double ratio) {
+    const BlurredGrid grid(picture, std::max(1, static_cast<int>(2 * ratio)), clearSigma * ratio);
+    QImage clear(picture.size(), QImage::Format_RGB32);
+    std::vector<double> columns(static_cast<std::size_t>(clear.width()));
+    for (int x = 0; x < clear.width(); ++x)
+        columns[static_cast<std::size_t>(x)] = bent(x + 0.5, clear.width(), ratio);
+    for (int y = 0; y < clear.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(clear.scanLine(y));
+        const double from = bent(y + 0.5, clear.height(), ratio);
+        for (int x = 0; x < clear.width(); ++x) {
+            const std::array<float, 3> c = grid.at(columns[static_cast<std::size_t>(x)], from);
+            const float dither = static_cast<float>(ditherMask()[static_cast<std::size_t>(
+                                     y % ditherSize * ditherSize + x % ditherSize)]) /
+                                 64;
+            const auto level = [dither](float value) {
+                return std::clamp(static_cast<int>(value + dither), 0, 255);
+            };
+            line[x] = qRgb(level(c[2]), level(c[1]), level(c[0]));
+        }
+    }
+    return clear;
+}
+
+// The light at a distance from an edge, in points: a fine line and a glow.
+double rimLight(GlassStyle style, double distance) {
+    const double fine = std::exp(-distance * distance / 1.8);
+    return style == GlassStyle::Clear ? 0.5 * fine + 0.07 * std::exp(-distance / 7)
+                                      : 0.32 * fine + 0.05 * std::exp(-distance / 12);
+}
+
+constexpr double rimReach = 48;     // points: less than half a level of glow beyond
+constexpr double shadowSide = 0.55; // of the light, at the right and the bottom
+
+// The light of two opposite edges at every place between them.
+std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
+    std::vector<float> light(static_cast<std::size_t>(length));
+    for (int i = 0; i < length; ++i) {
+        const double lit = rimLight(style, (i + 0.5) / ratio);
+        const double shadowed = shadowSide * rimLight(style, (length - i - 0.5) / ratio);
+        light[static_cast<std::size_t>(i)] = static_cast<float>(lit + shadowed - lit * shadowed);
+    }
+    return light;
+}
+
+} // namespace
+
+std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio) {
+    if (picture.isNull())
+        return nullptr;
+    const double ratio = devicePixelRatio > 0 ? devicePixelRatio : 1;
+    const QImage pixels = picture.convertToFormat(QImage::Format_RGB32);
+    auto glass = std::make_shared<Glass>();
+    glass->size = pixels.size();
+    glass->frosted = frostedNodes(pixels, ratio);
+    glass->clear = clearPicture(pixels, ratio);
+    return glass;
+}
+
+void addRim(QImage& target, const QRect& clip, GlassStyle style, double strength) {
+    const double ratio = target.devicePixelRatio();
+    const std::vector<float> across = rimAlong(target.width(), ratio, style);
+    const std::vector<float> down = rimAlong(target.height(), ratio, style);
+    const int reach = static_cast<int>(std::ceil(rimReach * ratio));
+    const auto most = static_cast<float>(255 * strength);
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(target.scanLine(y));
+        const float fromDown = down[static_cast<std::size_t>(y)];
+        const bool whole = y < reach || y >= target.height() - reach;
+        for (int x = clip.left(); x <= clip.right(); ++x) {
+            if (!whole && x >= reach && x < target.width() - reach) {
+                x = target.width() - reach - 1; // the middle of a row has no light
+                continue;
+            }
+            const float fromAcross = across[static_cast<std::size_t>(x)];
+            const float light = fromAcross + fromDown - fromAcross * fromDown;
+            const auto dither = static_cast<float>(ditherMask()[static_cast<std::size_t>(
+                                    y % ditherSize * ditherSize + x % ditherSize)]) /
+                                64;
+            const int more = static_cast<int>(light * most + dither);
+            const QRgb pixel = line[x];
+            const int alpha = qAlpha(pixel);
+            line[x] =
+                qRgba(std::min(qRed(pixel) + more, alpha), std::min(qGreen(pixel) + more, alpha),
+                      std::min(qBlue(pixel) + more, alpha), alpha);
+        }
+    }
+}
+
+} // namespace morrowleaf
