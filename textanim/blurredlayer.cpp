@@ -38,6 +38,35 @@ QRect blurredRect(QPoint origin, QSize cells, int cell, double sigma) {
     return {origin - QPoint(margin, margin) * cell, (cells + QSize(2 * margin, 2 * margin)) * cell};
 }
 
+// The values of the pixels between the centres of all neighbouring cells.
+inline void slopesOf(const std::vector<float>& cells, std::size_t cell, float* to) {
+    const float step = 1.0F / static_cast<float>(cell);
+    for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
+        const float from = cells[i];
+        const float slope = (cells[i + 1] - from) * step;
+        for (std::size_t x = 0; x < cell; ++x) {
+            *to++ = from + slope * (static_cast<float>(x) + 0.5F);
+        }
+    }
+}
+
+// The compiler takes several pixels at once where it knows how many there are.
+template <std::size_t cell>
+void slopes(const std::vector<float>& cells, float* to) {
+    std::array<float, cell> steps;
+    for (std::size_t x = 0; x < cell; ++x) {
+        steps[x] = (static_cast<float>(x) + 0.5F) / static_cast<float>(cell);
+    }
+    for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
+        const float from = cells[i];
+        const float rise = cells[i + 1] - from;
+        for (std::size_t x = 0; x < cell; ++x) {
+            to[x] = from + rise * steps[x];
+        }
+        to += cell;
+    }
+}
+
 } // namespace
 
 int BlurredLayer::cellSize(double sigma) {
@@ -75,40 +104,39 @@ BlurredLayer::BlurredLayer(const Plane& reduced, QPoint origin, int cell, double
     planes_.push_back(std::move(plane));
 }
 
-void BlurredLayer::row(std::size_t channel, int y, int left, int width,
-                       std::vector<float>& out) const {
+void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) const {
     const Plane& plane = planes_[channel];
-    out.assign(static_cast<std::size_t>(width), 0.0F);
-    if (y < rect_.top() || y > rect_.bottom()) {
-        return;
-    }
+    out.resize(static_cast<std::size_t>(rect_.width()));
     // Cells are known at their centres and slope evenly between them.
     const double at = (y - rect_.top() + 0.5) / cell_ - 0.5;
     const int upper = static_cast<int>(std::floor(at));
     const auto share = static_cast<float>(at - upper);
     const float* above = plane.row(std::clamp(upper, 0, plane.height - 1));
     const float* below = plane.row(std::clamp(upper + 1, 0, plane.height - 1));
-    const auto valueAt = [&](int x) {
-        const int i = std::clamp(x, 0, plane.width - 1);
-        return above[i] + (below[i] - above[i]) * share;
-    };
-    const int begin = std::max(left, rect_.left());
-    const int end = std::min(left + width, rect_.right() + 1);
-    const float step = 1.0F / static_cast<float>(cell_);
-    for (int x = begin; x < end;) {
-        const int inside = x - rect_.left();
-        const int half = cell_ / 2;
-        const int cellOfRight = (inside + half) / cell_;
-        const int cellEnd = std::min(end, rect_.left() + (cellOfRight + 1) * cell_ - half);
-        const float from = valueAt(cellOfRight - 1);
-        const float slope = (valueAt(cellOfRight) - from) * step;
-        const float first =
-            cell_ == 1 ? 1 : static_cast<float>(inside + half - cellOfRight * cell_) + 0.5F;
-        float* to = out.data() + (x - left);
-        for (int i = 0; i < cellEnd - x; ++i) {
-            to[i] = from + slope * (first + static_cast<float>(i));
-        }
-        x = cellEnd;
+    const auto cells = static_cast<std::size_t>(plane.width);
+    if (cell_ == 1) {
+        std::copy_n(above, cells, out.data());
+        return;
+    }
+    std::vector<float> mixed(cells);
+    for (std::size_t i = 0; i < cells; ++i) {
+        mixed[i] = above[i] + (below[i] - above[i]) * share;
+    }
+    const auto half = static_cast<std::size_t>(cell_ / 2);
+    std::fill_n(out.data(), half, mixed.front());
+    std::fill_n(out.data() + (out.size() - half), half, mixed.back());
+    float* to = out.data() + half;
+    switch (cell_) {
+    case 2:
+        return slopes<2>(mixed, to);
+    case 4:
+        return slopes<4>(mixed, to);
+    case 8:
+        return slopes<8>(mixed, to);
+    case 16:
+        return slopes<16>(mixed, to);
+    default:
+        return slopesOf(mixed, static_cast<std::size_t>(cell_), to);
     }
 }
 

@@ -32,9 +32,9 @@ public:
 
     QRect rect() const { return rect_; } // device pixels; nothing is outside it
 
-    // Gives a channel (0...255) over `width` pixels from `left` on in the row
-    // `y` of the device.
-    void row(std::size_t channel, int y, int left, int width, std::vector<float>& out) const;
+    // Gives a channel (0...255) over the whole width of `rect` in one of its
+    // rows, counted from the top of the device.
+    void row(std::size_t channel, int y, std::vector<float>& out) const;
 
 private:
     int cell_ = 1;

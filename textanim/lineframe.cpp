@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace morrowleaf {
@@ -105,43 +106,52 @@ QImage writtenLetters(const LineShapes& line, const LineStage& stage, double sca
     return picture;
 }
 
-// Turns a row of values into bytes of a channel that is still 0. The same
-// threshold in all channels keeps each below its alpha.
-void writeChannel(const std::vector<float>& values, float factor, const std::vector<float>& dither,
-                  int shift, QRgb* pixels) {
-    const auto count = static_cast<int>(values.size());
-    const float* from = values.data();
+// Turns values into bytes of a channel that is still 0. The same threshold in
+// all channels keeps each below its alpha.
+void writeChannel(const float* values, float factor, const std::vector<float>& dither, int shift,
+                  QRgb* pixels) {
+    const auto count = static_cast<int>(dither.size());
     const float* threshold = dither.data();
     for (int x = 0; x < count; ++x) {
-        const float value = std::min(from[x] * factor + threshold[x], 255.0F);
+        const float value = std::min(values[x] * factor + threshold[x], 255.0F);
         pixels[x] |= static_cast<QRgb>(static_cast<int>(value)) << shift;
     }
+}
+
+// The thresholds of eight rows, after which they repeat.
+std::array<std::vector<float>, 8> ditherRows(int left, int width) {
+    std::array<std::vector<float>, 8> rows;
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < width; ++x) {
+            rows[static_cast<std::size_t>(y)].push_back(ditherAt(left + x, y));
+        }
+    }
+    return rows;
 }
 
 // A layer without colours of its own takes `color`.
 void writePixels(const BlurredLayer& layer, bool colored, const QColor& color, double opacity,
                  QImage& to, QPoint origin) {
-    const int width = to.width();
-    std::vector<float> values;
-    std::vector<float> dither(static_cast<std::size_t>(width));
+    const QRect shown = layer.rect() & QRect(origin, to.size());
+    const std::array<std::vector<float>, 8> dither = ditherRows(shown.left(), shown.width());
     const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
-    const QRect rows = layer.rect() & QRect(origin, to.size());
-    for (int y = rows.top(); y <= rows.bottom(); ++y) {
-        auto* pixels = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
-        for (int x = 0; x < width; ++x) {
-            const auto at = static_cast<std::size_t>(x);
-            dither[at] = x < 8 ? ditherAt(origin.x() + x, y) : dither[at - 8];
-        }
+    const auto skipped = static_cast<std::size_t>(shown.left() - layer.rect().left());
+    std::vector<float> values;
+    for (int y = shown.top(); y <= shown.bottom(); ++y) {
+        auto* pixels =
+            reinterpret_cast<QRgb*>(to.scanLine(y - origin.y())) + (shown.left() - origin.x());
         if (!colored) {
-            layer.row(0, y, origin.x(), width, values);
+            layer.row(0, y, values);
         }
         for (std::size_t i = 0; i < parts.size(); ++i) {
             if (colored) {
-                layer.row(i, y, origin.x(), width, values);
+                layer.row(i, y, values);
             }
             const float factor = static_cast<float>(opacity) * (colored ? 1.0F : parts[i]);
             if (factor > 0) {
-                writeChannel(values, factor, dither, 8 * static_cast<int>(i), pixels);
+                writeChannel(values.data() + skipped, factor,
+                             dither[static_cast<std::size_t>(y & 7)], 8 * static_cast<int>(i),
+                             pixels);
             }
         }
     }
