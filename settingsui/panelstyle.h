@@ -12,7 +12,7 @@ namespace morrowleaf {
 // picture shows, so that it can be read over any palette and any photo.
 namespace PanelStyle {
 inline constexpr int margin = 20;       // points, left and right of the content
-inline constexpr int groupSpacing = 22; // points between groups
+inline constexpr int groupSpacing = 20; // points between groups
 inline constexpr int titleSpacing = 10; // points between a title and its content
 inline constexpr int paletteColumns = 5;
 inline constexpr int photoColumns = 3;

@@ -1,0 +1,152 @@
+#include "platform/null/nullplatform.h"
+#include "quotes/bgstore.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/backdrop.h"
+#include "settingsui/hostpalette.h"
+#include "settingsui/inspector.h"
+#include "settingsui/settingsview.h"
+#include "settingsui/swatch.h"
+#include "tests/screen/goldenpictures.h"
+#include "tests/screen/sceneforscreens.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QTest>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace morrowleaf {
+namespace {
+
+int ratio() {
+    return qRound(qApp->devicePixelRatio());
+}
+
+// The bundled face instead of the host's, so that every machine draws the same.
+QFont bundledFace() {
+    return nsFont(bundledFonts(), 13, FontDesign::Default).face;
+}
+
+void expectGolden(const QString& name, const QImage& frame, int factor) {
+    const QString file = QStringLiteral("%1@%2.png").arg(name).arg(ratio());
+    const QImage picture = forRecord(frame, factor);
+    const PictureDifference difference = comparePictures(goldenPicture(file, picture), picture);
+    EXPECT_TRUE(difference.acceptable())
+        << file.toStdString() << ": same size " << difference.sameSize << ", worst block "
+        << difference.worstBlock << ", stray pixels " << difference.strayPixels;
+    if (!difference.acceptable()) {
+        const QString kept = QDir::temp().filePath(QStringLiteral("morrowleaf-golden-") + file);
+        picture.save(kept);
+        ADD_FAILURE() << "the new picture is " << kept.toStdString();
+    }
+}
+
+// The end of a screen where the editor stands.
+class Ground : public QWidget {
+public:
+    Ground() {
+        state_.screenAnim = ScreenAnim::Still;
+        state_.grainOn = false;
+        resize(400, 982);
+    }
+    void show(const Palette& palette) {
+        state_.palette = palette;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QImage image(size() * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(devicePixelRatioF());
+        BackdropPainter().paint(image, image.rect(), state_, 0);
+        QPainter(this).drawImage(0, 0, image);
+    }
+
+private:
+    BackdropState state_;
+};
+
+class EditorGolden : public testing::Test {
+protected:
+    EditorGolden() {
+        registerAppDefaults(store_);
+        auto* inspector = new Inspector(
+            {.store = store_,
+             .photos = photos_,
+             .choosePhoto = {},
+             .glassCanBeDrawn = true,
+             .face = bundledFace(),
+             .screen = {}},
+            [] {}, &ground_);
+        inspector->setGeometry(80, 0, Inspector::width, ground_.height());
+        ground_.QWidget::show();
+        const auto swatches = inspector->findChildren<PhotoSwatch*>();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                return std::all_of(swatches.begin(), swatches.end(),
+                                   [](const auto* s) { return s->hasPicture(); });
+            },
+            60'000));
+    }
+    QImage editorOver(int palette) {
+        store_.set(K::palette, palette);
+        ground_.show(Palette::all()[static_cast<size_t>(palette)]);
+        return ground_.grab().toImage();
+    }
+
+private:
+    SettingsStore store_;
+    BGStore photos_{store_, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
+                    QStringLiteral("/nowhere")};
+    Ground ground_;
+};
+
+QImage settingsIn(ColorPreference preference) {
+    QApplication::setPalette(hostPalette(preference));
+    QApplication::setFont(bundledFace());
+    SettingsStore store;
+    registerAppDefaults(store);
+    const Platform platform = makeNullPlatform();
+    SettingsView view({.store = store,
+                       .loader = [](const QString&, const auto& done) { done(std::nullopt); },
+                       .loginItem = *platform.loginItem});
+    view.show();
+    view.test();
+    QCoreApplication::processEvents();
+    QImage image = view.grab().toImage();
+    QApplication::setPalette(QPalette());
+    return image;
+}
+
+TEST_F(EditorGolden, OverEveryPalette) {
+    for (int palette = 0; palette < 9; ++palette) {
+        const QString name = Palette::all()[static_cast<size_t>(palette)].name.toLower();
+        expectGolden(QStringLiteral("editor-") + name, editorOver(palette), 2 * ratio());
+    }
+}
+
+TEST_F(EditorGolden, InEveryDetail) {
+    expectGolden(QStringLiteral("editor-detail"),
+                 editorOver(7).copy(QRect(80 * ratio(), 0, 320 * ratio(), 540 * ratio())), 1);
+}
+
+TEST(SettingsGolden, LightAndDark) {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    expectGolden(QStringLiteral("settings-light"), settingsIn(ColorPreference::Light), 1);
+    expectGolden(QStringLiteral("settings-dark"), settingsIn(ColorPreference::Dark), 1);
+}
+
+TEST(SettingsGolden, AnotherLookIsSeen) {
+    const QImage light = forRecord(settingsIn(ColorPreference::Light), 1);
+    QImage moved(light.size(), light.format());
+    moved.fill(light.pixel(1, 1));
+    QPainter(&moved).drawImage(0, 2 * ratio(), light);
+    EXPECT_FALSE(comparePictures(light, moved).acceptable());
+    EXPECT_FALSE(
+        comparePictures(light, forRecord(settingsIn(ColorPreference::Dark), 1)).acceptable());
+}
+
+} // namespace
+} // namespace morrowleaf
