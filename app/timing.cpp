@@ -73,6 +73,7 @@ public:
     Task after(double seconds, std::function<void()> what) override {
         auto* timer = new QTimer;
         timer->setSingleShot(true);
+        timer->setTimerType(Qt::PreciseTimer); // others may be early by a twentieth
         QObject::connect(timer, &QTimer::timeout, timer, std::move(what));
         constexpr double longest = 2e6; // what a timer's milliseconds can hold
         timer->start(static_cast<int>(std::lround(std::min(seconds, longest) * 1000)));
