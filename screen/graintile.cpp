@@ -37,7 +37,10 @@ void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) 
     size_ = size;
     weight_ = grainWeight;
     opaque_ = opaque;
-    lanes_.resize(stride() * static_cast<std::size_t>(size));
+    constexpr std::size_t cacheLine = 64; // bytes
+    lanes_.resize(stride() * static_cast<std::size_t>(size) + cacheLine / sizeof(qint16));
+    const auto address = reinterpret_cast<std::size_t>(lanes_.data());
+    start_ = (cacheLine - address % cacheLine) % cacheLine / sizeof(qint16);
     std::array<qint16, 256> grainLevels;
     for (std::size_t g = 0; g < grainLevels.size(); ++g) {
         grainLevels[g] = static_cast<qint16>(
@@ -48,7 +51,7 @@ void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) 
         columns[static_cast<std::size_t>(x)] =
             static_cast<std::size_t>((2 * x + 1) * grainSize / (2 * size)) * 4;
     for (int y = 0; y < size; ++y) {
-        qint16* line = lanes_.data() + stride() * static_cast<std::size_t>(y);
+        qint16* line = lanes_.data() + start_ + stride() * static_cast<std::size_t>(y);
         const quint8* noise =
             grain().data() +
             static_cast<std::size_t>((2 * y + 1) * grainSize / (2 * size)) * grainSize * 4;

@@ -20,7 +20,7 @@ public:
 
     int size() const { return size_; }
     const qint16* row(int y) const {
-        return lanes_.data() + static_cast<std::size_t>(y % size_) * stride();
+        return lanes_.data() + start_ + static_cast<std::size_t>(y % size_) * stride();
     }
 
     // What build() puts into the colour lanes of a device pixel.
@@ -33,6 +33,7 @@ private:
     double weight_ = -1;
     bool opaque_ = false;
     std::vector<qint16> lanes_;
+    std::size_t start_ = 0; // where a cache line begins
 };
 
 } // namespace morrowleaf

@@ -1,5 +1,8 @@
 #include "screen/meshlattice.h"
 
+#include "screen/kernelrow.h"
+#include "screen/meshsurface.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,8 +10,12 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int lane = 136; // nodes of a row, the padding included
+constexpr int mostColumns = 128;
+constexpr int mostRows = 80;
+constexpr int lane = 136; // nodes of the longest row, padded to whole vectors
 using Line = std::array<float, lane>;
+// From here on up, half as many cells each way are as good.
+constexpr double calmDeterminant = 0.08;
 
 // Just beyond the mesh, where the ring of nodes lies.
 constexpr float paramMin = -0.06F;
@@ -22,7 +29,7 @@ struct Weights {
 };
 
 // The knot weights of knotWeights() and their slopes, without branches.
-inline Weights values(float u) {
+[[gnu::always_inline]] inline Weights values(float u) {
     const bool mirrored = u > 1;
     const float s = mirrored ? 2 - u : u;
     const float a = ((0.5F * s - 0.5F) * s - 1) * s + 1;
@@ -31,7 +38,7 @@ inline Weights values(float u) {
     return {mirrored ? c : a, b, mirrored ? a : c};
 }
 
-inline Weights slopes(float u) {
+[[gnu::always_inline]] inline Weights slopes(float u) {
     const bool mirrored = u > 1;
     const float s = mirrored ? 2 - u : u;
     const float a = (1.5F * s - 1) * s - 1;
@@ -40,20 +47,25 @@ inline Weights slopes(float u) {
     return {mirrored ? -c : a, mirrored ? -b : b, mirrored ? -a : c};
 }
 
-inline float mix(const Weights& w, float a, float b, float c) {
+[[gnu::always_inline]] inline float mix(const Weights& w, float a, float b, float c) {
     return w.near * a + w.middle * b + w.far * c;
 }
 
 struct Front {
+    int columns = 0;
+    int length = 0; // nodes, the padding included
     Line u;
     Line v;
 };
 
 // One step of Newton's method for a whole row of nodes at the height y.
-void improve(const MeshPoints& p, float y, Front& at, Line& missed) {
-    for (int i = 0; i < lane; ++i) {
+[[gnu::always_inline]] inline void improveRow(const MeshPoints& p, float y, Front& at,
+                                              Line& missed) {
+    const int length = at.length;
+    const float cell = 1 / static_cast<float>(at.columns);
+    for (int i = 0; i < length; ++i) {
         const auto n = static_cast<std::size_t>(i);
-        const float x = static_cast<float>(i - 1) / MeshLattice::columns;
+        const float x = static_cast<float>(i - 1) * cell;
         const Weights wu = values(at.u[n]);
         const Weights wv = values(at.v[n]);
         const Weights du = slopes(at.u[n]);
@@ -83,16 +95,11 @@ void improve(const MeshPoints& p, float y, Front& at, Line& missed) {
     }
 }
 
-bool settled(const Line& missed) {
-    // The ring's nodes may lie where no parameter reaches.
-    return std::all_of(missed.begin() + 1, missed.begin() + MeshLattice::columns + 2,
-                       [](float miss) { return miss < closeEnough; });
-}
-
 using Knots = std::array<float, 9>;
 
-void colour(const Front& at, const Knots& knots, float* out) {
-    for (int i = 0; i < lane; ++i) {
+[[gnu::always_inline]] inline void colourRow(const Front& at, const Knots& knots, float* out) {
+    const int length = at.length;
+    for (int i = 0; i < length; ++i) {
         const auto n = static_cast<std::size_t>(i);
         const Weights wu = values(at.u[n]);
         const Weights wv = values(at.v[n]);
@@ -103,32 +110,77 @@ void colour(const Front& at, const Knots& knots, float* out) {
     }
 }
 
+// The same two, as the baseline processor and as a wider one runs them.
+struct RowSteps {
+    void (*improve)(const MeshPoints& p, float y, Front& at, Line& missed);
+    void (*colour)(const Front& at, const Knots& knots, float* out);
+};
+
+void improvePlain(const MeshPoints& p, float y, Front& at, Line& missed) {
+    improveRow(p, y, at, missed);
+}
+
+void colourPlain(const Front& at, const Knots& knots, float* out) {
+    colourRow(at, knots, out);
+}
+
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] void improveWide(const MeshPoints& p, float y, Front& at, Line& missed) {
+    improveRow(p, y, at, missed);
+}
+
+[[gnu::target("avx2")]] void colourWide(const Front& at, const Knots& knots, float* out) {
+    colourRow(at, knots, out);
+}
+
+RowSteps rowSteps() {
+    return hasAvx2() ? RowSteps{improveWide, colourWide} : RowSteps{improvePlain, colourPlain};
+}
+#else
+RowSteps rowSteps() {
+    return {improvePlain, colourPlain};
+}
+#endif
+
+bool settled(const Line& missed, int columns) {
+    // The ring's nodes may lie where no parameter reaches.
+    return std::all_of(missed.begin() + 1, missed.begin() + columns + 2,
+                       [](float miss) { return miss < closeEnough; });
+}
+
 } // namespace
 
 void MeshLattice::build(const MeshPoints& points, std::span<const QColor, 9> colors) {
-    static_assert(stride == lane);
+    const int finer = lowestDeterminant(points) < calmDeterminant ? 1 : 2;
+    columns_ = mostColumns / finer;
+    rows_ = mostRows / finer;
+    stride_ = (columns_ + 3 + 7) / 8 * 8;
     std::array<Knots, 3> knots;
     for (std::size_t i = 0; i < 9; ++i) {
         knots[0][i] = colors[i].redF();
         knots[1][i] = colors[i].greenF();
         knots[2][i] = colors[i].blueF();
     }
-    nodes_.resize(3 * planeSize);
+    nodes_.resize(static_cast<std::size_t>(3 * (rows_ + 3) * stride_));
 
+    const RowSteps steps = rowSteps();
     // Row by row, each starting from where the two above it point.
     Front at;
+    at.columns = columns_;
+    at.length = stride_;
     Front above;
     Line missed;
-    for (int i = 0; i < lane; ++i) {
+    for (int i = 0; i < stride_; ++i) {
         const auto n = static_cast<std::size_t>(i);
-        at.u[n] = std::min(2.0F * static_cast<float>(i - 1) / columns, paramMax);
-        at.v[n] = -2.0F / rows;
+        at.u[n] =
+            std::min(2.0F * static_cast<float>(i - 1) / static_cast<float>(columns_), paramMax);
+        at.v[n] = -2.0F / static_cast<float>(rows_);
         missed[n] = 0;
     }
     above = at;
-    for (int row = -1; row <= rows + 1; ++row) {
+    for (int row = -1; row <= rows_ + 1; ++row) {
         if (row > -1) {
-            for (std::size_t n = 0; n < lane; ++n) {
+            for (std::size_t n = 0; n < static_cast<std::size_t>(stride_); ++n) {
                 const float u = 2 * at.u[n] - above.u[n];
                 const float v = 2 * at.v[n] - above.v[n];
                 above.u[n] = at.u[n];
@@ -137,15 +189,15 @@ void MeshLattice::build(const MeshPoints& points, std::span<const QColor, 9> col
                 at.v[n] = v < paramMin ? paramMin : v > paramMax ? paramMax : v;
             }
         }
-        const float y = static_cast<float>(row) / rows;
+        const float y = static_cast<float>(row) / static_cast<float>(rows_);
         for (int step = 0; step < mostSteps; ++step) {
-            improve(points, y, at, missed);
-            if (settled(missed))
+            steps.improve(points, y, at, missed);
+            if (settled(missed, columns_))
                 break;
         }
         for (int plane = 0; plane < 3; ++plane) {
-            colour(at, knots[static_cast<std::size_t>(plane)],
-                   nodes_.data() + plane * planeSize + (row + 1) * stride);
+            steps.colour(at, knots[static_cast<std::size_t>(plane)],
+                         nodes_.data() + (plane * (rows_ + 3) + row + 1) * stride_);
         }
     }
 }

@@ -15,21 +15,23 @@ namespace morrowleaf {
 // on points and colours alone, not on an earlier picture.
 class MeshLattice {
 public:
-    static constexpr int columns = 128; // cells
-    static constexpr int rows = 80;
-
     // The points must not fold, see unfolded().
     void build(const MeshPoints& points, std::span<const QColor, 9> colors);
+
+    // Cells; more of them where the mesh is squeezed.
+    int columns() const { return columns_; }
+    int rows() const { return rows_; }
 
     // Node 0 of a lattice row (-1...rows + 1) in one plane (0 red, 1 green,
     // 2 blue), 0...1; nodes -1...columns + 1 stand beside it.
     const float* row(int plane, int row) const {
-        return nodes_.data() + plane * planeSize + (row + 1) * stride + 1;
+        return nodes_.data() + (plane * (rows_ + 3) + row + 1) * stride_ + 1;
     }
 
 private:
-    static constexpr int stride = 136; // columns + 3, padded to whole vectors
-    static constexpr int planeSize = stride * (rows + 3);
+    int columns_ = 0;
+    int rows_ = 0;
+    int stride_ = 0; // columns + 3, padded to whole vectors
     std::vector<float> nodes_;
 };
 

@@ -8,37 +8,6 @@ namespace {
 
 constexpr int probes = 21; // in each direction
 
-double lowestDeterminant(const MeshPoints& points) {
-    static const std::array<KnotWeights, probes> weights = [] {
-        std::array<KnotWeights, probes> all;
-        for (int i = 0; i < probes; ++i)
-            all[static_cast<std::size_t>(i)] = knotWeights(2.0 * i / (probes - 1));
-        return all;
-    }();
-    double lowest = 1;
-    for (const KnotWeights& down : weights) {
-        // The tensor product, one direction at a time.
-        std::array<double, 3> x{}, y{}, xv{}, yv{};
-        for (std::size_t column = 0; column < 3; ++column) {
-            for (std::size_t row = 0; row < 3; ++row) {
-                const MeshPoint& p = points[row * 3 + column];
-                x[column] += down.value[row] * double(p.x);
-                y[column] += down.value[row] * double(p.y);
-                xv[column] += down.slope[row] * double(p.x);
-                yv[column] += down.slope[row] * double(p.y);
-            }
-        }
-        const auto dot = [](const std::array<double, 3>& a, const std::array<double, 3>& b) {
-            return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
-        };
-        for (const KnotWeights& across : weights) {
-            lowest = std::min(lowest, dot(across.slope, x) * dot(across.value, yv) -
-                                          dot(across.value, xv) * dot(across.slope, y));
-        }
-    }
-    return lowest;
-}
-
 MeshPoints drawnBack(const MeshPoints& points, float swing) {
     MeshPoints drawn = points;
     for (std::size_t i = 0; i < drawn.size(); ++i) {
@@ -82,6 +51,37 @@ SurfacePoint surfaceAt(const MeshPoints& points, double u, double v) {
         }
     }
     return at;
+}
+
+double lowestDeterminant(const MeshPoints& points) {
+    static const std::array<KnotWeights, probes> weights = [] {
+        std::array<KnotWeights, probes> all;
+        for (int i = 0; i < probes; ++i)
+            all[static_cast<std::size_t>(i)] = knotWeights(2.0 * i / (probes - 1));
+        return all;
+    }();
+    double lowest = 1;
+    for (const KnotWeights& down : weights) {
+        // The tensor product, one direction at a time.
+        std::array<double, 3> x{}, y{}, xv{}, yv{};
+        for (std::size_t column = 0; column < 3; ++column) {
+            for (std::size_t row = 0; row < 3; ++row) {
+                const MeshPoint& p = points[row * 3 + column];
+                x[column] += down.value[row] * double(p.x);
+                y[column] += down.value[row] * double(p.y);
+                xv[column] += down.slope[row] * double(p.x);
+                yv[column] += down.slope[row] * double(p.y);
+            }
+        }
+        const auto dot = [](const std::array<double, 3>& a, const std::array<double, 3>& b) {
+            return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+        };
+        for (const KnotWeights& across : weights) {
+            lowest = std::min(lowest, dot(across.slope, x) * dot(across.value, yv) -
+                                          dot(across.value, xv) * dot(across.slope, y));
+        }
+    }
+    return lowest;
 }
 
 MeshPoints unfolded(const MeshPoints& points) {

@@ -28,6 +28,9 @@ SurfacePoint surfaceAt(const MeshPoints& points, double u, double v);
 // Below this the surface counts as folding; a mesh at rest has 0.25 everywhere.
 inline constexpr double leastDeterminant = 0.03;
 
+// The lowest determinant of the surface, found by probing it.
+double lowestDeterminant(const MeshPoints& points);
+
 // The points themselves unless the surface through them folds over itself, as
 // the widest swings do for a few seconds; then the same points drawn back
 // towards their resting places, just far enough.

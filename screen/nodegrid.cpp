@@ -51,15 +51,15 @@ void NodeGrid::resize(const QSize& size, double devicePixelRatio) {
 void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
                 const MeshLattice& mesh, double scale, const Shading& shading) {
     const auto columns = static_cast<std::size_t>(nodes.columns);
-    constexpr int meshRows = MeshLattice::rows + 3;
+    const int meshRows = mesh.rows() + 3;
 
     // Across first: every lattice row at the nodes' columns.
     std::vector<Tap> taps(columns);
     for (std::size_t i = 0; i < columns; ++i) {
         const double place = nodes.place(static_cast<int>(i)) / size.width();
-        taps[i] = tapAt((place - 0.5) / scale + 0.5, MeshLattice::columns, scale < 1);
+        taps[i] = tapAt((place - 0.5) / scale + 0.5, mesh.columns(), scale < 1);
     }
-    std::vector<float> across(3 * meshRows * columns);
+    std::vector<float> across(static_cast<std::size_t>(3 * meshRows) * columns);
     for (int plane = 0; plane < 3; ++plane) {
         for (int row = 0; row < meshRows; ++row) {
             const float* from = mesh.row(plane, row - 1);
@@ -90,7 +90,7 @@ void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
     planes.fill(std::vector<float>(columns));
     for (int j = 0; j < nodes.rows; ++j) {
         const double place = nodes.place(j) / size.height();
-        const Tap down = tapAt((place - 0.5) / scale + 0.5, MeshLattice::rows, scale < 1);
+        const Tap down = tapAt((place - 0.5) / scale + 0.5, mesh.rows(), scale < 1);
         const float dy = (static_cast<float>(nodes.place(j)) - middleY) * pointsPerPixel;
         for (std::size_t i = 0; i < columns; ++i) {
             const float dx =
