@@ -68,6 +68,18 @@ double alphaSum(const QImage& picture) {
     return alphaSum(picture, picture.rect());
 }
 
+double meanDifference(const QImage& one, const QImage& other) {
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        const uchar* a = one.constScanLine(y);
+        const uchar* b = other.constScanLine(y);
+        for (int i = 0; i < 4 * one.width(); ++i) {
+            sum += std::abs(a[i] - b[i]);
+        }
+    }
+    return sum / (4.0 * one.width() * one.height());
+}
+
 class EveryStyle : public testing::TestWithParam<TextAnim> {};
 
 INSTANTIATE_TEST_SUITE_P(RevealLine, EveryStyle, testing::ValuesIn(allTextAnims),
@@ -142,6 +154,31 @@ TEST_P(EveryStyle, UnchangedStagesLookAlike) {
         }
         before = now;
         last = at;
+    }
+}
+
+// Nothing pops: not where the blur changes its resolution, nor as a line comes
+// to rest.
+TEST_P(EveryStyle, ComesInWithoutJumps) {
+    if (GetParam() == TextAnim::Typewriter) {
+        return; // its letters are there at once
+    }
+    for (const double ratio : {1.0, 1.25, 2.0}) {
+        const RevealLine line(parts(GetParam(), "A quiet office"));
+        const double step = (line.settledAfter() - line.delay()) / 160;
+        std::vector<double> changes;
+        QImage before = painted(line, line.delay(), ratio);
+        for (int i = 1; i <= 162; ++i) {
+            const QImage now = painted(line, line.delay() + i * step, ratio);
+            changes.push_back(meanDifference(before, now));
+            before = now;
+        }
+        const double most = *std::ranges::max_element(changes);
+        for (std::size_t i = 2; i + 2 < changes.size(); ++i) {
+            const double around =
+                std::max({changes[i - 2], changes[i - 1], changes[i + 1], changes[i + 2]});
+            EXPECT_LE(changes[i], 1.6 * around + 0.05 * most) << "step " << i << " at " << ratio;
+        }
     }
 }
 
