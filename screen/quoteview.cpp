@@ -85,11 +85,12 @@ void QuoteView::compose(double seconds) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
     mark_ = {ShapedText(QStringLiteral("\u201C"), setting.mark()), {}, 1, markOpacity};
-    author_ = {ShapedText(state_.locale.toUpper(state_.quote.author), setting.author(),
-                          measure::authorTracking, width),
-               {},
-               1,
-               authorOpacity};
+    // A name keeps its letters, whatever the language of the desktop.
+    author_ = {
+        ShapedText(state_.quote.author.toUpper(), setting.author(), measure::authorTracking, width),
+        {},
+        1,
+        authorOpacity};
     composeOverlays(setting, box);
     placeTexts(setting, box);
 }

@@ -298,6 +298,19 @@ TEST(QuoteView, StandsOnWholePixels) {
     }
 }
 
+TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
+    QuoteViewState state = plainState();
+    state.quote = {"Be here", "Virginia Wilde"};
+    state.locale = QLocale("en_US");
+    const QuoteView english(state, bundledFonts());
+    state.locale = QLocale("tr_TR");
+    const QuoteView turkish(state, bundledFonts());
+    const QRect author = english.rect(Element::Author).toAlignedRect();
+    ASSERT_EQ(turkish.rect(Element::Author).toAlignedRect(), author);
+    ASSERT_FALSE(inkWithin(drawn(english, 9), author).isEmpty());
+    EXPECT_EQ(drawn(turkish, 9).copy(author), drawn(english, 9).copy(author));
+}
+
 TEST(QuoteView, SurvivesAbsurdStates) {
     for (const double sizeScale : {0.0, -4.0, 1e9, 1e-12, std::nan(""), double(INFINITY)}) {
         for (const QSizeF size : {QSizeF(1024, 600), QSizeF(40, 30), QSizeF(1, 1)}) {
