@@ -1,8 +1,10 @@
 #include "screen/quoteview.h"
 
+#include "screen/ground/linebalancing.h"
 #include "tests/screen/sceneforscreens.h"
 
 #include <QPainter>
+#include <QSet>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -140,6 +142,55 @@ TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
     state.quote = {"cccc ddddd", "B"};
     view.update(state, 4);
     EXPECT_EQ(view.lineAppearedAt(0), 4);
+}
+
+TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
+    QuoteViewState state = plainState();
+    state.quote = {threeLines, "Anonymous"};
+    QuoteView view(state, bundledFonts());
+    QSet<QString> kinds; // what becomes of a line
+    for (double scale = 0.8; scale < 1.6; scale += 0.02) {
+        QStringList before;
+        std::vector<double> appeared;
+        for (int i = 0; i < view.lineCount(); ++i) {
+            before += view.lineText(i);
+            appeared.push_back(view.lineAppearedAt(i));
+        }
+        state.settings.sizeScale = scale;
+        const double now = 10 + scale;
+        view.update(state, now);
+        for (int i = 0; i < view.lineCount(); ++i) {
+            const bool same =
+                i < before.size() && characterCount(before[i]) == characterCount(view.lineText(i));
+            EXPECT_EQ(view.lineAppearedAt(i), same ? appeared[static_cast<size_t>(i)] : now)
+                << "line " << i << " at " << scale;
+            kinds += same ? "kept" : "anew";
+        }
+    }
+    EXPECT_EQ(kinds.size(), 2);
+}
+
+// Colour, typeface and another text of the same length come at once, at the
+// stage where the line stands, in whatever way it comes in.
+TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
+    for (const TextAnim kind : allTextAnims) {
+        QuoteViewState state = plainState({1024, 600});
+        state.settings.textAnimRaw = rawValue(kind);
+        state.quote = {"aaaa bbbb", "A"};
+        QuoteView view(state, bundledFonts());
+        const double middle = kind == TextAnim::Handwrite ? 1.0 : 0.8;
+        const QImage first = drawn(view, middle);
+
+        state.palette = Palette::all()[7];
+        state.settings.fontName = "mono";
+        state.quote.text = "cccc dddd";
+        view.update(state, middle);
+        EXPECT_EQ(view.lineAppearedAt(0), 0);
+        const QImage changed = drawn(view, middle);
+        EXPECT_NE(changed, first);
+        EXPECT_EQ(changed, drawn(QuoteView(state, bundledFonts()), middle))
+            << rawValue(kind).toStdString();
+    }
 }
 
 TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
