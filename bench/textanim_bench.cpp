@@ -1,3 +1,6 @@
+#include "textanim/curves.h"
+#include "textanim/glyphpath.h"
+#include "textanim/pentrace.h"
 #include "textanim/revealline.h"
 
 #include <QGuiApplication>
@@ -5,8 +8,9 @@
 #include <QPainter>
 #include <benchmark/benchmark.h>
 
-#include <chrono>
+#include <algorithm>
 #include <cstring>
+#include <ctime>
 
 // What one frame of a line costs at two screen sizes, also as a share of
 // copying that frame in the same run ("per_copy").
@@ -45,15 +49,21 @@ RevealLine::Parts parts(TextAnim style) {
             1000};
 }
 
+// Of this process alone: other programs do not count.
+double processorSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
 double copySeconds(const QImage& frame) {
     QImage copy = frame.copy();
     double best = 1;
     for (int i = 0; i < 9; ++i) {
-        const auto start = std::chrono::steady_clock::now();
+        const double start = processorSeconds();
         std::memcpy(copy.bits(), frame.constBits(), static_cast<std::size_t>(frame.sizeInBytes()));
         benchmark::DoNotOptimize(copy.bits());
-        best = std::min(
-            best, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        best = std::min(best, processorSeconds() - start);
     }
     return best;
 }
@@ -72,9 +82,9 @@ void paintFrames(benchmark::State& state, TextAnim style, double from, double to
     QPainter painter(&frame);
     double spent = 0;
     for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
+        const double start = processorSeconds();
         line.paint(painter, {256, 400}, seconds);
-        spent += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        spent += processorSeconds() - start;
         seconds += 1.0 / 60;
         if (seconds > last && from < 1) {
             state.PauseTiming();
@@ -108,34 +118,61 @@ BENCHMARK_CAPTURE(entrance, handwrite, TextAnim::Handwrite)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(resting, any, TextAnim::Fade)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
-// The pen at a tenth, half and nine tenths of its way; same work per frame.
-void pen(benchmark::State& state, double share) {
-    const QImage frame(1512, 982, QImage::Format_RGB32);
-    RevealLine::Parts bare = parts(TextAnim::Handwrite);
-    bare.shadow.opacity = 0;
-    const RevealLine line(bare);
-    // Seconds at which the curve has traced these shares.
-    const double middle = line.delay() + 1.25 * (share < 0.3 ? 0.22 : share < 0.7 ? 0.5 : 0.69);
-    QImage target = frame;
-    QPainter painter(&target);
-    double seconds = middle;
-    line.paint(painter, {256, 400}, seconds);
-    for (auto _ : state) {
-        seconds += 1.0 / 60;
-        if (seconds > middle + 0.1) {
-            state.PauseTiming();
-            seconds = middle;
-            line.paint(painter, {256, 400}, seconds);
-            state.ResumeTiming();
-            seconds += 1.0 / 60;
-        }
-        line.paint(painter, {256, 400}, seconds);
+// Seconds after the delay at which this share of the outline is traced.
+double tracedAfter(double share) {
+    double early = 0;
+    double late = 1.25;
+    for (int i = 0; i < 50; ++i) {
+        const double middle = (early + late) / 2;
+        (easeInEaseOut(middle / 1.25) < share ? early : late) = middle;
     }
+    return late;
 }
 
-BENCHMARK_CAPTURE(pen, begun, 0.1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(pen, half, 0.5)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(pen, near_end, 0.9)->Unit(benchmark::kMillisecond);
+// Frames from a share (in percent) of the outline on, each with as much more of
+// it: the cost must not grow with what is there already.
+template <typename Frame>
+void tracing(benchmark::State& state, const Frame& frameAt) {
+    const double from = static_cast<double>(state.range(0)) / 100;
+    int i = 0;
+    frameAt(from);
+    double spent = 0;
+    for (auto _ : state) {
+        if (++i > 7) {
+            state.PauseTiming();
+            frameAt(from);
+            i = 1;
+            state.ResumeTiming();
+        }
+        const double start = processorSeconds();
+        frameAt(from + i / 75.0);
+        spent += processorSeconds() - start;
+    }
+    state.counters["frame_us"] = 1e6 * spent / static_cast<double>(state.iterations());
+}
+
+void pen(benchmark::State& state) {
+    const HandwrittenLine line = handwrittenLine("The impediment to action advances action",
+                                                 quoteFont(book(), "fraunces", 44));
+    const PenTrace trace = penTrace(wholePath(line.text), 33);
+    PenDrawing drawing(1, line.penWidth, {-2, -2, 1000, 70}, 0);
+    tracing(state, [&](double share) {
+        benchmark::DoNotOptimize(drawing.at(trace, trace.length * share).constBits());
+    });
+}
+
+void handwriting(benchmark::State& state) {
+    QImage target(1512, 982, QImage::Format_RGB32);
+    target.fill(QColor("#1c2a3a"));
+    QPainter painter(&target);
+    const RevealLine line(parts(TextAnim::Handwrite));
+    tracing(state, [&](double share) {
+        line.paint(painter, {256, 400}, line.delay() + tracedAfter(share));
+    });
+}
+
+BENCHMARK(pen)->Arg(10)->Arg(50)->Arg(90)->Unit(benchmark::kMillisecond);
+BENCHMARK(handwriting)->Arg(10)->Arg(50)->Arg(90)->Unit(benchmark::kMillisecond);
 
 // A new line for a changed colour or size while a slider moves.
 void rebuilt(benchmark::State& state, TextAnim style) {
