@@ -110,7 +110,7 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
                           .timing = *timing,
                           .makeQuoteScreen =
                               [&](const EditingHooks* editing) {
-                                  return makeQuoteContent(screen, *platform.mainScreen, editing);
+                                  return makeQuoteContent(screen, platform, editing);
                               },
                           .makeSettingsView =
                               [&](auto onShowNow, auto onEditAppearance) {

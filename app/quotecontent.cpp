@@ -1,6 +1,6 @@
 #include "app/quotecontent.h"
 
-#include "platform/mainscreen.h"
+#include "platform/platform.h"
 #include "settingsui/inspector.h"
 #include "textanim/fonts.h"
 
@@ -12,16 +12,17 @@ namespace {
 
 constexpr double faceSize = 13; // points; the editor sets its own sizes
 
-InspectorFactory inspectorFactory(const ScreenSurroundings& around, const QScreen* screen,
+InspectorFactory inspectorFactory(const ScreenSurroundings& around, Platform& platform,
                                   const EditingHooks& hooks) {
-    InspectorSurroundings needs{.store = around.store,
-                                .photos = around.photos,
-                                .choosePhoto =
-                                    photoDialog(hooks.lowerForDialog, hooks.restoreAfterDialog),
-                                .glassCanBeDrawn = hooks.glassCanBeDrawn,
-                                .face = nsFont(around.fonts, faceSize, FontDesign::Default).face,
-                                .screen = std::nullopt};
-    if (screen != nullptr) {
+    InspectorSurroundings needs{
+        .store = around.store,
+        .photos = around.photos,
+        .choosePhoto =
+            photoDialog(*platform.fileChooser, hooks.lowerForDialog, hooks.restoreAfterDialog),
+        .glassCanBeDrawn = hooks.glassCanBeDrawn,
+        .face = nsFont(around.fonts, faceSize, FontDesign::Default).face,
+        .screen = std::nullopt};
+    if (const QScreen* screen = platform.mainScreen->current()) {
         needs.screen =
             ScreenFrames{.whole = screen->geometry(), .visible = screen->availableGeometry()};
     }
@@ -32,13 +33,13 @@ InspectorFactory inspectorFactory(const ScreenSurroundings& around, const QScree
 
 } // namespace
 
-QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, MainScreen& mainScreen,
+QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, Platform& platform,
                               const EditingHooks* editing) {
     std::optional<QuoteScreen::Editing> editor;
     if (editing != nullptr) {
-        editor = QuoteScreen::Editing{
-            .inspector = inspectorFactory(surroundings, mainScreen.current(), *editing),
-            .onDone = editing->onDone};
+        editor =
+            QuoteScreen::Editing{.inspector = inspectorFactory(surroundings, platform, *editing),
+                                 .onDone = editing->onDone};
     }
     auto* screen = new QuoteScreen(surroundings, std::move(editor));
     return {.widget = screen,

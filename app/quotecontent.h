@@ -7,7 +7,7 @@ namespace morrowleaf {
 
 // The content of a quote window: a fresh quote screen for the main screen,
 // with the appearance editor where hooks are given.
-QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, MainScreen& mainScreen,
+QuoteContent makeQuoteContent(const ScreenSurroundings& surroundings, Platform& platform,
                               const EditingHooks* editing);
 
 } // namespace morrowleaf

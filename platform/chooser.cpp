@@ -7,6 +7,7 @@
 #include "platform/linux/desktoptray.h"
 #include "platform/linux/layeroverlay.h"
 #include "platform/linux/portalcolorscheme.h"
+#include "platform/linux/portalfilechooser.h"
 #include "platform/linux/screencopy.h"
 #include "platform/linux/unixsignals.h"
 #include "platform/linux/waylandnative.h"
@@ -101,6 +102,7 @@ Platform makePlatform(WindowSystem system) {
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
     platform.beeper = makeDesktopBeeper();
     platform.colorScheme = std::make_unique<PortalColorScheme>();
+    platform.fileChooser = std::make_unique<PortalFileChooser>();
     platform.sessionEvents = makeDesktopSession();
     platform.trayHost = makeDesktopTray(x11);
     platform.loginItem = makeLoginItem();

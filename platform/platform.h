@@ -3,6 +3,7 @@
 #include "platform/beeper.h"
 #include "platform/colorscheme.h"
 #include "platform/desktoppicture.h"
+#include "platform/filechooser.h"
 #include "platform/loginitem.h"
 #include "platform/mainscreen.h"
 #include "platform/overlaywindow.h"
@@ -21,6 +22,7 @@ struct Platform {
     std::unique_ptr<MainScreen> mainScreen;
     std::unique_ptr<OverlayMaker> overlays;
     std::unique_ptr<DesktopPicture> desktopPicture;
+    std::unique_ptr<FileChooser> fileChooser;
     std::unique_ptr<SessionEvents> sessionEvents;
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;

@@ -1,5 +1,7 @@
 #include "settingsui/photochooser.h"
 
+#include "platform/filechooser.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QImageReader>
@@ -8,6 +10,18 @@
 
 namespace morrowleaf {
 namespace {
+
+constexpr QLatin1StringView title{"Add a Photo"};
+
+QStringList mimeTypes() {
+    QStringList types;
+    for (const QByteArray& type : QImageReader::supportedMimeTypes()) {
+        if (!type.startsWith("image/svg")) {
+            types.append(QString::fromLatin1(type));
+        }
+    }
+    return types;
+}
 
 QStringList nameFilters() {
     QStringList patterns;
@@ -48,35 +62,56 @@ private:
     QDialog* dialog_;
 };
 
+using Picked = std::function<void(std::optional<QString>)>;
+
+void askByToolkit(Picked picked) {
+    // Without a parent: the picture's window may be one that no window
+    // manager knows.
+    auto* dialog = new QFileDialog(nullptr, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(nameFilters());
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    QObject::connect(
+        dialog, &QFileDialog::finished, dialog, [dialog, picked = std::move(picked)](int result) {
+            const QStringList files = dialog->selectedFiles();
+            picked(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
+                                                                   : std::nullopt);
+        });
+    new EscapeCloses(dialog);
+    dialog->open();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
 } // namespace
 
-PhotoChooser photoDialog(std::function<void()> lower, std::function<void()> restore) {
-    return [lower = std::move(lower), restore = std::move(restore)](
-               QWidget* /*window*/, std::function<void(std::optional<QString>)> picked) {
-        // Without a parent: the picture's window may be one that no window
-        // manager knows.
-        auto* dialog = new QFileDialog(nullptr, QStringLiteral("Add a Photo"));
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->setFileMode(QFileDialog::ExistingFile);
-        dialog->setNameFilters(nameFilters());
-        dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-        QObject::connect(dialog, &QFileDialog::finished, dialog,
-                         [dialog, restore, picked = std::move(picked)](int result) {
-                             if (restore) {
-                                 restore();
-                             }
-                             const QStringList files = dialog->selectedFiles();
-                             picked(result == QDialog::Accepted && !files.isEmpty()
-                                        ? std::optional(files.first())
-                                        : std::nullopt);
-                         });
-        new EscapeCloses(dialog);
+PhotoChooser photoDialog(FileChooser& desktop, std::function<void()> lower,
+                         std::function<void()> restore) {
+    return [&desktop, lower = std::move(lower), restore = std::move(restore)](QWidget* window,
+                                                                              Picked picked) {
+        const Picked finish = [restore,
+                               picked = std::move(picked)](const std::optional<QString>& path) {
+            if (restore) {
+                restore();
+            }
+            picked(path);
+        };
         if (lower) {
             lower();
         }
-        dialog->open();
-        dialog->raise();
-        dialog->activateWindow();
+        const FileQuestion question{
+            .title = title, .kindName = QStringLiteral("Images"), .mimeTypes = mimeTypes()};
+        desktop.ask(*window, question, [finish](const FileAnswer& answer) {
+            switch (answer.kind) {
+            case FileAnswer::Kind::Chosen:
+                return finish(answer.path);
+            case FileAnswer::Kind::Cancelled:
+                return finish(std::nullopt);
+            case FileAnswer::Kind::Unavailable:
+                return askByToolkit(finish);
+            }
+        });
     };
 }
 

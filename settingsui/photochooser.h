@@ -9,13 +9,17 @@ class QWidget;
 
 namespace morrowleaf {
 
+class FileChooser;
+
 // Lets the user pick one picture file, without blocking; `picked` is called
 // exactly once, later, with nothing when the user cancels.
 using PhotoChooser =
     std::function<void(QWidget* window, std::function<void(std::optional<QString>)> picked)>;
 
-// The toolkit's dialog, native where the desktop offers one. `lower` runs
-// before it opens and `restore` after it has gone, whichever way.
-PhotoChooser photoDialog(std::function<void()> lower, std::function<void()> restore);
+// The desktop's dialog, or the toolkit's where the desktop has none. `lower`
+// runs before it opens and `restore` after it has gone, whichever way.
+// `desktop` outlives the chooser.
+PhotoChooser photoDialog(FileChooser& desktop, std::function<void()> lower,
+                         std::function<void()> restore);
 
 } // namespace morrowleaf

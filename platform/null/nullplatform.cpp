@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 
 namespace morrowleaf {
@@ -52,6 +53,14 @@ public:
     QImage capture(QScreen& /*screen*/) override { return {}; }
 };
 
+class NoChooser final : public FileChooser {
+public:
+    void ask(QWidget& window, const FileQuestion& /*question*/,
+             std::function<void(const FileAnswer&)> done) override {
+        QTimer::singleShot(0, &window, [done = std::move(done)] { done({}); });
+    }
+};
+
 class NoTrayHost final : public TrayHost {
 public:
     bool isPresent() const override { return false; }
@@ -93,6 +102,7 @@ Platform makeNullPlatform() {
     return {.mainScreen = std::make_unique<PrimaryScreen>(),
             .overlays = makeNullOverlays(),
             .desktopPicture = std::make_unique<NoPicture>(),
+            .fileChooser = std::make_unique<NoChooser>(),
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<NoTrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),

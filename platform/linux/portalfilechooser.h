@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/filechooser.h"
+
+#include <QDBusConnection>
+
+namespace morrowleaf {
+
+// The dialog of the desktop's portal.
+class PortalFileChooser : public FileChooser {
+public:
+    explicit PortalFileChooser(QDBusConnection bus = QDBusConnection::sessionBus());
+
+    void ask(QWidget& window, const FileQuestion& question,
+             std::function<void(const FileAnswer&)> done) override;
+
+private:
+    QDBusConnection bus_;
+};
+
+} // namespace morrowleaf
