@@ -10,7 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr qint64 sixHours = 6 * 60 * 60;
+constexpr qint64 sixHours = qint64{6} * 60 * 60;
 constexpr qint64 twelveHours = 2 * sixHours;
 
 Quote quoteNumber(qint64 number) {

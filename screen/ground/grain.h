@@ -10,7 +10,7 @@ inline constexpr int grainSize = 160; // points, and pixels at scale 1
 inline constexpr double grainOpacity = 0.045;
 
 // R, G, B, 0xFF, row by row.
-using GrainBytes = std::array<quint8, grainSize * grainSize * 4>;
+using GrainBytes = std::array<quint8, size_t{grainSize} * grainSize * 4>;
 
 // The film grain: the same greyscale noise on every run, built on first use.
 const GrainBytes& grain();

@@ -35,6 +35,7 @@ TEST(Grain, ItsFirstPixelIsTheFirstStepFromTheSeed) {
 TEST(Grain, IsBuiltOnceForEveryThread) {
     std::vector<const GrainBytes*> seen(8);
     std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (const GrainBytes*& place : seen) {
         threads.emplace_back([&place] { place = &grain(); });
     }

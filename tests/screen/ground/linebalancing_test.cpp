@@ -220,8 +220,9 @@ TEST(CharacterEnds, StandInUnitsOfTheText) {
 TEST(CharacterEnds, AgreeFromEveryThread) {
     const QString text = QStringList(50, u"\U0001F600\U0001F1E9\U0001F1EA e\u0301"_s).join(u' ');
     const QList<qsizetype> here = characterEnds(text);
-    std::vector<std::thread> threads;
     std::vector<QList<qsizetype>> seen(4);
+    std::vector<std::thread> threads;
+    threads.reserve(seen.size());
     for (QList<qsizetype>& place : seen) {
         threads.emplace_back([&place, &text] { place = characterEnds(text); });
     }
