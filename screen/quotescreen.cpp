@@ -1,10 +1,13 @@
 #include "screen/quotescreen.h"
 
 #include "quotes/settingsstore.h"
+#include "screen/glassshowing.h"
 #include "screen/greeting.h"
+#include "screen/layers.h"
 #include "screen/photoshowing.h"
 #include "screen/quoteview.h"
 #include "screen/renderframe.h"
+#include "screen/textbound.h"
 #include "screen/windowpixels.h"
 
 #include <QPaintEvent>
@@ -18,6 +21,8 @@
 namespace morrowleaf {
 
 namespace {
+
+constexpr qsizetype spokenLimit = 4000; // characters, of a text or an author
 
 // At a fractional ratio the edges of a repaint must not cut through a pixel:
 // every ratio in steps of 5 percent has whole ones every 20 points.
@@ -61,6 +66,8 @@ struct QuoteScreen::Private {
     void schedule();
     std::optional<double> nextFrame(double seconds) const;
     bool photoFades(double seconds) const;
+    void followGlass();
+    bool glassFades(double seconds) const;
     void placeInspector(double seconds);
     void draw(QImage& target, const QRegion& region);
 
@@ -69,6 +76,7 @@ struct QuoteScreen::Private {
     QuoteBox box;
     FrameClock frames;
     PhotoShowing photo;
+    GlassShowing glass;
     QWidget* inspector = nullptr;
 
     std::optional<QuoteView> view;
@@ -85,6 +93,7 @@ struct QuoteScreen::Private {
     QString photoWanted;
     double photoWantedAt = 0; // since the appearance
     double photoFadesFrom = -photoFade;
+    double glassFadesFrom = -photoFade;
 };
 
 QuoteViewState QuoteScreen::Private::viewState(const Moment& moment,
@@ -137,6 +146,10 @@ void QuoteScreen::Private::evaluate() {
     }
     backdrop = backdropFor(settings, state.palette, photo.readable());
     backdrop.behind = behind;
+    const bool seenThrough =
+        behind.kind == Behind::Kind::Captured && backdrop.transparency > leastTransparency;
+    glass.want(seenThrough ? behind.picture : QImage(), screen.devicePixelRatioF());
+    backdrop.behind.glass = glass.glass();
     stale = false;
 }
 
@@ -145,6 +158,16 @@ void QuoteScreen::Private::followPhoto() {
     const double seconds = sinceAppearance();
     const bool late = seconds - photoWantedAt > photoPatience;
     photoFadesFrom = late ? seconds : seconds - photoFade;
+}
+
+// The glass that is there before anything can be seen need not come in softly.
+void QuoteScreen::Private::followGlass() {
+    const double seconds = sinceAppearance();
+    glassFadesFrom = seconds > photoPatience ? seconds : seconds - photoFade;
+}
+
+bool QuoteScreen::Private::glassFades(double seconds) const {
+    return backdrop.behind.glass && seconds < glassFadesFrom + photoFade;
 }
 
 bool QuoteScreen::Private::photoFades(double seconds) const {
@@ -170,6 +193,7 @@ void QuoteScreen::Private::showPhoto(double progress) {
 void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
     frameSeconds = seconds;
     showPhoto(std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0));
+    backdrop.behind.glassOpacity = std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
     if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
         backdropTickShown = backdropTick(seconds);
         backdropInstant = around.clock().unixSeconds - unixToReference;
@@ -193,7 +217,7 @@ void QuoteScreen::Private::tick() {
     placeInspector(seconds);
     const bool backdropDue =
         BackdropPainter::moves(backdrop) && backdropTick(seconds) != backdropTickShown;
-    if (backdropDue || photoFades(frameSeconds)) {
+    if (backdropDue || photoFades(frameSeconds) || glassFades(frameSeconds)) {
         wholeAsked = true;
         screen.update();
     } else {
@@ -212,7 +236,8 @@ std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
     if (const std::optional<double> motion = view->nextMotion(frameSeconds)) {
         consider(std::max(*motion, frame));
     }
-    if (photoFades(frameSeconds) || (inspector && seconds < inspectorEntrance.end() + interval)) {
+    if (photoFades(frameSeconds) || glassFades(frameSeconds) ||
+        (inspector && seconds < inspectorEntrance.end() + interval)) {
         consider(frame);
     }
     if (BackdropPainter::moves(backdrop)) {
@@ -269,6 +294,10 @@ QuoteScreen::QuoteScreen(const ScreenSurroundings& surroundings, std::optional<E
         d_->followPhoto();
         refresh();
     });
+    connect(&d_->glass, &GlassShowing::made, this, [this, refresh] {
+        d_->followGlass();
+        refresh();
+    });
     connect(&d_->frames, &FrameClock::tick, this, [this] { d_->tick(); });
 }
 
@@ -290,8 +319,9 @@ bool QuoteScreen::awake() const {
 
 SpokenTexts QuoteScreen::spokenTexts() const {
     const Moment moment = d_->around.clock();
-    return {d_->box.quote().text, d_->box.quote().author, greeting(moment),
-            today(moment, QLocale::system()), hintText(d_->sideInset())};
+    const Quote& quote = d_->box.quote();
+    return {beginningOf(quote.text, spokenLimit), beginningOf(quote.author, spokenLimit),
+            greeting(moment), today(moment, QLocale::system()), hintText(d_->sideInset())};
 }
 
 QList<QRect> QuoteScreen::spokenRects() const {

@@ -2,6 +2,7 @@
 
 #include "screen/greeting.h"
 #include "screen/ground/linebalancing.h"
+#include "screen/textbound.h"
 #include "textanim/fonts.h"
 
 #include <QPainter>
@@ -45,8 +46,16 @@ public:
         , fontName_(state.settings.fontName)
         , scale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
                                               : std::nullopt) *
-                 usableSizeScale(state.settings.sizeScale)) {}
+                 usableSizeScale(state.settings.sizeScale))
+        , wrap_(
+              wrapTarget(state.mainScreen ? std::optional(state.mainScreen->width()) : std::nullopt,
+                         state.sideInset, scale_))
+        , seen_(seenCharacters(state.size.height(), quoteSize(), wrap_)) {}
 
+    int wrap() const { return wrap_; } // characters
+    qsizetype seen() const { return seen_; }
+    // Without a blank only wide characters make several rows.
+    qsizetype seenInOne() const { return seen_ / 2; }
     double scale() const { return scale_; } // s × k
     double quoteSize() const { return measure::quoteSize * scale_; }
     TextFont quote() const { return quoteFont(fonts_, fontName_, quoteSize()); }
@@ -62,6 +71,8 @@ private:
     const FontBook& fonts_;
     QString fontName_;
     double scale_;
+    int wrap_;
+    qsizetype seen_;
 };
 
 QuoteView::QuoteView(const QuoteViewState& state, const FontBook& fonts)
@@ -77,6 +88,7 @@ void QuoteView::update(const QuoteViewState& state, double seconds) {
 
 void QuoteView::compose(double seconds) {
     const Setting setting(state_, *fonts_);
+    dropUnseen(setting);
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
@@ -95,12 +107,18 @@ void QuoteView::compose(double seconds) {
     placeTexts(setting, box);
 }
 
+// A source may send millions of characters, and all of them as one word.
+void QuoteView::dropUnseen(const Setting& setting) {
+    state_.quote.text = beginningOf(state_.quote.text, setting.seen());
+    state_.quote.author = beginningOf(state_.quote.author, setting.seenInOne());
+}
+
 void QuoteView::composeLines(const Setting& setting, double width, double seconds) {
     const QString& raw = state_.settings.textAnimRaw;
-    const std::optional<double> screenWidth =
-        state_.mainScreen ? std::optional(state_.mainScreen->width()) : std::nullopt;
-    const QStringList texts = balancedLines(
-        state_.quote.text, wrapTarget(screenWidth, state_.sideInset, setting.scale()));
+    QStringList texts = balancedLines(state_.quote.text, setting.wrap());
+    for (QString& text : texts) {
+        text = beginningOf(text, setting.seenInOne());
+    }
 
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);

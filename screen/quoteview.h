@@ -46,6 +46,7 @@ public:
     // nothing else is replayed.
     void update(const QuoteViewState& state, double seconds);
 
+    // As handed in, but for what of the quotation lies far beyond the bottom.
     const QuoteViewState& state() const { return state_; }
 
     // Draws what lies in `clip` (points); the painter is in points.
@@ -84,6 +85,7 @@ private:
     class Setting;
 
     void compose(double seconds);
+    void dropUnseen(const Setting& setting);
     void composeLines(const Setting& setting, double width, double seconds);
     void composeOverlays(const Setting& setting, const QRectF& box);
     void placeTexts(const Setting& setting, const QRectF& box);

@@ -1,0 +1,104 @@
+#include "screen/textbound.h"
+
+#include "screen/ground/linebalancing.h"
+#include "tests/screen/sceneforscreens.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+using namespace morrowleaf;
+
+namespace {
+
+constexpr qsizetype hostileSize = qsizetype{4} << 20;
+
+struct Hostile {
+    const char* name;
+    QString piece; // repeated until there are 4 MiB
+};
+
+std::vector<Hostile> hostileTexts() {
+    return {{"words", "mountain "},
+            {"one word", "w"},
+            {"one-letter words", "a "},
+            {"combining marks", QString(QChar(0x0301))},
+            {"marked letters", "a" + QString(15, QChar(0x0301))},
+            {"zero characters", QString(QChar(0))},
+            {"line separators", QString(QChar(0x2028))},
+            {"line feeds", "a\n"},
+            {"directions", QString::fromUtf8("\u202Ea\u2066\u05D0 ")},
+            {"joiners", QString(QChar(0x200D))},
+            {"half pairs", QString(QChar(0xD83D))},
+            {"emoji", QString::fromUtf8("👩‍👧")}};
+}
+
+} // namespace
+
+TEST(BeginningOf, KeepsWhatIsOfOrdinaryLength) {
+    const QString family = QString::fromUtf8("👨‍👩‍👧‍👦");
+    EXPECT_EQ(beginningOf("", 5), "");
+    EXPECT_EQ(beginningOf("abcde", 5), "abcde");
+    EXPECT_EQ(beginningOf("abcdef", 5), "abcde");
+    EXPECT_EQ(beginningOf(family.repeated(599), 2000), family.repeated(599));
+    EXPECT_EQ(beginningOf(QString("e\u0301").repeated(6), 5), QString("e\u0301").repeated(5));
+}
+
+TEST(BeginningOf, CutsNoCharacterThrough) {
+    const QString family = QString::fromUtf8("👨‍👩‍👧‍👦"); // 11 units
+    EXPECT_EQ(beginningOf(family.repeated(9), 4), family);
+    EXPECT_EQ(beginningOf("ab" + QString(100, QChar(0x0301)), 5), "a");
+}
+
+TEST(BeginningOf, CutsACharacterBeyondAllBounds) {
+    const QString start = beginningOf("a" + QString(1000, QChar(0x0301)), 100);
+    EXPECT_EQ(start, "a" + QString(63, QChar(0x0301)));
+    const QString pairs = QString::fromUtf8("\U0001F600") + QString(61, QChar(0x0301)) +
+                          QString::fromUtf8("\U0001D165").repeated(500);
+    const QString whole = beginningOf(pairs, 100);
+    EXPECT_EQ(whole.size(), 63);
+    EXPECT_FALSE(whole.back().isHighSurrogate());
+    EXPECT_EQ(beginningOf("a" + QString(1000, QChar(0x0301)), 1).size(), 4);
+}
+
+TEST(SeenCharacters, FollowTheViewWithinBounds) {
+    EXPECT_EQ(seenCharacters(982, 44, 41), 65 * 43);
+    EXPECT_EQ(seenCharacters(982, 68, 26), 2000);
+    EXPECT_EQ(seenCharacters(2160, 4, 48), 20000);
+    EXPECT_EQ(seenCharacters(0, 44, 41), 2000);
+    EXPECT_EQ(seenCharacters(std::nan(""), 44, 41), 2000);
+}
+
+TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
+    for (const Hostile& hostile : hostileTexts()) {
+        SCOPED_TRACE(hostile.name);
+        QuoteViewState state = plainState();
+        state.quote.text = hostile.piece.repeated(hostileSize / hostile.piece.size());
+        state.quote.author = state.quote.text;
+        const QuoteView view(state, bundledFonts());
+        const qsizetype seen = seenCharacters(982, 44, 48);
+        qsizetype units = 0;
+        for (qsizetype i = 0; i < view.lineCount(); ++i) {
+            units += view.lineText(i).size();
+            EXPECT_LE(characterCount(view.lineText(i)), seen / 2);
+        }
+        EXPECT_LE(view.lineCount(), 150);
+        EXPECT_LE(units, 4 * seen);
+        EXPECT_LE(view.state().quote.author.size(), 4 * seen);
+    }
+}
+
+// What is left away lies below the end of what is shown.
+TEST(QuoteViewBounds, FillTheViewToItsEnd) {
+    for (const QSizeF size : {QSizeF(1512, 982), QSizeF(3840, 2160), QSizeF(1080, 1920)}) {
+        for (const double textScale : {0.5, 1.0, 1.6}) {
+            QuoteViewState state = plainState(size);
+            state.settings.sizeScale = textScale;
+            state.quote = {QString("I will fill it ").repeated(20000), "B"};
+            const QuoteView view(state, bundledFonts());
+            EXPECT_GT(view.lineRect(view.lineCount() - 1).top(), size.height() - 60)
+                << size.width() << ' ' << textScale;
+        }
+    }
+}
