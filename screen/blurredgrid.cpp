@@ -86,24 +86,23 @@ void BlurredGrid::blur(double sigma) {
     }
 }
 
-std::array<float, 3> BlurredGrid::at(double x, double y) const {
-    const double column = std::clamp(x / step_ - 0.5, 0.0, columns_ - 1.0);
-    const double row = std::clamp(y / step_ - 0.5, 0.0, rows_ - 1.0);
-    const int left = static_cast<int>(column);
-    const int top = static_cast<int>(row);
-    const auto s = static_cast<float>(column - left);
-    const auto t = static_cast<float>(row - top);
-    const float* a = &cells_[static_cast<std::size_t>(top * columns_ + left) * 3];
-    const std::ptrdiff_t right = left + 1 < columns_ ? 3 : 0;
-    const float* b = top + 1 < rows_ ? a + std::ptrdiff_t(columns_) * 3 : a;
-    std::array<float, 3> value;
-    for (std::size_t n = 0; n < 3; ++n) {
-        const auto i = static_cast<std::ptrdiff_t>(n);
-        const float upper = a[i] + (a[i + right] - a[i]) * s;
-        const float lower = b[i] + (b[i + right] - b[i]) * s;
-        value[n] = upper + (lower - upper) * t;
-    }
-    return value;
+void BlurredGrid::mixRow(double y, std::vector<float>& row) const {
+    const double place = std::clamp(y / step_ - 0.5, 0.0, rows_ - 1.0);
+    const int top = static_cast<int>(place);
+    const auto share = static_cast<float>(place - top);
+    const auto length = static_cast<std::size_t>(columns_) * 3;
+    const float* above = &cells_[static_cast<std::size_t>(top) * length];
+    const float* below = top + 1 < rows_ ? above + length : above;
+    row.resize(length);
+    float* to = row.data();
+    for (std::size_t n = 0; n < length; ++n)
+        to[n] = above[n] + (below[n] - above[n]) * share;
+}
+
+BlurredGrid::Place BlurredGrid::placeOf(double x) const {
+    const double place = std::clamp(x / step_ - 0.5, 0.0, columns_ - 1.0);
+    const int left = static_cast<int>(place);
+    return {left, std::min(left + 1, columns_ - 1), static_cast<float>(place - left)};
 }
 
 } // namespace morrowleaf

@@ -2,7 +2,6 @@
 
 #include <QImage>
 
-#include <array>
 #include <vector>
 
 namespace morrowleaf {
@@ -14,9 +13,17 @@ public:
     // `picture`: RGB32. `sigma`: of the Gaussian, in pixels of the picture.
     BlurredGrid(const QImage& picture, int step, double sigma);
 
-    // Blue, green, red, 0...255, between the squares' middles, at a place in
-    // pixels of the picture.
-    std::array<float, 3> at(double x, double y) const;
+    // One row of the picture, `y` in its pixels, mixed from the two rows of
+    // squares whose middles lie about it: blue, green, red, 0...255, a square.
+    void mixRow(double y, std::vector<float>& row) const;
+
+    // Between which squares of such a row a place lies, in pixels.
+    struct Place {
+        int left = 0;
+        int right = 0;
+        float share = 0; // of the right one
+    };
+    Place placeOf(double x) const;
 
 private:
     void shrink(const QImage& picture);

@@ -24,14 +24,24 @@ double bent(double at, int length, double ratio) {
     return at + most * (shift(at) - shift(length - at));
 }
 
+std::array<float, 3> colourAt(const std::vector<float>& row, const BlurredGrid::Place& place) {
+    const float* left = row.data() + std::ptrdiff_t(place.left) * 3;
+    const float* right = row.data() + std::ptrdiff_t(place.right) * 3;
+    return {left[0] + (right[0] - left[0]) * place.share,
+            left[1] + (right[1] - left[1]) * place.share,
+            left[2] + (right[2] - left[2]) * place.share};
+}
+
 NodeGrid frostedNodes(const QImage& picture, double ratio) {
     NodeGrid nodes;
     nodes.resize(picture.size(), ratio);
     const BlurredGrid grid(picture, NodeGrid::cellFor(picture.size(), ratio), frostSigma * ratio);
+    std::vector<float> row;
     for (int j = 0; j < nodes.rows; ++j) {
+        grid.mixRow(nodes.place(j), row);
         qint16* to = nodes.row(j);
         for (int i = 0; i < nodes.columns; ++i, to += 4) {
-            const std::array<float, 3> c = grid.at(nodes.place(i), nodes.place(j));
+            const std::array<float, 3> c = colourAt(row, grid.placeOf(nodes.place(i)));
             const float luma = 0.0722F * c[0] + 0.7152F * c[1] + 0.2126F * c[2];
             for (std::size_t n = 0; n < 3; ++n) {
                 const float lifted = luma + (c[n] - luma) * float(frostSaturation);
@@ -46,21 +56,23 @@ NodeGrid frostedNodes(const QImage& picture, double ratio) {
 QImage clearPicture(const QImage& picture, double ratio) {
     const BlurredGrid grid(picture, std::max(1, static_cast<int>(2 * ratio)), clearSigma * ratio);
     QImage clear(picture.size(), QImage::Format_RGB32);
-    std::vector<double> columns(static_cast<std::size_t>(clear.width()));
+    std::vector<BlurredGrid::Place> columns(static_cast<std::size_t>(clear.width()));
     for (int x = 0; x < clear.width(); ++x)
-        columns[static_cast<std::size_t>(x)] = bent(x + 0.5, clear.width(), ratio);
+        columns[static_cast<std::size_t>(x)] = grid.placeOf(bent(x + 0.5, clear.width(), ratio));
+    const DitherMask& mask = ditherMask();
+    std::vector<float> row;
     for (int y = 0; y < clear.height(); ++y) {
+        grid.mixRow(bent(y + 0.5, clear.height(), ratio), row);
+        const quint8* dithers = mask.data() + std::ptrdiff_t(y % ditherSize) * ditherSize;
         auto* line = reinterpret_cast<QRgb*>(clear.scanLine(y));
-        const double from = bent(y + 0.5, clear.height(), ratio);
         for (int x = 0; x < clear.width(); ++x) {
-            const std::array<float, 3> c = grid.at(columns[static_cast<std::size_t>(x)], from);
-            const float dither = static_cast<float>(ditherMask()[static_cast<std::size_t>(
-                                     y % ditherSize * ditherSize + x % ditherSize)]) /
-                                 64;
+            const std::array<float, 3> c = colourAt(row, columns[static_cast<std::size_t>(x)]);
+            const float dither = static_cast<float>(dithers[x % ditherSize]) * (1.0F / 64);
+            // Between 0 and 255 already; the dither's 63/64 cannot reach 256.
             const auto level = [dither](float value) {
-                return std::clamp(static_cast<int>(value + dither), 0, 255);
+                return static_cast<QRgb>(static_cast<int>(std::min(value, 255.0F) + dither));
             };
-            line[x] = qRgb(level(c[2]), level(c[1]), level(c[0]));
+            line[x] = 0xFF000000U | level(c[2]) << 16 | level(c[1]) << 8 | level(c[0]);
         }
     }
     return clear;
