@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+
+#include <memory>
+
+namespace morrowleaf {
+
+struct Glass;
+
+// The glass over one captured picture: made by a worker when it is first
+// wanted, once for that picture, and dropped with it.
+class GlassShowing : public QObject {
+    Q_OBJECT
+
+public:
+    explicit GlassShowing(QObject* parent = nullptr);
+    ~GlassShowing() override;
+
+    // The picture to look through from now on; a null one is none. Asking
+    // again for the same costs nothing.
+    void want(const QImage& picture, double devicePixelRatio);
+
+    // Null until it is made.
+    const std::shared_ptr<const Glass>& glass() const { return glass_; }
+
+signals:
+    void made();
+
+private:
+    struct Request {};
+
+    qint64 key_ = 0;
+    double ratio_ = 0;
+    std::shared_ptr<const Glass> glass_;
+    std::shared_ptr<Request> request_;
+};
+
+} // namespace morrowleaf
