@@ -70,6 +70,10 @@ const char* pluginFor(WindowSystem system) {
     return nullptr;
 }
 
+// Pictures get pages of their own, which go back the moment they are freed: by
+// default the limit rises with what is freed, and the arenas of threads keep it.
+constexpr int ownPagesFrom = 1 << 20; // bytes
+
 } // namespace
 
 WindowSystem chooseWindowSystem() {
@@ -99,6 +103,7 @@ Platform makePlatform(WindowSystem system) {
     if (system == WindowSystem::Null) {
         return platform;
     }
+    mallopt(M_MMAP_THRESHOLD, ownPagesFrom);
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
     platform.beeper = makeDesktopBeeper();
     platform.colorScheme = std::make_unique<PortalColorScheme>();
