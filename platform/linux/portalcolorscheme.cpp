@@ -29,7 +29,7 @@ PortalColorScheme::PortalColorScheme(QDBusConnection bus) {
         return;
     }
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+                SLOT(settingChanged(QDBusMessage)));
     QDBusMessage ask =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
     ask << QString(appearance) << QString(colorScheme);
@@ -43,10 +43,10 @@ PortalColorScheme::PortalColorScheme(QDBusConnection bus) {
     });
 }
 
-void PortalColorScheme::settingChanged(const QString& group, const QString& key,
-                                       const QDBusVariant& value) {
-    if (group == appearance && key == colorScheme) {
-        take(QVariant::fromValue(value));
+void PortalColorScheme::settingChanged(const QDBusMessage& signal) {
+    const QVariantList told = signal.arguments();
+    if (told.value(0).toString() == appearance && told.value(1).toString() == colorScheme) {
+        take(told.value(2));
     }
 }
 

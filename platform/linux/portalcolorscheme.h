@@ -4,7 +4,7 @@
 
 #include <QDBusConnection>
 
-class QDBusVariant;
+class QDBusMessage;
 
 namespace morrowleaf {
 
@@ -19,7 +19,7 @@ public:
     ColorPreference preference() const override { return preference_; }
 
 private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QDBusMessage& signal);
 
 private:
     void take(const QVariant& value);

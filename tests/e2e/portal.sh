@@ -1,0 +1,88 @@
+#!/bin/bash
+# The desktop's portal: dark and light, and the dialog that chooses a photo.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+portal() { /usr/bin/python3 "$here/portal.py" "$@"; }
+asked() { [ "$(grep -c "$1" "$work/portal.log")" -ge "$2" ]; }
+# tone COLOUR: the settings window has this ground
+tone() { shot tone && shows_some_of tone "$1"; }
+dark='#262629'
+light='#f3f3f4'
+file=$XDG_CONFIG_HOME/morrowleaf/settings.json
+
+start_x 1280x1024
+start_manager openbox
+start_session_bus
+start portal /usr/bin/python3 "$here/portal.py" serve 1
+portal_pid=$last
+until_true 10 grep -q serving "$work/portal.log" || die "no portal"
+settings '{"screenAnimation": "still", "grainEnabled": false, "dismissSeconds": 60}'
+convert -size 80x60 xc:red "$work/red.png"
+
+start app "$MORROWLEAF" --settings
+app=$last
+must "the settings open" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
+must "dark, as the desktop is" tone "$dark"
+portal scheme 2
+must "and light when it turns light" tone "$light"
+check "nothing dark is left" shows_none_of tone "$dark"
+portal scheme 1
+must "and dark again" tone "$dark"
+portal scheme 0
+must "and the toolkit's own without a preference" not tone "$dark"
+
+window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$' | head -1; }
+xdotool mousemove --window "$(window)" 430 59 click 1
+must "the editor opens" is_shown
+sleep 0.8
+# The add tile stands after ten palettes and six photos.
+add() {
+    local i
+    for ((i = 0; i < 17; i++)); do xdotool key Tab; sleep 0.02; done
+    xdotool key space
+}
+add
+must "the desktop's dialog is asked for" asked open 1
+check "for one picture" grep -q "multiple=False png=True text=False" "$work/portal.log"
+check "with no parent, since no manager knows the window" grep -q "parent=''" "$work/portal.log"
+sleep 0.3
+check "no dialog of the toolkit is there" not xdotool search --onlyvisible --name '^Add a Photo$'
+portal answer 1
+sleep 0.5
+check "a cancelled dialog changes nothing" not grep -q backgrounds "$file"
+check "and the editor is still there" is_shown
+xdotool key space
+must "it can be asked for again" asked open 2
+portal answer 0 "file://$work/red.png"
+must "a chosen photo is copied and chosen" \
+    grep -qE '"backgroundImagePath": *"[^"]*backgrounds/[0-9A-F-]{36}\.png"' "$file"
+check "the editor is in front" is_shown
+shot editor
+
+xdotool key Escape
+must "Escape ends the editing" is_gone
+xdotool mousemove --window "$(window)" 430 59 click 1
+must "the editor opens once more" is_shown
+sleep 0.8
+for ((i = 0; i < 2; i++)); do xdotool key Tab; sleep 0.02; done
+add
+must "and asks again" asked open 3
+xdotool key Escape
+must "editing that ends" is_gone
+must "takes the dialog back" asked closed 1
+
+kill "$portal_pid"
+sleep 0.3
+xdotool mousemove --window "$(window)" 430 59 click 1
+must "the editor opens without a portal" is_shown
+sleep 0.8
+for ((i = 0; i < 2; i++)); do xdotool key Tab; sleep 0.02; done
+add
+must "the toolkit's dialog stands in" xdotool search --onlyvisible --name '^Add a Photo$'
+xdotool key Escape
+must "Escape closes it" not xdotool search --onlyvisible --name '^Add a Photo$'
+check "and leaves the editor" is_shown
+check "the program goes on" kill -0 "$app"
+finish
