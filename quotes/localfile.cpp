@@ -1,12 +1,12 @@
 #include "quotes/localfile.h"
 
-#include <QFile>
+#include "quotes/regularfile.h"
+
 #include <QScopeGuard>
 
 #include <array>
 #include <cerrno>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,15 +14,14 @@ namespace morrowleaf {
 
 std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
                                         const std::function<bool()>& stopped) {
-    const int fd =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    const int fd = openRegularFile(path);
     if (fd < 0) {
         return std::nullopt;
     }
     const auto close = qScopeGuard([fd] { ::close(fd); });
     struct stat info {};
     // The size is a hint only: files of the kernel say 0, and a file may grow.
-    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > limit) {
+    if (::fstat(fd, &info) != 0 || info.st_size > limit) {
         return std::nullopt;
     }
     QByteArray bytes;

@@ -5,9 +5,12 @@
 
 namespace morrowleaf {
 
-// Opens `file` for reading at `path` if a regular file stands there. Pipes,
-// devices, sockets and folders are refused at once: merely opening one of
-// them could wait for ever.
+// Opens the regular file at `path` for reading; -1 if there is none or it may
+// not be read. Pipes, devices, sockets and folders are refused at once: merely
+// opening one of them could wait for ever. The caller closes it.
+int openRegularFile(const QString& path);
+
+// The same for `file`, which is without a buffer of its own.
 bool openRegularFile(QFile& file, const QString& path);
 
 } // namespace morrowleaf
