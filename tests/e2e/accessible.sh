@@ -20,7 +20,6 @@ settings "{\"quoteSourceURL\": \"$work/quote.json\", \"dismissSeconds\": 60,
            \"screenAnimation\": \"still\", \"grainEnabled\": false}"
 
 start app "$MORROWLEAF"
-app=$last
 must "the quotation is shown" is_shown
 must "the quotation is a text" read_aloud find "static|label" "Still waters run deep."
 must "the author is a text" read_aloud find "static|label" "A Proverb"

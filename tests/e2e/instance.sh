@@ -10,7 +10,7 @@ settings '{"dismissSeconds": 60}'
 running() { pgrep -c -P $$ -f "^$MORROWLEAF"; }
 
 four_at_once() {
-    local round=$1 i racers=() ended=0
+    local round=$1 i racers=()
     for i in 1 2 3 4; do
         start "race$round-$i" "$MORROWLEAF"
         racers+=("$last")

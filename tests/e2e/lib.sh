@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests that run the program in a session of its own. A script
 # sources this, starts what it needs and calls the checks; everything that was
 # started ends with the script. E2E_KEEP names a folder that keeps the pictures.

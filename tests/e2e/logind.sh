@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154
 # A login manager for tests, on a private system bus; needs lib.sh.
 mock=org.freedesktop.DBus.Mock
 login=org.freedesktop.login1

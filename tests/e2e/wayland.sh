@@ -18,7 +18,8 @@ export WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman
 start sway sway -c "$work/sway.conf"
 until_true 20 test -S "$work/run/wayland-1" || die "no compositor"
 export WAYLAND_DISPLAY=wayland-1
-export SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
+SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
+export SWAYSOCK
 until_true 20 swaymsg -t get_version || die "no compositor"
 start_session_bus
 

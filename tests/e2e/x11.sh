@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests on a private X server; needs lib.sh.
 
 # start_x WIDTHxHEIGHT
@@ -7,7 +8,8 @@ start_x() {
     x_pid=$!
     pids+=("$x_pid")
     until_true 20 test -s "$work/display" || die "no X server"
-    export DISPLAY=:$(cat "$work/display")
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
     until_true 10 xdpyinfo || die "no X server"
     xsetroot -solid '#206040'
     start mapwatch "$E2E_MAPWATCH" Morrowleaf
