@@ -139,7 +139,7 @@ void entrance(benchmark::State& state, TextAnim style) {
     frame.setDevicePixelRatio(screen.ratio);
     BackdropPainter painter;
     Costs costs;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         playOnce(quotation, painter, frame, costs);
     }
     state.counters["whole_ms"] = costs.whole / costs.wholeFrames;

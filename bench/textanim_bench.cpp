@@ -81,7 +81,7 @@ void paintFrames(benchmark::State& state, TextAnim style, double from, double to
     double seconds = first;
     QPainter painter(&frame);
     double spent = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const double start = processorSeconds();
         line.paint(painter, {256, 400}, seconds);
         spent += processorSeconds() - start;
@@ -137,7 +137,7 @@ void tracing(benchmark::State& state, const Frame& frameAt) {
     int i = 0;
     frameAt(from);
     double spent = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (++i > 7) {
             state.PauseTiming();
             frameAt(from);
@@ -177,7 +177,7 @@ BENCHMARK(handwriting)->Arg(10)->Arg(50)->Arg(90)->Unit(benchmark::kMillisecond)
 // A new line for a changed colour or size while a slider moves.
 void rebuilt(benchmark::State& state, TextAnim style) {
     double size = 44;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         RevealLine::Parts changed = parts(style);
         size = size > 60 ? 44 : size + 0.1;
         changed.font.size = size;

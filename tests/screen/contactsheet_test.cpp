@@ -65,7 +65,8 @@ QImage draw(const Sheet& sheet, const Fault& fault = {}) {
     QPainter painter(&picture);
     int i = 0;
     for (const double at : instants(line)) {
-        const QPointF corner(i % columns * cell.width(), i / columns * cell.height());
+        const int row = i / columns;
+        const QPointF corner(i % columns * cell.width(), row * cell.height());
         painter.setClipRect(QRectF(corner, cell));
         painter.setOpacity(fault.opacity);
         line.paint(painter, corner + QPointF(30, 25 + fault.moved), at);

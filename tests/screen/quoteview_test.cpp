@@ -149,7 +149,8 @@ TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
     state.quote = {threeLines, "Anonymous"};
     QuoteView view(state, bundledFonts());
     QSet<QString> kinds; // what becomes of a line
-    for (double scale = 0.8; scale < 1.6; scale += 0.02) {
+    for (int percent = 80; percent < 160; percent += 2) {
+        const double scale = percent / 100.0;
         QStringList before;
         std::vector<double> appeared;
         for (int i = 0; i < view.lineCount(); ++i) {

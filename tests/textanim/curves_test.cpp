@@ -18,7 +18,8 @@ TEST(Curves, EaseOutIsFastFirst) {
 }
 
 TEST(Curves, EaseInIsTheMirrorOfEaseOut) {
-    for (double at = 0; at <= 1; at += 0.05) {
+    for (int tick = 0; tick * 0.05 <= 1; ++tick) {
+        const double at = tick * 0.05;
         EXPECT_NEAR(easeIn(at), 1 - easeOut(1 - at), 1e-9);
     }
 }
@@ -26,7 +27,8 @@ TEST(Curves, EaseInIsTheMirrorOfEaseOut) {
 TEST(Curves, EaseInEaseOutIsSymmetric) {
     EXPECT_NEAR(easeInEaseOut(0.5), 0.5, 1e-9);
     EXPECT_NEAR(easeInEaseOut(0.25), 0.1292, 0.0005);
-    for (double at = 0; at <= 1; at += 0.05) {
+    for (int tick = 0; tick * 0.05 <= 1; ++tick) {
+        const double at = tick * 0.05;
         EXPECT_NEAR(easeInEaseOut(at), 1 - easeInEaseOut(1 - at), 1e-9);
     }
 }
@@ -38,7 +40,8 @@ TEST(Curves, StayInsideTheirEnds) {
         EXPECT_EQ(curve(notANumber), 0);
         EXPECT_EQ(curve(1), 1);
         EXPECT_EQ(curve(infinity), 1);
-        for (double at = 0; at < 1; at += 0.01) {
+        for (int tick = 0; tick * 0.01 < 1; ++tick) {
+            const double at = tick * 0.01;
             EXPECT_LE(curve(at), curve(at + 0.01));
         }
     }
@@ -50,7 +53,7 @@ double simulatedSpring(double seconds, double response, double damping) {
     const double step = 1e-5;
     double position = 0;
     double velocity = 0;
-    for (double t = 0; t < seconds; t += step) {
+    for (int tick = 0; tick * step < seconds; ++tick) {
         velocity += step * (omega * omega * (1 - position) - 2 * damping * omega * velocity);
         position += step * velocity;
     }
@@ -69,7 +72,8 @@ TEST(Spring, FollowsTheOscillatorAtEveryDamping) {
 TEST(Spring, OvershootsBelowCriticalDampingOnly) {
     const auto highest = [](double damping) {
         double top = 0;
-        for (double t = 0; t < 4; t += 0.001) {
+        for (int tick = 0; tick * 0.001 < 4; ++tick) {
+            const double t = tick * 0.001;
             top = std::max(top, spring(t, 0.9, damping));
         }
         return top;
@@ -89,7 +93,8 @@ TEST(Spring, BeginsAtRestAndEndsAtOne) {
 TEST(Spring, StaysCloseOnceSettled) {
     for (const double damping : {0.4, 0.72, 1.0, 1.8}) {
         const double settled = springSettledAfter(0.9, damping, 0.001);
-        for (double t = settled; t < settled + 5; t += 0.01) {
+        for (int tick = 0; settled + tick * 0.01 < settled + 5; ++tick) {
+            const double t = settled + tick * 0.01;
             EXPECT_NEAR(spring(t, 0.9, damping), 1, 0.001);
         }
         EXPECT_GT(settled, 0.3);

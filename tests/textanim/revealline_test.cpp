@@ -147,7 +147,8 @@ TEST_P(EveryStyle, UnchangedStagesLookAlike) {
     const RevealLine line(parts(GetParam()));
     double last = 0;
     QImage before = painted(line, last);
-    for (double at = 0.01; at < line.settledAfter() + 0.1; at += 0.017) {
+    for (int tick = 0; 0.01 + tick * 0.017 < line.settledAfter() + 0.1; ++tick) {
+        const double at = 0.01 + tick * 0.017;
         const QImage now = painted(line, at);
         if (!line.changesBetween(last, at)) {
             EXPECT_EQ(now, before) << at;
@@ -335,7 +336,8 @@ TEST(RevealLine, RiseOvershootsUpwards) {
     const RevealLine line(bare);
     const double resting = inkOf(painted(line, line.settledAfter(), 2)).center().y();
     double highest = resting;
-    for (double t = 0.4; t < 1.2; t += 0.02) {
+    for (int tick = 0; 0.4 + tick * 0.02 < 1.2; ++tick) {
+        const double t = 0.4 + tick * 0.02;
         highest = std::min(highest, inkOf(painted(line, line.delay() + t, 2)).center().y());
     }
     EXPECT_NEAR(resting - highest, 1.77, 0.5);
@@ -350,7 +352,8 @@ TEST(RevealLine, HandwritingIsOutlinedFirstAndInkedLater) {
     EXPECT_NEAR(half.width() / whole.width(), 0.5, 0.07);
     EXPECT_NEAR(half.left(), whole.left(), 1);
     double before = 0;
-    for (double t = 0.1; t < 1.45; t += 0.1) {
+    for (int tick = 0; 0.1 + tick * 0.1 < 1.45; ++tick) {
+        const double t = 0.1 + tick * 0.1;
         const double now = alphaSum(painted(line, line.delay() + t));
         EXPECT_GT(now, before);
         before = now;

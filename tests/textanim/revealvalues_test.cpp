@@ -42,7 +42,8 @@ TEST(RevealValues, RiseOvershootsItsPlaceButNotItsOpacity) {
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.offset, 46);
     double highest = 0;
-    for (double t = 0; t < 3; t += 0.001) {
+    for (int tick = 0; tick * 0.001 < 3; ++tick) {
+        const double t = tick * 0.001;
         const RevealValues values = revealValues(TextAnim::Rise, t);
         highest = std::min(highest, values.offset);
         EXPECT_LE(values.opacity, 1);
