@@ -30,6 +30,8 @@ leave() {
     wait "$app"
     check "it ends with status 0" test $? -eq 0
 }
+# A picture of the column, which stands still before header and hint do.
+column() { import -window root -crop 1000x420+140+190 +repage "$work/$1.png"; }
 differing() {
     local n
     n=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
@@ -40,29 +42,29 @@ cached() { grep -q '"cachedQuoteText": *"The lamp that is lit' "$store"; }
 
 settings "{$look}"
 launch
-sleep 4.3
-shot scheduled
+sleep 3
+column scheduled
 leave
 
 settings "{$look, \"quoteSourceURL\": \"$address\"}"
 launch
-sleep 4.3
-shot waiting
+sleep 3
+column waiting
 check "while the source is silent the scheduled quotation stands" same scheduled waiting
 check "the source was asked once" test "$(grep -c 'asked for /quote' "$work/server.log")" -eq 1
 check "for JSON" grep -q 'accepting application/json$' "$work/server.log"
 touch "$work/release"
 must "the loaded quotation is cached" cached
-check "with its author" grep -q '"cachedQuoteAuthor": *"A Neighbour"' "$store"
-sleep 2.5
-shot loaded
+must "with its author" grep -q '"cachedQuoteAuthor": *"A Neighbour"' "$store"
+sleep 3
+column loaded
 check "and shown" not same scheduled loaded
 leave
 
 kill "$server"
 launch
-sleep 4.3
-shot offline
+sleep 3
+column offline
 check "without the server the cached quotation stands" same loaded offline
 leave
 finish
