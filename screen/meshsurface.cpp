@@ -12,7 +12,8 @@ MeshPoints drawnBack(const MeshPoints& points, float swing) {
     MeshPoints drawn = points;
     for (std::size_t i = 0; i < drawn.size(); ++i) {
         const float restX = 0.5F * static_cast<float>(i % 3);
-        const float restY = 0.5F * static_cast<float>(i / 3);
+        const std::size_t row = i / 3;
+        const float restY = 0.5F * static_cast<float>(row);
         drawn[i].x = restX + (points[i].x - restX) * swing;
         drawn[i].y = restY + (points[i].y - restY) * swing;
     }

@@ -305,7 +305,7 @@ TEST(Backdrop, APhotoFadesInOverThePhotoPalette) {
     state.photoOpacity = 0;
     EXPECT_NEAR(qRed(raw(drawn(state), 200, 100)), 15, 1);
     state.photoOpacity = 0.5;
-    EXPECT_NEAR(qRed(raw(drawn(state), 200, 100)), (15 + 150) / 2, 1);
+    EXPECT_NEAR(qRed(raw(drawn(state), 200, 100)), (15 + 150) / 2.0, 1);
     state.photo = QImage();
     EXPECT_NEAR(qRed(raw(drawn(state), 200, 100)), 15, 1);
 }

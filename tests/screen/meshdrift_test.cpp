@@ -28,7 +28,8 @@ TEST(MeshDrift, FollowsItsRatesAndOffsets) {
 }
 
 TEST(MeshDrift, LeavesCornersAndEdgesInPlace) {
-    for (double t = 0; t < 100; t += 0.7) {
+    for (int step = 0; step < 143; ++step) {
+        const double t = 0.7 * step;
         const MeshPoints p = meshDrift(t, 0.26);
         for (const std::size_t corner : {0U, 2U, 6U, 8U}) {
             EXPECT_EQ(p[corner].x, corner % 3 == 2 ? 1 : 0);
@@ -58,7 +59,8 @@ bool same(const MeshPoints& a, const MeshPoints& b) {
 
 TEST(MeshSurface, OnlyTheWidestSwingsAreEverDrawnBack) {
     int drawnBack = 0;
-    for (double t = 0; t < 63; t += 0.05) { // all rates are tenths: this is the whole motion
+    for (int step = 0; step < 1260; ++step) { // all rates are tenths: this is the whole motion
+        const double t = 0.05 * step;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.1)), meshDrift(t, 0.1))) << t;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.16)), meshDrift(t, 0.16))) << t;
         drawnBack += same(unfolded(meshDrift(t, 0.26)), meshDrift(t, 0.26)) ? 0 : 1;
@@ -69,7 +71,8 @@ TEST(MeshSurface, OnlyTheWidestSwingsAreEverDrawnBack) {
 
 TEST(MeshSurface, NeverFoldsAndNeverJumpsOnceDrawnBack) {
     MeshPoints last = unfolded(meshDrift(0, 0.26));
-    for (double t = 0; t < 63; t += 0.01) {
+    for (int step = 0; step < 6300; ++step) {
+        const double t = 0.01 * step;
         const MeshPoints now = unfolded(meshDrift(t, 0.26));
         for (int i = 0; i <= 40; ++i) {
             for (int j = 0; j <= 40; j += 4)
@@ -84,7 +87,8 @@ TEST(MeshSurface, NeverFoldsAndNeverJumpsOnceDrawnBack) {
 }
 
 TEST(MeshSurface, PassesThroughItsKnotsWithWeightsThatSumToOne) {
-    for (double u = -0.05; u < 2.06; u += 0.05) {
+    for (int step = -1; step <= 41; ++step) {
+        const double u = 0.05 * step;
         const KnotWeights w = knotWeights(u);
         EXPECT_NEAR(w.value[0] + w.value[1] + w.value[2], 1, 1e-12);
         EXPECT_NEAR(w.slope[0] + w.slope[1] + w.slope[2], 0, 1e-12);
