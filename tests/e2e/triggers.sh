@@ -54,7 +54,8 @@ wake_while_locked() {
     sleep 0.2
     set_hint false
 }
-hint_alone() { set_hint false; }
+# Nothing has said before that the session was locked.
+hint_alone() { session_call c1 $mock.UpdateProperties $login.Session '{"LockedHint": <false>}'; }
 hint_goes() { set_hint true; set_hint false; }
 saver_ends() { saver_active true; saver_active false; }
 active_alone() { set_active true; }
@@ -64,7 +65,8 @@ order "wake, then unlock" wake_then_unlock
 order "unlock, then wake" unlock_then_wake
 order "wake, active, hint and unlock" everything_at_once
 order "wake while locked" wake_while_locked
-order "the locked hint alone" hint_goes
+order "the locked hint, false alone" hint_alone
+order "a lock seen by its hint only" hint_goes
 start_saver
 order "the end of a screen saver alone" saver_ends
 session_call c1 $mock.UpdateProperties $login.Session '{"Active": <false>}'
