@@ -3,10 +3,12 @@
 #include "textanim/textlayout.h"
 
 #include <QGlyphRun>
+#include <QHash>
 #include <QPainter>
 #include <QTransform>
 
 #include <algorithm>
+#include <utility>
 
 namespace morrowleaf {
 
@@ -14,31 +16,54 @@ namespace {
 
 constexpr int pictureSize = 160; // pixels for the size of the font
 
-std::optional<GlyphPicture> pictureOf(const PlacedGlyph& glyph, QPointF origin, double unit) {
+struct DrawnGlyph {
+    QImage picture;  // null where there is nothing to draw
+    QPointF topLeft; // from the glyph's origin, pixels
+};
+
+DrawnGlyph drawGlyph(QRawFont face, quint32 index) {
     // Bitmap faces know their glyphs' extent at moderate sizes only.
-    QRawFont face = glyph.face;
     face.setPixelSize(pictureSize);
-    const QRectF extent = face.boundingRect(glyph.index);
+    const QRectF extent = face.boundingRect(index);
     if (extent.isEmpty()) {
-        return std::nullopt;
+        return {};
     }
     const QRectF drawn = extent.adjusted(-2, -2, 2, 2);
     QImage picture(drawn.size().toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QGlyphRun run;
     run.setRawFont(face);
-    run.setGlyphIndexes({glyph.index});
+    run.setGlyphIndexes({index});
     run.setPositions({QPointF()});
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawGlyphRun(-drawn.topLeft(), run);
     painter.end();
-    const double scale = unit * shapingSize / pictureSize;
-    const QPointF corner = origin + glyph.position * unit + drawn.topLeft() * scale;
-    return GlyphPicture{picture, {corner, QSizeF(picture.size()) * scale}};
+    return {picture, drawn.topLeft()};
 }
 
-OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit) {
+// Equal glyphs of a text share one picture.
+class GlyphPictures {
+public:
+    std::optional<GlyphPicture> pictureOf(const PlacedGlyph& glyph, QPointF origin, double unit) {
+        auto known = drawn_.constFind({glyph.face, glyph.index});
+        if (known == drawn_.constEnd()) {
+            known = drawn_.insert({glyph.face, glyph.index}, drawGlyph(glyph.face, glyph.index));
+        }
+        if (known->picture.isNull()) {
+            return std::nullopt;
+        }
+        const double scale = unit * shapingSize / pictureSize;
+        const QPointF corner = origin + glyph.position * unit + known->topLeft * scale;
+        return GlyphPicture{known->picture, {corner, QSizeF(known->picture.size()) * scale}};
+    }
+
+private:
+    QHash<std::pair<QRawFont, quint32>, DrawnGlyph> drawn_;
+};
+
+OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit,
+                           GlyphPictures& pictures) {
     OutlinePart part{
         cluster.firstCharacter, cluster.characterCount, 0, 0, cluster.rightToLeft, {}, {}};
     part.outline.setFillRule(Qt::WindingFill);
@@ -54,7 +79,7 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
         if (!shape.isEmpty()) {
             part.outline.addPath(
                 QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape));
-        } else if (auto picture = pictureOf(glyph, origin, unit)) {
+        } else if (auto picture = pictures.pictureOf(glyph, origin, unit)) {
             part.right = std::max(part.right, picture->place.right());
             part.pictures.push_back(std::move(*picture));
         }
@@ -62,9 +87,10 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
     return part;
 }
 
-void appendRow(TextOutline& text, const TextRow& row, QPointF origin, double unit) {
+void appendRow(TextOutline& text, const TextRow& row, QPointF origin, double unit,
+               GlyphPictures& pictures) {
     for (const GlyphCluster& cluster : row.clusters) {
-        text.parts.push_back(outlineCluster(cluster, origin, unit));
+        text.parts.push_back(outlineCluster(cluster, origin, unit, pictures));
     }
 }
 
@@ -94,7 +120,8 @@ void groupParts(TextOutline& text) {
 TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit) {
     TextOutline text;
     text.characterCount = layout.characterCount;
-    appendRow(text, layout.rows.front(), origin, unit);
+    GlyphPictures pictures;
+    appendRow(text, layout.rows.front(), origin, unit, pictures);
     groupParts(text);
     return text;
 }
@@ -117,6 +144,7 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
         scales.push_back(maxWidth > 0 && width > maxWidth ? maxWidth / width : 1);
         text.size.setWidth(std::max(text.size.width(), width * scales.back()));
     }
+    GlyphPictures pictures;
     double top = 0;
     for (std::size_t i = 0; i < layout.rows.size(); ++i) {
         const TextRow& row = layout.rows[i];
@@ -126,7 +154,7 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
             text.baseline = baseline;
         }
         const double left = layout.rightToLeft ? text.size.width() - row.width * rowUnit : 0;
-        appendRow(text, row, {left, baseline}, rowUnit);
+        appendRow(text, row, {left, baseline}, rowUnit, pictures);
         top = baseline + row.descent * rowUnit;
     }
     text.size.setHeight(top);
