@@ -1,4 +1,5 @@
 #include "screen/renderframe.h"
+#include "tests/fakes/shippedfonts.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -34,15 +35,6 @@ Screen screenOf(std::int64_t which) {
     default:
         return {{3840, 2160}, 2};
     }
-}
-
-const FontBook& book() {
-    static const FontBook filled = [] {
-        FontBook shipped;
-        shipped.registerBundledFonts(MORROWLEAF_RESOURCE_DIR "/Fonts");
-        return shipped;
-    }();
-    return filled;
 }
 
 QuoteViewState quoted(TextAnim style, const Screen& screen) {
@@ -90,7 +82,7 @@ double median(std::vector<double> values) {
 
 void playOnce(const QuoteViewState& state, BackdropPainter& painter, QImage& frame, Costs& costs) {
     const BackdropState backdrop = backdropFor(state.settings, state.palette, false);
-    const QuoteView view(state, book());
+    const QuoteView view(state, shippedFonts());
     double end = 0;
     while (const auto motion = view.nextMotion(end)) {
         end = *motion + 0.1;

@@ -1,3 +1,4 @@
+#include "tests/fakes/shippedfonts.h"
 #include "textanim/curves.h"
 #include "textanim/glyphpath.h"
 #include "textanim/pentrace.h"
@@ -28,17 +29,8 @@ Screen screenOf(std::int64_t which) {
     return which == 0 ? Screen{{1512, 982}, 1} : Screen{{3840, 2160}, 2};
 }
 
-const FontBook& book() {
-    static const FontBook filled = [] {
-        FontBook shipped;
-        shipped.registerBundledFonts(MORROWLEAF_RESOURCE_DIR "/Fonts");
-        return shipped;
-    }();
-    return filled;
-}
-
 RevealLine::Parts parts(TextAnim style) {
-    const TextFont font = quoteFont(book(), "fraunces", 44);
+    const TextFont font = quoteFont(shippedFonts(), "fraunces", 44);
     return {"The impediment to action advances action",
             0,
             style,
@@ -153,7 +145,7 @@ void tracing(benchmark::State& state, const Frame& frameAt) {
 
 void pen(benchmark::State& state) {
     const HandwrittenLine line = handwrittenLine("The impediment to action advances action",
-                                                 quoteFont(book(), "fraunces", 44));
+                                                 quoteFont(shippedFonts(), "fraunces", 44));
     const PenTrace trace = penTrace(wholePath(line.text), 33);
     PenDrawing drawing(1, line.penWidth, {-2, -2, 1000, 70}, 0);
     tracing(state, [&](double share) {

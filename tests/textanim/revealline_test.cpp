@@ -1,5 +1,6 @@
 #include "textanim/revealline.h"
 
+#include "tests/fakes/shippedfonts.h"
 #include "textanim/curves.h"
 
 #include <QPainter>
@@ -13,18 +14,9 @@ using namespace morrowleaf;
 
 namespace {
 
-const FontBook& book() {
-    static const FontBook filled = [] {
-        FontBook shipped;
-        shipped.registerBundledFonts(MORROWLEAF_RESOURCE_DIR "/Fonts");
-        return shipped;
-    }();
-    return filled;
-}
-
 RevealLine::Parts parts(TextAnim style, const QString& text = "A quiet office, fine",
                         const char* name = "fraunces") {
-    const TextFont font = quoteFont(book(), name, 28);
+    const TextFont font = quoteFont(shippedFonts(), name, 28);
     return {text, 0, style, font, font, QColor("#f3ece0"), {0.35, 12, {0, 6}}, 0};
 }
 

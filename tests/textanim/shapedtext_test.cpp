@@ -1,6 +1,7 @@
 #include "textanim/shapedtext.h"
 #include "textanim/shapedtextdata.h"
 
+#include "tests/fakes/shippedfonts.h"
 #include "textanim/glyphpath.h"
 #include "textanim/textlayout.h"
 
@@ -11,17 +12,8 @@ using namespace morrowleaf;
 
 namespace {
 
-const FontBook& book() {
-    static const FontBook filled = [] {
-        FontBook shipped;
-        shipped.registerBundledFonts(MORROWLEAF_RESOURCE_DIR "/Fonts");
-        return shipped;
-    }();
-    return filled;
-}
-
 TextFont face(const char* name, double size = 44) {
-    return quoteFont(book(), name, size);
+    return quoteFont(shippedFonts(), name, size);
 }
 
 const QString sentence = "The office of AVA: “find, affix”";
