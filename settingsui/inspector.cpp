@@ -34,6 +34,7 @@ struct Factory {
 template <typename Kinds>
 std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
     std::vector<std::pair<QString, QString>> entries;
+    entries.reserve(kinds.size());
     for (const auto kind : kinds) {
         entries.emplace_back(rawValue(kind), label(kind));
     }
@@ -113,9 +114,10 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
 }
 
 QWidget* Inspector::makePicker(const QString& name, const QString& key, const QString& fallback,
-                               std::vector<std::pair<QString, QString>> entries) {
+                               const std::vector<std::pair<QString, QString>>& entries) {
     std::vector<MenuPicker::Entry> list;
-    for (auto& [value, text] : entries) {
+    list.reserve(entries.size());
+    for (const auto& [value, text] : entries) {
         list.push_back({value, text});
     }
     auto* picker = new MenuPicker(name, std::move(list), around_.face, this);

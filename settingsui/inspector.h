@@ -64,7 +64,7 @@ private:
     QWidget* makeFooter();
     void addGroup(QVBoxLayout& column, const QString& title, std::initializer_list<QWidget*> rows);
     QWidget* makePicker(const QString& name, const QString& key, const QString& fallback,
-                        std::vector<std::pair<QString, QString>> entries);
+                        const std::vector<std::pair<QString, QString>>& entries);
     void reset();
 
     InspectorSurroundings around_;
