@@ -1,0 +1,302 @@
+#include "tests/app/appdelegatefixture.h"
+
+namespace morrowleaf {
+namespace {
+
+TEST_F(AppDelegateTest, SecondPresentReplacesWithoutFade) {
+    launch();
+    timing.pass(10);
+    delegate->show();
+    EXPECT_EQ(showings(), 2);
+    EXPECT_EQ(desktop.overlays[0]->outs, 1);
+    timing.pass(6); // the first timer's moment
+    EXPECT_TRUE(isShown());
+    timing.pass(9.1);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(AppDelegateTest, PresentDuringAFadeOutLetsItFinish) {
+    launch();
+    timing.pass(1);
+    delegate->dismiss(true);
+    timing.pass(0.2);
+    QSignalSpy ended(delegate.get(), &AppDelegate::showingEnded);
+    delegate->show();
+    EXPECT_EQ(desktop.overlays[0]->outs, 0);
+    EXPECT_EQ(desktop.overlays[1]->fronts, 1);
+    timing.pass(0.3);
+    EXPECT_EQ(desktop.overlays[0]->outs, 1);
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(ended.count(), 0);
+    // The monitor of the new showing works.
+    press(Qt::Key_A);
+    EXPECT_FALSE(isShown());
+    timing.pass(0.5);
+    EXPECT_EQ(ended.count(), 1);
+}
+
+TEST_F(AppDelegateTest, EveryTriggerShowsOnce) {
+    launchAndClose();
+    wake();
+    EXPECT_EQ(showings(), 2);
+    unlock();
+    activate();
+    EXPECT_EQ(showings(), 2);
+    timing.pass(60);
+    unlock();
+    EXPECT_EQ(showings(), 3);
+    timing.pass(60);
+    activate();
+    EXPECT_EQ(showings(), 4);
+}
+
+TEST_F(AppDelegateTest, TheThrottleIsStrict) {
+    launch();
+    timing.jump(8.0);
+    wake();
+    EXPECT_EQ(showings(), 1);
+    timing.jump(0.001);
+    wake();
+    EXPECT_EQ(showings(), 2);
+}
+
+TEST_F(AppDelegateTest, ShowingByHandRestartsTheThrottle) {
+    launchAndClose();
+    delegate->show();
+    delegate->dismiss(false);
+    timing.jump(7.9);
+    wake();
+    EXPECT_EQ(showings(), 2);
+}
+
+TEST_F(AppDelegateTest, ThrottledTriggersDoNotRestartTheThrottle) {
+    launch();
+    timing.jump(7);
+    wake();
+    timing.jump(2);
+    wake();
+    EXPECT_EQ(showings(), 2);
+}
+
+TEST_F(AppDelegateTest, WithoutAScreenNothingIsShownYetTheThrottleRuns) {
+    launchAndClose();
+    desktop.hasScreen = false;
+    delegate->show();
+    EXPECT_EQ(showings(), 1);
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(screensMade, 1);
+    desktop.hasScreen = true;
+    timing.jump(8);
+    wake();
+    EXPECT_EQ(showings(), 1);
+    timing.jump(0.1);
+    wake();
+    EXPECT_EQ(showings(), 2);
+}
+
+TEST_F(AppDelegateTest, WithoutAScreenTheOldShowingStillGoes) {
+    launch();
+    desktop.hasScreen = false;
+    delegate->show();
+    EXPECT_EQ(top().outs, 1);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(AppDelegateTest, AVanishedScreenEndsTheShowing) {
+    launch();
+    top().overlay->onLost();
+    EXPECT_TRUE(isShown());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(top().outs, 1);
+    EXPECT_EQ(timing.pending(), 0);
+}
+
+TEST_F(AppDelegateTest, AVanishedScreenEndsAFadeOut) {
+    launch();
+    delegate->dismiss(true);
+    auto record = desktop.overlays.back();
+    record->overlay->onLost();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(record->outs, 1);
+    timing.pass(1);
+    EXPECT_EQ(record->outs, 1);
+}
+
+TEST_F(AppDelegateTest, DesktopIsCapturedOnlyWhereItIsSeen) {
+    desktop.picture = QImage(8, 8, QImage::Format_RGB32);
+    launch();
+    EXPECT_EQ(desktop.captures, 0);
+    EXPECT_EQ(behind->kind, Behind::Kind::Plain);
+    store.set(K::transparency, 0.5);
+    delegate->show();
+    EXPECT_EQ(desktop.captures, 1);
+    EXPECT_EQ(behind->kind, Behind::Kind::Captured);
+    EXPECT_FALSE(behind->picture.isNull());
+    store.set(K::transparency, 0.0);
+    delegate->editAppearance();
+    EXPECT_EQ(behind->kind, Behind::Kind::Captured);
+}
+
+TEST_F(AppDelegateTest, TheEditorKnowsWhetherGlassCanBeDrawn) {
+    desktop.picture = QImage(8, 8, QImage::Format_RGB32);
+    launch();
+    delegate->editAppearance();
+    EXPECT_TRUE(hooks.value().glassCanBeDrawn);
+    desktop.picture = {};
+    for (const auto through : {SeeThrough::Plain, SeeThrough::Blurred, SeeThrough::No}) {
+        desktop.seeThrough = through;
+        delegate->editAppearance();
+        EXPECT_FALSE(hooks.value().glassCanBeDrawn);
+    }
+}
+
+TEST_F(AppDelegateTest, EscapeInTheSettingsEndsTheEditingAndNothingElse) {
+    launchAndClose();
+    delegate->openSettings();
+    edit();
+    auto* settings = const_cast<QWidget*>(delegate->settingsWindow());
+    auto* field = settings->findChild<QLineEdit*>();
+    QTest::keyClicks(field, "kept");
+    EXPECT_TRUE(isShown());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(isShown());
+    EXPECT_TRUE(settings->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(settings->isVisible());
+    EXPECT_EQ(field->text(), "kept");
+}
+
+TEST_F(AppDelegateTest, WithoutACaptureTheNextRungHolds) {
+    store.set(K::transparency, 0.5);
+    desktop.seeThrough = SeeThrough::Blurred;
+    launch();
+    EXPECT_EQ(behind->kind, Behind::Kind::LiveBlur);
+    desktop.seeThrough = SeeThrough::Plain;
+    delegate->show();
+    EXPECT_EQ(behind->kind, Behind::Kind::Plain);
+    desktop.seeThrough = SeeThrough::No;
+    delegate->show();
+    EXPECT_EQ(behind->kind, Behind::Kind::Nothing);
+}
+
+TEST_F(AppDelegateTest, AnOpaqueWindowFadesOverTheDesktop) {
+    desktop.seeThrough = SeeThrough::No;
+    desktop.picture = QImage(QGuiApplication::primaryScreen()->size(), QImage::Format_RGB32);
+    desktop.picture.fill(Qt::green);
+    launch();
+    QPalette blue;
+    blue.setColor(QPalette::Window, Qt::blue);
+    content->setPalette(blue);
+    content->setAutoFillBackground(true);
+    auto* window = desktop.overlays.back()->window;
+    EXPECT_EQ(window->grab().toImage().pixelColor(50, 50), QColor(Qt::green));
+    timing.pass(0.1);
+    const QColor between = window->grab().toImage().pixelColor(50, 50);
+    EXPECT_GT(between.green(), 20);
+    EXPECT_GT(between.blue(), 20);
+    timing.pass(0.5);
+    EXPECT_EQ(window->grab().toImage().pixelColor(50, 50), QColor(Qt::blue));
+}
+
+TEST_F(AppDelegateTest, ASeeThroughWindowFadesByItsAlpha) {
+    launch();
+    QPalette blue;
+    blue.setColor(QPalette::Window, Qt::blue);
+    content->setPalette(blue);
+    content->setAutoFillBackground(true);
+    QWidget* window = top().window;
+    const auto pixel = [window] {
+        QImage image(window->size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        window->render(&image);
+        return image.pixelColor(50, 50);
+    };
+    EXPECT_EQ(pixel().alpha(), 0);
+    timing.pass(0.275);
+    EXPECT_NEAR(pixel().alphaF(), easeOut(0.5), 0.01);
+    EXPECT_EQ(pixel().blue(), 255);
+    timing.pass(0.3);
+    EXPECT_EQ(pixel().alpha(), 255);
+}
+
+TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
+    launchAndClose();
+    delegate->openSettings();
+    auto* window = const_cast<QWidget*>(delegate->settingsWindow());
+    EXPECT_EQ(window->windowTitle(), "Morrowleaf Settings");
+    EXPECT_EQ(window->size(), QSize(520, 545));
+    EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    window->findChild<QLineEdit*>()->setText("kept");
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+    delegate->openSettings();
+    EXPECT_EQ(delegate->settingsWindow(), window);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->findChild<QLineEdit*>()->text(), "kept");
+    EXPECT_EQ(viewsMade, 1);
+    EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
+    launchAndClose();
+    delegate->openSettings();
+    showNow();
+    EXPECT_EQ(showings(), 2);
+    EXPECT_FALSE(hooks);
+    edit();
+    EXPECT_EQ(showings(), 3);
+    EXPECT_TRUE(hooks);
+    EXPECT_TRUE(delegate->settingsWindow()->isVisible());
+}
+
+TEST_F(AppDelegateTest, StatusItemComesWithItsHost) {
+    launch();
+    EXPECT_EQ(delegate->statusItem(), nullptr);
+    desktop.trayHost->present = true;
+    emit desktop.trayHost->appeared();
+    const auto* item = delegate->statusItem();
+    ASSERT_NE(item, nullptr);
+    emit desktop.trayHost->appeared();
+    EXPECT_EQ(delegate->statusItem(), item);
+}
+
+TEST_F(AppDelegateTest, MenuEntriesInOrder) {
+    desktop.trayHost->present = true;
+    launchAndClose();
+    const auto entries = delegate->statusItem()->menu().actions();
+    QStringList texts;
+    for (const auto* entry : entries) {
+        texts << (entry->isSeparator() ? "-" : entry->text() + '|' + entry->shortcut().toString());
+    }
+    EXPECT_EQ(texts, (QStringList{"Show Today's Quote|Ctrl+S", "Edit Appearance…|Ctrl+E",
+                                  "Settings…|Ctrl+,", "-", "Quit|Ctrl+Q"}));
+    entries[0]->trigger();
+    EXPECT_EQ(showings(), 2);
+    EXPECT_FALSE(hooks);
+    entries[1]->trigger();
+    EXPECT_TRUE(hooks);
+    entries[2]->trigger();
+    EXPECT_TRUE(delegate->settingsWindow()->isVisible());
+    entries[4]->trigger();
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, GoesWithEverythingStillRunning) {
+    launch();
+    timing.pass(0.2);
+    delegate->dismiss(true);
+    delegate->show();
+    delegate->openSettings();
+    delegate.reset();
+    timing.pass(20);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(desktop.overlays[0]->overlay, nullptr);
+    EXPECT_EQ(desktop.overlays[1]->overlay, nullptr);
+    wake();
+    EXPECT_EQ(showings(), 2);
+}
+
+} // namespace
+} // namespace morrowleaf

@@ -1,0 +1,250 @@
+#include "tests/quotes/settingsfilefixture.h"
+
+using namespace morrowleaf;
+
+TEST_F(SettingsFileTest, GivesABrokenFileTimeToMend) {
+    write(R"({"a": 1)");
+    const SettingsFile file(store, path);
+    EXPECT_EQ(store.integer("a"), 0);
+    spend(150ms);
+    write(R"({"a": 1})");
+    EXPECT_TRUE(waitFor([&] { return store.integer("a") == 1; }));
+    spend(600ms);
+    EXPECT_EQ(setAside(), QStringList());
+}
+
+TEST_F(SettingsFileTest, SetsABrokenFileAsideAndKeepsWhatIsSetMeanwhile) {
+    registerAppDefaults(store);
+    write("not json");
+    SettingsFile file(store, path);
+    EXPECT_EQ(store.integer(K::palette), -1);
+    store.set(K::palette, 4);
+    spend(200ms);
+    EXPECT_EQ(read(), "not json");
+    EXPECT_TRUE(waitFor([&] { return json().value(K::palette) == 4; }));
+    EXPECT_EQ(store.integer(K::palette), 4);
+    ASSERT_EQ(setAside().size(), 1);
+    EXPECT_EQ(asideText(), "not json");
+    EXPECT_TRUE(file.flush());
+}
+
+TEST_F(SettingsFileTest, FallsBackToDefaultsWhenTheFileBreaksWhileRunning) {
+    registerAppDefaults(store);
+    write(R"({"paletteIndex": 4})");
+    const SettingsFile file(store, path);
+    write("[1, 2]");
+    EXPECT_TRUE(waitFor([&] { return store.integer(K::palette) == -1; }));
+    EXPECT_TRUE(waitFor([&] { return asideText() == "[1, 2]"; }));
+    EXPECT_FALSE(QFileInfo::exists(path));
+}
+
+TEST_F(SettingsFileTest, OverwritesNoEarlierSetAsideFile) {
+    for (int i = 0; i < 3; ++i) {
+        write("broken " + QByteArray::number(i));
+        SettingsFile file(store, path);
+        store.set("x", i);
+        EXPECT_TRUE(file.flush());
+        EXPECT_EQ(json().value("x"), i);
+    }
+    ASSERT_EQ(setAside().size(), 3);
+    QStringList texts;
+    for (int i = 0; i < 3; ++i) {
+        texts.append(asideText(i));
+    }
+    EXPECT_THAT(texts, testing::UnorderedElementsAre("broken 0", "broken 1", "broken 2"));
+}
+
+TEST_F(SettingsFileTest, FlushesAtTheEndEvenIntoADoubtfulFile) {
+    write("broken");
+    {
+        const SettingsFile file(store, path);
+        store.set("x", 1);
+    }
+    EXPECT_EQ(json().value("x"), 1);
+    EXPECT_EQ(asideText(), "broken");
+}
+
+TEST_F(SettingsFileTest, LeavesABrokenFileWhenThereIsNothingToWrite) {
+    write("broken");
+    { const SettingsFile file(store, path); }
+    EXPECT_EQ(read(), "broken");
+}
+
+TEST_F(SettingsFileTest, SetsAPipeAFolderAndAGiantAside) {
+    const std::vector<std::function<void()>> obstacles = {
+        [&] { ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0); },
+        [&] {
+            ASSERT_TRUE(QDir().mkdir(path));
+            QFile inside(path + "/precious");
+            ASSERT_TRUE(inside.open(QIODevice::WriteOnly));
+        },
+        [&] {
+            write("{}");
+            ASSERT_EQ(::truncate(QFile::encodeName(path).constData(), qint64(1) << 40), 0);
+        },
+        [&] { ASSERT_TRUE(QFile::link(path, path)); },
+        [&] { ASSERT_TRUE(QFile::link("/dev/zero", path)); }};
+    for (const auto& obstacle : obstacles) {
+        QFile::remove(path);
+        obstacle();
+        SettingsFile file(store, path);
+        store.set("x", store.integer("x") + 1);
+        EXPECT_TRUE(file.flush());
+        EXPECT_EQ(json().value("x"), store.integer("x"));
+    }
+    EXPECT_EQ(setAside().size(), qsizetype(obstacles.size()));
+    EXPECT_TRUE(QFileInfo::exists("/dev/zero"));
+}
+
+TEST_F(SettingsFileTest, WritesThroughALink) {
+    QDir(home.path()).mkdir("dotfiles");
+    const QString target = home.filePath("dotfiles/morrowleaf.json");
+    ASSERT_TRUE(QFile::link("dotfiles/morrowleaf.json", path));
+    {
+        SettingsFile file(store, path); // a link to nothing as yet
+        store.set("x", 1);
+        EXPECT_TRUE(file.flush());
+        EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"), 1);
+
+        QFile edited(target + ".new");
+        ASSERT_TRUE(edited.open(QIODevice::WriteOnly));
+        edited.write(R"({"x": 2})");
+        edited.close();
+        std::rename(QFile::encodeName(edited.fileName()).constData(),
+                    QFile::encodeName(target).constData());
+        EXPECT_TRUE(waitFor([&] { return store.integer("x") == 2; }));
+        store.set("x", 3);
+    }
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"), 3);
+}
+
+TEST_F(SettingsFileTest, StaysInMemoryWhereALinkLeadsNowhere) {
+    ASSERT_TRUE(QFile::link(home.filePath("unmounted/settings.json"), path));
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    EXPECT_FALSE(file.flush());
+    EXPECT_EQ(store.integer("x"), 1);
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+}
+
+TEST_F(SettingsFileTest, KeepsPermissions) {
+    write("{}");
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0644), 0);
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    EXPECT_TRUE(file.flush());
+    EXPECT_EQ(mode(), 0644U);
+}
+
+TEST_F(SettingsFileTest, WorksInMemoryWhereNoFolderCanBe) {
+    write("a regular file");
+    registerAppDefaults(store);
+    SettingsFile file(store, path + "/morrowleaf/settings.json");
+    EXPECT_EQ(store.integer(K::palette), -1);
+    store.set(K::palette, 3);
+    EXPECT_FALSE(file.flush());
+    spend(100ms);
+    EXPECT_EQ(store.integer(K::palette), 3);
+    EXPECT_EQ(read(), "a regular file");
+}
+
+TEST_F(SettingsFileTest, WritesOnceTheObstacleIsGone) {
+    const QString obstacle = home.filePath("folder");
+    path = obstacle;
+    write("in the way");
+    path = obstacle + "/settings.json";
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    EXPECT_FALSE(file.flush());
+    QFile::remove(obstacle);
+    EXPECT_TRUE(waitFor([&] { return json().value("x") == 1; })); // by its own retry
+}
+
+TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
+    write("{}");
+    QProcess holder;
+    holder.start(SETTINGS_WRITER, {path, "hold"});
+    ASSERT_TRUE(holder.waitForReadyRead(20'000));
+    ASSERT_EQ(holder.readAllStandardOutput(), "held\n");
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    QElapsedTimer since;
+    since.start();
+    EXPECT_TRUE(file.flush(400ms));
+    EXPECT_GE(since.elapsed(), 200); // it did wait for the lock
+    EXPECT_EQ(json().value("x"), 1);
+    holder.kill();
+    holder.waitForFinished();
+    const SettingsLock lock(path, 5s); // the dead hold nothing
+    EXPECT_TRUE(lock.held());
+}
+
+TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
+    SettingsFile file(store, path);
+    QProcess one;
+    QProcess two;
+    one.start(SETTINGS_WRITER, {path, "count", "a", "60"});
+    two.start(SETTINGS_WRITER, {path, "count", "b", "60"});
+    for (int i = 0; i < 60; ++i) {
+        store.set(QString("c%1").arg(i), i);
+        spend(5ms);
+    }
+    EXPECT_TRUE(waitFor([&] {
+        return one.state() == QProcess::NotRunning && two.state() == QProcess::NotRunning;
+    }));
+    EXPECT_EQ(one.exitCode(), 0);
+    EXPECT_EQ(two.exitCode(), 0);
+    EXPECT_TRUE(file.flush());
+    EXPECT_TRUE(waitFor([&] { return store.stored().size() == 180; }));
+    EXPECT_EQ(json(), store.stored());
+}
+
+TEST_F(SettingsFileTest, ASelfTestBesideIsSeen) {
+    SettingsFile file(store, path);
+    store.set(K::frequency, "6h");
+    store.set(K::palette, 2);
+    ASSERT_TRUE(file.flush());
+    EXPECT_EQ(QProcess::execute(SETTINGS_WRITER, {path, "selftest"}), 0);
+    EXPECT_EQ(json(), QJsonObject({{K::palette, 2}}));
+    EXPECT_TRUE(waitFor([&] { return !store.value(K::frequency); }));
+    EXPECT_EQ(store.integer(K::palette), 2);
+}
+
+TEST_F(SettingsFileTest, FlushesWhenTheApplicationQuits) {
+    EXPECT_EQ(QProcess::execute(SETTINGS_WRITER, {path, "quit"}), 0);
+    EXPECT_EQ(json().value("quit"), true);
+}
+
+TEST_F(SettingsFileTest, NoReaderSeesHalfAFile) {
+    write("{}");
+    QProcess writer;
+    writer.start(SETTINGS_WRITER, {path, "count", QString(3000, 'k'), "100"});
+    int seen = 0;
+    while (writer.state() != QProcess::NotRunning) {
+        const QByteArray text = read();
+        EXPECT_TRUE(QJsonDocument::fromJson(text).isObject()) << text.size();
+        ++seen;
+        writer.waitForFinished(0);
+    }
+    EXPECT_GT(seen, 10);
+    EXPECT_EQ(json().size(), 100);
+    EXPECT_EQ(QDir(home.path()).entryList({"*.new"}, QDir::Files | QDir::Hidden), QStringList());
+}
+
+TEST_F(SettingsFileTest, UsesUpWhatACrashLeftBehind) {
+    QFile left(home.filePath(".settings.json.new"));
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.write("half of some");
+    left.close();
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    EXPECT_TRUE(file.flush());
+    EXPECT_EQ(json().value("x"), 1);
+    EXPECT_FALSE(left.exists());
+}
+
+TEST(SettingsPath, IsBelowTheConfigurationFolder) {
+    EXPECT_TRUE(defaultSettingsPath().endsWith("/morrowleaf/settings.json"));
+    EXPECT_TRUE(QDir::isAbsolutePath(defaultSettingsPath()));
+}

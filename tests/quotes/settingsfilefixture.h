@@ -1,0 +1,96 @@
+#pragma once
+
+#include "quotes/settingsfile.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingslock.h"
+#include "quotes/settingsstore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <functional>
+#include <gmock/gmock.h>
+#include <thread>
+
+namespace morrowleaf {
+
+using namespace std::chrono_literals;
+
+inline bool waitFor(const std::function<bool()>& condition) {
+    QElapsedTimer since;
+    since.start();
+    while (!condition()) {
+        if (since.elapsed() > 20'000) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(2);
+    }
+    return true;
+}
+
+inline void spend(std::chrono::milliseconds time) {
+    const QDeadlineTimer deadline(time);
+    while (!deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(2);
+    }
+}
+
+class SettingsFileTest : public testing::Test {
+protected:
+    void write(const QByteArray& text) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // in place
+        file.write(text);
+    }
+
+    void replace(const QByteArray& text) {
+        QFile file(path + ".editor");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        ASSERT_EQ(std::rename(QFile::encodeName(file.fileName()).constData(),
+                              QFile::encodeName(path).constData()),
+                  0);
+    }
+
+    QByteArray read(const QString& name) const {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QByteArray read() const { return read(path); }
+
+    QJsonObject json() const { return QJsonDocument::fromJson(read()).object(); }
+
+    QStringList setAside() const {
+        return QDir(QFileInfo(path).path())
+            .entryList({"settings.broken-*"}, QDir::AllEntries | QDir::System | QDir::Hidden);
+    }
+    QByteArray asideText(int index = 0) const {
+        return read(QFileInfo(path).path() + '/' + setAside().value(index));
+    }
+
+    mode_t mode() const {
+        struct stat found {};
+        ::stat(QFile::encodeName(path).constData(), &found);
+        return found.st_mode & 07777;
+    }
+
+    QTemporaryDir home;
+    QString path = home.filePath("settings.json");
+    SettingsStore store;
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,179 @@
+#include "tests/settingsui/inspectorfixture.h"
+
+namespace morrowleaf {
+namespace {
+
+TEST_F(InspectorTest, ReturnRunsDoneFromAnywhereButAMenu) {
+    window();
+    key(Qt::Key_Return);
+    EXPECT_EQ(done, 1);
+    named<QPushButton>(QStringLiteral("Reset"))->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Enter);
+    EXPECT_EQ(done, 2);
+    press(named<QPushButton>(QStringLiteral("Done")));
+    EXPECT_EQ(done, 3);
+
+    auto* picker = named<MenuPicker>(QStringLiteral("Text reveal"));
+    picker->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    ASSERT_TRUE(picker->isOpen());
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_FALSE(picker->isOpen());
+    EXPECT_EQ(done, 3);
+    EXPECT_EQ(store.text(K::textAnim), rawValue(allTextAnims[1]));
+    EXPECT_TRUE(picker->hasFocus());
+}
+
+// Stands for whatever waits for Escape in the program.
+class EscapeCounter : public QObject {
+public:
+    EscapeCounter() { qApp->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            ++count;
+            return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(InspectorTest, EscapeInAMenuClosesOnlyTheMenu) {
+    window();
+    EscapeCounter editing;
+    auto* picker = named<MenuPicker>(QStringLiteral("Typeface"));
+    picker->open();
+    ASSERT_TRUE(picker->isOpen());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(picker->isOpen());
+    EXPECT_EQ(editing.count, 0);
+    EXPECT_FALSE(store.text(K::font) != QStringLiteral("fraunces"));
+    key(Qt::Key_Escape);
+    EXPECT_EQ(editing.count, 1);
+}
+
+TEST_F(InspectorTest, AMenuClosesByAPressBesideIt) {
+    auto* picker = named<MenuPicker>(QStringLiteral("Typeface"));
+    picker->open();
+    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+    EXPECT_FALSE(picker->isOpen());
+    picker->open();
+    ASSERT_TRUE(picker->isOpen());
+    QListWidget* list = picker->menu()->list();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(4)).center());
+    EXPECT_EQ(store.text(K::font), QStringLiteral("mono"));
+    EXPECT_FALSE(picker->isOpen());
+}
+
+TEST_F(InspectorTest, SpacePressesTheFocusedControl) {
+    window();
+    named<PaletteSwatch>(Palette::all()[1].name)->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_EQ(Prefs::paletteIndex(store), 1);
+    named<Switch>(QStringLiteral("Film grain"))->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_EQ(store.value(K::grain), QJsonValue(false));
+}
+
+TEST_F(InspectorTest, TabGoesThroughEveryControlInVisualOrderAndRound) {
+    listOwn({picture(QStringLiteral("own.png"))});
+    store.set(K::transparency, 0.5);
+    window();
+    QStringList names;
+    for (int i = 0; i < 60; ++i) {
+        key(Qt::Key_Tab);
+        auto* at = window().focusWidget();
+        ASSERT_NE(at, nullptr);
+        const auto* face = QAccessible::queryAccessibleInterface(at);
+        const QString name = face->text(QAccessible::Name);
+        EXPECT_FALSE(name.isEmpty());
+        if (!names.isEmpty() && name == names.first()) {
+            break;
+        }
+        EXPECT_FALSE(at->visibleRegion().isEmpty()) << name.toStdString();
+        names.append(name);
+    }
+    QStringList expected{QStringLiteral("Auto")};
+    for (const Palette& palette : Palette::all()) {
+        expected.append(palette.name);
+    }
+    expected += {QStringLiteral("Aurora"),       QStringLiteral("Dunes"),
+                 QStringLiteral("Forest"),       QStringLiteral("Lake"),
+                 QStringLiteral("Ridges"),       QStringLiteral("Sea"),
+                 QStringLiteral("Your photo 1"), QStringLiteral("Remove your photo 1"),
+                 QStringLiteral("Add a photo"),  QStringLiteral("Typeface"),
+                 QStringLiteral("Size"),         QStringLiteral("Vignette"),
+                 QStringLiteral("Transparency"), QStringLiteral("Liquid Glass"),
+                 QStringLiteral("Text reveal"),  QStringLiteral("Screen motion"),
+                 QStringLiteral("Film grain"),   QStringLiteral("Reset"),
+                 QStringLiteral("Done")};
+    EXPECT_EQ(names, expected);
+    key(Qt::Key_Backtab);
+    EXPECT_EQ(
+        QAccessible::queryAccessibleInterface(window().focusWidget())->text(QAccessible::Name),
+        QStringLiteral("Done"));
+}
+
+TEST_F(InspectorTest, TellsRolesStatesAndValues) {
+    store.set(K::palette, 0);
+    const auto face = [&](QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget);
+    };
+    auto* swatch = face(named<PaletteSwatch>(Palette::all()[0].name));
+    EXPECT_EQ(swatch->role(), QAccessible::RadioButton);
+    EXPECT_TRUE(swatch->state().checked);
+    EXPECT_FALSE(face(named<PaletteSwatch>(QStringLiteral("Auto")))->state().checked);
+    face(named<PaletteSwatch>(QStringLiteral("Auto")))
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(Prefs::paletteIndex(store), -1);
+
+    auto* slider = face(named<PanelSlider>(QStringLiteral("Size")));
+    EXPECT_EQ(slider->role(), QAccessible::Slider);
+    ASSERT_NE(slider->valueInterface(), nullptr);
+    EXPECT_EQ(slider->valueInterface()->minimumValue().toDouble(), 0.7);
+    EXPECT_EQ(slider->valueInterface()->maximumValue().toDouble(), 1.6);
+    slider->valueInterface()->setCurrentValue(1.25);
+    EXPECT_EQ(store.real(K::textScale), 1.25);
+    EXPECT_EQ(slider->text(QAccessible::Value), QStringLiteral("125%"));
+
+    auto* picker = face(named<MenuPicker>(QStringLiteral("Typeface")));
+    EXPECT_EQ(picker->role(), QAccessible::ComboBox);
+    EXPECT_EQ(picker->text(QAccessible::Value), QStringLiteral("Fraunces"));
+    EXPECT_EQ(face(named<Switch>(QStringLiteral("Film grain")))->role(), QAccessible::CheckBox);
+    EXPECT_EQ(face(panel().findChild<AddTile*>())->role(), QAccessible::Button);
+    EXPECT_EQ(face(panel().findChild<QLabel*>())->text(QAccessible::Name),
+              QStringLiteral("APPEARANCE"));
+}
+
+TEST_F(InspectorTest, ScrollsWhereItIsLowerThanItsContent) {
+    window().resize(1024, 600);
+    panel().setGeometry(704, 0, 320, 600);
+    QCoreApplication::processEvents();
+    auto* done = named<QPushButton>(QStringLiteral("Done"));
+    EXPECT_EQ(done->visibleRegion().boundingRect().size(), done->size());
+    auto* grain = named<Switch>(QStringLiteral("Film grain"));
+    EXPECT_TRUE(grain->visibleRegion().isEmpty());
+    named<MenuPicker>(QStringLiteral("Screen motion"))->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Tab);
+    EXPECT_TRUE(grain->hasFocus());
+    EXPECT_EQ(grain->visibleRegion().boundingRect().size(), grain->size());
+}
+
+TEST_F(InspectorTest, AMenuNearTheBottomOpensUpwards) {
+    window().resize(1024, 600);
+    panel().setGeometry(704, 0, 320, 600);
+    auto* picker = named<MenuPicker>(QStringLiteral("Screen motion"));
+    picker->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Tab);
+    picker->open();
+    EXPECT_TRUE(window().rect().contains(picker->menu()->geometry()));
+}
+
+} // namespace
+} // namespace morrowleaf

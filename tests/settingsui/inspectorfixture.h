@@ -1,0 +1,124 @@
+#pragma once
+
+#include "quotes/bgstore.h"
+#include "quotes/prefs.h"
+#include "quotes/settingskeys.h"
+#include "quotes/settingsstore.h"
+#include "screen/ground/animationkinds.h"
+#include "screen/ground/palettes.h"
+#include "settingsui/inspector.h"
+#include "settingsui/knob.h"
+#include "settingsui/menupicker.h"
+#include "settingsui/panelslider.h"
+#include "settingsui/pickermenu.h"
+#include "settingsui/swatch.h"
+#include "settingsui/switch.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace morrowleaf {
+
+class InspectorTest : public ::testing::Test {
+protected:
+    InspectorTest() { registerAppDefaults(store); }
+
+    Inspector& panel() {
+        if (!window_) {
+            window_ = std::make_unique<QWidget>();
+            window_->resize(700, 900);
+            panel_ = new Inspector(
+                {.store = store,
+                 .photos = photos,
+                 .choosePhoto =
+                     [this](QWidget*, auto picked) {
+                         ++dialogs;
+                         pick = std::move(picked);
+                     },
+                 .glassCanBeDrawn = glass,
+                 .screen = {}},
+                [this] { ++done; }, window_.get());
+            panel_->setGeometry(380, 0, 320, 900);
+            window_->show();
+            QApplication::setActiveWindow(window_.get());
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        }
+        return *panel_;
+    }
+    QWidget& window() {
+        panel();
+        return *window_;
+    }
+    template <typename T>
+    T* named(const QString& name) {
+        for (auto* found : panel().findChildren<T*>()) {
+            if (found->accessibleName() == name || found->property("text") == name) {
+                return found;
+            }
+        }
+        ADD_FAILURE() << "no " << name.toStdString();
+        return nullptr;
+    }
+    QList<PhotoSwatch*> photoSwatches() { return panel().findChildren<PhotoSwatch*>(); }
+    QStringList marked() {
+        QStringList names;
+        for (const auto* swatch : panel().findChildren<Swatch*>()) {
+            if (swatch->isMarked()) {
+                names.append(swatch->accessibleName());
+            }
+        }
+        return names;
+    }
+    void press(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    void key(int code) {
+        QTest::keyClick(window().windowHandle(), Qt::Key(code));
+        QCoreApplication::processEvents();
+    }
+    QString picture(const QString& name) {
+        QImage image(60, 40, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        image.save(folder.filePath(name), "png");
+        return folder.filePath(name);
+    }
+    template <typename Condition>
+    bool await(Condition condition) {
+        QElapsedTimer since;
+        since.start();
+        while (!condition() && since.elapsed() < 60'000) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        return condition();
+    }
+    void listOwn(const QStringList& paths) {
+        store.set(K::customBGs, QJsonArray::fromStringList(paths));
+    }
+    bool readoutIs(const QString& name, const QString& text) {
+        auto* slider = named<PanelSlider>(name);
+        auto* knob = static_cast<Knob*>(slider->parentWidget());
+        return knob->readout()->text() == text && slider->valueText() == text;
+    }
+
+    QTemporaryDir folder;
+    SettingsStore store;
+    BGStore photos{store, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
+                   folder.filePath(QStringLiteral("own"))};
+    bool glass = true;
+    int done = 0;
+    int dialogs = 0;
+    std::function<void(std::optional<QString>)> pick;
+
+private:
+    std::unique_ptr<QWidget> window_;
+    Inspector* panel_ = nullptr;
+};
+
+} // namespace morrowleaf
