@@ -36,7 +36,7 @@ std::array<double, frames> instants(const RevealLine& line) {
 }
 
 RevealLine lineFor(const Sheet& sheet) {
-    const TextFont font = quoteFont(bundledFonts(), sheet.fontName, 30);
+    const TextFont font = quoteFont(shippedFonts(), sheet.fontName, 30);
     const Palette& palette = Palette::all()[static_cast<std::size_t>(sheet.palette)];
     return RevealLine({QString::fromUtf8(sheet.text),
                        0,

@@ -26,7 +26,7 @@ QImage frameOf(const QuoteViewState& state, double seconds = atRest) {
     // The grain has tests of its own and would only make large files.
     BackdropState backdrop = backdropFor(state.settings, state.palette, false);
     backdrop.grainOn = false;
-    return renderFrame(painter, backdrop, QuoteView(state, bundledFonts()), seconds, 0);
+    return renderFrame(painter, backdrop, QuoteView(state, shippedFonts()), seconds, 0);
 }
 
 void expectGolden(const QString& name, const QuoteViewState& state, int factor,
@@ -127,7 +127,7 @@ TEST_F(Faults, AnotherRasteriserIsNone) {
 }
 
 TEST_F(Faults, AMovedLineIsSeen) {
-    const QuoteView view(recorded(), bundledFonts());
+    const QuoteView view(recorded(), shippedFonts());
     for (qsizetype line = 0; line < view.lineCount(); ++line) {
         EXPECT_FALSE(difference(moved(view.lineRect(line), 3)).acceptable()) << line;
     }
@@ -146,7 +146,7 @@ TEST_F(Faults, AnotherGroundIsSeen) {
 }
 
 TEST_F(Faults, AMissingElementIsSeen) {
-    const QuoteView view(recorded(), bundledFonts());
+    const QuoteView view(recorded(), shippedFonts());
     QuoteViewState anonymous = recorded();
     anonymous.quote.author.clear();
     EXPECT_FALSE(difference(frameOf(anonymous)).acceptable());

@@ -46,7 +46,7 @@ protected:
 
     ScreenSurroundings surroundings() {
         return {store,
-                bundledFonts(),
+                shippedFonts(),
                 photos,
                 [] { return plainState().moment; },
                 [](qsizetype) -> qsizetype { return 0; },

@@ -52,7 +52,7 @@ TEST(LineIdentity, IsMadeOfAnimationIndexAndLength) {
 TEST(QuoteView, PlacesEverythingByTheNumbers) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, "Anonymous"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     ASSERT_EQ(view.lineCount(), 3);
 
     EXPECT_EQ(view.rect(Element::Greeting).left(), 166 + 46);
@@ -84,7 +84,7 @@ TEST(QuoteView, KeepsClearOfTheInspector) {
     QuoteViewState state = plainState({1440, 900});
     state.quote = {threeLines, "Anonymous"};
     state.sideInset = 320;
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     EXPECT_LE(view.rect(Element::Today).right(), 1440 - 320 - 46 + 3);
     EXPECT_NEAR(view.rect(Element::Mark).center().x(), 560, 0.6);
     EXPECT_NEAR(view.rect(Element::Hint).center().x() - 1, 560, 0.6);
@@ -96,11 +96,11 @@ TEST(QuoteView, KeepsClearOfTheInspector) {
 TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
     QuoteViewState state = plainState();
     state.quote = {"One", "Two"};
-    const double base = QuoteView(state, bundledFonts()).lineRect(0).height();
+    const double base = QuoteView(state, shippedFonts()).lineRect(0).height();
     const auto heightWith = [&](std::optional<QSizeF> screen, double sizeScale) {
         state.mainScreen = screen;
         state.settings.sizeScale = sizeScale;
-        return QuoteView(state, bundledFonts()).lineRect(0).height() / base;
+        return QuoteView(state, shippedFonts()).lineRect(0).height() / base;
     };
     EXPECT_NEAR(heightWith(QSizeF(1512, 700), 1), 0.85, 0.001);
     EXPECT_NEAR(heightWith(QSizeF(1512, 2000), 1), 1.55, 0.001);
@@ -111,7 +111,7 @@ TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
 TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, "Anonymous"};
-    QuoteView view(state, bundledFonts());
+    QuoteView view(state, shippedFonts());
     const double ruleAt = view.closing().rule.delay;
 
     state.palette = Palette::all()[7];
@@ -134,7 +134,7 @@ TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
 TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
     QuoteViewState state = plainState();
     state.quote = {"aaaa bbbb", "A"};
-    QuoteView view(state, bundledFonts());
+    QuoteView view(state, shippedFonts());
     state.quote = {"cccc dddd", "B"}; // as many characters
     view.update(state, 3);
     EXPECT_EQ(view.lineText(0), "cccc dddd");
@@ -147,7 +147,7 @@ TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
 TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, "Anonymous"};
-    QuoteView view(state, bundledFonts());
+    QuoteView view(state, shippedFonts());
     QSet<QString> kinds; // what becomes of a line
     for (int percent = 80; percent < 160; percent += 2) {
         const double scale = percent / 100.0;
@@ -178,7 +178,7 @@ TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
         QuoteViewState state = plainState({1024, 600});
         state.settings.textAnimRaw = rawValue(kind);
         state.quote = {"aaaa bbbb", "A"};
-        QuoteView view(state, bundledFonts());
+        QuoteView view(state, shippedFonts());
         const double middle = kind == TextAnim::Handwrite ? 1.0 : 0.8;
         const QImage first = drawn(view, middle);
 
@@ -189,7 +189,7 @@ TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
         EXPECT_EQ(view.lineAppearedAt(0), 0);
         const QImage changed = drawn(view, middle);
         EXPECT_NE(changed, first);
-        EXPECT_EQ(changed, drawn(QuoteView(state, bundledFonts()), middle))
+        EXPECT_EQ(changed, drawn(QuoteView(state, shippedFonts()), middle))
             << rawValue(kind).toStdString();
     }
 }
@@ -197,7 +197,7 @@ TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
 TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
     QuoteViewState state = plainState();
     state.quote = {"Short", "A"};
-    QuoteView view(state, bundledFonts());
+    QuoteView view(state, shippedFonts());
     const ClosingEntrances before = view.closing();
     state.quote = {threeLines + " " + threeLines, "Somebody Else"};
     state.settings.textAnimRaw = "handwrite";
@@ -215,7 +215,7 @@ TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
 TEST(QuoteView, BringsEachElementInAtItsTime) {
     QuoteViewState state = plainState({1280, 720});
     state.quote = {"Now", "Then"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     struct Row {
         Element element;
         double begins;
@@ -239,7 +239,7 @@ TEST(QuoteView, NamesEverythingThatChanges) {
         QuoteViewState state = plainState({1024, 600});
         state.settings.textAnimRaw = animation;
         state.quote = {"The quiet morning asks nothing of anyone", "Nobody"};
-        const QuoteView view(state, bundledFonts());
+        const QuoteView view(state, shippedFonts());
         double from = 0;
         for (const double to : {0.2, 0.5, 0.62, 0.7, 0.9, 1.3, 1.31, 2.0, 2.7, 3.9, 9.0}) {
             const QImage before = drawn(view, from);
@@ -264,7 +264,7 @@ TEST(QuoteView, NamesEverythingThatChanges) {
 TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
     QuoteViewState state = plainState({1024, 600});
     state.quote = {threeLines, "Anonymous"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     const QImage whole = drawn(view, 0.95);
     const QRect part(300, 200, 211, 97);
     QImage image(whole.size(), whole.format());
@@ -279,7 +279,7 @@ TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
 TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
     QuoteViewState state = plainState();
     state.quote = {QString("A sentence that goes on and on. ").repeated(30), "Anonymous"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     EXPECT_LT(view.columnScale(), 1);
     EXPECT_GT(view.columnScale(), 12.0 / 44);
     EXPECT_GE(view.rect(Element::Mark).top(), view.rect(Element::Greeting).bottom());
@@ -292,7 +292,7 @@ TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
 TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
     QuoteViewState state = plainState();
     state.quote = {QString("Thousands of characters may arrive here. ").repeated(200), "Anonymous"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     EXPECT_DOUBLE_EQ(view.columnScale(), 12.0 / 44);
     const QImage image = drawn(view, 100);
     const int hintTop = static_cast<int>(view.rect(Element::Hint).top());
@@ -306,13 +306,13 @@ TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
     state.settings.fontName = "mono";
     state.settings.sizeScale = 1.6;
     state.quote = {"Wheresoever you go, go with all your heart and nothing less", "Confucius"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     const double width = columnWidth(contentBox({1024, 600}, 0));
     for (int i = 0; i < view.lineCount(); ++i) {
         EXPECT_LE(view.lineRect(i).width(), width + 0.01);
     }
     state.quote = {QString(400, 'w'), "One Word"};
-    const QuoteView word(state, bundledFonts());
+    const QuoteView word(state, shippedFonts());
     ASSERT_EQ(word.lineCount(), 1);
     EXPECT_LE(word.lineRect(0).width(), width + 0.01);
     const QRect ink = inkWithin(drawn(word, 20), word.lineRect(0).toAlignedRect());
@@ -324,7 +324,7 @@ TEST(QuoteView, AlignsRightToLeftTextAtItsOwnLeadingEdge) {
     state.quote = {QString::fromUtf8("السلام عليكم ورحمة الله وبركاته وكل يوم هو بداية جديدة لمن "
                                      "أراد أن يمشي في طريقه بهدوء وصبر"),
                    "A"};
-    const QuoteView view(state, bundledFonts());
+    const QuoteView view(state, shippedFonts());
     ASSERT_GT(view.lineCount(), 1);
     for (int i = 1; i < view.lineCount(); ++i) {
         EXPECT_NEAR(view.lineRect(i).right(), view.lineRect(0).right(), 1.01);
@@ -336,7 +336,7 @@ TEST(QuoteView, StandsOnWholePixels) {
         QuoteViewState state = plainState();
         state.devicePixelRatio = ratio;
         state.quote = {threeLines, "Anonymous"};
-        const QuoteView view(state, bundledFonts());
+        const QuoteView view(state, shippedFonts());
         const QRectF rule = view.rect(Element::Rule);
         EXPECT_NEAR(rule.top() * ratio, std::round(rule.top() * ratio), 1e-6);
         EXPECT_NEAR(rule.height() * ratio, std::round(rule.height() * ratio), 1e-6);
@@ -354,9 +354,9 @@ TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
     QuoteViewState state = plainState();
     state.quote = {"Be here", "Virginia Wilde"};
     state.locale = QLocale("en_US");
-    const QuoteView english(state, bundledFonts());
+    const QuoteView english(state, shippedFonts());
     state.locale = QLocale("tr_TR");
-    const QuoteView turkish(state, bundledFonts());
+    const QuoteView turkish(state, shippedFonts());
     const QRect author = english.rect(Element::Author).toAlignedRect();
     ASSERT_EQ(turkish.rect(Element::Author).toAlignedRect(), author);
     ASSERT_FALSE(inkWithin(drawn(english, 9), author).isEmpty());
@@ -372,13 +372,13 @@ TEST(QuoteView, SurvivesAbsurdStates) {
                 state.settings.textAnimRaw = animation;
                 state.sideInset = 320;
                 state.quote = {"Be here", ""};
-                const QuoteView view(state, bundledFonts());
+                const QuoteView view(state, shippedFonts());
                 EXPECT_FALSE(drawn(view, 3).isNull());
             }
         }
     }
     QuoteViewState state = plainState();
     state.quote = {"", ""};
-    EXPECT_EQ(QuoteView(state, bundledFonts()).lineCount(), 0);
-    EXPECT_FALSE(drawn(QuoteView(state, bundledFonts()), 3).isNull());
+    EXPECT_EQ(QuoteView(state, shippedFonts()).lineCount(), 0);
+    EXPECT_FALSE(drawn(QuoteView(state, shippedFonts()), 3).isNull());
 }

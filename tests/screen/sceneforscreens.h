@@ -1,18 +1,9 @@
 #pragma once
 
 #include "screen/quoteview.h"
-#include "textanim/fonts.h"
+#include "tests/fakes/shippedfonts.h"
 
 namespace morrowleaf {
-
-inline const FontBook& bundledFonts() {
-    static const FontBook book = [] {
-        FontBook fonts;
-        fonts.registerBundledFonts(QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Fonts"));
-        return fonts;
-    }();
-    return book;
-}
 
 // "Midnight" in Fraunces on a Friday morning, on a screen of this size.
 inline QuoteViewState plainState(QSizeF size = {1512, 982}) {

@@ -76,7 +76,7 @@ TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
         QuoteViewState state = plainState();
         state.quote.text = hostile.piece.repeated(hostileSize / hostile.piece.size());
         state.quote.author = state.quote.text;
-        const QuoteView view(state, bundledFonts());
+        const QuoteView view(state, shippedFonts());
         const qsizetype seen = seenCharacters(982, 44, 48);
         qsizetype units = 0;
         for (qsizetype i = 0; i < view.lineCount(); ++i) {
@@ -96,7 +96,7 @@ TEST(QuoteViewBounds, FillTheViewToItsEnd) {
             QuoteViewState state = plainState(size);
             state.settings.sizeScale = textScale;
             state.quote = {QString("I will fill it ").repeated(20000), "B"};
-            const QuoteView view(state, bundledFonts());
+            const QuoteView view(state, shippedFonts());
             EXPECT_GT(view.lineRect(view.lineCount() - 1).top(), size.height() - 60)
                 << size.width() << ' ' << textScale;
         }

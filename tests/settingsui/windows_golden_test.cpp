@@ -26,7 +26,7 @@ int ratio() {
 
 // The bundled face instead of the host's, so that every machine draws the same.
 QFont bundledFace() {
-    return nsFont(bundledFonts(), 13, FontDesign::Default).face;
+    return nsFont(shippedFonts(), 13, FontDesign::Default).face;
 }
 
 void expectGolden(const QString& name, const QImage& frame, int factor) {
