@@ -52,7 +52,8 @@ add_custom_target(fuzzers)
 
 # morrowleaf_test(NAME SOURCES file... [LIBRARIES target...] [LABEL unit|system] [GUI])
 # One GoogleTest program; each of its tests is one ctest. A GUI test runs
-# inside a QApplication on Qt's offscreen platform.
+# inside a QApplication on Qt's offscreen platform. A system test watches other
+# processes and is given time.
 function(morrowleaf_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "LABEL" "SOURCES;LIBRARIES")
   if(arg_GUI)
@@ -73,5 +74,5 @@ function(morrowleaf_test name)
     add_dependencies(unit_tests ${name})
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}."
-    PROPERTIES LABELS ${arg_LABEL} TIMEOUT 120)
+    PROPERTIES LABELS ${arg_LABEL} TIMEOUT $<IF:$<STREQUAL:${arg_LABEL},system>,600,120>)
 endfunction()

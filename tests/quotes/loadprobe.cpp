@@ -41,7 +41,17 @@ void forgetPeak() {
     }
 }
 
-// The longest time between two ticks of a 16 ms timer while it lives.
+// Milliseconds that the calling thread has been ready and waited for a processor.
+qint64 waitedForProcessor() {
+    QFile statistics("/proc/thread-self/schedstat");
+    if (!statistics.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    return statistics.readAll().simplified().split(' ').value(1).toLongLong() / 1'000'000;
+}
+
+// The longest time between two ticks of a 16 ms timer while it lives, without
+// what other programs took of it.
 class Gap {
 public:
     Gap() {
@@ -56,10 +66,15 @@ public:
     }
 
 private:
-    void tick() { longest_ = std::max(longest_, clock_.restart()); }
+    void tick() {
+        const qint64 waited = waitedForProcessor();
+        longest_ = std::max(longest_, clock_.restart() - (waited - waited_));
+        waited_ = waited;
+    }
 
     QTimer timer_;
     QElapsedTimer clock_;
+    qint64 waited_ = waitedForProcessor();
     qint64 longest_ = 0;
 };
 
