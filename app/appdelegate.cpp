@@ -1,6 +1,5 @@
 #include "app/appdelegate.h"
 
-#include "app/settingswindow.h"
 #include "quotes/prefs.h"
 #include "quotes/settingskeys.h"
 #include "quotes/settingsstore.h"
@@ -10,7 +9,6 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
-#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -250,19 +248,13 @@ void AppDelegate::leave(const QuoteWindow* window) {
 
 void AppDelegate::openSettings() {
     if (!settingsWindow_) {
-        settingsWindow_ = makeSettingsWindow(
+        settingsWindow_ = std::make_unique<SettingsWindow>(
             around_.makeSettingsView([this] { show(); }, [this] { editAppearance(); }));
         if (const QScreen* screen = around_.platform.mainScreen->current()) {
-            // The frame is not there yet; a title bar of the usual height will be.
-            const int title = settingsWindow_->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-            const QSize frame = settingsWindow_->size() + QSize(0, title);
-            settingsWindow_->move(settingsWindowOrigin(screen->availableGeometry(), frame) +
-                                  QPoint(0, title));
+            settingsWindow_->place(screen->availableGeometry());
         }
     }
-    settingsWindow_->show();
-    settingsWindow_->raise();
-    settingsWindow_->activateWindow();
+    settingsWindow_->comeForward();
 }
 
 } // namespace morrowleaf

@@ -2,6 +2,7 @@
 
 #include "app/eventmonitor.h"
 #include "app/quotewindow.h"
+#include "app/settingswindow.h"
 #include "app/statusitem.h"
 #include "app/timing.h"
 #include "platform/platform.h"
@@ -93,7 +94,7 @@ private:
     Task autoDismiss_;
     double lastShown_ = -std::numeric_limits<double>::infinity(); // of the timing's now()
     std::unique_ptr<StatusItem> statusItem_;
-    std::unique_ptr<QWidget> settingsWindow_;
+    std::unique_ptr<SettingsWindow> settingsWindow_;
     std::vector<std::unique_ptr<QuoteWindow>> fadingOut_;
 };
 

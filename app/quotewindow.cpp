@@ -1,5 +1,6 @@
 #include "app/quotewindow.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QScreen>
 
@@ -7,7 +8,18 @@
 
 namespace morrowleaf {
 
+namespace {
+
+// Screen readers take windows for what they are only by their role.
+QAccessibleInterface* speakingWindow(const QString& /*className*/, QObject* object) {
+    auto* window = qobject_cast<QuoteWindow*>(object);
+    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
+} // namespace
+
 QuoteWindow::QuoteWindow(OverlayMaker& overlays, QScreen& screen, const OverlaySetup& setup) {
+    QAccessible::installFactory(speakingWindow); // ignores one that it knows
     setObjectName("QuoteWindow");
     setWindowTitle("Morrowleaf");
     overlay_ = overlays.make(*this, screen, setup);

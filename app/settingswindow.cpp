@@ -1,6 +1,10 @@
 #include "app/settingswindow.h"
 
-#include <QVBoxLayout>
+#include "app/resources.h"
+
+#include <QIcon>
+#include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -10,21 +14,51 @@ namespace {
 constexpr QSize contentSize(520, 520);
 constexpr int leftMargin = 32;
 constexpr int belowMiddle = 400;
+constexpr Qt::WindowFlags kind = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                 Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                                 Qt::WindowStaysOnTopHint;
 } // namespace
 
-std::unique_ptr<QWidget> makeSettingsWindow(QWidget* view) {
-    auto window = std::make_unique<QWidget>(
-        nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                     Qt::WindowStaysOnTopHint);
-    window->setObjectName("SettingsWindow");
-    window->setWindowTitle("Morrowleaf Settings");
-    window->setAttribute(Qt::WA_QuitOnClose, false);
-    auto* layout = new QVBoxLayout(window.get());
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view);
-    window->setFixedSize(contentSize.expandedTo(view->minimumSize()));
-    return window;
+SettingsWindow::SettingsWindow(QWidget* view)
+    : QMainWindow(nullptr, kind) {
+    setObjectName("SettingsWindow");
+    setWindowTitle("Morrowleaf Settings");
+    setWindowIcon(QIcon(iconFolder() + "/app-icon.svg"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setCentralWidget(view);
+    setFixedSize(contentSize.expandedTo(view->minimumSize()));
+}
+
+void SettingsWindow::place(const QRect& available) {
+    available_ = available;
+    // No frame is there yet; one with a title bar of the usual height will be.
+    moveTo(size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
+}
+
+void SettingsWindow::comeForward() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void SettingsWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (!available_.isEmpty()) {
+        // On screen, so the frame is known.
+        QTimer::singleShot(0, this, [this] {
+            moveTo(frameGeometry().size());
+            available_ = {};
+        });
+    }
+}
+
+void SettingsWindow::moveTo(const QSize& frame) {
+    const QPoint origin = settingsWindowOrigin(available_, frame);
+    if (pos() != origin && !available_.isEmpty()) {
+        move(origin);
+    }
 }
 
 QPoint settingsWindowOrigin(const QRect& available, const QSize& frame) {

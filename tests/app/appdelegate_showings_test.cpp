@@ -1,5 +1,7 @@
 #include "tests/app/appdelegatefixture.h"
 
+#include <QAccessible>
+
 namespace morrowleaf {
 namespace {
 
@@ -228,6 +230,9 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     EXPECT_EQ(window->size(), QSize(520, 545));
     EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_EQ(window->minimumSize(), window->maximumSize());
+    EXPECT_FALSE(window->windowIcon().pixmap(32, 32).isNull());
     window->findChild<QLineEdit*>()->setText("kept");
     window->close();
     EXPECT_FALSE(window->isVisible());
@@ -237,6 +242,28 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     EXPECT_EQ(window->findChild<QLineEdit*>()->text(), "kept");
     EXPECT_EQ(viewsMade, 1);
     EXPECT_EQ(terminations, 0);
+}
+
+TEST_F(AppDelegateTest, SettingsWindowComesBackOutOfAnIcon) {
+    launchAndClose();
+    delegate->openSettings();
+    auto* window = const_cast<QWidget*>(delegate->settingsWindow());
+    window->showMinimized();
+    delegate->openSettings();
+    EXPECT_FALSE(window->isMinimized());
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(AppDelegateTest, WindowsAreWindowsToAScreenReader) {
+    launch();
+    delegate->openSettings();
+    const auto* quote = QAccessible::queryAccessibleInterface(top().window);
+    EXPECT_EQ(quote->role(), QAccessible::Window);
+    EXPECT_EQ(quote->text(QAccessible::Name), "Morrowleaf");
+    const auto* settings =
+        QAccessible::queryAccessibleInterface(const_cast<QWidget*>(delegate->settingsWindow()));
+    EXPECT_EQ(settings->role(), QAccessible::Window);
+    EXPECT_EQ(settings->text(QAccessible::Name), "Morrowleaf Settings");
 }
 
 TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
