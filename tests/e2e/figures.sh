@@ -12,7 +12,7 @@ start_session_bus
 settings '{"dismissSeconds": 60}'
 start app "$MORROWLEAF"
 app=$last
-until_true 20 opened_since 0 || die "no showing"
+until_true 30 opened_since 0 || die "no showing"
 ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
 # of the threads that live: idle workers end after half a minute
 switches() { cat /proc/"$app"/task/*/status | awk '/^voluntary/ {s += $2} END {print s}'; }
@@ -24,7 +24,7 @@ activate() {
 }
 close_it() {
     xdotool key Escape
-    until_true 20 is_gone || die "it stays"
+    until_true 30 is_gone || die "it stays"
     sleep 0.2
 }
 

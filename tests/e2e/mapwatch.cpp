@@ -60,23 +60,46 @@ void say(const char* what) {
     std::fflush(stdout);
 }
 
-// `before`: the pixel as it was while nothing was shown.
-void watchFirstFrames(xcb_connection_t* c, const xcb_screen_t& screen, std::uint32_t before) {
-    constexpr double watched = 350; // milliseconds
-    const double start = milliseconds();
-    bool painted = false;
-    while (milliseconds() - start < watched) {
-        const std::uint32_t pixel = middlePixel(c, screen);
+// Watches the middle of the screen for a moment after a window came.
+class FirstFrames {
+public:
+    FirstFrames(xcb_connection_t* c, const xcb_screen_t& screen)
+        : c_(c)
+        , screen_(screen)
+        , before_(middlePixel(c, screen)) {}
+
+    bool watching() const { return milliseconds() < end_; }
+    void begin() {
+        constexpr double watched = 350; // milliseconds
+        end_ = milliseconds() + watched;
+        painted_ = false;
+    }
+    void end() {
+        end_ = 0;
+        before_ = middlePixel(c_, screen_);
+    }
+    void look() {
+        const std::uint32_t pixel = middlePixel(c_, screen_);
         if (pixel == 0 || pixel == 0xFFFFFF) {
             sayAt("flash");
-            return;
-        }
-        if (!painted && pixel != before) {
-            painted = true;
+            end_ = 0;
+        } else if (!painted_ && pixel != before_) {
+            painted_ = true;
             sayAt("painted");
         }
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
+
+private:
+    xcb_connection_t* c_;
+    const xcb_screen_t& screen_;
+    std::uint32_t before_; // as it was while nothing was shown
+    double end_ = 0;
+    bool painted_ = false;
+};
+
+// Without a `wait` null if nothing has happened.
+xcb_generic_event_t* nextEvent(xcb_connection_t* c, bool wait) {
+    return wait ? xcb_wait_for_event(c) : xcb_poll_for_event(c);
 }
 
 } // namespace
@@ -87,14 +110,19 @@ int main(int argc, char** argv) {
         return 2;
     }
     const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(c)).data;
-    const auto root = screen.root;
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
-    xcb_change_window_attributes(c, root, XCB_CW_EVENT_MASK, &mask);
+    xcb_change_window_attributes(c, screen.root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(c);
     std::set<xcb_window_t> known;
-    std::uint32_t before = middlePixel(c, screen);
+    FirstFrames frames(c, screen);
     say("watching");
-    while (auto* event = xcb_wait_for_event(c)) {
+    while (xcb_connection_has_error(c) == 0) {
+        auto* event = nextEvent(c, !frames.watching());
+        if (event == nullptr) {
+            frames.look();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            continue;
+        }
         // What was only sent, as the sign of a withdrawal is, did not happen.
         const int type = event->response_type;
         if (type == XCB_MAP_NOTIFY) {
@@ -103,13 +131,13 @@ int main(int argc, char** argv) {
                 known.insert(window);
                 sayAt("map");
                 say("map");
-                watchFirstFrames(c, screen, before);
+                frames.begin();
             }
         } else if (type == XCB_UNMAP_NOTIFY) {
             const auto window = reinterpret_cast<const xcb_unmap_notify_event_t*>(event)->window;
             if (known.contains(window)) {
                 say("unmap");
-                before = middlePixel(c, screen);
+                frames.end();
             }
         }
         std::free(event); // NOLINT: xcb allocates with malloc

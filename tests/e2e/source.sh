@@ -11,7 +11,7 @@ start_compositor
 start_session_bus
 start server "$here/patientserver.py" "$work/port" "$work/release"
 server=$last
-until_true 10 test -s "$work/port" || die "no server"
+until_true 30 test -s "$work/port" || die "no server"
 address=http://127.0.0.1:$(cat "$work/port")/quote
 
 # Nothing moves once the entrance is over, so pictures can be compared.
@@ -23,7 +23,7 @@ launch() {
     n=$(maps)
     start app "$MORROWLEAF"
     app=$last
-    until_true 10 opened_since "$n" || die "no showing"
+    until_true 30 opened_since "$n" || die "no showing"
 }
 leave() {
     kill -TERM "$app"

@@ -9,7 +9,7 @@ host() { /usr/bin/python3 "$here/notifierhost.py" "$@"; }
 start_host() {
     start host /usr/bin/python3 "$here/notifierhost.py" serve
     host_pid=$last
-    until_true 10 grep -q serving "$work/host.log" || die "no tray host"
+    until_true 30 grep -q serving "$work/host.log" || die "no tray host"
 }
 has_item() { grep -q '^item' "$work/host.log"; }
 
@@ -67,7 +67,7 @@ sleep 0.7
 shot menu
 xdotool key Escape
 host click "Quit"
-until_true 10 not kill -0 "$app"
+until_true 30 not kill -0 "$app"
 wait "$app"
 check "the last ends it with status 0" test $? -eq 0
 finish

@@ -19,7 +19,7 @@ sleep 0.5
 throttle_over() { sleep 8.2; }
 close_it() {
     xdotool key Escape
-    until_true 10 is_gone || fail "it could not be closed"
+    until_true 30 is_gone || fail "it could not be closed"
 }
 # order NAME COMMAND...: the commands lead to exactly one showing
 order() {
