@@ -55,7 +55,7 @@ wake_while_locked() {
     set_hint false
 }
 # Nothing has said before that the session was locked.
-hint_alone() { session_call c1 $mock.UpdateProperties $login.Session '{"LockedHint": <false>}'; }
+hint_alone() { session_call c1 "$mock.UpdateProperties" "$login.Session" '{"LockedHint": <false>}'; }
 hint_goes() { set_hint true; set_hint false; }
 saver_ends() { saver_active true; saver_active false; }
 active_alone() { set_active true; }
@@ -69,7 +69,7 @@ order "the locked hint, false alone" hint_alone
 order "a lock seen by its hint only" hint_goes
 start_saver
 order "the end of a screen saver alone" saver_ends
-session_call c1 $mock.UpdateProperties $login.Session '{"Active": <false>}'
+session_call c1 "$mock.UpdateProperties" "$login.Session" '{"Active": <false>}'
 order "becoming active alone" active_alone
 order "two wakes, three seconds apart" wake_twice
 
