@@ -51,6 +51,17 @@ std::optional<QString> writeWhole(const QString& path, const QString& text) {
     return std::nullopt;
 }
 
+// This program's file. Where a newer one has taken its place since the start,
+// the kernel still tells the old one's fate.
+QString ownProgram() {
+    const QString mark = " (deleted)";
+    QString program = QFileInfo("/proc/self/exe").symLinkTarget();
+    if (program.endsWith(mark) && !QFileInfo::exists(program)) {
+        program.chop(mark.size());
+    }
+    return program;
+}
+
 bool canBeRun(const QString& program) {
     if (QDir::isAbsolutePath(program)) {
         const QFileInfo file(program);
@@ -94,7 +105,7 @@ private:
     QString userFile() const { return places_.userFolder + '/' + fileName; }
     QString systemFile() const {
         for (const QString& folder : places_.systemFolders) {
-            const QString path = folder + '/' + fileName;
+            QString path = folder + '/' + fileName;
             if (QFileInfo(path).isFile()) {
                 return path;
             }
@@ -125,7 +136,7 @@ AutostartPlaces autostartPlaces() {
     }
     return {.userFolder = config + "/autostart",
             .systemFolders = systemFolders,
-            .program = QFileInfo("/proc/self/exe").symLinkTarget()};
+            .program = ownProgram()};
 }
 
 std::unique_ptr<LoginItem> makeAutostart(AutostartPlaces places) {
