@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace morrowleaf {
@@ -29,6 +31,51 @@ EventMask kindOf(const QEvent& event) {
     }
 }
 
+// Such keys change nothing that is on the screen, and a hand that looks for
+// quiet does not ask for the quotation to go.
+bool worksTheMachine(int key) {
+    static constexpr std::array keys{Qt::Key_VolumeDown,
+                                     Qt::Key_VolumeMute,
+                                     Qt::Key_VolumeUp,
+                                     Qt::Key_MicMute,
+                                     Qt::Key_MicVolumeDown,
+                                     Qt::Key_MicVolumeUp,
+                                     Qt::Key_MediaPlay,
+                                     Qt::Key_MediaPause,
+                                     Qt::Key_MediaTogglePlayPause,
+                                     Qt::Key_MediaStop,
+                                     Qt::Key_MediaPrevious,
+                                     Qt::Key_MediaNext,
+                                     Qt::Key_MediaRecord,
+                                     Qt::Key_AudioRewind,
+                                     Qt::Key_AudioForward,
+                                     Qt::Key_AudioRepeat,
+                                     Qt::Key_AudioRandomPlay,
+                                     Qt::Key_MonBrightnessDown,
+                                     Qt::Key_MonBrightnessUp,
+                                     Qt::Key_KeyboardLightOnOff,
+                                     Qt::Key_KeyboardBrightnessDown,
+                                     Qt::Key_KeyboardBrightnessUp,
+                                     Qt::Key_Display,
+                                     Qt::Key_ScreenSaver,
+                                     Qt::Key_Eject,
+                                     Qt::Key_PowerOff,
+                                     Qt::Key_PowerDown,
+                                     Qt::Key_Sleep,
+                                     Qt::Key_Standby,
+                                     Qt::Key_Suspend,
+                                     Qt::Key_Hibernate,
+                                     Qt::Key_WakeUp,
+                                     Qt::Key_Battery,
+                                     Qt::Key_Bluetooth,
+                                     Qt::Key_WLAN,
+                                     Qt::Key_UWB,
+                                     Qt::Key_TouchpadToggle,
+                                     Qt::Key_TouchpadOn,
+                                     Qt::Key_TouchpadOff};
+    return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
 bool isBefore(quint64 timestamp, quint32 since) {
     if (since == 0 || timestamp == 0) {
         return false;
@@ -46,17 +93,24 @@ bool isKeyDown(const QKeyEvent& event) {
     case Qt::Key_Meta:
     case Qt::Key_Alt:
     case Qt::Key_AltGr:
-    case Qt::Key_CapsLock:
-    case Qt::Key_NumLock:
-    case Qt::Key_ScrollLock:
     case Qt::Key_Super_L:
     case Qt::Key_Super_R:
     case Qt::Key_Hyper_L:
     case Qt::Key_Hyper_R:
     case Qt::Key_Mode_switch:
+    case Qt::Key_Eisu_Shift:
+    case Qt::Key_Kana_Shift:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+    case Qt::Key_Kana_Lock:
         return false;
+    case 0:
+    case Qt::Key_unknown:
+        // Shifts of further levels and the machine's own keys have no name here.
+        return !event.text().isEmpty();
     default:
-        return true;
+        return !worksTheMachine(event.key());
     }
 }
 

@@ -14,7 +14,9 @@ inline constexpr EventMask leftMouseDown = 1U << 1U;
 inline constexpr EventMask rightMouseDown = 1U << 3U;
 inline constexpr EventMask keyDown = 1U << 10U;
 
-// Whether a key press is one of a key, not of a modifier or lock alone.
+// Whether a key press is one that a program is meant to get: not that of a
+// modifier or a lock alone, nor of a key that works the machine, as those for
+// loudness and brightness do.
 bool isKeyDown(const QKeyEvent& event);
 
 // Watches the input of the whole program as long as it lives. An event of the

@@ -136,8 +136,10 @@ TEST_F(AppDelegateTest, MiddleClickAndWheelDoNotClose) {
 
 TEST_F(AppDelegateTest, KeysCloseModifiersAloneAndReleasesDoNot) {
     launch();
-    for (const auto key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr,
-                           Qt::Key_CapsLock}) {
+    for (const auto key :
+         {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_AltGr, Qt::Key_Super_L,
+          Qt::Key_Super_R, Qt::Key_Hyper_L, Qt::Key_Hyper_R, Qt::Key_Mode_switch, Qt::Key_CapsLock,
+          Qt::Key_NumLock, Qt::Key_ScrollLock, Qt::Key_unknown}) {
         press(key);
         EXPECT_TRUE(isShown()) << key;
     }
@@ -145,6 +147,35 @@ TEST_F(AppDelegateTest, KeysCloseModifiersAloneAndReleasesDoNot) {
     QCoreApplication::sendEvent(top().window, &release);
     EXPECT_TRUE(isShown());
     press(Qt::Key_A);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(AppDelegateTest, KeysThatWorkTheMachineDoNotClose) {
+    launch();
+    for (const auto key : {Qt::Key_VolumeUp, Qt::Key_VolumeMute, Qt::Key_MediaTogglePlayPause,
+                           Qt::Key_MonBrightnessUp, Qt::Key_KeyboardBrightnessDown}) {
+        press(key);
+        EXPECT_TRUE(isShown()) << key;
+    }
+}
+
+TEST_F(AppDelegateTest, EveryOtherKeyClosesEvenOneWithoutAName) {
+    for (const auto key : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_F12, Qt::Key_Print, Qt::Key_Menu,
+                           Qt::Key_Dead_Acute, Qt::Key_Multi_key, Qt::Key_Left}) {
+        launch();
+        press(key);
+        EXPECT_FALSE(isShown()) << key;
+    }
+    launch();
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(QChar(0x1E9E)));
+    QCoreApplication::sendEvent(top().window, &letter);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(AppDelegateTest, ATouchClosesAsAClickDoes) {
+    launch();
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QTest::touchEvent(top().window, screen.get()).press(0, {20, 20}, top().window);
     EXPECT_FALSE(isShown());
 }
 
