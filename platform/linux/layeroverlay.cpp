@@ -2,6 +2,7 @@
 
 #include "platform/linux/waylandnative.h"
 
+#include <QElapsedTimer>
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
@@ -18,6 +19,7 @@ constexpr std::int32_t overPanels = -1;
 constexpr std::uint32_t exclusive = 1;
 // Milliseconds until the compositor has told other windows what it has to.
 constexpr int focusPatience = 150;
+constexpr qint64 configurePatience = 2000; // milliseconds
 
 class LayerOverlay final : public OverlayWindow {
 public:
@@ -47,6 +49,13 @@ public:
     void orderFront() override {
         if (layer_ == nullptr) {
             createSurface();
+        }
+        if (!configured_) {
+            // A surface that is given a picture too early ends the connection.
+            if (onLost) {
+                onLost();
+            }
+            return;
         }
         window_.show();
         window_.raise();
@@ -110,8 +119,12 @@ private:
             org_kde_kwin_blur_commit(blur_);
         }
         wl_surface_commit(surface);
-        // The size is known before anything is drawn.
-        while (!configured_ && wl_display_roundtrip(wayland::display()) >= 0) {
+        // The size is known before anything is drawn. Without an output the
+        // surface is closed instead, or nothing comes.
+        QElapsedTimer waiting;
+        waiting.start();
+        while (!configured_ && !closed_ && waiting.elapsed() < configurePatience &&
+               wl_display_roundtrip(wayland::display()) >= 0) {
         }
     }
 
@@ -125,6 +138,7 @@ private:
             layer_ = nullptr;
         }
         configured_ = false;
+        closed_ = false;
     }
 
     static void onConfigure(void* data, zwlr_layer_surface_v1* layer, std::uint32_t serial,
@@ -144,6 +158,7 @@ private:
 
     static void onClosed(void* data, zwlr_layer_surface_v1* /*layer*/) {
         auto& self = *static_cast<LayerOverlay*>(data);
+        self.closed_ = true;
         if (self.onLost) {
             self.onLost();
         }
@@ -154,6 +169,7 @@ private:
     zwlr_layer_surface_v1* layer_ = nullptr;
     org_kde_kwin_blur* blur_ = nullptr;
     bool configured_ = false;
+    bool closed_ = false;
     QTimer focus_;
 };
 

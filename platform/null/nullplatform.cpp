@@ -45,7 +45,11 @@ public:
 
 class PrimaryScreen final : public MainScreen {
 public:
-    QScreen* current() const override { return QGuiApplication::primaryScreen(); }
+    QScreen* current() const override {
+        QScreen* screen = QGuiApplication::primaryScreen();
+        // No monitor at all may show up as a screen without an area.
+        return screen != nullptr && !screen->geometry().isEmpty() ? screen : nullptr;
+    }
 };
 
 class NoPicture final : public DesktopPicture {
