@@ -6,6 +6,7 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 
+#include <optional>
 #include <unistd.h>
 
 namespace morrowleaf {
@@ -172,20 +173,30 @@ void Logind::propertiesChanged(const QString& interface, const QVariantMap& chan
 }
 
 void Logind::apply(const QVariantMap& properties, bool isChange) {
-    const auto lockedHint = properties.find("LockedHint");
-    if (lockedHint != properties.end()) {
-        const bool locked = lockedHint->toBool();
-        if (isChange && !locked) {
+    const auto told = [&properties](const char* name) -> std::optional<bool> {
+        const auto found = properties.find(name);
+        return found == properties.end() ? std::nullopt : std::optional(found->toBool());
+    };
+    const auto lockedHint = told("LockedHint");
+    const auto active = told("Active");
+    // What bars comes first: both may be told at once.
+    if (lockedHint == true) {
+        gate_.setBarred(lockedBar, true);
+    }
+    if (active == false) {
+        gate_.setBarred(inactiveBar, true);
+    }
+    if (lockedHint == false) {
+        if (isChange) {
             gate_.happened(SessionGate::Event::Unlocked);
         }
-        gate_.setBarred(lockedBar, locked);
+        gate_.setBarred(lockedBar, false);
     }
-    const auto active = properties.find("Active");
-    if (active != properties.end()) {
-        if (isChange && active->toBool()) {
+    if (active == true) {
+        if (isChange) {
             gate_.happened(SessionGate::Event::Active);
         }
-        gate_.setBarred(inactiveBar, !active->toBool());
+        gate_.setBarred(inactiveBar, false);
     }
 }
 
