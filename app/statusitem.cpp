@@ -3,6 +3,7 @@
 #include "app/symbolicon.h"
 
 #include <QCursor>
+#include <QEvent>
 #include <QGuiApplication>
 
 namespace morrowleaf {
@@ -45,6 +46,14 @@ StatusItem::StatusItem(const StatusActions& actions) {
                          }
                      });
     icon_.show();
+    menu_.installEventFilter(this);
+}
+
+bool StatusItem::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        icon_.setIcon(panelSymbol());
+    }
+    return false;
 }
 
 } // namespace morrowleaf

@@ -15,12 +15,18 @@ struct StatusActions {
 };
 
 // The program's symbol in the panel, with its menu.
-class StatusItem {
+class StatusItem : public QObject {
+    Q_OBJECT
+
 public:
     explicit StatusItem(const StatusActions& actions);
 
     QMenu& menu() { return menu_; }
     const QMenu& menu() const { return menu_; }
+
+protected:
+    // Follows the desktop when it turns dark or light.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QMenu menu_;
