@@ -3,9 +3,19 @@
 #include "quotes/photo.h"
 #include "quotes/photocopy.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QThreadPool>
+
+#include <mutex>
 
 namespace morrowleaf {
+
+struct PhotoImport::Copying {
+    std::mutex busy;
+    std::atomic<bool> cancelled = false;
+};
+
 namespace {
 
 // Small and quick, yet it shows whether there are pixels behind the header.
@@ -16,17 +26,6 @@ bool isUsable(const QString& path) {
     return photo && !photo->decodeFilling(trialSize).isNull();
 }
 
-// The source is looked at before the copy, so that a huge file that is no
-// picture is not copied first; the copy counts.
-std::shared_ptr<PendingFile> importPhoto(const QString& source, const QString& destination,
-                                         const std::atomic<bool>& cancelled) {
-    if (!inspectPhoto(source) || !copyPhotoFile(source, destination, cancelled)) {
-        return nullptr;
-    }
-    auto copy = std::make_shared<PendingFile>(destination);
-    return isUsable(destination) ? copy : nullptr;
-}
-
 } // namespace
 
 PendingFile::~PendingFile() {
@@ -35,29 +34,65 @@ PendingFile::~PendingFile() {
     }
 }
 
-PhotoImport::PhotoImport() {
-    worker_.setMaxThreadCount(1);
-}
+PhotoImport::PhotoImport()
+    : copying_(std::make_shared<Copying>()) {}
 
 PhotoImport::~PhotoImport() {
-    cancelled_ = true;
-    worker_.clear();
-    worker_.waitForDone();
+    copying_->cancelled = true;
+    // A copy stops at once. A decoder would not, and is not waited for.
+    const std::scoped_lock stopped(copying_->busy);
+    for (const Job& job : jobs_) {
+        QFile::remove(job.destination);
+    }
 }
 
 void PhotoImport::start(const QString& source, const QString& destination, Done done) {
-    const int number = ++last_;
-    waiting_.insert(number, std::move(done));
-    worker_.start([this, number, source, destination] {
-        auto copy = importPhoto(source, destination, cancelled_);
-        QMetaObject::invokeMethod(
-            this, [this, number, copy = std::move(copy)] { finish(number, copy); },
-            Qt::QueuedConnection);
-    });
+    jobs_.push_back({source, destination, std::move(done)});
+    if (jobs_.size() == 1) {
+        work();
+    }
 }
 
-void PhotoImport::finish(int number, const std::shared_ptr<PendingFile>& copy) {
-    const Done done = waiting_.take(number);
+// The source is looked at before the copy, so that a huge file that is no
+// picture is not copied first; the copy counts.
+std::shared_ptr<PendingFile> PhotoImport::copied(const QString& source, const QString& destination,
+                                                 Copying& copying) {
+    if (!inspectPhoto(source)) {
+        return nullptr;
+    }
+    std::shared_ptr<PendingFile> copy;
+    {
+        const std::scoped_lock busy(copying.busy);
+        if (!copyPhotoFile(source, destination, copying.cancelled)) {
+            return nullptr;
+        }
+        copy = std::make_shared<PendingFile>(destination);
+    }
+    return isUsable(destination) ? copy : nullptr;
+}
+
+void PhotoImport::work() {
+    const Job& job = jobs_.front();
+    QThreadPool::globalInstance()->start(
+        [this, copying = copying_, source = job.source, destination = job.destination] {
+            auto copy = copied(source, destination, *copying);
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(),
+                [this, copying, copy = std::move(copy)] {
+                    if (!copying->cancelled) {
+                        finish(copy);
+                    }
+                },
+                Qt::QueuedConnection);
+        });
+}
+
+void PhotoImport::finish(const std::shared_ptr<PendingFile>& copy) {
+    const Done done = std::move(jobs_.front().done);
+    jobs_.pop_front();
+    if (!jobs_.empty()) {
+        work();
+    }
     done(copy);
 }
 

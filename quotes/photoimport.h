@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <QString>
-#include <QThreadPool>
 
-#include <atomic>
+#include <deque>
 #include <functional>
 #include <memory>
 
@@ -34,7 +32,7 @@ class PhotoImport : public QObject {
 
 public:
     PhotoImport();
-    ~PhotoImport() override; // stops what runs
+    ~PhotoImport() override; // waits for nothing and leaves no copy behind
 
     using Done = std::function<void(const std::shared_ptr<PendingFile>&)>;
 
@@ -43,12 +41,20 @@ public:
     void start(const QString& source, const QString& destination, Done done);
 
 private:
-    void finish(int number, const std::shared_ptr<PendingFile>& copy);
+    struct Job {
+        QString source;
+        QString destination;
+        Done done;
+    };
+    struct Copying; // what a worker may still touch when this is gone
 
-    QHash<int, Done> waiting_;
-    int last_ = 0;
-    QThreadPool worker_;
-    std::atomic<bool> cancelled_ = false;
+    static std::shared_ptr<PendingFile> copied(const QString& source, const QString& destination,
+                                               Copying& copying);
+    void work();
+    void finish(const std::shared_ptr<PendingFile>& copy);
+
+    std::deque<Job> jobs_; // the first is being worked on
+    std::shared_ptr<Copying> copying_;
 };
 
 } // namespace morrowleaf

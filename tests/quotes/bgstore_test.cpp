@@ -8,10 +8,12 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QJsonArray>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThreadPool>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -177,6 +179,28 @@ TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
     QCoreApplication::processEvents();
     EXPECT_TRUE(results.isEmpty());
     EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
+    const QString source = picture(QStringLiteral("a.png"), "png", {6000, 4000});
+    const qint64 size = QFileInfo(source).size();
+    start(source);
+    start(source);
+    const QDir folder(own);
+    QElapsedTimer since;
+    since.start();
+    QFileInfoList files;
+    while ((files.isEmpty() || files.first().size() < size) && since.elapsed() < 60'000) {
+        files = folder.entryInfoList(QDir::Files);
+    }
+    ASSERT_EQ(files.size(), 1);
+    photos.reset();
+    EXPECT_EQ(ownFiles(), QStringList());
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_TRUE(results.isEmpty());
+    EXPECT_TRUE(listed().isEmpty());
 }
 
 TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
