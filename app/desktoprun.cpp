@@ -15,7 +15,10 @@
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <QThreadPool>
 #include <QTimer>
+
+#include <cstdlib>
 
 namespace morrowleaf {
 
@@ -73,14 +76,8 @@ void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& 
     }
 }
 
-} // namespace
-
-int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
-    const WindowSystem windowSystem = chooseWindowSystem();
-    QApplication::setDesktopFileName("org.morrowleaf.Morrowleaf");
-    QApplication app(argc, argv);
-    QApplication::setApplicationName("Morrowleaf");
-    QApplication::setQuitOnLastWindowClosed(false);
+// Everything between the start and the end of the application object.
+int runUntilQuit(QApplication& app, WindowSystem windowSystem, const QStringList& arguments) {
     Platform platform = makePlatform(windowSystem);
     if (!platform.instance->claim(requestOf(arguments))) {
         return 0;
@@ -128,6 +125,23 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
                      Qt::QueuedConnection);
     launch(delegate, *platform.instance, arguments);
     return QApplication::exec();
+}
+
+} // namespace
+
+int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
+    const WindowSystem windowSystem = chooseWindowSystem();
+    QApplication::setDesktopFileName("org.morrowleaf.Morrowleaf");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Morrowleaf");
+    QApplication::setQuitOnLastWindowClosed(false);
+    const int status = runUntilQuit(app, windowSystem, arguments);
+    if (!QThreadPool::globalInstance()->waitForDone(0)) {
+        // A photo is still being decoded, for nobody. The application object
+        // would wait for it.
+        std::_Exit(status);
+    }
+    return status;
 }
 
 } // namespace morrowleaf
