@@ -19,6 +19,8 @@
 #include "platform/null/nullplatform.h"
 
 #include <QByteArray>
+#include <QFile>
+#include <QStandardPaths>
 
 #include <malloc.h>
 #include <optional>
@@ -70,6 +72,16 @@ const char* pluginFor(WindowSystem system) {
     return nullptr;
 }
 
+// Without an address the bus library would start a bus, which nobody else uses
+// and which outlives us; where one is or may come is known.
+void stayOnTheBusThatIsThere() {
+    constexpr const char* address = "DBUS_SESSION_BUS_ADDRESS";
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (qEnvironmentVariableIsEmpty(address) && !folder.isEmpty()) {
+        qputenv(address, "unix:path=" + QFile::encodeName(folder) + "/bus");
+    }
+}
+
 // Pictures get pages of their own, which go back the moment they are freed: by
 // default the limit rises with what is freed, and the arenas of threads keep it.
 constexpr int ownPagesFrom = 1 << 20; // bytes
@@ -77,6 +89,7 @@ constexpr int ownPagesFrom = 1 << 20; // bytes
 } // namespace
 
 WindowSystem chooseWindowSystem() {
+    stayOnTheBusThatIsThere();
     const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
     const WindowSystem system = forced().value_or(offered());
     const char* plugin = pluginFor(system);
