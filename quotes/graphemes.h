@@ -1,11 +1,18 @@
 #pragma once
 
+#include <QList>
 #include <QStringView>
 
 namespace morrowleaf {
 
-// Whether `text` has more than `limit` user-perceived characters (extended
-// grapheme clusters); looks no further than it must.
-bool hasMoreGraphemes(QStringView text, int limit);
+// User-perceived characters: extended grapheme clusters (Unicode Standard
+// Annex #29). From any thread.
+qsizetype characterCount(QStringView text);
+
+// Offsets, in UTF-16 units, of the end of each character, in order.
+QList<qsizetype> characterEnds(QStringView text);
+
+// Whether `text` has more than `limit` of them; looks no further than it must.
+bool hasMoreCharacters(QStringView text, int limit);
 
 } // namespace morrowleaf

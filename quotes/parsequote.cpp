@@ -113,7 +113,7 @@ std::optional<Quote> quoteIn(const JsonTree& tree, const RandomIndex& random) {
 
 std::optional<Quote> plainText(QByteArrayView body) {
     const QString text = decodeUtf8(body).trimmed();
-    if (text.isEmpty() || text.startsWith(u'<') || hasMoreGraphemes(text, plainTextLimit)) {
+    if (text.isEmpty() || text.startsWith(u'<') || hasMoreCharacters(text, plainTextLimit)) {
         return std::nullopt;
     }
     return Quote{text, QStringLiteral("Unknown")};

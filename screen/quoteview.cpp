@@ -1,5 +1,6 @@
 #include "screen/quoteview.h"
 
+#include "quotes/graphemes.h"
 #include "screen/greeting.h"
 #include "screen/ground/linebalancing.h"
 #include "screen/textbound.h"

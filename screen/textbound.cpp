@@ -1,6 +1,6 @@
 #include "screen/textbound.h"
 
-#include "screen/ground/linebalancing.h"
+#include "quotes/graphemes.h"
 #include "screen/layout.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "textanim/textlayout.h"
 
-#include "screen/ground/linebalancing.h"
+#include "quotes/graphemes.h"
 
 #include <QTextLayout>
 #include <QTextOption>

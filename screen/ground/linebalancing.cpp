@@ -1,45 +1,13 @@
 #include "screen/ground/linebalancing.h"
 
+#include "quotes/graphemes.h"
+
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <unicode/brkiter.h>
-#include <unicode/locid.h>
-#include <unicode/utext.h>
 
 namespace morrowleaf {
 
 namespace {
-
-std::unique_ptr<icu::BreakIterator> makeCharacterIterator() {
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::BreakIterator> iterator(
-        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    if (U_FAILURE(status)) {
-        qFatal("ICU has no rules for characters: %s.", u_errorName(status));
-    }
-    return iterator;
-}
-
-template <typename Visit>
-void forEachCharacterEnd(const QString& text, Visit visit) {
-    // Making an iterator costs far more than running it over a line.
-    static thread_local const std::unique_ptr<icu::BreakIterator> iterator =
-        makeCharacterIterator();
-    UErrorCode status = U_ZERO_ERROR;
-    UText units = UTEXT_INITIALIZER;
-    utext_openUChars(&units, reinterpret_cast<const UChar*>(text.constData()), text.size(),
-                     &status);
-    iterator->setText(&units, status);
-    if (U_FAILURE(status)) {
-        qFatal("ICU refuses a text of %lld units: %s.", static_cast<long long>(text.size()),
-               u_errorName(status));
-    }
-    for (int32_t end = iterator->next(); end != icu::BreakIterator::DONE; end = iterator->next()) {
-        visit(qsizetype{end});
-    }
-    utext_close(&units);
-}
 
 // Characters that a line may hold beyond the even share.
 constexpr double slack = 2;
@@ -54,19 +22,6 @@ double lineLimit(const QString& text, int target) {
 }
 
 } // namespace
-
-qsizetype characterCount(const QString& text) {
-    qsizetype count = 0;
-    forEachCharacterEnd(text, [&](qsizetype) { ++count; });
-    return count;
-}
-
-QList<qsizetype> characterEnds(const QString& text) {
-    QList<qsizetype> ends;
-    ends.reserve(text.size());
-    forEachCharacterEnd(text, [&](qsizetype end) { ends.append(end); });
-    return ends;
-}
 
 QStringList balancedLines(const QString& text, int target) {
     QStringList words = text.split(u' ', Qt::SkipEmptyParts);

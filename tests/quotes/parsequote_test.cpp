@@ -1,4 +1,3 @@
-#include "quotes/graphemes.h"
 #include "quotes/jsontree.h"
 #include "quotes/parsequote.h"
 #include "quotes/utf8.h"

@@ -1,6 +1,6 @@
 #include "screen/quoteview.h"
 
-#include "screen/ground/linebalancing.h"
+#include "quotes/graphemes.h"
 #include "tests/screen/sceneforscreens.h"
 
 #include <QPainter>
