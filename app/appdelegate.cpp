@@ -56,9 +56,7 @@ OverlaySetup overlaySetup(bool preview, bool editing) {
 AppDelegate::AppDelegate(AppSurroundings surroundings)
     : around_(std::move(surroundings)) {}
 
-AppDelegate::~AppDelegate() {
-    dismiss(false);
-}
+AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
     registerAppDefaults(around_.store);
