@@ -131,7 +131,7 @@ void AppDelegate::present(bool preview, bool editing) {
                                          w->overlay().setLevel(WindowLevel::ScreenSaver);
                                      }
                                  },
-                             .glassCanBeDrawn = behind.kind == Behind::Kind::Captured};
+                             .glassCanBeDrawn = glassAvailable(behind)};
     const QuoteContent content = around_.makeQuoteScreen(editing ? &hooks : nullptr);
     if (content.setBehind) {
         content.setBehind(behind);
