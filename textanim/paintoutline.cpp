@@ -12,6 +12,17 @@ namespace morrowleaf {
 
 namespace {
 
+void paintPicture(QPainter& painter, const GlyphPicture& picture) {
+    // A bilinear reduction by more than half would skip pixels.
+    const QRectF onDevice = painter.deviceTransform().mapRect(picture.place);
+    const QSize size(std::max(qCeil(onDevice.width()), 1), std::max(qCeil(onDevice.height()), 1));
+    const bool reduced = size.width() < picture.picture.width();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(picture.place, reduced ? picture.picture.scaled(size, Qt::IgnoreAspectRatio,
+                                                                      Qt::SmoothTransformation)
+                                             : picture.picture);
+}
+
 // Characters that share a glyph show its share, from where the text begins.
 void paintShare(QPainter& painter, const OutlinePart& part, double share, const QColor& color) {
     QRectF shown = part.outline.boundingRect();
@@ -55,25 +66,6 @@ void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsiz
 }
 
 } // namespace
-
-void paintPicture(QPainter& painter, const GlyphPicture& picture) {
-    // A bilinear reduction by more than half would skip pixels.
-    const QRectF onDevice = painter.deviceTransform().mapRect(picture.place);
-    const QSize size(std::max(qCeil(onDevice.width()), 1), std::max(qCeil(onDevice.height()), 1));
-    const bool reduced = size.width() < picture.picture.width();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(picture.place, reduced ? picture.picture.scaled(size, Qt::IgnoreAspectRatio,
-                                                                      Qt::SmoothTransformation)
-                                             : picture.picture);
-}
-
-void paintPictures(QPainter& painter, const TextOutline& text) {
-    for (const OutlinePart& part : text.parts) {
-        for (const GlyphPicture& picture : part.pictures) {
-            paintPicture(painter, picture);
-        }
-    }
-}
 
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color) {
     paintTyped(painter, text, text.characterCount, color);

@@ -7,7 +7,6 @@ class QPainter;
 
 namespace morrowleaf {
 
-struct GlyphPicture;
 struct TextOutline;
 
 // All draw with the origin of the text at the painter's origin.
@@ -15,7 +14,5 @@ void paintOutline(QPainter& painter, const TextOutline& text, const QColor& colo
 // The first characters only, each where it stands in the whole text.
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
                 const QColor& color);
-void paintPictures(QPainter& painter, const TextOutline& text);
-void paintPicture(QPainter& painter, const GlyphPicture& picture);
 
 } // namespace morrowleaf
