@@ -1,7 +1,6 @@
 #include "screen/renderframe.h"
 #include "tests/fakes/shippedfonts.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 #include <benchmark/benchmark.h>
 
@@ -152,11 +151,3 @@ BENCHMARK_CAPTURE(entrance, handwrite, TextAnim::Handwrite)
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -4,7 +4,6 @@
 #include "textanim/pentrace.h"
 #include "textanim/revealline.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <benchmark/benchmark.h>
@@ -183,11 +182,3 @@ BENCHMARK_CAPTURE(rebuilt, fade, TextAnim::Fade)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(rebuilt, handwrite, TextAnim::Handwrite)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
