@@ -18,9 +18,10 @@ class SingleInstance : public QObject {
 public:
     using QObject::QObject;
 
-    // True: this process is the one from now on. False: another one has got
-    // the request, and this one should end. Where neither can be found out it
-    // is true.
+    // True: this process is the one from now on. False: another one is it and
+    // has got the request, or is there and does not answer; this one should
+    // end. Where neither can be found out it is true. Waits for the other one,
+    // for a bounded time.
     virtual bool claim(const LaunchRequest& request) = 0;
 
 signals:
