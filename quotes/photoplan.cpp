@@ -5,10 +5,12 @@
 
 #include <QImageReader>
 #include <QPixelFormat>
+#include <QtNumeric>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace morrowleaf {
 namespace {
@@ -72,7 +74,11 @@ qint64 decodeBytes(const PhotoHeader& header, const QSize& target) {
     const auto area = [](const QSize& s) { return qint64(s.width()) * s.height(); };
     const qint64 result = area(target) * 4;
     if (header.format != "jpeg") {
-        return area(header.size) * header.bytesPerPixel + result;
+        // Some headers have room for more pixels than 64 bits have for their bytes.
+        qint64 whole = 0;
+        const bool countless = qMulOverflow(area(header.size), header.bytesPerPixel, &whole) ||
+                               qAddOverflow(whole, result, &whole);
+        return countless ? std::numeric_limits<qint64>::max() : whole;
     }
     // A JPEG is read at an eighth, a quarter or half of its size where that
     // suffices; one in several scans is first held whole, as coefficients.

@@ -13,6 +13,7 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 #include <sys/mount.h>
@@ -228,7 +229,18 @@ QByteArray jpegClaiming(QSize size, bool progressive) {
     return jpeg;
 }
 
+// Its header has room for numbers that no product of two of them has.
+QByteArray bmpClaiming(quint32 side) {
+    QByteArray bmp = encoded(quarters({8, 8}), "bmp");
+    qToLittleEndian(side, bmp.data() + 18);
+    qToLittleEndian(side, bmp.data() + 22);
+    return bmp;
+}
+
 TEST_F(PhotoTest, RefusesBombs) {
+    EXPECT_TRUE(inspectPhoto(file(bmpClaiming(8))));
+    EXPECT_FALSE(inspectPhoto(file(bmpClaiming(30'000))));
+    EXPECT_FALSE(inspectPhoto(file(bmpClaiming(0x7FFFFFFF))));
     EXPECT_FALSE(inspectPhoto(file(pngClaiming({30'000, 30'000}))));
     EXPECT_FALSE(inspectPhoto(file(jpegClaiming({65'000, 65'000}, true))));
 }
@@ -263,6 +275,10 @@ TEST_F(PhotoTest, EstimatesWhatDecodingNeeds) {
     EXPECT_LE(decodeBytes(jpeg, {1920, 1080}), photoMemoryLimit);
     const PhotoHeader png{.format = "png", .size = {8000, 6000}};
     EXPECT_GE(decodeBytes(png, {192, 108}), 8000 * 6000 * 4);
+    for (const int side : {100'000, 0x40000000, 0x7FFFFFFF}) {
+        const PhotoHeader bomb{.format = "bmp", .size = {side, side}, .bytesPerPixel = 8};
+        EXPECT_GT(decodeBytes(bomb, {192, 108}), photoMemoryLimit) << side;
+    }
 }
 
 TEST_F(PhotoTest, CropsFillTheTargetsShape) {
