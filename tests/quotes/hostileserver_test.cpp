@@ -19,8 +19,8 @@
 
 namespace {
 
-const char* const nothing = nullptr;
-const char* const anything = "*";
+constexpr const char* nothing = nullptr;
+constexpr const char* anything = "*";
 
 struct Case {
     const char* place; // a path, or an address with the ports' places in it
