@@ -3,9 +3,12 @@
 #include "platform/linux/logind.h"
 #include "platform/linux/screensavers.h"
 #include "platform/linux/sessiongate.h"
+#include "platform/linux/x11connection.h"
+#include "platform/linux/x11monitors.h"
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -13,8 +16,14 @@ namespace morrowleaf {
 
 namespace {
 
-// Without any monitor one screen without an area may remain.
+// Monitors that come on arrive, move and change their size one after another.
+constexpr int settleTime = 500; // milliseconds
+
+// Without any monitor a screen without an area may remain, or one made up.
 bool hasScreen() {
+    if (x11::connection() != nullptr && !X11Monitors::anyIsOn()) {
+        return false;
+    }
     const auto screens = QGuiApplication::screens();
     return std::any_of(screens.begin(), screens.end(),
                        [](const QScreen* s) { return !s->geometry().isEmpty(); });
@@ -26,22 +35,34 @@ public:
         : gate_([this](SessionGate::Event event) { announce(event); })
         , logind_(gate_)
         , screenSavers_(gate_) {
+        settle_.setSingleShot(true);
+        settle_.setInterval(settleTime);
+        connect(&settle_, &QTimer::timeout, this, &DesktopSession::lookForScreens);
         connect(qGuiApp, &QGuiApplication::screenAdded, this, &DesktopSession::follow);
-        connect(
-            qGuiApp, &QGuiApplication::screenRemoved, this, [this] { lookForScreens(); },
-            Qt::QueuedConnection);
+        connect(qGuiApp, &QGuiApplication::screenRemoved, this, &DesktopSession::screensChanged,
+                Qt::QueuedConnection);
         const auto screens = QGuiApplication::screens();
         for (const QScreen* screen : screens) {
             follow(screen);
+        }
+        if (x11::connection() != nullptr) {
+            monitors_ = std::make_unique<X11Monitors>();
+            connect(monitors_.get(), &X11Monitors::changed, this, &DesktopSession::screensChanged);
         }
         lookForScreens();
     }
 
 private:
     void follow(const QScreen* screen) {
-        connect(screen, &QScreen::geometryChanged, this, [this] { lookForScreens(); });
-        QMetaObject::invokeMethod(
-            this, [this] { lookForScreens(); }, Qt::QueuedConnection);
+        connect(screen, &QScreen::geometryChanged, this, &DesktopSession::screensChanged);
+        QMetaObject::invokeMethod(this, &DesktopSession::screensChanged, Qt::QueuedConnection);
+    }
+    void screensChanged() {
+        if (hasScreen()) {
+            settle_.start();
+        } else {
+            lookForScreens();
+        }
     }
     void lookForScreens() { gate_.setBarred("no screen", !hasScreen()); }
 
@@ -60,8 +81,10 @@ private:
     }
 
     SessionGate gate_;
+    QTimer settle_;
     Logind logind_;
     ScreenSavers screenSavers_;
+    std::unique_ptr<X11Monitors> monitors_; // none but on X11
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/linux/x11mainscreen.h"
 
 #include "platform/linux/x11connection.h"
+#include "platform/linux/x11monitors.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -63,6 +64,9 @@ QScreen* largestOverlap(const QRect& window) {
 class X11MainScreen final : public MainScreen {
 public:
     QScreen* current() const override {
+        if (!X11Monitors::anyIsOn()) {
+            return nullptr;
+        }
         QScreen* screen = nullptr;
         if (const auto window = focusedWindow()) {
             screen = largestOverlap(*window);

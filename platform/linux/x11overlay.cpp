@@ -3,6 +3,7 @@
 #include "platform/linux/screenfollower.h"
 #include "platform/linux/x11connection.h"
 #include "platform/linux/x11hold.h"
+#include "platform/linux/x11monitors.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
@@ -52,6 +53,11 @@ public:
         window.winId();
         describe();
         listen();
+        QObject::connect(&monitors_, &X11Monitors::changed, &monitors_, [this] {
+            if (onLost && !X11Monitors::anyIsOn()) {
+                onLost();
+            }
+        });
     }
 
     ~X11Overlay() override {
@@ -226,6 +232,7 @@ private:
     xcb_atom_t activeWindowAtom_ = XCB_ATOM_NONE;
     std::shared_ptr<X11Hold> hold_;
     ScreenFollower follower_;
+    X11Monitors monitors_;
     QTimer watch_;
 };
 
