@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <optional>
 
 namespace morrowleaf {
 
@@ -42,6 +43,18 @@ struct BackdropPainter::Private {
     NodeGrid nodes;
     GrainTile tile;
 
+    // What the nodes were made from.
+    struct Shaded {
+        QSize size;
+        double ratio = 1;
+        double scale = 1;
+        Shading shading;
+        std::shared_ptr<const Glass> glass; // kept while the shading points into it
+
+        bool operator==(const Shaded&) const = default;
+    };
+    std::optional<Shaded> shaded;
+
     void buildMesh(const MeshPoints& points, const std::array<QColor, 9>& colors) {
         const auto same = [](const MeshPoint& a, const MeshPoint& b) {
             return a.x == b.x && a.y == b.y;
@@ -53,6 +66,16 @@ struct BackdropPainter::Private {
         meshColors = colors;
         meshBuilt = true;
         mesh.build(unfolded(points), colors);
+        shaded.reset();
+    }
+
+    // Several parts of one frame share their nodes.
+    void shade(const Shaded& wanted) {
+        if (shaded == wanted)
+            return;
+        nodes.resize(wanted.size, wanted.ratio);
+        shadeNodes(nodes, wanted.size, wanted.ratio, mesh, wanted.scale, wanted.shading);
+        shaded = wanted;
     }
 };
 
@@ -125,7 +148,6 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const double mesh = layers.ground * (1 - shown);
     const double grain = state.grainOn ? mesh : 0;
     d_->buildMesh(meshDrift(phase, amplitude(state.screenAnim)), state.palette.colors);
-    d_->nodes.resize(size, ratio);
     Shading shading;
     shading.factor = mesh * (state.grainOn ? 1 - grainOpacity : 1);
     shading.alpha = mesh;
@@ -137,7 +159,7 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         shading.under = &glass->frosted;
         shading.underWeight = layers.glass;
     }
-    shadeNodes(d_->nodes, size, ratio, d_->mesh, backdropScale(state.screenAnim, phase), shading);
+    d_->shade({size, ratio, backdropScale(state.screenAnim, phase), shading, glass});
     d_->tile.build(ratio, grain, hasDesktop || layers.ground >= 1);
     input.nodes = &d_->nodes;
     input.tile = &d_->tile;

@@ -44,6 +44,8 @@ struct Shading {
     std::array<double, 4> base{};    // B, G, R, A, 0...1
     const NodeGrid* under = nullptr; // of the same size
     double underWeight = 0;
+
+    bool operator==(const Shading&) const = default;
 };
 
 // Draws the mesh, scaled about the centre, into `nodes`, which must have been
