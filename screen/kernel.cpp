@@ -63,6 +63,7 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
     const RowFunction draw = fine                       ? kernelRowFine
                              : path == KernelPath::Avx2 ? kernelRowAvx2
                                                         : kernelRowPortable;
+    const MixFunction mix = path == KernelPath::Avx2 ? mixRowsAvx2 : mixRowsPortable;
     const std::vector<qint16> weights = cellWeights(nodes.cell);
     // Some to spare: the last block may reach beyond the last node.
     std::vector<qint16> mixed(static_cast<std::size_t>(nodes.columns + blockSize + 1) * 4);
@@ -90,9 +91,9 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
     const auto stride = target.bytesPerLine() / qsizetype(sizeof(quint32));
     for (int y = clip.top(); y <= clip.bottom(); ++y) {
         const int cell = y / nodes.cell;
-        mixRowsPortable(nodes.row(cell) + firstNode * 4, nodes.row(cell + 1) + firstNode * 4,
-                        weights[static_cast<std::size_t>(y % nodes.cell) * 4],
-                        mixed.data() + firstNode * 4, (lastNode - firstNode + 1) * 4);
+        mix(nodes.row(cell) + firstNode * 4, nodes.row(cell + 1) + firstNode * 4,
+            weights[static_cast<std::size_t>(y % nodes.cell) * 4], mixed.data() + firstNode * 4,
+            (lastNode - firstNode + 1) * 4);
         row.tile = input.tile->row(y);
         for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p)
             row.pictures[p] =

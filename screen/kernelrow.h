@@ -29,8 +29,11 @@ void kernelRowAvx2(const KernelRow& row, int first, int last);
 void kernelRowFine(const KernelRow& row, int first, int last);
 
 // out = above + (below - above) * weight / 32768, for `count` lanes.
+using MixFunction = void (*)(const qint16* above, const qint16* below, qint16 weight, qint16* out,
+                             int count);
 void mixRowsPortable(const qint16* above, const qint16* below, qint16 weight, qint16* out,
                      int count);
+void mixRowsAvx2(const qint16* above, const qint16* below, qint16 weight, qint16* out, int count);
 
 // The processor has AVX2 and this build uses it.
 bool hasAvx2();
