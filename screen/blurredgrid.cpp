@@ -13,8 +13,9 @@ BlurredGrid::BlurredGrid(const QImage& picture, int step, double sigma)
     shrink(picture);
     // Averaging over a square has blurred already.
     const double variance = sigma * sigma - (step * step - 1) / 12.0;
-    if (variance > 0)
+    if (variance > 0) {
         blur(std::sqrt(variance) / step);
+    }
 }
 
 void BlurredGrid::shrink(const QImage& picture) {
@@ -36,10 +37,11 @@ void BlurredGrid::shrink(const QImage& picture) {
         }
         for (int column = 0; column < columns_; ++column) {
             const int width = std::min(step_, picture.width() - column * step_);
-            for (std::size_t n = 0; n < 3; ++n)
+            for (std::size_t n = 0; n < 3; ++n) {
                 cells_[static_cast<std::size_t>(row * columns_ + column) * 3 + n] =
                     static_cast<float>(sums[static_cast<std::size_t>(column) * 3 + n]) /
                     static_cast<float>(width * height);
+            }
         }
     }
 }
@@ -53,8 +55,9 @@ void BlurredGrid::blur(double sigma) {
         kernel[static_cast<std::size_t>(i + reach)] = weight;
         whole += weight;
     }
-    for (float& weight : kernel)
+    for (float& weight : kernel) {
         weight /= whole;
+    }
 
     // Down, whole rows at a time, then across in a row with lengthened ends.
     const auto length = static_cast<std::size_t>(columns_) * 3;
@@ -65,23 +68,26 @@ void BlurredGrid::blur(double sigma) {
             const float weight = kernel[static_cast<std::size_t>(i + reach)];
             const float* from =
                 &cells_[static_cast<std::size_t>(std::clamp(row + i, 0, rows_ - 1)) * length];
-            for (std::size_t n = 0; n < length; ++n)
+            for (std::size_t n = 0; n < length; ++n) {
                 to[n] += weight * from[n];
+            }
         }
     }
     std::vector<float> longer(length + static_cast<std::size_t>(reach) * 6);
     for (int row = 0; row < rows_; ++row) {
         const float* from = &down[static_cast<std::size_t>(row) * length];
-        for (int i = -reach; i < columns_ + reach; ++i)
+        for (int i = -reach; i < columns_ + reach; ++i) {
             std::copy_n(from + std::clamp(i, 0, columns_ - 1) * 3, 3,
                         longer.begin() + std::ptrdiff_t(i + reach) * 3);
+        }
         float* to = &cells_[static_cast<std::size_t>(row) * length];
         std::fill_n(to, length, 0.0F);
         for (std::size_t i = 0; i < kernel.size(); ++i) {
             const float weight = kernel[i];
             const float* shifted = longer.data() + i * 3;
-            for (std::size_t n = 0; n < length; ++n)
+            for (std::size_t n = 0; n < length; ++n) {
                 to[n] += weight * shifted[n];
+            }
         }
     }
 }
@@ -95,8 +101,9 @@ void BlurredGrid::mixRow(double y, std::vector<float>& row) const {
     const float* below = top + 1 < rows_ ? above + length : above;
     row.resize(length);
     float* to = row.data();
-    for (std::size_t n = 0; n < length; ++n)
+    for (std::size_t n = 0; n < length; ++n) {
         to[n] = above[n] + (below[n] - above[n]) * share;
+    }
 }
 
 BlurredGrid::Place BlurredGrid::placeOf(double x) const {

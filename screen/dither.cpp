@@ -50,12 +50,14 @@ private:
     int extreme(bool cluster) const {
         int best = -1;
         for (int cell = 0; cell < count; ++cell) {
-            if (has(cell) != cluster)
+            if (has(cell) != cluster) {
                 continue;
+            }
             const float here = density_[static_cast<std::size_t>(cell)];
             const float there = best < 0 ? here : density_[static_cast<std::size_t>(best)];
-            if (best < 0 || (cluster ? here > there : here < there))
+            if (best < 0 || (cluster ? here > there : here < there)) {
                 best = cell;
+            }
         }
         return best;
     }
@@ -83,8 +85,9 @@ DitherMask build() {
         start.take(from);
         const int to = start.largestVoid();
         start.put(to);
-        if (to == from)
+        if (to == from) {
             break;
+        }
     }
 
     std::array<int, count> rank{};

@@ -57,8 +57,9 @@ QImage clearPicture(const QImage& picture, double ratio) {
     const BlurredGrid grid(picture, std::max(1, static_cast<int>(2 * ratio)), clearSigma * ratio);
     QImage clear(picture.size(), QImage::Format_RGB32);
     std::vector<BlurredGrid::Place> columns(static_cast<std::size_t>(clear.width()));
-    for (int x = 0; x < clear.width(); ++x)
+    for (int x = 0; x < clear.width(); ++x) {
         columns[static_cast<std::size_t>(x)] = grid.placeOf(bent(x + 0.5, clear.width(), ratio));
+    }
     const DitherMask& mask = ditherMask();
     std::vector<float> row;
     for (int y = 0; y < clear.height(); ++y) {
@@ -102,8 +103,9 @@ std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
 } // namespace
 
 std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio) {
-    if (picture.isNull())
+    if (picture.isNull()) {
         return nullptr;
+    }
     const double ratio = devicePixelRatio > 0 ? devicePixelRatio : 1;
     const QImage pixels = picture.convertToFormat(QImage::Format_RGB32);
     auto glass = std::make_shared<Glass>();

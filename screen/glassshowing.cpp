@@ -14,27 +14,31 @@ GlassShowing::~GlassShowing() = default;
 
 void GlassShowing::want(const QImage& picture, double devicePixelRatio) {
     const qint64 key = picture.isNull() ? 0 : picture.cacheKey();
-    if (key == key_ && devicePixelRatio == ratio_)
+    if (key == key_ && devicePixelRatio == ratio_) {
         return;
+    }
     key_ = key;
     ratio_ = devicePixelRatio;
     glass_.reset();
     request_.reset();
-    if (picture.isNull())
+    if (picture.isNull()) {
         return;
+    }
     request_ = std::make_shared<Request>();
     // The request lives on the main thread, with this object: a result that
     // finds it gone has nobody left to go to.
     const std::weak_ptr<Request> wanted = request_;
     QThreadPool::globalInstance()->start([this, wanted, picture, devicePixelRatio] {
-        if (wanted.expired())
+        if (wanted.expired()) {
             return;
+        }
         const std::shared_ptr<const Glass> glass = makeGlass(picture, devicePixelRatio);
         QMetaObject::invokeMethod(
             QCoreApplication::instance(),
             [this, wanted, glass] {
-                if (wanted.expired())
+                if (wanted.expired()) {
                     return;
+                }
                 request_.reset();
                 glass_ = glass;
                 emit made();

@@ -32,8 +32,9 @@ int GrainTile::addend(int size, double grainWeight, int x, int y) {
 
 void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) {
     const int size = std::max(1, static_cast<int>(std::lround(grainSize * devicePixelRatio)));
-    if (size == size_ && grainWeight == weight_ && opaque == opaque_)
+    if (size == size_ && grainWeight == weight_ && opaque == opaque_) {
         return;
+    }
     size_ = size;
     weight_ = grainWeight;
     opaque_ = opaque;
@@ -47,9 +48,10 @@ void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) 
             std::lround(static_cast<double>(g) * grainWeight * grainOpacity * 64));
     }
     std::vector<std::size_t> columns(static_cast<std::size_t>(size));
-    for (int x = 0; x < size; ++x)
+    for (int x = 0; x < size; ++x) {
         columns[static_cast<std::size_t>(x)] =
             static_cast<std::size_t>((2 * x + 1) * grainSize / (2 * size)) * 4;
+    }
     for (int y = 0; y < size; ++y) {
         qint16* line = lanes_.data() + start_ + stride() * static_cast<std::size_t>(y);
         const quint8* noise =
@@ -62,8 +64,9 @@ void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) 
             line[x * 4] = line[x * 4 + 1] = line[x * 4 + 2] = value;
             line[x * 4 + 3] = static_cast<qint16>(opaque ? 256 : dither);
         }
-        for (int x = 0; x < overhang * 4; ++x)
+        for (int x = 0; x < overhang * 4; ++x) {
             line[size * 4 + x] = line[x % (size * 4)];
+        }
     }
 }
 

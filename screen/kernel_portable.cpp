@@ -20,19 +20,22 @@ void block(const KernelRow& row, int index, const qint16* near, const qint16* st
            const qint16* across) {
     const qint16* tile = row.tile + (index * 8 % row.tileSize) * 4;
     std::array<qint16, lanes> sum;
-    for (std::size_t i = 0; i < lanes; ++i)
+    for (std::size_t i = 0; i < lanes; ++i) {
         sum[i] = static_cast<qint16>(near[i] + high(step[i], across[i]));
+    }
     for (int p = 0; p < row.pictureCount; ++p) {
         const auto n = static_cast<std::size_t>(p);
         const auto* bytes = reinterpret_cast<const quint8*>(row.pictures[n] + index * 8);
         if (row.multiply) {
-            for (std::size_t i = 0; i < lanes; ++i)
+            for (std::size_t i = 0; i < lanes; ++i) {
                 sum[i] = static_cast<qint16>(highUnsigned(static_cast<quint16>(bytes[i] << 8),
                                                           static_cast<quint16>(sum[i])));
+            }
         } else {
-            for (std::size_t i = 0; i < lanes; ++i)
+            for (std::size_t i = 0; i < lanes; ++i) {
                 sum[i] = static_cast<qint16>(
                     sum[i] + highUnsigned(static_cast<quint16>(bytes[i] << 8), row.weights[n]));
+            }
         }
     }
     auto* out = reinterpret_cast<quint8*>(row.out + index * 8);
@@ -80,9 +83,10 @@ void kernelRowFine(const KernelRow& row, int first, int last) {
 
 void mixRowsPortable(const qint16* above, const qint16* below, qint16 weight, qint16* out,
                      int count) {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         out[i] = static_cast<qint16>(above[i] +
                                      high(static_cast<qint16>(2 * (below[i] - above[i])), weight));
+    }
 }
 
 } // namespace morrowleaf

@@ -18,8 +18,9 @@ double vignetteStrength(const BackdropState& state) {
 Layers layersOf(const BackdropState& state, bool canSee, bool hasGlass) {
     const Behind::Kind kind = state.behind.kind;
     const double t = unitOf(state.transparency);
-    if (kind == Behind::Kind::Nothing || (kind == Behind::Kind::Captured && !canSee) || t <= 0)
+    if (kind == Behind::Kind::Nothing || (kind == Behind::Kind::Captured && !canSee) || t <= 0) {
         return {};
+    }
     const double glass = t > leastTransparency ? std::min((1 - t) * 4, 1.0) : 0;
     const double tint = (1 - t) * 0.5 + 0.06;
     Layers layers{.ground = 1 - t, .tint = t * glass * tint};

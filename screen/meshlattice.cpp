@@ -192,8 +192,9 @@ void MeshLattice::build(const MeshPoints& points, std::span<const QColor, 9> col
         const float y = static_cast<float>(row) / static_cast<float>(rows_);
         for (int step = 0; step < mostSteps; ++step) {
             steps.improve(points, y, at, missed);
-            if (settled(missed, columns_))
+            if (settled(missed, columns_)) {
                 break;
+            }
         }
         for (int plane = 0; plane < 3; ++plane) {
             steps.colour(at, knots[static_cast<std::size_t>(plane)],

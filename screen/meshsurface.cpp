@@ -31,8 +31,9 @@ KnotWeights knotWeights(double u) {
     const double nearSlope = (1.5 * s - 1) * s - 1;
     const double middleSlope = (-3 * s + 2) * s + 1;
     const double farSlope = (1.5 * s - 1) * s;
-    if (mirrored)
+    if (mirrored) {
         return {{far, middle, near}, {-farSlope, -middleSlope, -nearSlope}};
+    }
     return {{near, middle, far}, {nearSlope, middleSlope, farSlope}};
 }
 
@@ -57,8 +58,9 @@ SurfacePoint surfaceAt(const MeshPoints& points, double u, double v) {
 double lowestDeterminant(const MeshPoints& points) {
     static const std::array<KnotWeights, probes> weights = [] {
         std::array<KnotWeights, probes> all;
-        for (int i = 0; i < probes; ++i)
+        for (int i = 0; i < probes; ++i) {
             all[static_cast<std::size_t>(i)] = knotWeights(2.0 * i / (probes - 1));
+        }
         return all;
     }();
     double lowest = 1;
@@ -86,8 +88,9 @@ double lowestDeterminant(const MeshPoints& points) {
 }
 
 MeshPoints unfolded(const MeshPoints& points) {
-    if (lowestDeterminant(points) >= leastDeterminant)
+    if (lowestDeterminant(points) >= leastDeterminant) {
         return points;
+    }
     float whole = 0;
     float folding = 1;
     for (int step = 0; step < 14; ++step) {

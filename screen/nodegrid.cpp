@@ -36,8 +36,9 @@ Tap tapAt(double place, int cells, bool meshEndsInside) {
 
 int NodeGrid::cellFor(const QSize& size, double devicePixelRatio) {
     const int fit = std::min(size.width() / 150, size.height() / 100);
-    if (fit < 8)
+    if (fit < 8) {
         return fit < 4 ? 1 : 4;
+    }
     return 8 * std::clamp(static_cast<int>(devicePixelRatio), 1, fit / 8);
 }
 
@@ -79,8 +80,9 @@ void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
     const auto middleY = static_cast<float>(size.height()) / 2;
     const auto shift = static_cast<float>(nodes.place(0));
     std::array<float, 4> base;
-    for (std::size_t lane = 0; lane < 4; ++lane)
+    for (std::size_t lane = 0; lane < 4; ++lane) {
         base[lane] = static_cast<float>(shading.base[lane] * fullLane) + 0.5F;
+    }
     const auto alpha =
         static_cast<qint16>(std::lround((shading.alpha + shading.base[3]) * fullLane));
     const auto underWeight = static_cast<int>(std::lround(shading.underWeight * 65536));
@@ -123,8 +125,9 @@ void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
         }
         if (shading.under != nullptr && underWeight > 0) {
             const qint16* from = shading.under->row(j);
-            for (std::size_t i = 0; i < columns * 4; ++i)
+            for (std::size_t i = 0; i < columns * 4; ++i) {
                 to[i] = static_cast<qint16>(to[i] + ((from[i] * underWeight) >> 16));
+            }
         }
     }
 }

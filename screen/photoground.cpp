@@ -25,14 +25,16 @@ const QImage& FittedPicture::fitted(const QImage& picture, const QSize& size) {
 const QImage& PhotoGround::composed(const QImage& photo, double devicePixelRatio, double vignette,
                                     bool grainOn) {
     if (key_ == photo.cacheKey() && ratio_ == devicePixelRatio && vignette_ == vignette &&
-        grainOn_ == grainOn)
+        grainOn_ == grainOn) {
         return composed_;
+    }
     key_ = photo.cacheKey();
     ratio_ = devicePixelRatio;
     vignette_ = vignette;
     grainOn_ = grainOn;
-    if (composed_.size() != photo.size())
+    if (composed_.size() != photo.size()) {
         composed_ = QImage(photo.size(), QImage::Format_RGB32);
+    }
 
     // The nodes are factors here: a white mesh, 16384 for 1.
     MeshLattice white;
