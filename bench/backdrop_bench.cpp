@@ -73,8 +73,9 @@ void naive(benchmark::State& run) {
 }
 
 void everySize(benchmark::internal::Benchmark* bench) {
-    for (const auto& size : sizes)
+    for (const auto& size : sizes) {
         bench->Args({size[0], size[1]});
+    }
     bench->MeasureProcessCPUTime()->Repetitions(7)->ReportAggregatesOnly(true)->Unit(
         benchmark::kMillisecond);
 }
@@ -87,9 +88,10 @@ class Ratios : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
-            if (run.aggregate_name == "median")
+            if (run.aggregate_name == "median") {
                 medians_[run.run_name.function_name + "/" + run.run_name.args] =
                     run.GetAdjustedCPUTime();
+            }
         }
         ConsoleReporter::ReportRuns(runs);
     }

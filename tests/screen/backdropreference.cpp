@@ -17,8 +17,9 @@ bool solve(const MeshPoints& mesh, double x, double y, double& u, double& v) {
         const SurfacePoint at = surfaceAt(mesh, u, v);
         const double ex = x - at.x;
         const double ey = y - at.y;
-        if (std::hypot(ex, ey) < 1e-11)
+        if (std::hypot(ex, ey) < 1e-11) {
             return true;
+        }
         const double determinant = std::max(at.determinant(), 0.01);
         u = std::clamp(u + (ex * at.yByV - ey * at.xByV) / determinant, -0.06, 2.06);
         v = std::clamp(v + (ey * at.xByU - ex * at.yByU) / determinant, -0.06, 2.06);

@@ -71,9 +71,10 @@ void expectClose(const QImage& image, const Reference& what) {
         for (int x = 0; x + 16 <= width; x += 16) {
             for (int n = 0; n < 4; ++n) {
                 int sum = 0;
-                for (int i = 0; i < 256; ++i)
+                for (int i = 0; i < 256; ++i) {
                     sum +=
                         lane(at(x + i % 16, y + i / 16), n) - lane(want(x + i % 16, y + i / 16), n);
+                }
                 worstMean = std::max(worstMean, std::abs(sum / 256.0));
             }
         }
@@ -84,8 +85,9 @@ void expectClose(const QImage& image, const Reference& what) {
 class KernelTest : public testing::TestWithParam<KernelPath> {
 protected:
     void SetUp() override {
-        if (!kernelPathAvailable(GetParam()))
+        if (!kernelPathAvailable(GetParam())) {
             GTEST_SKIP() << "this processor lacks the path";
+        }
     }
 };
 
@@ -106,8 +108,9 @@ TEST_P(KernelTest, StaysCloseToTheReferenceForRandomMeshes) {
         what.points = meshDrift(real(0, 1e8), amplitudes[random() % 3]);
         what.colors = Palette::all()[random() % 9].colors;
         if (round % 6 == 5) {
-            for (QColor& color : what.colors)
+            for (QColor& color : what.colors) {
                 color = QColor::fromRgb(static_cast<QRgb>(random()) | 0xFF000000U);
+            }
         }
         what.scale = real(0.995, 1.12);
         what.vignette = real(0, 1);
@@ -152,8 +155,9 @@ TEST_P(KernelTest, WhiteWithGrainAndDitherSaturates) {
     what.base = {1, 1, 1, 1}; // twice as much as fits
     const QImage image = drawn(what, GetParam());
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             ASSERT_EQ(image.pixel(x, y), 0xFFFFFFFFU);
+        }
     }
 }
 
@@ -190,8 +194,9 @@ TEST_P(KernelTest, AClippedRepaintGivesTheSamePixelsAndTouchesNoOthers) {
 }
 
 TEST(KernelPaths, AgreeToTheLastBit) {
-    if (!kernelPathAvailable(KernelPath::Avx2))
+    if (!kernelPathAvailable(KernelPath::Avx2)) {
         GTEST_SKIP() << "this processor has one path";
+    }
     for (const double opacity : {0.03, 0.5, 1.0}) {
         Reference what;
         what.points = meshDrift(77, 0.26);
@@ -204,13 +209,15 @@ TEST(KernelPaths, AgreeToTheLastBit) {
 }
 
 TEST(KernelPaths, AgreeWithPictures) {
-    if (!kernelPathAvailable(KernelPath::Avx2))
+    if (!kernelPathAvailable(KernelPath::Avx2)) {
         GTEST_SKIP() << "this processor has one path";
+    }
     QImage picture(77, 33, QImage::Format_RGB32);
     std::mt19937 random(1);
     for (int y = 0; y < 33; ++y) {
-        for (int x = 0; x < 77; ++x)
+        for (int x = 0; x < 77; ++x) {
             picture.setPixel(x, y, static_cast<QRgb>(random()) | 0xFF000000U);
+        }
     }
     NodeGrid nodes;
     nodes.resize(picture.size(), 1);

@@ -51,8 +51,9 @@ TEST(MeshDrift, MovesSmoothlyAtThePhasesOfToday) {
 
 bool same(const MeshPoints& a, const MeshPoints& b) {
     for (std::size_t i = 0; i < 9; ++i) {
-        if (a[i].x != b[i].x || a[i].y != b[i].y)
+        if (a[i].x != b[i].x || a[i].y != b[i].y) {
             return false;
+        }
     }
     return true;
 }
@@ -75,8 +76,9 @@ TEST(MeshSurface, NeverFoldsAndNeverJumpsOnceDrawnBack) {
         const double t = 0.01 * step;
         const MeshPoints now = unfolded(meshDrift(t, 0.26));
         for (int i = 0; i <= 40; ++i) {
-            for (int j = 0; j <= 40; j += 4)
+            for (int j = 0; j <= 40; j += 4) {
                 ASSERT_GT(surfaceAt(now, i / 20.0, j / 20.0).determinant(), 0.025) << t;
+            }
         }
         for (std::size_t i = 0; i < 9; ++i) {
             ASSERT_NEAR(now[i].x, last[i].x, 0.012) << t;
