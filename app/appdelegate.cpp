@@ -58,7 +58,7 @@ AppDelegate::AppDelegate(AppSurroundings surroundings)
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
+void AppDelegate::prepare() {
     registerAppDefaults(around_.store);
     SessionEvents* session = around_.platform.sessionEvents.get();
     connect(session, &SessionEvents::didWake, this, &AppDelegate::trigger);
@@ -69,6 +69,10 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
     if (tray->isPresent()) {
         installStatusItem();
     }
+}
+
+void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
+    prepare();
     if (arguments.contains("--settings")) {
         openSettings();
     } else {

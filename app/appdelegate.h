@@ -59,6 +59,9 @@ public:
     explicit AppDelegate(AppSurroundings surroundings);
     ~AppDelegate() override;
 
+    // Everything of a launch but its first window, for one that was asked for
+    // something else.
+    void prepare();
     // With "--settings" among the arguments the settings window opens,
     // otherwise the quotation is shown.
     void applicationDidFinishLaunching(const QStringList& arguments);

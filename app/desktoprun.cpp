@@ -25,7 +25,7 @@ namespace morrowleaf {
 namespace {
 
 constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
-constexpr int requestPatience = 400; // milliseconds
+constexpr int requestPatience = 1500; // milliseconds
 
 LaunchRequest requestOf(const QStringList& arguments) {
     return {.action = arguments.contains("--settings") ? "settings" : "show",
@@ -54,25 +54,22 @@ void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& 
     const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
     qunsetenv(startedByBus);
     auto launched = std::make_shared<bool>(false);
-    const auto begin = [&delegate, launched](const QStringList& with) {
+    QObject::connect(&instance, &SingleInstance::requested, &delegate,
+                     [&delegate, launched](const LaunchRequest& request) {
+                         if (!std::exchange(*launched, true)) {
+                             delegate.prepare();
+                         }
+                         serve(delegate, request);
+                     });
+    const auto begin = [&delegate, launched, arguments] {
         if (!std::exchange(*launched, true)) {
-            delegate.applicationDidFinishLaunching(with);
+            delegate.applicationDidFinishLaunching(arguments);
         }
     };
-    QObject::connect(&instance, &SingleInstance::requested, &delegate,
-                     [&delegate, launched, begin](const LaunchRequest& request) {
-                         if (*launched) {
-                             serve(delegate, request);
-                         } else if (request.action == "settings") {
-                             begin({"--settings"});
-                         } else {
-                             begin({});
-                         }
-                     });
     if (requestFollows) {
-        QTimer::singleShot(requestPatience, &delegate, [begin, arguments] { begin(arguments); });
+        QTimer::singleShot(requestPatience, &delegate, begin);
     } else {
-        begin(arguments);
+        begin();
     }
 }
 
