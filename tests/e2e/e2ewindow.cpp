@@ -1,9 +1,12 @@
 // A plain window for sessions under test: one colour, and a line on standard
 // output for everything that happens to it.
-//   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock]
+//   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock|grabbing]
+// A grabbing window holds keyboard and mouse from everybody, as games do.
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -63,5 +66,18 @@ int main(int argc, char** argv) {
         window.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
     }
     window.show();
+    if (kind == "grabbing") {
+        auto* handle = window.windowHandle();
+        QTimer grab;
+        QObject::connect(&grab, &QTimer::timeout, handle, [&grab, handle] {
+            if (handle->setKeyboardGrabEnabled(true) && handle->setMouseGrabEnabled(true)) {
+                grab.stop();
+                std::puts("grabbed");
+                std::fflush(stdout);
+            }
+        });
+        grab.start(50);
+        return QApplication::exec();
+    }
     return QApplication::exec();
 }

@@ -1,0 +1,69 @@
+#!/bin/bash
+# What closes a showing and what does not, and who holds keyboard and mouse.
+here=$(dirname "$0")
+. "$here/lib.sh"
+. "$here/x11.sh"
+
+start_x 640x480
+start_manager openbox
+start_session_bus
+settings '{"dismissSeconds": 60}'
+put_window typing '#ffff00' 50 50 200 200
+start app "$MORROWLEAF"
+app=$last
+must "a launch shows the quotation" opened_since 0
+show_again() {
+    local n
+    n=$(maps)
+    "$MORROWLEAF"
+    must "it shows again" opened_since "$n"
+}
+# Longer than a fade takes.
+stays() { sleep 0.8 && is_shown; }
+
+xdotool key Shift_L key Control_L key Alt_L key Super_L key Hyper_L key Meta_L \
+    key Caps_Lock key Caps_Lock key Num_Lock key Num_Lock key Scroll_Lock
+check "modifiers and locks leave it" stays
+xdotool key ISO_Level3_Shift key ISO_Level5_Shift key Mode_switch key ISO_Next_Group
+check "shifts of further levels leave it" stays
+xdotool key XF86AudioRaiseVolume key XF86AudioMute key XF86AudioPlay \
+    key XF86MonBrightnessUp key XF86KbdBrightnessDown key XF86WakeUp key XF86RFKill
+check "keys that work the machine leave it" stays
+xdotool mousemove 300 300 click 2 click 4 click 5 click 8 mousemove 20 20
+check "the middle button, the wheel and the mouse's way leave it" stays
+for key in dead_acute Multi_key F5 Print Tab space KP_Enter ctrl+q alt+F4; do
+    xdotool key "$key"
+    must "$key closes it" is_gone
+    show_again
+done
+check "none of them ended the program" kill -0 "$app"
+xdotool key Escape
+must "nor Escape" is_gone
+
+# A game in full screen that holds everything.
+put_window game '#00ff00' 0 0 640 480 grabbing
+game=$last
+until_true 30 grep -q grabbed "$work/window-game.log" || die "no grab"
+show_again
+xdotool key w
+must "a key goes to whom holds the keyboard" grep -q '^key w' "$work/window-game.log"
+check "and leaves the quotation" stays
+kill "$game"
+until_true 30 not kill -0 "$game"
+held_again() {
+    xdotool key w
+    sleep 0.8
+    is_gone
+}
+must "let go of, it closes it" held_again
+check "and no window below has had the key" not grep -q '^key w' "$work/window-typing.log"
+
+# Whoever types has the new window in front.
+xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc
+"$MORROWLEAF" --settings
+must "the settings come to the front" focus_is "Morrowleaf Settings"
+xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc
+must "the window is left again" focus_is typing
+"$MORROWLEAF" --settings
+must "and they come to the front again" focus_is "Morrowleaf Settings"
+finish
