@@ -4,6 +4,7 @@
 #include "screen/entrances.h"
 #include "screen/layout.h"
 #include "screen/viewsettings.h"
+#include "textanim/kepttext.h"
 #include "textanim/revealline.h"
 #include "textanim/shapedtext.h"
 
@@ -74,7 +75,9 @@ private:
         QPointF topLeft;
         double scale = 1;
         double opacity = 1;
+        mutable KeptText kept{};
         QRectF rect() const { return {topLeft, shape.size() * scale}; }
+        void paint(QPainter& painter, QColor color, double progress) const;
     };
     struct Line {
         QString identity;

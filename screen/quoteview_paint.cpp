@@ -34,6 +34,14 @@ QRectF scaledAboutCentre(const QRectF& rect, double scale) {
 
 } // namespace
 
+void QuoteView::Text::paint(QPainter& painter, QColor color, double progress) const {
+    painter.save();
+    painter.translate(topLeft);
+    painter.scale(scale, scale);
+    kept.paint(painter, shape, faded(color, opacity * progress));
+    painter.restore();
+}
+
 QRectF QuoteView::markRectAt(double seconds) const {
     return withOverhang(scaledAboutCentre(mark_.rect(), mark::scale(seconds)));
 }
@@ -51,11 +59,7 @@ void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) con
         if (progress <= 0 || !withOverhang(text.rect()).intersects(clip)) {
             return;
         }
-        painter.save();
-        painter.translate(text.topLeft);
-        painter.scale(text.scale, text.scale);
-        text.shape.paint(painter, {}, faded(state_.palette.ink, text.opacity * progress));
-        painter.restore();
+        text.paint(painter, state_.palette.ink, progress);
     };
     if (place_.overflows) {
         paintOverflowing(painter, seconds, clip);
@@ -74,10 +78,8 @@ void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& cli
         painter.save();
         painter.translate(centre);
         painter.scale(scale, scale);
-        painter.translate(mark_.topLeft - centre);
-        painter.scale(mark_.scale, mark_.scale);
-        mark_.shape.paint(painter, {},
-                          faded(state_.palette.ink, mark_.opacity * mark::opacity(seconds)));
+        painter.translate(-centre);
+        mark_.paint(painter, state_.palette.ink, mark::opacity(seconds));
         painter.restore();
     }
     for (const Line& line : lines_) {
@@ -100,11 +102,7 @@ void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& cli
     }
     const double author = closing_->author.progress(seconds);
     if (author > 0 && withOverhang(author_.rect()).intersects(clip)) {
-        painter.save();
-        painter.translate(author_.topLeft);
-        painter.scale(author_.scale, author_.scale);
-        author_.shape.paint(painter, {}, faded(state_.palette.ink, author_.opacity * author));
-        painter.restore();
+        author_.paint(painter, state_.palette.ink, author);
     }
 }
 

@@ -1,0 +1,34 @@
+#include "textanim/kepttext.h"
+
+#include "textanim/shapedtextdata.h"
+
+#include <QPainter>
+
+namespace morrowleaf {
+
+void KeptText::paint(QPainter& painter, const ShapedText& text, const QColor& color) {
+    const Look look{painter.deviceTransform(), color};
+    if (last_ != look) {
+        last_ = look;
+        picture_ = {};
+        text.paint(painter, {}, color);
+        return;
+    }
+    if (picture_.isNull()) {
+        const QRect rect =
+            look.device.mapRect(text.data().text.ink).toAlignedRect().adjusted(-1, -1, 1, 1);
+        corner_ = rect.topLeft();
+        picture_ = QImage(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        picture_.fill(Qt::transparent);
+        QPainter aside(&picture_);
+        aside.setTransform(look.device * QTransform::fromTranslate(-corner_.x(), -corner_.y()));
+        text.paint(aside, {}, color);
+    }
+    painter.save();
+    painter.resetTransform();
+    painter.setTransform(painter.deviceTransform().inverted());
+    painter.drawImage(corner_, picture_);
+    painter.restore();
+}
+
+} // namespace morrowleaf
