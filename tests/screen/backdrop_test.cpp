@@ -123,6 +123,33 @@ TEST(Backdrop, TheSamePictureComesFromAFreshAndFromAUsedPainter) {
     EXPECT_EQ(image, drawn(state));
 }
 
+TEST(Backdrop, WhatIsKeptNeverOutlivesWhatItCameFrom) {
+    BackdropPainter used;
+    QImage image(small, QImage::Format_ARGB32_Premultiplied);
+    const auto expectFresh = [&](const BackdropState& state, double at) {
+        used.paint(image, image.rect(), state, at);
+        EXPECT_EQ(image, drawn(state, at));
+    };
+    BackdropState state = captured(0.3, true);
+    expectFresh(state, now);
+    state.vignette = 0.2;
+    expectFresh(state, now);
+    state.grainOn = false;
+    expectFresh(state, now);
+    state.transparency = 0.4;
+    expectFresh(state, now);
+    state.behind.glassOpacity = 0.5;
+    expectFresh(state, now);
+    state.behind.picture.fill(Qt::red);
+    state.behind.glass = makeGlass(state.behind.picture, 1);
+    expectFresh(state, now);
+    state.palette = Palette::all()[5];
+    expectFresh(state, now);
+    state.screenAnim = ScreenAnim::Breathe;
+    expectFresh(state, now);
+    expectFresh(state, now + 1);
+}
+
 TEST(Backdrop, AClippedRepaintChangesNothing) {
     const BackdropState state = captured(0.7, true);
     QImage image = drawn(state);
