@@ -25,10 +25,16 @@ QImage viewOf(std::vector<QRgb>& memory, QSize size) {
             qsizetype{4} * size.width(), QImage::Format_ARGB32_Premultiplied};
 }
 
-QImage transparent(QSize size, std::vector<QRgb>& memory) {
-    memory.assign(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()),
-                  0);
+// Its pixels are not set yet.
+QImage unpainted(QSize size, std::vector<QRgb>& memory) {
+    memory.resize(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()));
     return viewOf(memory, size);
+}
+
+QImage transparent(QSize size, std::vector<QRgb>& memory) {
+    QImage picture = unpainted(size, memory);
+    std::ranges::fill(memory, 0);
+    return picture;
 }
 
 // What brings the resting baseline onto whole pixels.
@@ -129,7 +135,7 @@ std::array<std::vector<float>, 8> ditherRows(int left, int width) {
     return rows;
 }
 
-// A layer without colours of its own takes `color`.
+// Sets every pixel of `to`. A layer without colours of its own takes `color`.
 void writePixels(const BlurredLayer& layer, bool colored, const QColor& color, double opacity,
                  QImage& to, QPoint origin) {
     const QRect shown = layer.rect() & QRect(origin, to.size());
@@ -137,9 +143,13 @@ void writePixels(const BlurredLayer& layer, bool colored, const QColor& color, d
     const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
     const auto skipped = static_cast<std::size_t>(shown.left() - layer.rect().left());
     std::vector<float> values;
-    for (int y = shown.top(); y <= shown.bottom(); ++y) {
-        auto* pixels =
-            reinterpret_cast<QRgb*>(to.scanLine(y - origin.y())) + (shown.left() - origin.x());
+    for (int y = origin.y(); y < origin.y() + to.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
+        std::fill_n(line, to.width(), 0U);
+        if (y < shown.top() || y > shown.bottom()) {
+            continue;
+        }
+        QRgb* pixels = line + (shown.left() - origin.x());
         if (!colored) {
             layer.row(0, y, values);
         }
@@ -175,7 +185,7 @@ PlacedPicture blurredLetters(const LineShapes& line, const LineStage& stage, dou
         small, corner * cell, cell, sigma,
         colored ? std::vector{Channel::Blue, Channel::Green, Channel::Red, Channel::Alpha}
                 : std::vector{Channel::Alpha});
-    PlacedPicture result{transparent(rect.size(), canvas.letters), rect.topLeft()};
+    PlacedPicture result{unpainted(rect.size(), canvas.letters), rect.topLeft()};
     writePixels(layer, colored, color, stage.values.opacity * (colored ? 1 : color.alphaF()),
                 result.picture, result.origin);
     return result;
@@ -232,7 +242,7 @@ PlacedPicture lineFrame(const LineShapes& line, const LineStage& stage, double s
         return own;
     }
     const QRect rect = deviceRect(lineRect(line, stage, shadow), scale);
-    PlacedPicture result{transparent(rect.size(), canvas.frame), rect.topLeft()};
+    PlacedPicture result{unpainted(rect.size(), canvas.frame), rect.topLeft()};
     const double sigma = shadow.radius * scale;
     const int cell = BlurredLayer::cellSize(sigma);
     const QPoint offset = (shadow.offset * scale).toPoint();
