@@ -1,7 +1,8 @@
 // Prints a line each time a top-level window of a given name comes onto the
 // screen of an X server ("map") or leaves it ("unmap"). For a moment after each
 // "map" the middle of the screen is watched: "painted" when it begins to
-// change, "flash" when it is wholly white or black. "at" gives milliseconds.
+// change, "flash" when it is wholly white or black. "at" gives milliseconds, of
+// a map and an unmap on a line before.
 //   e2e_mapwatch NAME
 #include <xcb/xcb.h>
 
@@ -136,6 +137,7 @@ int main(int argc, char** argv) {
         } else if (type == XCB_UNMAP_NOTIFY) {
             const auto window = reinterpret_cast<const xcb_unmap_notify_event_t*>(event)->window;
             if (known.contains(window)) {
+                sayAt("unmap");
                 say("unmap");
                 frames.end();
             }

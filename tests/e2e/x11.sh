@@ -53,6 +53,9 @@ share() {
         -colorspace gray -format '%[fx:mean]' info:
 }
 shows_none_of() { [ "$(share "$1" "$2")" = 0 ]; }
+# now_shows_none_of NAME COLOUR: with a picture taken at that moment
+now_shows_none_of() { shot "$1" && shows_none_of "$1" "$2"; }
+now_shows_some_of() { shot "$1" && shows_some_of "$1" "$2"; }
 shows_some_of() { [ "$(share "$1" "$2")" != 0 ]; }
 
 focused_title() { xdotool getwindowname "$(xdotool getwindowfocus)"; }

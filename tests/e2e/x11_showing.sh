@@ -17,20 +17,19 @@ put_window above '#ff00ff' 700 200 300 200 above
 put_window typing '#ffff00' 100 100 400 300
 if [ "$1" = none ]; then xdotool windowfocus "$(xdotool search --name '^typing$')"; fi
 must "the window below has the focus" focus_is typing
-shot before
 for colour in '#ff0000' '#ff00ff' '#ffff00'; do
-    check "the desktop shows $colour" shows_some_of before "$colour"
+    must "the desktop shows $colour" now_shows_some_of before "$colour"
 done
 
 start app "$MORROWLEAF"
 app=$last
 must "a launch shows the quotation" opened_since 0
-opened=${EPOCHREALTIME/./}
 must "it closes by itself" is_gone
-waited=$(((${EPOCHREALTIME/./} - opened) / 100000))
+waited=$(awk '$1 == "at" && $3 == "map" {from = $2} $1 == "at" && $3 == "unmap" {till = $2}
+    END {printf "%d", (till - from) / 100}' "$work/mapwatch.log")
 echo "closed after $waited tenths of a second"
-check "after five seconds, not two" test "$waited" -ge 50
-check "after five seconds, not fifteen" test "$waited" -le 100
+check "after five seconds, not two" test "$waited" -ge 49
+check "after five seconds, not fifteen" test "$waited" -le 130
 
 settings '{"dismissSeconds": 60}'
 sleep 0.5
@@ -43,10 +42,8 @@ show_again() {
 }
 
 show_again
-sleep 1
-shot shown
 for colour in '#ff0000' '#ff00ff' '#ffff00' '#206040'; do
-    check "it covers $colour" shows_none_of shown "$colour"
+    must "it covers $colour" now_shows_none_of shown "$colour"
 done
 xdotool key shift mousemove 300 300 click 2 click 4
 sleep 0.2
@@ -76,9 +73,8 @@ must "a right click closes it" is_gone
 check "the key went nowhere else" not grep -q '^key q' "$work"/window-*.log
 check "nor the clicks" not grep -q '^click' "$work"/window-*.log
 must "the focus is back again" focus_is_back
-shot after
 for colour in '#ff0000' '#ff00ff' '#ffff00'; do
-    check "the desktop shows $colour again" shows_some_of after "$colour"
+    must "the desktop shows $colour again" now_shows_some_of after "$colour"
 done
 
 show_again
