@@ -76,6 +76,12 @@ def serve():
     del name, watcher
 
 
+def tone(pixels):
+    """The brightness of what is drawn, from 0 to 255: bytes are alpha, red, green, blue."""
+    drawn = [int(pixels[i + 1]) for i in range(0, len(pixels), 4) if int(pixels[i]) == 255]
+    return sum(drawn) // len(drawn) if drawn else -1
+
+
 def item():
     bus = dbus.SessionBus()
     watcher = bus.get_object(NAME, PATH)
@@ -101,7 +107,7 @@ def main():
     if what == "props":
         for key, value in properties.items():
             if "Pixmap" in key:
-                value = [(int(p[0]), int(p[1])) for p in value]
+                value = [(int(p[0]), int(p[1]), tone(p[2])) for p in value]
             print(key, "=", value)
         return None
     menu = dbus.Interface(bus.get_object(service, properties["Menu"]), "com.canonical.dbusmenu")

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The status item: with a host that is there, that comes late, that restarts,
-# and without any.
+# The status item: without a host, with one that comes late, that restarts, and
+# that is there from the start.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
