@@ -82,7 +82,7 @@ sleep 1
 check "a launch without a monitor shows nothing" mapped_times "$n"
 sleep 8.2 # it counts as a showing
 wake
-unlock
+unlock c1
 sleep 1
 check "nor does a wake" mapped_times "$n"
 on
