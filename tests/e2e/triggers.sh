@@ -1,6 +1,26 @@
 #!/bin/bash
 # Waking and unlocking, in every order they come in: one showing each.
+#   triggers.sh [orders|signals|services]
+# Without an argument all three, each in a session of its own at the same time:
+# most of it is waiting.
 here=$(dirname "$0")
+if [ $# = 0 ]; then
+    logs=$(mktemp -d)
+    groups=(orders signals services)
+    running=()
+    trap 'kill "${running[@]}" 2>/dev/null; wait; rm -rf "$logs"' EXIT
+    trap 'exit 1' INT TERM
+    for group in "${groups[@]}"; do
+        "$0" "$group" >"$logs/$group" 2>&1 &
+        running+=($!)
+    done
+    status=0
+    for i in "${!groups[@]}"; do
+        wait "${running[i]}" || status=1
+        sed "s/^/${groups[i]}: /" "$logs/${groups[i]}"
+    done
+    exit $status
+fi
 . "$here/lib.sh"
 . "$here/x11.sh"
 . "$here/logind.sh"
@@ -48,7 +68,7 @@ wake_while_locked() {
     set_hint true
     n=$(maps)
     wake
-    sleep "${LOCKED_SECONDS:-12}"
+    sleep "${LOCKED_SECONDS:-30}"
     check "nothing while locked" mapped_times "$n"
     unlock
     sleep 0.2
@@ -61,48 +81,66 @@ saver_ends() { saver_active true; saver_active false; }
 active_alone() { set_active true; }
 wake_twice() { wake; sleep 3; wake; }
 
-order "wake, then unlock" wake_then_unlock
-order "unlock, then wake" unlock_then_wake
-order "wake, active, hint and unlock" everything_at_once
-order "wake while locked" wake_while_locked
-order "the locked hint, false alone" hint_alone
-order "a lock seen by its hint only" hint_goes
-start_saver
-order "the end of a screen saver alone" saver_ends
-session_call c1 "$mock.UpdateProperties" "$login.Session" '{"Active": <false>}'
-order "becoming active alone" active_alone
-order "two wakes, three seconds apart" wake_twice
+orders() {
+    order "wake, then unlock" wake_then_unlock
+    order "unlock, then wake" unlock_then_wake
+    order "wake, active, hint and unlock" everything_at_once
+    order "wake while locked" wake_while_locked
+}
 
-close_it
-throttle_over
-n=$(maps)
-unlock c2
-sleep 0.7
-check "another user's unlock shows nothing" mapped_times "$n"
-settings '{"dismissSeconds": 60, "showOnWake": false}'
-sleep 0.5
-wake
-sleep 0.7
-check "nor a wake when the user wants none" mapped_times "$n"
-settings '{"dismissSeconds": 60}'
-sleep 0.5
+signals() {
+    order "the locked hint, false alone" hint_alone
+    order "a lock seen by its hint only" hint_goes
+    start_saver
+    order "the end of a screen saver alone" saver_ends
+    session_call c1 "$mock.UpdateProperties" "$login.Session" '{"Active": <false>}'
+    order "becoming active alone" active_alone
+    order "two wakes, three seconds apart" wake_twice
+}
 
-kill "$logind_pid"
-sleep 0.3
-start_logind
-wake
-must "a restarted login manager is heard" opened_since "$n"
-close_it
-throttle_over
-n=$(maps)
-kill "$system_bus_pid"
-sleep 0.5
-check "the program outlives the bus" kill -0 "$app"
-start_system_bus
-start_logind
-sleep 0.5
-wake
-must "and hears a bus that comes back" opened_since "$n"
+services() {
+    local n
+    close_it
+    throttle_over
+    n=$(maps)
+    unlock c2
+    sleep 0.7
+    check "another user's unlock shows nothing" mapped_times "$n"
+    settings '{"dismissSeconds": 60, "showOnWake": false}'
+    sleep 0.5
+    wake
+    sleep 0.7
+    check "nor a wake when the user wants none" mapped_times "$n"
+    settings '{"dismissSeconds": 60}'
+    sleep 0.5
+
+    kill "$logind_pid"
+    sleep 0.3
+    start_logind
+    # The program looks its session up again before it hears of it.
+    woken() { wake && until_true 2 opened_since "$1"; }
+    must "a restarted login manager is heard" woken "$n"
+    close_it
+    throttle_over
+    n=$(maps)
+    set_hint true
+    wake
+    sleep 0.7
+    check "nothing while locked" mapped_times "$n"
+    kill "$logind_pid"
+    must "a login manager that goes leaves nobody locked out" opened_since "$n"
+    close_it
+    throttle_over
+    n=$(maps)
+    kill "$system_bus_pid"
+    sleep 0.5
+    check "the program outlives the bus" kill -0 "$app"
+    start_system_bus
+    start_logind
+    must "and hears a bus that comes back" woken "$n"
+}
+
+"$1"
 kill -TERM "$app"
 wait "$app"
 check "it ends with status 0" test $? -eq 0
