@@ -14,7 +14,6 @@
 #include "textanim/fonts.h"
 
 #include <QApplication>
-#include <QStandardPaths>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -86,9 +85,7 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, const QStringList
     fonts.registerBundledFonts(fontFolder());
     SettingsStore store;
     SettingsFile file(store, defaultSettingsPath());
-    BGStore photos(store, backgroundFolder(),
-                   QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                       "/Morrowleaf/backgrounds");
+    BGStore photos(store, backgroundFolder(), ownPhotoFolder());
     QuoteFetcher fetcher;
     const ScreenSurroundings screen{.store = store,
                                     .fonts = fonts,
