@@ -53,7 +53,7 @@ QIcon symbolIn(const QColor& colour) {
 
 QIcon panelSymbol() {
     // Where the symbol is installed the panel tints it itself.
-    const QIcon themed = QIcon::fromTheme("org.morrowleaf.Morrowleaf-symbolic");
+    QIcon themed = QIcon::fromTheme("org.morrowleaf.Morrowleaf-symbolic");
     const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
     if (!themed.isNull() && (desktop.contains("KDE") || desktop.contains("GNOME"))) {
         return themed;
