@@ -14,21 +14,7 @@ int ditherAt(int x, int y) {
     return ditherMask()[static_cast<std::size_t>((y % ditherSize) * ditherSize + x % ditherSize)];
 }
 
-int grainAt(int size, int x, int y) {
-    const int column = (2 * x + 1) * grainSize / (2 * size);
-    const int row = (2 * y + 1) * grainSize / (2 * size);
-    return grain()[static_cast<std::size_t>(row * grainSize + column) * 4];
-}
-
 } // namespace
-
-int GrainTile::addend(int size, double grainWeight, int x, int y) {
-    const int inX = x % size;
-    const int inY = y % size;
-    return static_cast<int>(
-               std::lround(grainAt(size, inX, inY) * grainWeight * grainOpacity * 64)) +
-           ditherAt(inX, inY);
-}
 
 void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) {
     const int size = std::max(1, static_cast<int>(std::lround(grainSize * devicePixelRatio)));

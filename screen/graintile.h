@@ -23,9 +23,6 @@ public:
         return lanes_.data() + start_ + static_cast<std::size_t>(y % size_) * stride();
     }
 
-    // What build() puts into the colour lanes of a device pixel.
-    static int addend(int size, double grainWeight, int x, int y);
-
 private:
     std::size_t stride() const { return static_cast<std::size_t>(size_ + overhang) * 4; }
 

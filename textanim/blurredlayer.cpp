@@ -140,37 +140,6 @@ void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) cons
     }
 }
 
-QImage reduced(const QImage& premultiplied, int cell) {
-    const QSize size((premultiplied.width() + cell - 1) / cell,
-                     (premultiplied.height() + cell - 1) / cell);
-    QImage result(size, QImage::Format_ARGB32_Premultiplied);
-    const auto area = static_cast<unsigned>(cell * cell);
-    std::vector<unsigned> sums;
-    for (int y = 0; y < size.height(); ++y) {
-        sums.assign(static_cast<std::size_t>(size.width()) * 4, 0);
-        const int bottom = std::min((y + 1) * cell, premultiplied.height());
-        for (int from = y * cell; from < bottom; ++from) {
-            const auto* pixels = reinterpret_cast<const QRgb*>(premultiplied.constScanLine(from));
-            for (int x = 0; x < premultiplied.width(); ++x) {
-                if (pixels[x] != 0) {
-                    unsigned* sum = sums.data() + static_cast<std::ptrdiff_t>(x / cell) * 4;
-                    sum[0] += pixels[x] & 0xff;
-                    sum[1] += (pixels[x] >> 8) & 0xff;
-                    sum[2] += (pixels[x] >> 16) & 0xff;
-                    sum[3] += pixels[x] >> 24;
-                }
-            }
-        }
-        auto* to = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < size.width(); ++x) {
-            const unsigned* sum = sums.data() + static_cast<std::ptrdiff_t>(x) * 4;
-            const auto mean = [&](int i) { return (sum[i] + area / 2) / area; };
-            to[x] = mean(0) | mean(1) << 8 | mean(2) << 16 | mean(3) << 24;
-        }
-    }
-    return result;
-}
-
 Plane reducedAlpha(const QImage& premultiplied, int cell) {
     const int width = premultiplied.width();
     Plane plane((width + cell - 1) / cell, (premultiplied.height() + cell - 1) / cell);

@@ -42,10 +42,8 @@ private:
     std::vector<Plane> planes_;
 };
 
-// A picture reduced by a whole number of pixels to a cell, each the mean.
-QImage reduced(const QImage& premultiplied, int cell);
-
-// The alpha of such a picture in the same way.
+// The alpha (0...255) of a picture reduced by `cell` pixels to a cell each way,
+// each cell the mean of its pixels; what lies beyond the picture is 0.
 Plane reducedAlpha(const QImage& premultiplied, int cell);
 
 // Threshold for turning 0...255 into a byte at a device pixel, so that slow

@@ -87,7 +87,7 @@ TEST(BlurredLayer, LooksLikeTheGaussianAtEveryStrength) {
     const QImage letters = someLetters();
     for (const double sigma : {0.7, 1.5, 2.4, 3.0, 4.9, 6.0, 9.0, 14.0, 18.0, 26.0, 52.0}) {
         const int cell = BlurredLayer::cellSize(sigma);
-        const BlurredLayer layer(reduced(letters, cell), {7, -3}, cell, sigma, {Channel::Alpha});
+        const BlurredLayer layer(reducedAlpha(letters, cell), {7, -3}, cell, sigma);
         const int halo = BlurredLayer::halo(sigma);
         const QRect rect = QRect({7, -3}, letters.size()).adjusted(-halo, -halo, halo, halo);
         EXPECT_TRUE(layer.rect().contains(rect));
