@@ -25,9 +25,10 @@ void copyRows(QImage& target, const QRect& clip, const QImage& from) {
 }
 
 void clear(QImage& target, const QRect& clip) {
-    for (int y = clip.top(); y <= clip.bottom(); ++y)
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
         std::memset(target.scanLine(y) + clip.left() * 4, 0,
                     static_cast<std::size_t>(clip.width()) * 4);
+    }
 }
 
 } // namespace
@@ -60,8 +61,9 @@ struct BackdropPainter::Private {
             return a.x == b.x && a.y == b.y;
         };
         if (meshBuilt && colors == meshColors &&
-            std::equal(points.begin(), points.end(), meshPoints.begin(), same))
+            std::equal(points.begin(), points.end(), meshPoints.begin(), same)) {
             return;
+        }
         meshPoints = points;
         meshColors = colors;
         meshBuilt = true;
@@ -71,8 +73,9 @@ struct BackdropPainter::Private {
 
     // Several parts of one frame share their nodes.
     void shade(const Shaded& wanted) {
-        if (shaded == wanted)
+        if (shaded == wanted) {
             return;
+        }
         nodes.resize(wanted.size, wanted.ratio);
         shadeNodes(nodes, wanted.size, wanted.ratio, mesh, wanted.scale, wanted.shading);
         shaded = wanted;
@@ -95,11 +98,13 @@ bool BackdropPainter::moves(const BackdropState& state) {
 void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropState& state,
                             double since2001) {
     const QRect area = clip & target.rect();
-    if (area.isEmpty())
+    if (area.isEmpty()) {
         return;
+    }
     if (target.format() != QImage::Format_ARGB32_Premultiplied &&
-        target.format() != QImage::Format_RGB32)
+        target.format() != QImage::Format_RGB32) {
         qFatal("The backdrop can only be drawn into premultiplied 32-bit images.");
+    }
     const double ratio = target.devicePixelRatio();
     const QSize size = target.size();
 
@@ -111,10 +116,11 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const Layers layers = layersOf(state, hasDesktop, glass != nullptr);
     const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.behind.picture : QImage(), size);
     if (layers.ground <= 0 && layers.tint <= 0) {
-        if (hasDesktop)
+        if (hasDesktop) {
             copyRows(target, area, desktop);
-        else
+        } else {
             clear(target, area);
+        }
         return;
     }
 
@@ -132,14 +138,16 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         input.pictureCount = 1;
     }
     const auto shines = [&input](const QImage& image, double weight) {
-        if (weight > 0)
+        if (weight > 0) {
             input.pictures[static_cast<std::size_t>(input.pictureCount++)] = {&image, weight};
+        }
     };
     const bool clearGlass = state.liquidGlass && state.transparency > clearFrom;
     if (hasDesktop) {
         shines(desktop, layers.sharp);
-        if (glass && clearGlass)
+        if (glass && clearGlass) {
             shines(glass->clear, layers.glass);
+        }
     }
 
     const double speedOf = speed(state.screenAnim);
@@ -164,8 +172,9 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     input.nodes = &d_->nodes;
     input.tile = &d_->tile;
     runKernel(target, area, input);
-    if (layers.rim > 0)
+    if (layers.rim > 0) {
         addRim(target, area, clearGlass ? GlassStyle::Clear : GlassStyle::Regular, layers.rim);
+    }
 }
 
 } // namespace morrowleaf

@@ -16,9 +16,10 @@ constexpr int blockSize = 8; // pixels
 // A cell's weights at its pixels' centres, four lanes to a pixel.
 std::vector<qint16> cellWeights(int cell) {
     std::vector<qint16> weights(static_cast<std::size_t>(cell) * 4);
-    for (std::size_t i = 0; i < weights.size(); ++i)
+    for (std::size_t i = 0; i < weights.size(); ++i) {
         weights[i] =
             static_cast<qint16>(cell == 1 ? 0 : (2 * static_cast<int>(i / 4) + 1) * 16384 / cell);
+    }
     return weights;
 }
 
@@ -76,9 +77,10 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
     row.tileSize = input.tile->size();
     row.pictureCount = input.pictureCount;
     row.multiply = input.multiply;
-    for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p)
+    for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p) {
         row.weights[p] = static_cast<quint16>(
             std::lround(std::clamp(input.pictures[p].weight, 0.0, 1.0) * 16384));
+    }
 
     const int left = clip.left();
     const int right = clip.left() + clip.width();
@@ -95,19 +97,22 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
             weights[static_cast<std::size_t>(y % nodes.cell) * 4], mixed.data() + firstNode * 4,
             (lastNode - firstNode + 1) * 4);
         row.tile = input.tile->row(y);
-        for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p)
+        for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p) {
             row.pictures[p] =
                 reinterpret_cast<const quint32*>(input.pictures[p].image->constScanLine(y));
+        }
         row.out = pixels + stride * y;
         if (firstWhole > lastWhole) { // within one block
             drawPartly(draw, row, left / blockSize, left, right, target.width());
             continue;
         }
-        if (left % blockSize != 0)
+        if (left % blockSize != 0) {
             drawPartly(draw, row, left / blockSize, left, firstWhole * blockSize, target.width());
+        }
         draw(row, firstWhole, lastWhole);
-        if (right % blockSize != 0)
+        if (right % blockSize != 0) {
             drawPartly(draw, row, lastWhole, lastWhole * blockSize, right, target.width());
+        }
     }
 }
 

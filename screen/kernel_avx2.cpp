@@ -61,8 +61,9 @@ MORROWLEAF_AVX2 void blocks(const KernelRow& row, int first, int last) {
             const __m256i packed = _mm256_permute4x64_epi64(_mm256_packus_epi16(left, right), 0xD8);
             _mm256_storeu_si256(reinterpret_cast<__m256i*>(row.out + index * 8), packed);
             offset += 8;
-            while (offset >= row.tileSize)
+            while (offset >= row.tileSize) {
                 offset -= row.tileSize;
+            }
         }
         within = 0;
         ++cell;
@@ -94,8 +95,9 @@ MORROWLEAF_AVX2 void plainBlocks(const KernelRow& row, int first, int last) {
         _mm_storeu_si128(out + 1, _mm256_extracti128_si256(packed, 1));
         out += 2;
         tile += 32;
-        if (tile >= tileEnd)
+        if (tile >= tileEnd) {
             tile -= row.tileSize * 4;
+        }
         near = next;
     }
 }
@@ -103,12 +105,13 @@ MORROWLEAF_AVX2 void plainBlocks(const KernelRow& row, int first, int last) {
 } // namespace
 
 MORROWLEAF_AVX2 void kernelRowAvx2(const KernelRow& row, int first, int last) {
-    if (row.pictureCount > 0)
+    if (row.pictureCount > 0) {
         blocks<true>(row, first, last);
-    else if (row.blocksPerCell == 1 && row.tileSize >= 8)
+    } else if (row.blocksPerCell == 1 && row.tileSize >= 8) {
         plainBlocks(row, first, last);
-    else
+    } else {
         blocks<false>(row, first, last);
+    }
 }
 
 MORROWLEAF_AVX2 void mixRowsAvx2(const qint16* above, const qint16* below, qint16 weight,

@@ -25,8 +25,9 @@ BackdropState plainState(int palette = 1) {
 QImage busy(const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
+        for (int x = 0; x < size.width(); ++x) {
             picture.setPixel(x, y, (x / 12 + y / 12) % 2 ? qRgb(250, 240, 20) : qRgb(10, 60, 220));
+        }
     }
     return picture;
 }
@@ -36,8 +37,9 @@ BackdropState captured(double transparency, bool withGlass) {
     state.transparency = transparency;
     state.behind.kind = Behind::Kind::Captured;
     state.behind.picture = busy(small);
-    if (withGlass)
+    if (withGlass) {
         state.behind.glass = makeGlass(state.behind.picture, 1);
+    }
     return state;
 }
 
@@ -117,8 +119,9 @@ TEST(Backdrop, TheSamePictureComesFromAFreshAndFromAUsedPainter) {
     QImage image(small, QImage::Format_ARGB32_Premultiplied);
     BackdropState state = plainState();
     state.screenAnim = ScreenAnim::Aurora;
-    for (int frame = 0; frame < 8; ++frame)
+    for (int frame = 0; frame < 8; ++frame) {
         used.paint(image, image.rect(), state, now - 1 + frame / 8.0);
+    }
     used.paint(image, image.rect(), state, now);
     EXPECT_EQ(image, drawn(state));
 }
@@ -156,8 +159,9 @@ TEST(Backdrop, AClippedRepaintChangesNothing) {
     const QImage before = image.copy();
     BackdropPainter painter;
     for (const QRect clip :
-         {QRect(3, 5, 77, 31), QRect(400, 200, 500, 500), QRect(-5, -5, 9, 9), QRect(0, 0, 0, 0)})
+         {QRect(3, 5, 77, 31), QRect(400, 200, 500, 500), QRect(-5, -5, 9, 9), QRect(0, 0, 0, 0)}) {
         painter.paint(image, clip, state, now);
+    }
     EXPECT_EQ(image, before);
 }
 
@@ -251,8 +255,9 @@ TEST(Backdrop, FullTransparencyShowsTheDesktopItself) {
 double roughness(const QImage& image) {
     double sum = 0;
     for (int y = 100; y < 200; ++y) {
-        for (int x = 100; x < 380; ++x)
+        for (int x = 100; x < 380; ++x) {
             sum += std::abs(qRed(raw(image, x, y)) - qRed(raw(image, x + 12, y)));
+        }
     }
     return sum / 28000;
 }
