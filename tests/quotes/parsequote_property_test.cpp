@@ -18,12 +18,19 @@ using namespace morrowleaf;
 
 namespace {
 
+struct Member;
+
 struct Value {
     enum Type { Object, Array, Text, Other } type = Other;
-    std::vector<std::pair<std::string, Value>> members; // as written, maybe with equal keys
+    std::vector<Member> members; // as written, maybe with equal keys
     std::vector<Value> elements;
     QString text;
     std::string literal; // of Other
+};
+
+struct Member {
+    std::string name;
+    Value value;
 };
 
 const Value* find(const Value& object, const std::string& key) {
@@ -168,7 +175,7 @@ Value randomObject(Engine& engine, int depth) {
         const bool wraps = depth < 4 && oneIn(engine, 3);
         const std::string key = anyOf(engine, wraps ? wrappers : leaves);
         Value value = randomValue(engine, depth + 1);
-        object.members.emplace_back(key, std::move(value));
+        object.members.push_back({key, std::move(value)});
     }
     return object;
 }
