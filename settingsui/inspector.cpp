@@ -141,8 +141,8 @@ QWidget* Inspector::makeGroups() {
     column->setSpacing(PanelStyle::groupSpacing);
 
     const auto knob = [&](const char* name, QLatin1StringView key, Knob::Range range,
-                          Knob::Readout readout) {
-        return new Knob(QLatin1String(name), store, key, range, std::move(readout), face, this);
+                          const Knob::Readout& readout) {
+        return new Knob(QLatin1String(name), store, key, range, readout, face, this);
     };
     const auto smallSwitch = [&](const char* name, QLatin1StringView key) {
         auto* control = new Switch(QLatin1String(name), Switch::Size::Small, this);

@@ -14,7 +14,7 @@ constexpr int readoutWidth = 46; // points
 } // namespace
 
 Knob::Knob(const QString& name, SettingsStore& store, const QString& key, Range range,
-           Readout readout, const QFont& face, QWidget* parent)
+           const Readout& readout, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , slider_(new PanelSlider(range.lowest, range.highest, this))
     , readout_(panelLabel({}, panelFont(face, 11), 0.6, this)) {

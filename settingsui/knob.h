@@ -24,7 +24,7 @@ public:
     using Readout = std::function<QString(double)>;
 
     Knob(const QString& name, SettingsStore& store, const QString& key, Range range,
-         Readout readout, const QFont& face, QWidget* parent = nullptr);
+         const Readout& readout, const QFont& face, QWidget* parent = nullptr);
 
     PanelSlider* slider() const { return slider_; }
     QLabel* readout() const { return readout_; }
