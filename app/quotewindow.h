@@ -22,11 +22,14 @@ public:
     // Takes the content over.
     void setContent(QWidget* content);
     // What to fade over where the window cannot be seen through.
-    void setDesktop(const QImage& desktop);
+    void setDesktop(const QImage& desktop); // device pixels of the whole window
 
+    // 0...1, see Veil.
     void setAlpha(double alpha);
     double alpha() const;
-    // Moves the alpha from where it stands to `alpha` along `curve`.
+    // Moves the alpha from where it stands to `alpha` along `curve`, which maps
+    // the elapsed fraction 0...1 to the share of the way; then calls `done`.
+    // Another fade, or orderOut(), ends it without a call.
     void fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
               std::function<void()> done);
 

@@ -14,14 +14,14 @@ enum class FontDesign { Default, Serif, Rounded, Monospaced };
 // every other name is serif.
 FontDesign fontDesignNamed(const QString& name);
 
-// Typed getters over the store. Each reads afresh, none checks a range: the
-// reader of a value tolerates what it gets.
+// Typed getters over the store; 0 and false when absent. Each reads afresh, none
+// checks a range (the usual one is named): a value's reader tolerates what it gets.
 namespace Prefs {
-qint64 paletteIndex(const SettingsStore& store);
-double textScale(const SettingsStore& store);
+qint64 paletteIndex(const SettingsStore& store); // of Palette::all(); -1: of the day
+double textScale(const SettingsStore& store);    // 0.7...1.6
 bool grain(const SettingsStore& store);
-double vignette(const SettingsStore& store);
-double dismissSeconds(const SettingsStore& store);
+double vignette(const SettingsStore& store);       // strength, 0...0.85
+double dismissSeconds(const SettingsStore& store); // 5...60
 bool showOnWake(const SettingsStore& store);
 QString source(const SettingsStore& store);        // "" when absent
 QString frequency(const SettingsStore& store);     // "24h" when absent
