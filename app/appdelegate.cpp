@@ -64,6 +64,11 @@ void AppDelegate::prepare() {
     connect(session, &SessionEvents::didWake, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::sessionDidBecomeActive, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::screenIsUnlocked, this, &AppDelegate::trigger);
+    connect(session, &SessionEvents::willLeave, this, [this] {
+        if (window_) {
+            window_->overlay().letGo();
+        }
+    });
     TrayHost* tray = around_.platform.trayHost.get();
     connect(tray, &TrayHost::appeared, this, &AppDelegate::installStatusItem);
     if (tray->isPresent()) {

@@ -63,6 +63,9 @@ public:
     // Below ScreenSaver the window makes way for a dialog of the program and
     // lets go of the input; back at ScreenSaver it takes both again.
     virtual void setLevel(WindowLevel level) = 0;
+    // The window stays where it is and lets go of all input that it holds from
+    // others, until the next orderFront().
+    virtual void letGo() = 0;
     // The instant of the last orderFront() in the clock of input events'
     // time stamps (milliseconds, wraps at 32 bits); nothing known: 0.
     virtual quint32 orderedFrontAt() const = 0;

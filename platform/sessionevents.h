@@ -4,9 +4,9 @@
 
 namespace morrowleaf {
 
-// The moments at which the user comes back to the machine. Nothing is
-// announced while the session is locked or no screen exists: what happened
-// meanwhile is announced once that ends.
+// The moments at which the user comes back to the machine, or leaves it. No
+// coming back is announced while the session is locked or no screen exists:
+// what happened meanwhile is announced once that ends.
 class SessionEvents : public QObject {
     Q_OBJECT
 
@@ -17,6 +17,9 @@ signals:
     void didWake();                // the machine woke from sleep
     void sessionDidBecomeActive(); // the user's session is in front again
     void screenIsUnlocked();
+    // It is about to be locked, put to sleep or switched away: whoever holds
+    // the input from everybody else shall let go, for the lock's sake.
+    void willLeave();
 };
 
 } // namespace morrowleaf

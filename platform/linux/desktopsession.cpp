@@ -35,6 +35,7 @@ public:
         : gate_([this](SessionGate::Event event) { announce(event); })
         , logind_(gate_)
         , screenSavers_(gate_) {
+        gate_.onLeave = [this] { emit willLeave(); };
         settle_.setSingleShot(true);
         settle_.setInterval(settleTime);
         connect(&settle_, &QTimer::timeout, this, &DesktopSession::lookForScreens);

@@ -86,6 +86,9 @@ public:
         wl_display_flush(wayland::display());
     }
 
+    // A lock screen stands above all layers and has the keyboard.
+    void letGo() override {}
+
     // The compositor sends a window nothing that happened before it was there.
     quint32 orderedFrontAt() const override { return 0; }
 

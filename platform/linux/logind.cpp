@@ -80,6 +80,7 @@ void Logind::subscribe() {
     bus.connect(service, managerPath, managerInterface, "PrepareForSleep", this,
                 SLOT(prepareForSleep(bool)));
     // Without a path: which session is ours may be known only later.
+    bus.connect(service, {}, sessionInterface, "Lock", this, SLOT(lockAsked(QDBusMessage)));
     bus.connect(service, {}, sessionInterface, "Unlock", this, SLOT(unlockAsked(QDBusMessage)));
     bus.connect(service, {}, propertiesInterface, "PropertiesChanged", this,
                 SLOT(propertiesChanged(QString, QVariantMap, QStringList, QDBusMessage)));
@@ -149,8 +150,16 @@ void Logind::readState() {
 }
 
 void Logind::prepareForSleep(bool begins) {
-    if (!begins) {
+    if (begins) {
+        gate_.leaving();
+    } else {
         gate_.happened(SessionGate::Event::Wake);
+    }
+}
+
+void Logind::lockAsked(const QDBusMessage& message) {
+    if (message.path() == session_) {
+        gate_.leaving();
     }
 }
 

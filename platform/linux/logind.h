@@ -20,6 +20,7 @@ public:
 
 private slots:
     void prepareForSleep(bool begins);
+    void lockAsked(const QDBusMessage& message);
     void unlockAsked(const QDBusMessage& message);
     void propertiesChanged(const QString& interface, const QVariantMap& changed,
                            const QStringList& invalidated, const QDBusMessage& message);

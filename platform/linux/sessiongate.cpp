@@ -17,7 +17,10 @@ void SessionGate::happened(Event event) {
 
 void SessionGate::setBarred(const QString& by, bool barred) {
     if (barred) {
-        bars_.insert(by);
+        if (!bars_.contains(by)) {
+            bars_.insert(by);
+            leaving();
+        }
         return;
     }
     bars_.remove(by);
@@ -25,6 +28,12 @@ void SessionGate::setBarred(const QString& by, bool barred) {
         for (const Event event : std::exchange(kept_, {})) {
             announce_(event);
         }
+    }
+}
+
+void SessionGate::leaving() const {
+    if (onLeave) {
+        onLeave();
     }
 }
 

@@ -20,6 +20,11 @@ public:
     // `by` names who bars the way; each lifts its own bar only.
     void setBarred(const QString& by, bool barred);
     bool isOpen() const { return bars_.isEmpty(); }
+    // The user is about to leave, whether or not a bar will follow.
+    void leaving() const;
+
+    // Called when the user is leaving and when a bar is put up; may be empty.
+    std::function<void()> onLeave;
 
 private:
     std::function<void(Event)> announce_;

@@ -45,6 +45,7 @@ public:
             window_.showNormal();
         }
     }
+    void letGo() override {} // it holds nothing
     quint32 orderedFrontAt() const override { return 0; }
 
 private:

@@ -73,6 +73,7 @@ public:
     }
 
     void orderFront() override {
+        letGo_ = false;
         orderedFrontAt_ = x11::serverTime();
         if (managed_ && setup_.level == WindowLevel::ScreenSaver) {
             window_.showFullScreen();
@@ -84,9 +85,10 @@ public:
 
     void orderOut() override {
         watch_.stop();
-        hold_->release(*window_.windowHandle());
-        window_.hide();
+        // First: once the window is gone the focus falls to the root, and what
+        // the manager makes of that comes after all that is set here.
         hold_->giveBack(*window_.windowHandle());
+        window_.hide();
     }
 
     void setLevel(WindowLevel level) override {
@@ -101,6 +103,12 @@ public:
         } else {
             comeForward();
         }
+    }
+
+    void letGo() override {
+        letGo_ = true;
+        watch_.stop();
+        hold_->release(*window_.windowHandle());
     }
 
     quint32 orderedFrontAt() const override { return orderedFrontAt_; }
@@ -160,7 +168,7 @@ private:
             watch_.setInterval(focusPatience);
             QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { insist(); });
             QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &watch_, [this] {
-                if (window_.isVisible() && !lowered_) {
+                if (window_.isVisible() && !lowered_ && !letGo_) {
                     watch_.start();
                 }
             });
@@ -168,6 +176,9 @@ private:
     }
 
     void comeForward() {
+        if (letGo_) {
+            return;
+        }
         window_.raise();
         hold_->take(*window_.windowHandle(),
                     managed_ ? X11Hold::What::Focus : initialHold(setup_.hold));
@@ -178,7 +189,8 @@ private:
 
     // The focus did not stay with any window of the program.
     void insist() {
-        if (window_.isVisible() && !lowered_ && QGuiApplication::focusWindow() == nullptr) {
+        if (window_.isVisible() && !lowered_ && !letGo_ &&
+            QGuiApplication::focusWindow() == nullptr) {
             hold_->take(*window_.windowHandle(), X11Hold::What::FocusAndKeyboard);
         }
     }
@@ -215,7 +227,7 @@ private:
         const bool ownPopup = std::any_of(windows.begin(), windows.end(), [](const QWindow* w) {
             return w->isVisible() && (w->type() == Qt::Popup || w->type() == Qt::ToolTip);
         });
-        if (!lowered_ && !ownPopup && window_.isVisible() &&
+        if (!lowered_ && !letGo_ && !ownPopup && window_.isVisible() &&
             hold_->isHolder(*window_.windowHandle()) && raises_ < mostRaises) {
             ++raises_;
             stack(XCB_STACK_MODE_ABOVE, XCB_WINDOW_NONE);
@@ -227,6 +239,7 @@ private:
     bool managed_;
     bool composited_;
     bool lowered_ = false;
+    bool letGo_ = false;
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;
     xcb_atom_t activeWindowAtom_ = XCB_ATOM_NONE;

@@ -29,6 +29,7 @@ public:
     }
     void orderOut() override { window_.hide(); }
     void setLevel(WindowLevel /*level*/) override {}
+    void letGo() override {}
     quint32 orderedFrontAt() const override { return 0; }
 
 private:

@@ -271,6 +271,17 @@ TEST_F(AppDelegateTest, TheEditorLowersTheWindowForDialogs) {
     EXPECT_EQ(top().levels, (std::vector{WindowLevel::Normal, WindowLevel::ScreenSaver}));
 }
 
+TEST_F(AppDelegateTest, WhoeverLeavesIsNotHeld) {
+    launch();
+    emit desktop.platform.sessionEvents->willLeave();
+    EXPECT_EQ(top().letGos, 1);
+    EXPECT_TRUE(isShown());
+    press(Qt::Key_A);
+    EXPECT_FALSE(isShown());
+    emit desktop.platform.sessionEvents->willLeave();
+    EXPECT_EQ(top().letGos, 1);
+}
+
 TEST_F(AppDelegateTest, PreviewHasNeitherMonitorNorTimer) {
     launchAndClose();
     const auto delays = timing.delays.size();

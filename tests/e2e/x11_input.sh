@@ -3,10 +3,13 @@
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
+. "$here/logind.sh"
 
 start_x 640x480
 start_manager openbox
 start_session_bus
+start_system_bus
+start_logind
 settings '{"dismissSeconds": 60}'
 put_window typing '#ffff00' 50 50 200 200
 start app "$MORROWLEAF"
@@ -57,6 +60,33 @@ held_again() {
 }
 must "let go of, it closes it" held_again
 check "and no window below has had the key" not grep -q '^key w' "$work/window-typing.log"
+
+# A screen locker must get what the quotation holds.
+sleeps() {
+    call_login -o /org/freedesktop/login1 -m "$mock.EmitSignal" "$login.Manager" PrepareForSleep b \
+        '[<true>]' >/dev/null
+}
+lock() { session_call c1 "$mock.EmitSignal" "$login.Session" Lock '' '[]'; }
+for leaving in lock sleeps "set_hint true"; do
+    show_again
+    sleep 0.5
+    name=locker-${leaving%% *}
+    put_window "$name" '#00ff00' 0 0 640 480 grabbing
+    locker=$last
+    sleep 0.5
+    check "while it is shown nobody else holds the keyboard" \
+        not grep -q grabbed "$work/window-$name.log"
+    $leaving
+    must "at '$leaving' a locker can" grep -q grabbed "$work/window-$name.log"
+    check "with the quotation still there" is_shown
+    xdotool key w
+    must "it gets the keys" grep -q '^key w' "$work/window-$name.log"
+    kill "$locker"
+    until_true 30 not kill -0 "$locker"
+    xdotool mousemove 300 300 click 1
+    must "a click closes it" is_gone
+done
+set_hint false
 
 # Whoever types has the new window in front.
 xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc

@@ -52,5 +52,18 @@ TEST_F(SessionGateTest, NothingHappenedNothingIsAnnounced) {
     EXPECT_TRUE(announced.empty());
 }
 
+TEST_F(SessionGateTest, TellsThatTheUserLeavesOncePerBar) {
+    int told = 0;
+    gate.onLeave = [&told] { ++told; };
+    gate.setBarred("locked", true);
+    gate.setBarred("locked", true);
+    EXPECT_EQ(told, 1);
+    gate.setBarred("locked", false);
+    EXPECT_EQ(told, 1);
+    gate.leaving();
+    gate.setBarred("locked", true);
+    EXPECT_EQ(told, 3);
+}
+
 } // namespace
 } // namespace morrowleaf
