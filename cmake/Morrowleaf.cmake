@@ -56,17 +56,15 @@ add_custom_target(fuzzers)
 # processes and is given time.
 function(morrowleaf_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "LABEL" "SOURCES;LIBRARIES")
+  set(main morrowleaf_coremain)
   if(arg_GUI)
-    set(main ${PROJECT_SOURCE_DIR}/tests/fakes/guimain.cpp)
-  else()
-    set(main ${PROJECT_SOURCE_DIR}/tests/fakes/coremain.cpp)
+    set(main morrowleaf_guimain)
   endif()
   if(NOT arg_LABEL)
     set(arg_LABEL unit)
   endif()
-  add_executable(${name} ${arg_SOURCES} ${main})
-  target_link_libraries(${name} PRIVATE morrowleaf_options ${arg_LIBRARIES} GTest::gmock GTest::gtest
-    Qt6::Core $<$<BOOL:${arg_GUI}>:Qt6::Widgets>)
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${main} ${arg_LIBRARIES} GTest::gmock)
   target_compile_definitions(${name} PRIVATE
     MORROWLEAF_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     MORROWLEAF_RESOURCE_DIR="${PROJECT_SOURCE_DIR}/resources")
