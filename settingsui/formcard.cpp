@@ -1,5 +1,6 @@
 #include "settingsui/formcard.h"
 
+#include "settingsui/panelaccessible.h"
 #include "settingsui/switch.h"
 
 #include <QEvent>
@@ -59,6 +60,8 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     : QWidget(parent)
     , column_(new QVBoxLayout(this))
     , frame_(new QWidget(this)) {
+    installPanelAccessibility();
+    setAccessibleName(title);
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(6);
     auto* heading = new QLabel(title, this);

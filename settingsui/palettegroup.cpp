@@ -15,6 +15,7 @@ namespace morrowleaf {
 PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store) {
+    setAccessibleName(QStringLiteral("Palette"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);

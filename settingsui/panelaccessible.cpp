@@ -1,7 +1,11 @@
 #include "settingsui/panelaccessible.h"
 
+#include "settingsui/formcard.h"
+#include "settingsui/inspector.h"
 #include "settingsui/menupicker.h"
+#include "settingsui/palettegroup.h"
 #include "settingsui/panelslider.h"
+#include "settingsui/photogroup.h"
 #include "settingsui/swatch.h"
 
 #include <QAccessible>
@@ -86,7 +90,19 @@ private:
     PanelSlider* slider() const { return static_cast<PanelSlider*>(widget()); }
 };
 
+// What holds controls that belong together, and has a name.
+QWidget* asGroup(QObject* object) {
+    const bool groups = qobject_cast<FormCard*>(object) != nullptr ||
+                        qobject_cast<Inspector*>(object) != nullptr ||
+                        qobject_cast<PaletteGroup*>(object) != nullptr ||
+                        qobject_cast<PhotoGroup*>(object) != nullptr;
+    return groups ? static_cast<QWidget*>(object) : nullptr;
+}
+
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
+    if (QWidget* group = asGroup(object)) {
+        return new QAccessibleWidget(group, QAccessible::Grouping);
+    }
     if (auto* tile = qobject_cast<AddTile*>(object)) {
         return new ButtonAccessible(tile, QAccessible::Button);
     }

@@ -2,8 +2,8 @@
 
 namespace morrowleaf {
 
-// Tells assistive programs what the editor's own controls are; once per
-// process, repeated calls do nothing.
+// Tells assistive programs what our own controls and groups of them are;
+// once per process, repeated calls do nothing.
 void installPanelAccessibility();
 
 } // namespace morrowleaf

@@ -37,6 +37,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
     , face_(face)
     , thumbnails_(new Thumbnails(photos, this))
     , builtins_(photos.builtins()) {
+    setAccessibleName(QStringLiteral("Your photo"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PanelStyle::gutter);

@@ -5,6 +5,7 @@
 #include "quotes/sourcepresets.h"
 #include "settingsui/binding.h"
 #include "settingsui/formcard.h"
+#include "settingsui/formslider.h"
 #include "settingsui/loginswitch.h"
 
 #include <QComboBox>
@@ -13,10 +14,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSlider>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -53,16 +54,18 @@ QPushButton* roomyButton(const QString& text, QWidget* parent) {
     return button;
 }
 
-QWidget* line(QWidget* parent) {
-    auto* frame = new QFrame(parent);
-    frame->setFrameShape(QFrame::HLine);
-    frame->setFrameShadow(QFrame::Plain);
-    QPalette palette = frame->palette();
-    palette.setColor(QPalette::WindowText, QColor(128, 128, 128, 90));
-    frame->setPalette(palette);
-    frame->setFixedHeight(1);
-    return frame;
-}
+class Line : public QWidget {
+public:
+    explicit Line(QWidget* parent)
+        : QWidget(parent) {
+        setFixedHeight(1);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(rect(), QColor(128, 128, 128, 90));
+    }
+};
 
 } // namespace
 
@@ -98,7 +101,7 @@ SettingsView::SettingsView(SettingsSurroundings surroundings, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(scroll, 1);
-    column->addWidget(line(this));
+    column->addWidget(new Line(this));
     column->addWidget(makeBottomBar());
 }
 
@@ -140,7 +143,7 @@ QWidget* SettingsView::makeCloseAfter() {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* label = new QLabel(QStringLiteral("Close after"), row);
-    auto* slider = new QSlider(Qt::Horizontal, row);
+    auto* slider = new FormSlider(row);
     slider->setRange(int(shortest), int(longest));
     slider->setSingleStep(1);
     slider->setPageStep(5);
@@ -194,6 +197,7 @@ void SettingsView::addQuotes(FormCard& card) {
     card.addRow(QStringLiteral("Source URL"), source);
 
     auto* row = new QWidget(&card);
+    row->setAccessibleName(QStringLiteral("Testing…")); // it has the keyboard while a test runs
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makePresets());
@@ -237,6 +241,10 @@ void SettingsView::test() {
     if (!testButton_->isEnabled()) {
         return;
     }
+    if (testButton_->hasFocus()) {
+        // Not to the next button: a second press would do what that one does.
+        testButton_->parentWidget()->setFocus();
+    }
     testButton_->setEnabled(false);
     testButton_->setText(QStringLiteral("Testing…"));
     tell({});
@@ -247,6 +255,9 @@ void SettingsView::test() {
         }
         self->testButton_->setEnabled(true);
         self->testButton_->setText(QStringLiteral("Test"));
+        if (self->testButton_->parentWidget()->hasFocus()) {
+            self->testButton_->setFocus();
+        }
         self->tell(quote ? QChar(0x201C) + quote->text + QChar(0x201D) + QStringLiteral(" — ") +
                                quote->author
                          : QStringLiteral("No quote found at that source."));
@@ -256,6 +267,7 @@ void SettingsView::test() {
 void SettingsView::tell(const QString& testResult) {
     testResult_->setText(testResult);
     testResult_->setVisible(!testResult.isEmpty());
+    testButton_->setAccessibleDescription(testResult);
 }
 
 } // namespace morrowleaf

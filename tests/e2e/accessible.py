@@ -5,6 +5,7 @@ accessible.py find ROLES NAME     ROLES parted by |, empty for any; NAME may be 
 accessible.py labelled ROLE NAME  what a label of that name belongs to
 accessible.py press NAME
 accessible.py set NAME VALUE
+accessible.py places              role|name|states|x|y|width|height of all that is showing
 """
 import sys
 
@@ -31,10 +32,30 @@ def program():
     sys.exit("the program is not there")
 
 
+def is_showing(node):
+    return node.get_state_set().contains(Atspi.StateType.SHOWING)
+
+
+def in_closed_list(node):
+    return node.get_role_name() == "list item" and not is_showing(node.get_parent())
+
+
 def seen(node):
-    return node.get_state_set().contains(Atspi.StateType.SHOWING) or node.get_role_name() in (
+    return is_showing(node) or node.get_role_name() in (
         "static",
         "label",
+    )
+
+
+TOLD = ("CHECKED", "FOCUSED", "ENABLED")
+
+
+def place(node):
+    states = node.get_state_set()
+    told = [state.lower() for state in TOLD if states.contains(getattr(Atspi.StateType, state))]
+    box = node.get_extents(Atspi.CoordType.SCREEN)
+    return f"{node.get_role_name()}|{node.get_name()}|{' '.join(told)}|" + "|".join(
+        str(number) for number in (box.x, box.y, box.width, box.height)
     )
 
 
@@ -65,6 +86,10 @@ def main():
                 f"{node.get_role_name()} | {node.get_name()} | {node.get_description()} |"
                 f" {'showing' if states.contains(Atspi.StateType.SHOWING) else 'hidden'}"
             )
+    elif command == "places":
+        for node in everything(program()):
+            if node.get_name() and is_showing(node) and not in_closed_list(node):
+                print(place(node))
     elif command == "find":
         node = find(sys.argv[2], sys.argv[3])
         print(node.get_role_name(), node.get_name())

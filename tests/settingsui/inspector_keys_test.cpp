@@ -147,6 +147,11 @@ TEST_F(InspectorTest, TellsRolesStatesAndValues) {
     EXPECT_EQ(picker->text(QAccessible::Value), QStringLiteral("Fraunces"));
     EXPECT_EQ(face(named<Switch>(QStringLiteral("Film grain")))->role(), QAccessible::CheckBox);
     EXPECT_EQ(face(panel().findChild<AddTile*>())->role(), QAccessible::Button);
+    EXPECT_EQ(face(&panel())->role(), QAccessible::Grouping);
+    EXPECT_EQ(face(&panel())->text(QAccessible::Name), QStringLiteral("Appearance"));
+    auto* photos = face(panel().findChild<PhotoGroup*>());
+    EXPECT_EQ(photos->role(), QAccessible::Grouping);
+    EXPECT_EQ(photos->text(QAccessible::Name), QStringLiteral("Your photo"));
     EXPECT_EQ(face(panel().findChild<QLabel*>())->text(QAccessible::Name),
               QStringLiteral("APPEARANCE"));
 }

@@ -10,6 +10,7 @@
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
 #include "settingsui/panelslider.h"
+#include "settingsui/photogroup.h"
 #include "settingsui/pickermenu.h"
 #include "settingsui/swatch.h"
 #include "settingsui/switch.h"

@@ -2,6 +2,7 @@
 #include "quotes/settingskeys.h"
 #include "quotes/settingsstore.h"
 #include "quotes/sourcepresets.h"
+#include "settingsui/formcard.h"
 #include "settingsui/loginswitch.h"
 #include "settingsui/settingsview.h"
 
@@ -184,6 +185,21 @@ TEST_F(SettingsViewTest, CloseAfterStoresWholeSecondsAsReals) {
     EXPECT_EQ(store.real(K::dismiss), 59);
 }
 
+TEST_F(SettingsViewTest, CloseAfterComesToWhereTheMousePresses) {
+    auto* slider = only<QSlider>();
+    const int middle = slider->height() / 2;
+    QTest::mousePress(slider, Qt::LeftButton, {}, {slider->width() / 2, middle});
+    EXPECT_NEAR(store.real(K::dismiss), 32.5, 1);
+    QTest::mouseMove(slider, {slider->width() - 1, middle});
+    EXPECT_EQ(store.real(K::dismiss), 60);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() - 1, middle});
+    QTest::mousePress(slider, Qt::LeftButton, {}, {1, middle});
+    EXPECT_EQ(store.real(K::dismiss), 5);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, {1, middle});
+    QTest::mousePress(slider, Qt::RightButton, {}, {slider->width() / 2, middle});
+    EXPECT_EQ(store.real(K::dismiss), 5);
+}
+
 TEST_F(SettingsViewTest, CloseAfterTruncatesAndRewritesNothing) {
     store.set(K::dismiss, 15.9);
     view();
@@ -241,6 +257,37 @@ TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
     answer(std::nullopt);
     EXPECT_TRUE(shows_(QStringLiteral("No quote found at that source.")));
     EXPECT_EQ(store.text(K::source), QStringLiteral("/somewhere"));
+}
+
+TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
+    view().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view(), 60'000));
+    auto* test = button(QStringLiteral("Test"));
+    test->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
+    EXPECT_EQ(asked.size(), 1);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
+    EXPECT_EQ(shows, 0);
+    answer(std::nullopt);
+    EXPECT_TRUE(test->hasFocus());
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(test)->text(QAccessible::Description),
+              QStringLiteral("No quote found at that source."));
+
+    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
+    only<QLineEdit>()->setFocus();
+    answer(std::nullopt);
+    EXPECT_TRUE(only<QLineEdit>()->hasFocus());
+}
+
+TEST_F(SettingsViewTest, SectionsAreNamedGroups) {
+    QStringList names;
+    for (auto* card : view().findChildren<FormCard*>()) {
+        const auto* face = QAccessible::queryAccessibleInterface(card);
+        EXPECT_EQ(face->role(), QAccessible::Grouping);
+        names.append(face->text(QAccessible::Name));
+    }
+    EXPECT_EQ(names, QStringList({QStringLiteral("Appearance"), QStringLiteral("Behaviour"),
+                                  QStringLiteral("Quotes")}));
 }
 
 TEST_F(SettingsViewTest, ResultSurvivesHiding) {

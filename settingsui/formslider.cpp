@@ -1,0 +1,29 @@
+#include "settingsui/formslider.h"
+
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+namespace morrowleaf {
+
+FormSlider::FormSlider(QWidget* parent)
+    : QSlider(Qt::Horizontal, parent) {}
+
+void FormSlider::mousePressEvent(QMouseEvent* event) {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const auto part = [&](QStyle::SubControl control) {
+        return style()->subControlRect(QStyle::CC_Slider, &option, control, this);
+    };
+    const QRect handle = part(QStyle::SC_SliderHandle);
+    const QPoint at = event->position().toPoint();
+    if (event->button() == Qt::LeftButton && !handle.contains(at)) {
+        const QRect groove = part(QStyle::SC_SliderGroove);
+        setValue(QStyle::sliderValueFromPosition(
+            minimum(), maximum(), at.x() - groove.x() - handle.width() / 2,
+            groove.width() - handle.width(), option.upsideDown));
+    }
+    QSlider::mousePressEvent(event);
+}
+
+} // namespace morrowleaf

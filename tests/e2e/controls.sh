@@ -1,0 +1,70 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# Functions for tests that press the program's controls with real keys and
+# clicks; needs x11.sh. The accessibility bus tells where a control is and how
+# it stands; the settings file tells what has come of it.
+
+read_aloud() { /usr/bin/python3 "$here/accessible.py" "$@"; }
+
+# A session bus and an accessibility bus, before the program starts.
+start_reader() {
+    start_session_bus
+    unset NO_AT_BRIDGE
+    export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+    start launcher /usr/libexec/at-spi-bus-launcher --launch-immediately
+    until_true 30 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
+        org.a11y.Bus.GetAddress || die "no accessibility bus"
+}
+
+# column ROLE NAME WHICH NUMBER: of the WHICHth control with that role whose
+# name begins so
+column() {
+    read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="$3" -v at="$4" \
+        '$1 == role && index($2, name) == 1 && ++n == nth { print $at; found = 1; exit }
+         END { exit !found }'
+}
+there() { column "$1" "$2" "${3:-1}" 2; }
+stands() { column "$1" "$2" "${4:-1}" 3 | grep -qw "$3"; }
+# focused ROLE NAME [WHICH], checked ROLE NAME [WHICH]
+focused() { stands "$1" "$2" focused "${3:-1}"; }
+checked() { stands "$1" "$2" checked "${3:-1}"; }
+enabled() { stands "$1" "$2" enabled "${3:-1}"; }
+
+# point ROLE NAME [WHICH [PART]]: the mouse to the middle of a control, or to
+# another part of its width
+point() {
+    local box x y
+    box=$(read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="${3:-1}" \
+        -v part="${4:-0.5}" '$1 == role && index($2, name) == 1 && ++n == nth {
+            printf "%d %d", $4 + $6 * part, $5 + $7 / 2; exit }')
+    [ -n "$box" ] || {
+        fail "there is no $1 $2"
+        return 1
+    }
+    read -r x y <<<"$box"
+    xdotool mousemove "$x" "$y"
+}
+click_on() { point "$@" && xdotool click 1; }
+
+press() { xdotool key --delay 20 "$@"; }
+# Tab leads to the control
+tab_to() {
+    press Tab
+    must "Tab leads to $2" focused "$@"
+}
+
+# begin_with JSON: the settings that the program finds
+begin_with() {
+    settings "$1"
+    printf '%s' "$1" >"$work/expected.json"
+}
+stored() {
+    python3 "$here/stored.py" "$XDG_CONFIG_HOME/morrowleaf/settings.json" \
+        "$work/expected.json" "$@" 2>"$work/stored.last"
+}
+# keeps SENTENCE [KEY VALUE]...: the settings file comes to hold these values,
+# and all others stay as they were
+keeps() {
+    local what=$1
+    shift
+    must "$what" stored "$@" || cat "$work/stored.last"
+}

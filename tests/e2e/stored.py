@@ -1,0 +1,35 @@
+"""Compares the whole settings file with what it should hold.
+
+stored.py FILE EXPECTED [KEY VALUE]...
+
+EXPECTED is a file of what the settings file should hold. Each VALUE is JSON
+that a key should hold by now; A..B means a number from A to B. Ends with
+status 0, and notes the new values in EXPECTED, when all is as it should be.
+"""
+import json
+import sys
+
+
+def main():
+    path, expected_path, *pairs = sys.argv[1:]
+    with open(path, encoding="utf-8") as file:
+        found = json.load(file)
+    with open(expected_path, encoding="utf-8") as file:
+        expected = json.load(file)
+    for key, value in zip(pairs[::2], pairs[1::2]):
+        lowest, dots, highest = value.partition("..")
+        if dots and not value.startswith('"'):
+            if not float(lowest) <= found.get(key, float("nan")) <= float(highest):
+                return f"{key} is {found.get(key)}"
+            expected[key] = found[key]
+        else:
+            expected[key] = json.loads(value)
+    if found != expected:
+        differing = {k for k in found | expected if found.get(k) != expected.get(k)}
+        return "; ".join(f"{k} is {found.get(k)}, not {expected.get(k)}" for k in differing)
+    with open(expected_path, "w", encoding="utf-8") as file:
+        json.dump(expected, file)
+    return 0
+
+
+sys.exit(main())
