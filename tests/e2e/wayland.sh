@@ -6,29 +6,11 @@ if [ "$(id -u)" = 0 ]; then
     exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"
 fi
 . "$here/lib.sh"
+. "$here/sway.sh"
 
-cat >"$work/sway.conf" <<'EOF'
-output * bg #206040 solid_color
-output HEADLESS-1 mode 1280x800@60Hz position 0 0
-xwayland disable
-default_border none
-for_window [title=".*"] floating enable
-EOF
-export WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman
-start sway sway -c "$work/sway.conf"
-until_true 30 test -S "$work/run/wayland-1" || die "no compositor"
-export WAYLAND_DISPLAY=wayland-1
-SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
-export SWAYSOCK
-until_true 30 swaymsg -t get_version || die "no compositor"
+start_sway 1
 start_session_bus
 
-shot() { grim "$work/$1.png"; }
-pixel() { convert "$work/$1.png" -format "%[pixel:p{$2}]" info:; }
-share() {
-    convert "$work/$1.png" -fill black +opaque "$2" -fill white -opaque "$2" \
-        -colorspace gray -format '%[fx:mean]' info:
-}
 covered() { shot now && [ "$(share now '#206040')" = 0 ]; }
 uncovered() { shot now && [ "$(share now '#206040')" != 0 ] && [ "$(share now '#ffff00')" != 0 ]; }
 
