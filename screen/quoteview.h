@@ -93,6 +93,7 @@ private:
     void composeOverlays(const Setting& setting, const QRectF& box);
     void placeTexts(const Setting& setting, const QRectF& box);
     void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
+    void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;
     QRectF markRectAt(double seconds) const;
     QRectF paintedLineRect(const Line& line, double seconds) const;

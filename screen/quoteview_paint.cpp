@@ -1,4 +1,5 @@
 // How the quote view looks at an instant, and what of it moves.
+#include "screen/parallel.h"
 #include "screen/quoteview.h"
 
 #include <QImage>
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace morrowleaf {
 
@@ -82,16 +84,7 @@ void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& cli
         mark_.paint(painter, state_.palette.ink, mark::opacity(seconds));
         painter.restore();
     }
-    for (const Line& line : lines_) {
-        if (!paintedLineRect(line, seconds).intersects(clip)) {
-            continue;
-        }
-        painter.save();
-        painter.translate(line.topLeft);
-        painter.scale(place_.scale, place_.scale);
-        line.line.paint(painter, {}, seconds - line.appearedAt);
-        painter.restore();
-    }
+    paintLines(painter, seconds, clip);
     const double width = rule_.width() * closing_->rule.progress(seconds);
     if (width > 0 && rule_.intersects(clip)) {
         painter.save();
@@ -103,6 +96,41 @@ void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& cli
     const double author = closing_->author.progress(seconds);
     if (author > 0 && withOverhang(author_.rect()).intersects(clip)) {
         author_.paint(painter, state_.palette.ink, author);
+    }
+}
+
+void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip) const {
+    const auto onLine = [&](const Line& line, const auto& what) {
+        painter.save();
+        painter.translate(line.topLeft);
+        painter.scale(place_.scale, place_.scale);
+        what(seconds - line.appearedAt);
+        painter.restore();
+    };
+    // Lines that move share the work; whatever is repainted, all of them need it.
+    struct Moving {
+        const RevealLine* line;
+        QTransform device;
+        double since;
+    };
+    std::vector<Moving> moving;
+    for (const Line& line : lines_) {
+        onLine(line, [&](double since) {
+            if (!line.line.isPrepared(painter.deviceTransform(), since)) {
+                moving.push_back({&line.line, painter.deviceTransform(), since});
+            }
+        });
+    }
+    if (moving.size() > 1) {
+        inParallel(static_cast<int>(moving.size()), [&moving](int i) {
+            const Moving& one = moving[static_cast<std::size_t>(i)];
+            one.line->prepare(one.device, one.since);
+        });
+    }
+    for (const Line& line : lines_) {
+        if (paintedLineRect(line, seconds).intersects(clip)) {
+            onLine(line, [&](double since) { line.line.paint(painter, {}, since); });
+        }
     }
 }
 

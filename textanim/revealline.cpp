@@ -16,6 +16,10 @@ namespace {
 // Length at which a contour is cut for the pen, as a share of the size.
 constexpr double stretchShare = 0.75;
 
+double scaleOf(const QTransform& device) {
+    return std::sqrt(std::abs(device.determinant()));
+}
+
 LineShapes shapesOf(const RevealLine::Parts& parts) {
     if (parts.style == TextAnim::Handwrite) {
         HandwrittenLine line = handwrittenLine(parts.text, parts.strokeFont, parts.maxWidth);
@@ -53,8 +57,12 @@ struct RevealLine::Private {
                (stage.values.ink > 0 || stage.values.traced > 0);
     }
 
+    bool hasFrame(const LineStage& stage, double scale) const {
+        return kept && kept->scale == scale && kept->stage == stage;
+    }
+
     const PlacedPicture& frameAt(const LineStage& stage, double scale) const {
-        if (!kept || kept->scale != scale || kept->stage != stage) {
+        if (!hasFrame(stage, scale)) {
             kept = Kept{stage, scale,
                         lineFrame(shapes, stage, scale, parts.color, parts.shadow, canvas)};
         }
@@ -91,7 +99,7 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
         return;
     }
     const QTransform device = painter.deviceTransform();
-    const double scale = std::sqrt(std::abs(device.determinant()));
+    const double scale = scaleOf(device);
     if (!(scale > 0)) {
         return;
     }
@@ -111,6 +119,18 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
         painter.drawImage(frame.origin, frame.picture);
     }
     painter.restore();
+}
+
+void RevealLine::prepare(const QTransform& device, double seconds) const {
+    if (!isPrepared(device, seconds)) {
+        d_->frameAt(d_->stageAt(seconds), scaleOf(device));
+    }
+}
+
+bool RevealLine::isPrepared(const QTransform& device, double seconds) const {
+    const LineStage stage = d_->stageAt(seconds);
+    const double scale = scaleOf(device);
+    return !d_->visible(stage) || !(scale > 0) || d_->hasFrame(stage, scale);
 }
 
 QRectF RevealLine::paintedRect(double seconds) const {

@@ -11,6 +11,7 @@
 #include <memory>
 
 class QPainter;
+class QTransform;
 
 namespace morrowleaf {
 
@@ -52,6 +53,12 @@ public:
     // stands `seconds` after it appeared. The painter is in points; a scale on
     // it counts as the device pixel ratio.
     void paint(QPainter& painter, QPointF topLeft, double seconds) const;
+
+    // Makes what paint() will draw at that instant with a painter of this
+    // deviceTransform(), unless it is there. Different lines may do so at the
+    // same time on different threads.
+    void prepare(const QTransform& device, double seconds) const;
+    bool isPrepared(const QTransform& device, double seconds) const;
 
     // All that paint touches at that instant (offset, halo and shadow too),
     // relative to the top left corner; empty when nothing is visible.

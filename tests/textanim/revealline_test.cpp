@@ -77,6 +77,19 @@ class EveryStyle : public testing::TestWithParam<TextAnim> {};
 INSTANTIATE_TEST_SUITE_P(RevealLine, EveryStyle, testing::ValuesIn(allTextAnims),
                          [](const auto& info) { return rawValue(info.param).toStdString(); });
 
+TEST_P(EveryStyle, PreparingChangesNothingOfThePicture) {
+    const RevealLine line(parts(GetParam()));
+    const RevealLine prepared(parts(GetParam()));
+    const QTransform device = QTransform::fromScale(2, 2);
+    for (double seconds = 0; seconds < prepared.settledAfter() + 0.2; seconds += 0.13) {
+        prepared.prepare(device, seconds);
+        EXPECT_TRUE(prepared.isPrepared(device, seconds));
+        EXPECT_EQ(painted(prepared, seconds, 2), painted(line, seconds, 2)) << seconds;
+        EXPECT_TRUE(line.isPrepared(device, seconds));
+    }
+    EXPECT_FALSE(prepared.isPrepared(QTransform(), 20));
+}
+
 TEST_P(EveryStyle, LooksTheSameInAnyOrderOfInstants) {
     const RevealLine line(parts(GetParam()));
     std::vector<double> instants;

@@ -1,0 +1,32 @@
+#include "screen/parallel.h"
+
+#include <QSemaphore>
+#include <QThread>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
+
+namespace morrowleaf {
+
+void inParallel(int count, const std::function<void(int)>& what) {
+    std::atomic<int> next = 0;
+    const auto work = [&] {
+        for (int i = next++; i < count; i = next++) {
+            what(i);
+        }
+    };
+    QSemaphore ended;
+    const int wanted = std::min(count, QThread::idealThreadCount()) - 1;
+    int helpers = 0;
+    while (helpers < wanted && QThreadPool::globalInstance()->tryStart([&] {
+        work();
+        ended.release();
+    })) {
+        ++helpers;
+    }
+    work();
+    ended.acquire(helpers);
+}
+
+} // namespace morrowleaf
