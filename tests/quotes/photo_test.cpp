@@ -74,7 +74,7 @@ void setBigEndian(QByteArray& bytes, qsizetype at, quint32 value, int count) {
 class PhotoTest : public ::testing::Test {
 protected:
     QString file(const QByteArray& content) {
-        const QString path = folder.filePath(QString::number(++count));
+        QString path = folder.filePath(QString::number(++count));
         QFile out(path);
         EXPECT_TRUE(out.open(QIODevice::WriteOnly));
         out.write(content);
