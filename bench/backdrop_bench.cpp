@@ -32,7 +32,7 @@ QImage frameOf(const benchmark::State& run) {
 void copying(benchmark::State& run) {
     QImage from = frameOf(run);
     QImage to = frameOf(run);
-    for (auto _ : run) {
+    for ([[maybe_unused]] auto _ : run) {
         std::memcpy(to.bits(), from.constBits(), static_cast<std::size_t>(from.sizeInBytes()));
         benchmark::ClobberMemory();
     }
@@ -44,7 +44,7 @@ void backdrop(benchmark::State& run) {
     BackdropState state;
     state.palette = Palette::all()[0];
     double now = 8e8;
-    for (auto _ : run) {
+    for ([[maybe_unused]] auto _ : run) {
         painter.paint(frame, frame.rect(), state, now);
         now += backdropInterval;
         benchmark::ClobberMemory();
@@ -61,7 +61,7 @@ void naive(benchmark::State& run) {
     QRadialGradient gradient(QPointF(frame.width() / 2.0, frame.height() / 2.0), vignetteOuter);
     gradient.setColorAt(vignetteInner / vignetteOuter, Qt::transparent);
     gradient.setColorAt(1, QColor(0, 0, 0, 140));
-    for (auto _ : run) {
+    for ([[maybe_unused]] auto _ : run) {
         QPainter painter(&frame);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(frame.rect(), colours);
