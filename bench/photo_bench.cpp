@@ -41,7 +41,7 @@ void forgetPeak() {
 const QString& largePhoto() {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        const QString file = folder.filePath(QStringLiteral("large.jpg"));
+        QString file = folder.filePath(QStringLiteral("large.jpg"));
         QImage image(photoSize, QImage::Format_RGB888);
         for (int y = 0; y < image.height(); ++y) {
             uchar* row = image.scanLine(y);
