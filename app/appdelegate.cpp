@@ -86,9 +86,6 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
 }
 
 void AppDelegate::installStatusItem() {
-    if (statusItem_) {
-        return;
-    }
     statusItem_ =
         std::make_unique<StatusItem>(StatusActions{.show = [this] { show(); },
                                                    .editAppearance = [this] { editAppearance(); },

@@ -14,7 +14,7 @@ public:
     virtual bool isPresent() const = 0;
 
 signals:
-    void appeared(); // present from now on
+    void appeared(); // present from now on, with no item of ours
 };
 
 } // namespace morrowleaf

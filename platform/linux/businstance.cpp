@@ -30,24 +30,26 @@ void BusApplication::ActivateAction(const QString& action, const QVariantList& /
     emit requested({.action = action, .activationToken = platformData.value(tokenKey).toString()});
 }
 
-BusInstance::BusInstance(const QDBusConnection& bus)
-    : bus_(bus) {
+BusInstance::BusInstance()
+    : link_(QDBusConnection::SessionBus) {
     connect(&application_, &BusApplication::requested, this, &SingleInstance::requested);
 }
 
 BusInstance::~BusInstance() {
-    bus_.unregisterObject(path);
-    bus_.unregisterService(name);
+    auto bus = link_.bus();
+    bus.unregisterObject(path);
+    bus.unregisterService(name);
 }
 
 bool BusInstance::claim(const LaunchRequest& request) {
-    // The object first: whoever finds the name may call at once.
-    bus_.registerObject(path, &application_, QDBusConnection::ExportAllSlots);
+    link_.open();
+    if (!link_.bus().isConnected()) {
+        return true;
+    }
     for (int i = 0; i < attempts; ++i) {
-        const auto reply =
-            bus_.interface()->registerService(name, QDBusConnectionInterface::DontQueueService,
-                                              QDBusConnectionInterface::DontAllowReplacement);
-        if (!reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered) {
+        if (takeName()) {
+            // A bus that comes back has forgotten the name.
+            connect(&link_, &BusLink::up, this, &BusInstance::takeName);
             return true;
         }
         if (handOver(request)) {
@@ -55,6 +57,16 @@ bool BusInstance::claim(const LaunchRequest& request) {
         }
     }
     return false;
+}
+
+bool BusInstance::takeName() {
+    auto bus = link_.bus();
+    // The object first: whoever finds the name may call at once.
+    bus.registerObject(path, &application_, QDBusConnection::ExportAllSlots);
+    const auto reply =
+        bus.interface()->registerService(name, QDBusConnectionInterface::DontQueueService,
+                                         QDBusConnectionInterface::DontAllowReplacement);
+    return !reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered;
 }
 
 bool BusInstance::handOver(const LaunchRequest& request) {
@@ -71,7 +83,7 @@ bool BusInstance::handOver(const LaunchRequest& request) {
     } else {
         call.setArguments({request.action, QVariantList(), platformData});
     }
-    return bus_.call(call, QDBus::Block, answerTimeout).type() == QDBusMessage::ReplyMessage;
+    return link_.bus().call(call, QDBus::Block, answerTimeout).type() == QDBusMessage::ReplyMessage;
 }
 
 } // namespace morrowleaf

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/linux/buslink.h"
 #include "platform/singleinstance.h"
 
-#include <QDBusConnection>
 #include <QVariant>
 
 namespace morrowleaf {
@@ -30,15 +30,16 @@ class BusInstance : public SingleInstance {
     Q_OBJECT
 
 public:
-    explicit BusInstance(const QDBusConnection& bus);
+    BusInstance();
     ~BusInstance() override;
 
     bool claim(const LaunchRequest& request) override;
 
 private:
+    bool takeName();
     bool handOver(const LaunchRequest& request);
 
-    QDBusConnection bus_;
+    BusLink link_;
     BusApplication application_;
 };
 

@@ -8,9 +8,8 @@
 namespace morrowleaf {
 
 std::unique_ptr<SingleInstance> makeDesktopInstance() {
-    const auto bus = QDBusConnection::sessionBus();
-    if (bus.isConnected()) {
-        return std::make_unique<BusInstance>(bus);
+    if (QDBusConnection::sessionBus().isConnected()) {
+        return std::make_unique<BusInstance>();
     }
     return std::make_unique<SocketInstance>(
         QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));

@@ -1,6 +1,5 @@
 #include "platform/linux/notifierhost.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -15,14 +14,19 @@ const QString hostRegistered = "IsStatusNotifierHostRegistered";
 
 } // namespace
 
-NotifierHost::NotifierHost() {
-    auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        return;
-    }
+NotifierHost::NotifierHost()
+    : link_(QDBusConnection::SessionBus) {
+    connect(&link_, &BusLink::up, this, &NotifierHost::subscribe);
+    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &NotifierHost::look);
+    link_.open();
+}
+
+void NotifierHost::subscribe() {
+    auto bus = link_.bus();
+    // Hosts of a bus that came back know nothing of items on the old one.
+    present_ = false;
     watcher_.setConnection(bus);
     watcher_.setWatchedServices({service});
-    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &NotifierHost::look);
     bus.connect(service, path, service, "StatusNotifierHostRegistered", this, SLOT(look()));
     look();
 }
@@ -35,7 +39,7 @@ void NotifierHost::look() {
         QDBusMessage::createMethodCall(service, path, "org.freedesktop.DBus.Properties", "Get");
     call.setAutoStartService(false);
     call.setArguments({service, hostRegistered});
-    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    auto* answer = new QDBusPendingCallWatcher(link_.bus().asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;

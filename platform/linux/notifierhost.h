@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/linux/buslink.h"
 #include "platform/trayhost.h"
 
 #include <QDBusServiceWatcher>
 
 namespace morrowleaf {
 
-// Present once a status notifier watcher says that a host has registered.
+// Present once a status notifier watcher says that a host has registered; anew
+// on a bus that comes back.
 class NotifierHost : public TrayHost {
     Q_OBJECT
 
@@ -18,8 +20,10 @@ private slots:
     void look();
 
 private:
+    void subscribe();
     void found();
 
+    BusLink link_;
     QDBusServiceWatcher watcher_;
     bool present_ = false;
 };

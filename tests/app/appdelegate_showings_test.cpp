@@ -1,6 +1,7 @@
 #include "tests/app/appdelegatefixture.h"
 
 #include <QAccessible>
+#include <QPointer>
 
 namespace morrowleaf {
 namespace {
@@ -278,15 +279,16 @@ TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
 }
 
-TEST_F(AppDelegateTest, StatusItemComesWithItsHost) {
+TEST_F(AppDelegateTest, StatusItemComesWithItsHostAndAnewWithAnother) {
     launch();
     EXPECT_EQ(delegate->statusItem(), nullptr);
     desktop.trayHost->present = true;
     emit desktop.trayHost->appeared();
-    const auto* item = delegate->statusItem();
-    ASSERT_NE(item, nullptr);
+    const QPointer<const StatusItem> item = delegate->statusItem();
+    ASSERT_TRUE(item);
     emit desktop.trayHost->appeared();
-    EXPECT_EQ(delegate->statusItem(), item);
+    EXPECT_TRUE(item.isNull());
+    EXPECT_NE(delegate->statusItem(), nullptr);
 }
 
 TEST_F(AppDelegateTest, MenuEntriesInOrder) {
