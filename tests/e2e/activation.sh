@@ -22,7 +22,7 @@ bus_call() {
     gdbus call --session -d org.freedesktop.DBus -o /org/freedesktop/DBus \
         -m "org.freedesktop.DBus.$1" "${@:2}"
 }
-runs() { bus_call NameHasOwner $id | grep -q true; }
+runs() { bus_call NameHasOwner "$id" | grep -q true; }
 program() { readlink "/proc/$(bus_call GetConnectionUnixProcessID $id | tr -dc '0-9 ' | awk '{print $NF}')/exe"; }
 quit() {
     application ActivateAction quit '[]' '{}'

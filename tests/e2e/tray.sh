@@ -54,7 +54,9 @@ check "which other keys leave open" is_shown
 shot editor
 xdotool key Escape
 must "and Escape closes" is_gone
-xdotool search --name '^Morrowleaf Settings$' windowactivate --sync key alt+F4
+# Sent to the window itself, the keys would stay pressed when it goes.
+xdotool windowactivate --sync "$(xdotool search --onlyvisible --name '^Morrowleaf Settings$')"
+xdotool key alt+F4
 must "the settings window can be closed" \
     not xdotool search --onlyvisible --name '^Morrowleaf Settings$'
 check "and the program stays" kill -0 "$app"
@@ -62,12 +64,63 @@ host click "Settings…"
 must "the third opens the settings" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
 sleep 0.3
 shot settings
+# The menu is a window of the program besides the one of the settings.
+windows() { xdotool search --onlyvisible --class morrowleaf | wc -l; }
+alone=$(windows)
+menu_open() { [ "$(windows)" -gt "$alone" ]; }
+check "no menu is open" not menu_open
 host activate
-sleep 0.7
+must "a left click opens the menu" menu_open
 shot menu
 xdotool key Escape
+must "Escape closes it" not menu_open
+
+symbol_is() {
+    host props >"$work/props.log" 2>&1
+    grep -qE "^IconPixmap = .*\(22, 22, $1\)" "$work/props.log"
+}
+must "the symbol is dark on a light desktop" symbol_is '[0-5]?[0-9]'
+portal() { /usr/bin/python3 "$here/portal.py" "$@"; }
+start portal /usr/bin/python3 "$here/portal.py" serve 2
+until_true 30 grep -q serving "$work/portal.log" || die "no portal"
+portal scheme 1
+must "and light when it turns dark" symbol_is '2[0-9][0-9]'
+
+kill "$bus_pid"
+until_true 30 not kill -0 "$bus_pid"
+check "the program outlives the bus" kill -0 "$app"
+rm -f "$work/run/bus"
+start_session_bus
+start_host
+must "on a bus that comes back it has an item again" has_item
+n=$(maps)
+check "a second launch finds it there" timeout 60 "$MORROWLEAF"
+must "and shows the quotation in it" opened_since "$n"
+xdotool key Escape
+must "once" is_gone
+check "without another" mapped_times $((n + 1))
+check "it is still the first" kill -0 "$app"
+
 host click "Quit"
-until_true 30 not kill -0 "$app"
+must "the last ends it" not kill -0 "$app"
 wait "$app"
-check "the last ends it with status 0" test $? -eq 0
+check "with status 0" test $? -eq 0
+
+kill "$host_pid"
+until_true 30 not kill -0 "$host_pid"
+start_host
+n=$(maps)
+start app "$MORROWLEAF"
+app=$last
+must "a host that is there from the start gets an item" has_item
+must "beside the launch's showing" opened_since "$n"
+xdotool key Escape
+must "which Escape closes" is_gone
+host menu >"$work/menu.log" 2>&1
+check "with the same menu" diff -i "$work/wanted.log" "$work/menu.log"
+host click "Show Today's Quote"
+must "that works" opened_since $((n + 1))
+kill -TERM "$app"
+wait "$app"
+check "it ends with status 0" test $? -eq 0
 finish
