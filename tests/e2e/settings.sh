@@ -36,8 +36,8 @@ check "it cannot be resized" not sh -c "xprop -id $id _NET_WM_ALLOWED_ACTIONS | 
 check "it has an icon" sh -c "xprop -id $id _NET_WM_ICON | grep -q 'Icon (32 x 32)'"
 # at the place and in the size of a frame with its title bar
 frame_is() {
-    local left right top bottom x y height
-    IFS=', ' read -r left right top bottom < <(xprop -id "$id" _NET_FRAME_EXTENTS | sed 's/.*= //')
+    local left bottom x y height
+    IFS=', ' read -r left _ _ bottom < <(xprop -id "$id" _NET_FRAME_EXTENTS | sed 's/.*= //')
     read -r x y height < <(xwininfo -id "$id" | awk '/Absolute upper-left X/ {x = $4}
         /Absolute upper-left Y/ {y = $4} / Height:/ {print x, y, $2}')
     echo "$((x - left)) $((y + height + bottom))"
@@ -123,7 +123,7 @@ press space
 check "a second press does nothing" is_gone
 touch "$work/release"
 must "the test tells what it found" \
-    there label "“The lamp that is lit for one lights the whole stair.” — A Neighbour"
+    there label '“The lamp that is lit for one lights the whole stair.” — A Neighbour'
 must "and can be begun again" focused "push button" Test
 keeps "a test stores nothing"
 check "the source was asked once" test "$(grep -c 'asked for' "$work/server.log")" -eq 1
@@ -171,7 +171,7 @@ click_on "push button" Test
 must "the mouse tests what is not there" there label "No quote found at that source."
 echo '{"quote": "Still waters run deep.", "author": "A Proverb"}' >"$work/quote.json"
 click_on "push button" Test
-must "and what is" there label "“Still waters run deep.” — A Proverb"
+must "and what is" there label '“Still waters run deep.” — A Proverb'
 click_on "push button" Presets
 must "the menu opens" menu
 height=$(xwininfo -id "$(menu)" | awk '/ Height:/ {print $2}')
@@ -197,7 +197,7 @@ must "the window can be closed" not window
 check "the program goes on" kill -0 "$app"
 "$MORROWLEAF" --settings
 must "and opened again" focus_is "Morrowleaf Settings"
-check "what was tested is still told" there label "“Still waters run deep.” — A Proverb"
+check "what was tested is still told" there label '“Still waters run deep.” — A Proverb'
 shot settings-mouse
 click_on "push button" "Show Today's Quote"
 must "the quotation is shown by mouse" is_shown
