@@ -43,6 +43,7 @@ struct BackdropPainter::Private {
     bool meshBuilt = false;
     NodeGrid nodes;
     GrainTile tile;
+    GlassRim rim;
 
     // What the nodes were made from.
     struct Shaded {
@@ -173,7 +174,7 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     input.tile = &d_->tile;
     runKernel(target, area, input);
     if (layers.rim > 0) {
-        addRim(target, area, clearGlass ? GlassStyle::Clear : GlassStyle::Regular, layers.rim);
+        d_->rim.add(target, area, clearGlass ? GlassStyle::Clear : GlassStyle::Regular, layers.rim);
     }
 }
 

@@ -100,6 +100,19 @@ std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
     return light;
 }
 
+// Colour stays within alpha.
+void brighten(QRgb* pixels, const quint8* light, int count) {
+    for (int i = 0; i < count; ++i) {
+        const QRgb pixel = pixels[i];
+        const QRgb more = light[i];
+        const QRgb alpha = pixel >> 24;
+        const QRgb red = std::min(((pixel >> 16) & 0xFF) + more, alpha);
+        const QRgb green = std::min(((pixel >> 8) & 0xFF) + more, alpha);
+        const QRgb blue = std::min((pixel & 0xFF) + more, alpha);
+        pixels[i] = alpha << 24 | red << 16 | green << 8 | blue;
+    }
+}
+
 } // namespace
 
 std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio) {
@@ -115,32 +128,62 @@ std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixel
     return glass;
 }
 
-void addRim(QImage& target, const QRect& clip, GlassStyle style, double strength) {
-    const double ratio = target.devicePixelRatio();
-    const std::vector<float> across = rimAlong(target.width(), ratio, style);
-    const std::vector<float> down = rimAlong(target.height(), ratio, style);
-    const int reach = static_cast<int>(std::ceil(rimReach * ratio));
-    const auto most = static_cast<float>(255 * strength);
+bool GlassRim::hasWholeRow(int y) const {
+    return y < reach_ || y >= look_->size.height() - reach_ || look_->size.width() <= 2 * reach_;
+}
+
+void GlassRim::light(const Look& look) {
+    look_ = look;
+    const int width = look.size.width();
+    const int height = look.size.height();
+    const std::vector<float> across = rimAlong(width, look.ratio, look.style);
+    const std::vector<float> down = rimAlong(height, look.ratio, look.style);
+    reach_ = static_cast<int>(std::ceil(rimReach * look.ratio));
+    const auto most = static_cast<float>(255 * look.strength);
+    const auto& mask = ditherMask();
+    rows_.clear();
+    light_.clear();
+    for (int y = 0; y < height; ++y) {
+        rows_.push_back(light_.size());
+        const float fromDown = down[static_cast<std::size_t>(y)];
+        const auto lighten = [&](int first, int last) {
+            for (int x = first; x < last; ++x) {
+                const float fromAcross = across[static_cast<std::size_t>(x)];
+                const float light = fromAcross + fromDown - fromAcross * fromDown;
+                const auto dither = static_cast<float>(mask[static_cast<std::size_t>(
+                                        y % ditherSize * ditherSize + x % ditherSize)]) /
+                                    64;
+                light_.push_back(static_cast<quint8>(std::min(light * most + dither, 255.0F)));
+            }
+        };
+        if (hasWholeRow(y)) {
+            lighten(0, width);
+        } else {
+            lighten(0, reach_);
+            lighten(width - reach_, width);
+        }
+    }
+}
+
+void GlassRim::add(QImage& target, const QRect& clip, GlassStyle style, double strength) {
+    const Look look{target.size(), target.devicePixelRatio(), style, strength};
+    if (look_ != look) {
+        light(look);
+    }
+    const int width = target.width();
     for (int y = clip.top(); y <= clip.bottom(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(target.scanLine(y));
-        const float fromDown = down[static_cast<std::size_t>(y)];
-        const bool whole = y < reach || y >= target.height() - reach;
-        for (int x = clip.left(); x <= clip.right(); ++x) {
-            if (!whole && x >= reach && x < target.width() - reach) {
-                x = target.width() - reach - 1; // the middle of a row has no light
-                continue;
-            }
-            const float fromAcross = across[static_cast<std::size_t>(x)];
-            const float light = fromAcross + fromDown - fromAcross * fromDown;
-            const auto dither = static_cast<float>(ditherMask()[static_cast<std::size_t>(
-                                    y % ditherSize * ditherSize + x % ditherSize)]) /
-                                64;
-            const int more = static_cast<int>(light * most + dither);
-            const QRgb pixel = line[x];
-            const int alpha = qAlpha(pixel);
-            line[x] =
-                qRgba(std::min(qRed(pixel) + more, alpha), std::min(qGreen(pixel) + more, alpha),
-                      std::min(qBlue(pixel) + more, alpha), alpha);
+        const quint8* row = light_.data() + rows_[static_cast<std::size_t>(y)];
+        const auto addPart = [&](int first, int last, const quint8* from) {
+            const int left = std::max(first, clip.left());
+            const int right = std::min(last, clip.left() + clip.width());
+            brighten(line + left, from + (left - first), right - left);
+        };
+        if (hasWholeRow(y)) {
+            addPart(0, width, row);
+        } else {
+            addPart(0, reach_, row);
+            addPart(width - reach_, width, row + reach_);
         }
     }
 }

@@ -6,6 +6,8 @@
 #include <QRect>
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace morrowleaf {
 
@@ -27,8 +29,29 @@ struct Glass {
 // thread. Nothing for a null picture.
 std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio);
 
-// Light on the glass's edges, brightest from the top left, added to `target`
-// with `strength` 0...1 within `clip` (device pixels).
-void addRim(QImage& target, const QRect& clip, GlassStyle style, double strength);
+// Light on the glass's edges, brightest from the top left; worked out once for
+// a size, a style and a strength.
+class GlassRim {
+public:
+    // Added to `target` with `strength` 0...1 within `clip` (device pixels).
+    void add(QImage& target, const QRect& clip, GlassStyle style, double strength);
+
+private:
+    struct Look {
+        QSize size;
+        double ratio = 1;
+        GlassStyle style = GlassStyle::Regular;
+        double strength = 0;
+
+        bool operator==(const Look&) const = default;
+    };
+    void light(const Look& look);
+    bool hasWholeRow(int y) const;
+
+    std::optional<Look> look_;
+    int reach_ = 0;                 // pixels; between two sides a row has no light
+    std::vector<std::size_t> rows_; // where each begins
+    std::vector<quint8> light_;     // of whole rows, or of both sides alone
+};
 
 } // namespace morrowleaf

@@ -165,6 +165,24 @@ TEST(Backdrop, AClippedRepaintChangesNothing) {
     EXPECT_EQ(image, before);
 }
 
+TEST(Backdrop, AClippedRepaintOfGlassGivesTheSamePixelsAndTouchesNoOthers) {
+    for (const double transparency : {0.3, 0.8}) {
+        const BackdropState state = captured(transparency, true);
+        const QImage whole = drawn(state);
+        for (const QRect clip : {QRect(0, 0, 20, 300), QRect(30, 100, 100, 9),
+                                 QRect(400, 60, 80, 240), QRect(60, 60, 360, 180)}) {
+            QImage image(small, QImage::Format_ARGB32_Premultiplied);
+            image.fill(0x55AA3311);
+            BackdropPainter painter;
+            painter.paint(image, clip, state, now);
+            EXPECT_EQ(image.copy(clip), whole.copy(clip));
+            image = drawn(state);
+            painter.paint(image, clip, state, now);
+            EXPECT_EQ(image, whole);
+        }
+    }
+}
+
 TEST(Backdrop, ALightPaletteTakesAFaintVignette) {
     BackdropState state = plainState(7);
     ASSERT_TRUE(state.palette.light);
