@@ -7,6 +7,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QWidget>
@@ -18,8 +19,9 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int focusPatience = 120; // milliseconds
-constexpr int mostRaises = 20;     // in one showing: two stubborn windows must not fight
+constexpr int focusPatience = 120;  // milliseconds
+constexpr int settlingTime = 1'500; // milliseconds in which managers move the focus about
+constexpr int mostRaises = 20;      // in one showing: two stubborn windows must not fight
 
 X11Hold::What initialHold(InputHold hold) {
     return hold == InputHold::KeyboardAndMouse ? X11Hold::What::Everything : X11Hold::What::Focus;
@@ -179,6 +181,7 @@ private:
         if (letGo_) {
             return;
         }
+        cameForward_.start();
         window_.raise();
         hold_->take(*window_.windowHandle(),
                     managed_ ? X11Hold::What::Focus : initialHold(setup_.hold));
@@ -187,11 +190,16 @@ private:
         }
     }
 
-    // The focus did not stay with any window of the program.
+    // The focus did not stay with any window of the program; or, when a dialog
+    // closed, the manager gave it to the one that had it before.
     void insist() {
-        if (window_.isVisible() && !lowered_ && !letGo_ &&
-            QGuiApplication::focusWindow() == nullptr) {
-            hold_->take(*window_.windowHandle(), X11Hold::What::FocusAndKeyboard);
+        const QWindow* focused = QGuiApplication::focusWindow();
+        const bool strayed =
+            focused != window_.windowHandle() && cameForward_.elapsed() < settlingTime;
+        if (window_.isVisible() && !lowered_ && !letGo_ && (focused == nullptr || strayed)) {
+            hold_->take(*window_.windowHandle(), focused == nullptr
+                                                     ? X11Hold::What::FocusAndKeyboard
+                                                     : X11Hold::What::Focus);
         }
     }
 
@@ -247,6 +255,7 @@ private:
     ScreenFollower follower_;
     X11Monitors monitors_;
     QTimer watch_;
+    QElapsedTimer cameForward_;
 };
 
 class X11Overlays final : public OverlayMaker {
