@@ -36,7 +36,10 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
     , choose_(std::move(choose))
     , face_(face)
     , thumbnails_(new Thumbnails(photos, this))
-    , builtins_(photos.builtins()) {
+    , builtins_(photos.builtins())
+    , anchor_(new QWidget(this)) {
+    anchor_->setFocusPolicy(Qt::TabFocus); // else it has no place in that order
+    anchor_->hide();
     setAccessibleName(QStringLiteral("Your photo"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -51,6 +54,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
 
 void PhotoGroup::rebuild() {
     customBGs_ = Prefs::customBGs(store_);
+    const qsizetype focused = focusedCell();
     for (QWidget* cell : std::as_const(cells_)) {
         // The press that led here may still be running in it.
         cell->hide();
@@ -79,8 +83,22 @@ void PhotoGroup::rebuild() {
         cells_.append(tile);
     }
     place();
+    if (focused >= 0) {
+        cells_[qMin(focused, cells_.size() - 1)]->setFocus(Qt::OtherFocusReason);
+    }
     mark();
     fetchPictures();
+}
+
+// Where the keyboard is; -1: elsewhere.
+qsizetype PhotoGroup::focusedCell() const {
+    const QWidget* at = window()->focusWidget();
+    for (qsizetype i = 0; i < cells_.size(); ++i) {
+        if (cells_[i] == at || cells_[i]->isAncestorOf(at)) {
+            return i;
+        }
+    }
+    return -1;
 }
 
 PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
@@ -94,13 +112,11 @@ PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
 void PhotoGroup::place() {
     auto* grid = static_cast<QGridLayout*>(layout());
     // Tab goes from tile to tile, wherever in the panel this grid stands.
-    QWidget* before = nullptr;
+    QWidget* before = anchor_;
     for (qsizetype i = 0; i < cells_.size(); ++i) {
         QWidget* cell = cells_[i];
         grid->addWidget(cell, int(i) / PanelStyle::photoColumns, int(i) % PanelStyle::photoColumns);
-        if (before != nullptr) {
-            setTabOrder(before, cell);
-        }
+        setTabOrder(before, cell);
         before = cell;
         if (auto* cross = cell->findChild<RemoveButton*>()) {
             setTabOrder(cell, cross);

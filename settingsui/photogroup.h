@@ -29,6 +29,7 @@ protected:
 
 private:
     void rebuild();
+    qsizetype focusedCell() const;
     PhotoSwatch* makeSwatch(const QString& path, const QString& name);
     void place();
     void mark();
@@ -41,6 +42,7 @@ private:
     QFont face_;
     Thumbnails* thumbnails_;
     QStringList builtins_;
+    QWidget* anchor_; // never seen: holds the group's place in the order of Tab
     QStringList customBGs_;
     QList<QWidget*> cells_;
     QList<PhotoSwatch*> swatches_;

@@ -84,6 +84,8 @@ TEST_F(InspectorTest, TabGoesThroughEveryControlInVisualOrderAndRound) {
     listOwn({picture(QStringLiteral("own.png"))});
     store.set(K::transparency, 0.5);
     window();
+    listOwn({});
+    listOwn({picture(QStringLiteral("own.png"))});
     QStringList names;
     for (int i = 0; i < 60; ++i) {
         key(Qt::Key_Tab);

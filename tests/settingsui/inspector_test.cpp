@@ -104,6 +104,21 @@ TEST_F(InspectorTest, AddTileGoesWithTheThirdOwnPhoto) {
     EXPECT_TRUE(panel().findChild<AddTile*>()->isVisible());
 }
 
+TEST_F(InspectorTest, TheKeyboardStaysWhereAPhotoWasRemoved) {
+    listOwn({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
+    panel().findChildren<RemoveButton*>()[1]->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_EQ(Prefs::customBGs(store), QStringList({QStringLiteral("/1"), QStringLiteral("/3")}));
+    EXPECT_EQ(window().focusWidget(), photoSwatches().last());
+    EXPECT_EQ(photoSwatches().last()->path(), QStringLiteral("/3"));
+    key(Qt::Key_Tab);
+    key(Qt::Key_Space);
+    EXPECT_EQ(window().focusWidget(), panel().findChild<AddTile*>());
+    named<PanelSlider>(QStringLiteral("Size"))->setFocus(Qt::TabFocusReason);
+    listOwn({});
+    EXPECT_TRUE(named<PanelSlider>(QStringLiteral("Size"))->hasFocus());
+}
+
 TEST_F(InspectorTest, RemovingTheChosenPhotoDeletesItAndTheChoice) {
     const QString own = picture(QStringLiteral("own.png"));
     listOwn({own});
