@@ -4,17 +4,11 @@
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
-
-read_aloud() { /usr/bin/python3 "$here/accessible.py" "$@"; }
+. "$here/controls.sh"
 
 start_x 1280x1024
 start_manager openbox
-start_session_bus
-unset NO_AT_BRIDGE
-export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
-start launcher /usr/libexec/at-spi-bus-launcher --launch-immediately
-until_true 30 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
-    org.a11y.Bus.GetAddress || die "no accessibility bus"
+start_reader
 echo '{"quote": "Still waters run deep.", "author": "A Proverb"}' >"$work/quote.json"
 settings "{\"quoteSourceURL\": \"$work/quote.json\", \"dismissSeconds\": 60,
            \"screenAnimation\": \"still\", \"grainEnabled\": false}"
@@ -29,12 +23,16 @@ must "it goes" is_gone
 
 "$MORROWLEAF" --settings
 must "the settings can be read" read_aloud find "check box" "Show on wake and unlock"
+check "their window is a window" there frame "Morrowleaf Settings"
 while IFS='|' read -r role name; do
     check "the settings: $name" read_aloud find "$role" "$name"
 done <<'EOT'
 button|Edit Appearance…
 slider|Close after
 check box|Open at login
+panel|Appearance
+panel|Behaviour
+panel|Quotes
 text|Source URL
 button|Presets
 button|Test
@@ -45,9 +43,13 @@ check "the settings: New quote" read_aloud labelled "combo box" "New quote"
 read_aloud press "Edit Appearance…"
 must "a button can be pressed from afar" is_shown
 must "the editor can be read" read_aloud find "" "Reset"
+check "the screen's window is a window" there frame "Morrowleaf" 2
 while IFS='|' read -r role name; do
     check "the editor: $name" read_aloud find "$role" "$name"
 done <<'EOT'
+panel|Appearance
+panel|Palette
+panel|Your photo
 radio button|Auto
 radio button|Midnight
 radio button|Noir
