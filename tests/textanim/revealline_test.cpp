@@ -81,7 +81,9 @@ TEST_P(EveryStyle, PreparingChangesNothingOfThePicture) {
     const RevealLine line(parts(GetParam()));
     const RevealLine prepared(parts(GetParam()));
     const QTransform device = QTransform::fromScale(2, 2);
-    for (double seconds = 0; seconds < prepared.settledAfter() + 0.2; seconds += 0.13) {
+    const int steps = static_cast<int>(prepared.settledAfter() / 0.13) + 2;
+    for (int step = 0; step <= steps; ++step) {
+        const double seconds = 0.13 * step;
         prepared.prepare(device, seconds);
         EXPECT_TRUE(prepared.isPrepared(device, seconds));
         EXPECT_EQ(painted(prepared, seconds, 2), painted(line, seconds, 2)) << seconds;
