@@ -1,6 +1,7 @@
 #!/bin/bash
 # Figures of the running program on a private X server; not a test.
-#   MORROWLEAF=... E2E_MAPWATCH=... figures.sh [SHOWINGS]
+#   MORROWLEAF=... E2E_MAPWATCH=... figures.sh [SHOWINGS [SETTINGS [picom]]]
+# SETTINGS are more lines of the settings file, such as '"screenAnimation": "still"'.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -8,16 +9,30 @@ showings=${1:-100}
 
 start_x 1920x1080
 start_manager openbox
+[ "${3:-}" = picom ] && start_compositor
 start_session_bus
-settings '{"dismissSeconds": 60}'
+settings "{\"dismissSeconds\": 15${2:+, $2}}"
 start app "$MORROWLEAF"
 app=$last
 until_true 30 opened_since 0 || die "no showing"
-ticks() { awk '{print $14 + $15}' "/proc/$app/stat"; }
 # of the threads that live: idle workers end after half a minute
 switches() { cat /proc/"$app"/task/*/status | awk '/^voluntary/ {s += $2} END {print s}'; }
 threads() { ls "/proc/$app/task" | wc -l; }
 pss() { awk '/^Pss:/ {print $2}' "/proc/$app/smaps_rollup"; }
+# What is the program's alone, whoever else uses the same libraries.
+own() { awk '/^Anonymous:/ {print $2}' "/proc/$app/smaps_rollup"; }
+median() { sort -n | awk '{v[NR] = $1} END {print v[int((NR + 1) / 2)]}'; }
+# since START TICKS: the share of a core since then, in percent
+since() {
+    awk -v start="$1" -v ticks="$2" -v now="${EPOCHREALTIME/./}" \
+        '{printf "%.1f\n", ($14 + $15 - ticks) * 1e6 / (now - start)}' "/proc/$app/stat"
+}
+over() {
+    local start=${EPOCHREALTIME/./} ticks
+    ticks=$(awk '{print $14 + $15}' "/proc/$app/stat")
+    "$@"
+    since "$start" "$ticks"
+}
 activate() {
     gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
         -m org.freedesktop.Application.Activate '{}' >/dev/null
@@ -27,40 +42,51 @@ close_it() {
     until_true 30 is_gone || die "it stays"
     sleep 0.2
 }
+whole_showing() {
+    local n
+    n=$(maps)
+    activate
+    until_true 30 opened_since "$n" || die "no showing"
+    until_true 30 is_gone || die "it stays"
+}
 
-sleep 5
-before=$(ticks)
-sleep 10
-echo "CPU of a showing at 1920x1080: $(($(ticks) - before)) per mille of a core"
-echo "PSS while shown: $(pss) kB"
 close_it
+echo "CPU at 1920x1080, percent of a core"
+echo "  whole showing of 15 s: $(for _ in 1 2 3; do over whole_showing; done | median)"
+activate
+sleep 6
+echo "  text at rest: $(for _ in 1 2 3; do over sleep 2.6; done | median)"
+echo "PSS while shown: $(pss) kB, anonymous $(own) kB"
+until_true 30 is_gone || die "it stays"
 sleep 2
-echo "PSS idle: $(pss) kB, private $(awk '/^Private/ {s += $2} END {print s}' "/proc/$app/smaps_rollup") kB"
+echo "PSS idle: $(pss) kB, anonymous $(own) kB"
 sleep 35
 before=$(switches)
 workers=$(threads)
 sleep 60
 [ "$(threads)" -eq "$workers" ] || echo "threads have ended meanwhile: the next figure is too low"
 echo "wake-ups in 60 idle seconds: $(($(switches) - before))"
-for _ in 1 2 3 4 5; do
+for _ in 1 2 3 4 5 6 7; do
     asked=${EPOCHREALTIME/./}
     activate
     sleep 1.2
-    painted=$(awk '/ map$/ {m = $2} / painted$/ {p = $2} END {print m, p}' "$work/mapwatch.log")
-    awk -v a="$asked" -v mp="$painted" 'BEGIN {split(mp, t, " ");
-        printf "asked to mapped %.0f ms, to the first frame that differs %.0f ms\n", \
-            t[1] - a / 1000, t[2] - a / 1000}'
+    awk -v a="$asked" '/ map$/ {m = $2} / painted$/ {p = $2} END {
+        printf "%.0f %.0f\n", m - a / 1000, p - a / 1000}' "$work/mapwatch.log"
     close_it
-done
-memory=$(pss)
+done >"$work/times"
+echo "asked to mapped $(cut -d ' ' -f 1 "$work/times" | median) ms," \
+    "to the first frame that differs $(cut -d ' ' -f 2 "$work/times" | median) ms"
+memory=$(own)
 files=$(ls "/proc/$app/fd" | wc -l)
 for round in 1 2 3 4; do
     for _ in $(seq $((showings / 4))); do
+        n=$(maps)
         activate
-        sleep 0.15
+        until_true 30 opened_since "$n" || die "no showing"
+        xdotool key Escape
+        until_true 30 is_gone || die "it stays"
     done
-    close_it
     sleep 2
-    echo "after $((round * (showings / 4))) showings: PSS $(($(pss) - memory)) kB more," \
+    echo "after $((round * (showings / 4))) showings: $(($(own) - memory)) anonymous kB more," \
         "$(($(ls "/proc/$app/fd" | wc -l) - files)) files more"
 done
