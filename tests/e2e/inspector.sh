@@ -1,122 +1,202 @@
 #!/bin/bash
-# The appearance editor and the settings window under real keys and clicks:
-# after each step the settings file holds what the control says.
+# The appearance editor under real keys and clicks: after each step the
+# settings file holds what the control says, and nothing else has changed.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
+. "$here/controls.sh"
 
 start_x 1280x1024
 start_manager openbox
-file=$XDG_CONFIG_HOME/morrowleaf/settings.json
-settings '{"screenAnimation": "still", "grainEnabled": false}'
-
-# stored KEY VALUE: the file holds the key with this JSON value
-stored() {
-    python3 - "$file" "$1" "$2" <<'EOF'
-import json, sys
-value = json.load(open(sys.argv[1])).get(sys.argv[2])
-sys.exit(0 if value == json.loads(sys.argv[3]) and value is not None else 1)
-EOF
-}
-# stored_near KEY NUMBER
-stored_near() {
-    python3 - "$file" "$1" "$2" <<'EOF'
-import json, sys
-value = json.load(open(sys.argv[1])).get(sys.argv[2], 1e9)
-sys.exit(0 if abs(value - float(sys.argv[3])) < 0.03 else 1)
-EOF
-}
-press() { xdotool key --delay 40 "$@"; }
-tabs() {
-    local i
-    for ((i = 0; i < $1; i++)); do xdotool key Tab; sleep 0.02; done
-}
-click() { xdotool mousemove "$1" "$2" click 1; }
+start_reader
+own=$XDG_DATA_HOME/Morrowleaf/backgrounds
+mkdir -p "$own"
+convert -size 80x60 xc:red "$own/one.png"
+convert -size 80x60 xc:blue "$own/two.png"
+begin_with "{\"screenAnimation\": \"still\", \"grainEnabled\": false,
+             \"customBackgrounds\": [\"$own/one.png\", \"$own/two.png\"]}"
+palettes=(Midnight Ember Forest Plum Slate Brass Violet Paper Noir)
+photos=(Aurora Dunes Forest Lake Ridges Sea)
+photo() { printf '"%s/%s.jpg"' "$folder" "${1,,}"; }
+dialog() { xdotool search --onlyvisible --name '^Add a Photo$'; }
 
 start app "$MORROWLEAF" --settings
 app=$last
-window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$'; }
-must "the settings window opens" window
-sleep 0.5
-shot settings
-# The buttons and rows, by their places in the view of 520 x 545 points.
-in_settings() { xdotool mousemove --window "$(window | head -1)" "$1" "$2" click 1; }
-in_settings 460 137
-must "the wake switch is stored" stored showOnWake false
-in_settings 460 137
-must "and goes back" stored showOnWake true
-in_settings 300 335
-xdotool type --delay 20 'http://127.0.0.1:9/none'
-must "the source is stored as typed" stored quoteSourceURL '"http://127.0.0.1:9/none"'
-press ctrl+a BackSpace
-must "and emptied" stored quoteSourceURL '""'
-shot settings-after
-
-in_settings 430 59
-must "the button opens the editor" is_shown
-sleep 1.2
+must "the settings window opens" focus_is "Morrowleaf Settings"
+# edit: opens the editor and waits until it stands in its place
+in_place() { [ "$(column panel Appearance "$1" 4)" = 960 ]; }
+edit() {
+    must "the editor opens by its button" there "push button" "Edit Appearance"
+    click_on "push button" "Edit Appearance"
+    must "the editor is there" is_shown
+    must "and has the keyboard" focus_is Morrowleaf
+    must "and has slid in" in_place 2
+}
+edit
 shot editor
 
-# By keyboard, in visual order: automatic, nine palettes, six photos, the add
-# tile, typeface, size, vignette, transparency, ...
-tabs 3
+# By keyboard, in visual order.
+tab_to "radio button" Auto
 press space
-must "the second palette is stored" stored paletteIndex 1
-tabs 8
+keeps "the automatic palette" paletteIndex -1 backgroundImagePath '""'
+for i in "${!palettes[@]}"; do
+    tab_to "radio button" "${palettes[i]}"
+    press space
+    keeps "palette ${palettes[i]}" paletteIndex "$i"
+    must "and it is marked" checked "radio button" "${palettes[i]}"
+done
+for name in "${photos[@]}"; do
+    which=1
+    [ "$name" = Forest ] && which=2
+    tab_to "radio button" "$name" "$which"
+    press space
+    must "photo $name is marked" checked "radio button" "$name" "$which"
+    folder=$(python3 -c "import json, os, sys
+print(os.path.dirname(json.load(open(sys.argv[1]))['backgroundImagePath']))" \
+        "$XDG_CONFIG_HOME/morrowleaf/settings.json")
+    keeps "and stored, and the palette stays" backgroundImagePath "$(photo "$name")"
+done
+check "no palette is marked beside a photo" not checked "radio button" Noir
+tab_to "radio button" "Your photo 1"
 press space
-must "the photo is chosen" grep -q 'backgroundImagePath.*aurora.jpg' "$file"
-check "and the palette stays" stored paletteIndex 1
-tabs 7
-press space Down Return
-must "the typeface is stored" stored fontDesign '"serif"'
-check "Return in the menu ends nothing" is_shown
-press space Escape
-sleep 0.3
-check "Escape in the menu ends nothing" is_shown
-tabs 1
-press End
-must "the size is stored" stored textScale 1.6
-tabs 1
-press Home
-must "the vignette is stored" stored vignetteStrength 0.0
-tabs 1
-press Prior Prior Prior
-must "the transparency is stored" stored_near backdropTransparency 0.3
-shot editor-transparent
-tabs 1
+keeps "an own photo" backgroundImagePath "\"$own/one.png\""
+tab_to "push button" "Remove your photo 1"
+tab_to "radio button" "Your photo 2"
 press space
-must "the glass is stored" stored useLiquidGlass false
-tabs 1
-press space Down Down Return
-must "the reveal is stored" stored textAnimation '"typewriter"'
-tabs 1
-press space Home Return
-must "the motion is stored" stored screenAnimation '"drift"'
-tabs 1
+keeps "the other one" backgroundImagePath "\"$own/two.png\""
+tab_to "push button" "Remove your photo 2"
 press space
-must "the grain is stored" stored grainEnabled true
-tabs 1
+keeps "removed, it is neither listed nor chosen" backgroundImagePath '""' \
+    customBackgrounds "[\"$own/one.png\"]"
+check "nor there" not test -e "$own/two.png"
+must "and the keyboard stays where it was" focused "push button" "Add a photo"
 press space
-must "Reset puts the typeface back" stored fontDesign '"fraunces"'
-check "and the photo" stored backgroundImagePath '""'
-check "and the palette" stored paletteIndex -1
-check "and the glass" stored useLiquidGlass true
-shot editor-reset
-
-# By mouse, at the panel's right edge.
-click 300 500
-sleep 0.3
-check "a click on the picture ends nothing" is_shown
-click 1062 113
-must "a palette can be clicked" stored paletteIndex 0
-shot editor-mouse
+must "the dialog opens" dialog
+must "and has the keyboard" focus_is "Add a Photo"
 press Escape
-must "Escape ends the editing" is_gone
+must "Escape closes it" not dialog
+must "and the editor has the keyboard" focus_is Morrowleaf
+keeps "a cancelled dialog changes nothing"
+must "nor moves the focus" focused "push button" "Add a photo"
 
-in_settings 430 59
-must "the editor opens again" is_shown
-sleep 0.8
+tab_to "combo box" Typeface
+press space Down Return
+keeps "the typeface" fontDesign '"serif"'
+press space Down Escape
+keeps "Escape in the menu changes nothing"
+check "and ends nothing" is_shown
+tab_to slider Size
+press End
+keeps "the largest size" textScale 1.6
+must "is read out" there label 160%
+press Home
+keeps "the smallest" textScale 0.7
+press Right Up Prior
+keeps "and one between" textScale 0.80..0.82
+tab_to slider Vignette
+press Home
+keeps "no vignette" vignetteStrength 0.0
+must "is read out" there label 0.00
+tab_to slider Transparency
+check "the glass is off without transparency" not enabled "check box" "Liquid Glass"
+press Prior Prior Prior
+keeps "the transparency" backdropTransparency 0.29..0.31
+must "is read out" there label 30%
+tab_to "check box" "Liquid Glass"
+press space
+keeps "the glass" useLiquidGlass false
+tab_to "combo box" "Text reveal"
+press space Down Down Return
+keeps "the reveal" textAnimation '"typewriter"'
+tab_to "combo box" "Screen motion"
+press space Home Return
+keeps "the motion" screenAnimation '"drift"'
+press space Down Return
+keeps "and back" screenAnimation '"still"'
+tab_to "check box" "Film grain"
+press space
+keeps "the grain" grainEnabled true
+tab_to "push button" Reset
+press space
+factory=(backgroundImagePath '""' paletteIndex -1 fontDesign '"fraunces"' textScale 1.0
+    vignetteStrength 0.55 backdropTransparency 0.0 useLiquidGlass true
+    textAnimation '"fade"' screenAnimation '"drift"' grainEnabled true)
+keeps "Reset puts everything back, and keeps the photo" "${factory[@]}"
+tab_to "push button" "Done"
+tab_to "radio button" Auto
+press x ctrl+s Menu F5
+check "other keys end nothing" is_shown
 press Return
 must "Return ends the editing" is_gone
+must "and gives the keyboard back" focus_is "Morrowleaf Settings"
+keeps "and changes nothing"
+
+# By mouse.
+edit
+xdotool mousemove 300 500 click 1 click 3
+check "a click on the picture ends nothing" is_shown
+click_on "combo box" "Screen motion"
+must "the menu opens by mouse" there "list item" Still
+click_on "list item" Still
+keeps "a motion by mouse" screenAnimation '"still"'
+click_on "check box" "Film grain"
+keeps "the grain by mouse" grainEnabled false
+for i in "${!palettes[@]}"; do
+    click_on "radio button" "${palettes[i]}"
+    keeps "palette ${palettes[i]} by mouse" paletteIndex "$i"
+done
+click_on "radio button" Auto
+keeps "and the automatic one" paletteIndex -1
+for name in "${photos[@]}"; do
+    which=1
+    [ "$name" = Forest ] && which=2
+    click_on "radio button" "$name" "$which"
+    keeps "photo $name by mouse" backgroundImagePath "$(photo "$name")"
+done
+click_on "radio button" "Your photo 1"
+keeps "the own one" backgroundImagePath "\"$own/one.png\""
+click_on "push button" "Add a photo"
+must "the dialog opens by mouse" dialog
+must "with the keyboard" focus_is "Add a Photo"
+press Escape
+must "and goes" not dialog
+must "and gives the keyboard back" focus_is Morrowleaf
+click_on "push button" "Remove your photo 1"
+keeps "the removal by mouse" backgroundImagePath '""' customBackgrounds '[]'
+click_on "combo box" Typeface
+must "the typefaces open" there "list item" Mono
+click_on "list item" Mono
+keeps "a typeface by mouse" fontDesign '"mono"'
+click_on "combo box" "Text reveal"
+must "the reveals open" there "list item" "Rise"
+xdotool mousemove 300 500 click 1
+must "a press beside the menu closes it" not there "list item" "Rise"
+keeps "and changes nothing"
+check "nor ends it the editing" is_shown
+drag() {
+    point slider "$1" 1 "$2"
+    xdotool mousedown 1
+    point slider "$1" 1 "$3"
+    xdotool mouseup 1
+}
+drag Size 0.2 0.5
+keeps "the size by mouse" textScale 1.12..1.18
+drag Vignette 0.9 0.01
+keeps "the vignette by mouse" vignetteStrength 0.0
+drag Transparency 0.5 0.99
+keeps "the transparency by mouse" backdropTransparency 1.0
+must "the glass can be switched" enabled "check box" "Liquid Glass"
+shot editor-transparent
+click_on "check box" "Liquid Glass"
+keeps "the glass by mouse" useLiquidGlass false
+click_on "push button" Reset
+keeps "Reset by mouse" "${factory[@]}"
+click_on "push button" Done
+must "Done ends the editing" is_gone
+must "and gives the keyboard back" focus_is "Morrowleaf Settings"
+
+edit
+press Escape
+must "Escape ends the editing" is_gone
 check "the program goes on" kill -0 "$app"
 finish
