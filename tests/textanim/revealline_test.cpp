@@ -95,10 +95,12 @@ TEST_P(EveryStyle, PreparingChangesNothingOfThePicture) {
 TEST_P(EveryStyle, LooksTheSameInAnyOrderOfInstants) {
     const RevealLine line(parts(GetParam()));
     std::vector<double> instants;
+    instants.reserve(12);
     for (int i = 0; i < 12; ++i) {
         instants.push_back(line.delay() + (line.settledAfter() - line.delay()) * i / 10);
     }
     std::vector<QImage> fresh;
+    fresh.reserve(instants.size());
     for (const double at : instants) {
         fresh.push_back(painted(RevealLine(parts(GetParam())), at, 1.25));
     }
