@@ -110,11 +110,12 @@ private:
 
 TEST_F(SettingsViewTest, HasAFixedSizeAndTheTexts) {
     EXPECT_EQ(view().size(), QSize(520, 545));
+    const char* const help =
+        "Any JSON with a quote and author field works, plus a local file path. The last fetched "
+        "quote is cached, so it still shows offline.";
     for (const char* text :
          {"Appearance", "Palette, typeface, size, vignette and grain", "Behaviour", "New quote",
-          "Close after", "15s", "Quotes", "Source URL",
-          "Any JSON with a quote and author field works, plus a local file path. The last fetched "
-          "quote is cached, so it still shows offline."}) {
+          "Close after", "15s", "Quotes", "Source URL", help}) {
         EXPECT_TRUE(shows_(QString::fromUtf8(text))) << text;
     }
     EXPECT_EQ(only<QLineEdit>()->placeholderText(),
