@@ -52,6 +52,8 @@ protected:
         }
         if (QWidget* popup = QApplication::activePopupWidget()) {
             popup->close();
+        } else if (QApplication::activeModalWidget() != dialog_) {
+            return false; // a question of the dialog's own, which it waits for
         } else {
             dialog_->reject();
         }
@@ -64,7 +66,7 @@ private:
 
 using Picked = std::function<void(std::optional<QString>)>;
 
-void askByToolkit(Picked picked) {
+void askByToolkit(const QWidget& window, Picked picked) {
     // Without a parent: the picture's window may be one that no window
     // manager knows.
     auto* dialog = new QFileDialog(nullptr, title);
@@ -78,6 +80,12 @@ void askByToolkit(Picked picked) {
             picked(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
                                                                    : std::nullopt);
         });
+    // It must not go while it waits for the answer to a question of its own.
+    QObject::connect(&window, &QObject::destroyed, dialog, [dialog] {
+        if (QApplication::activeModalWidget() == dialog) {
+            dialog->reject();
+        }
+    });
     new EscapeCloses(dialog);
     dialog->open();
     dialog->raise();
@@ -102,14 +110,14 @@ PhotoChooser photoDialog(FileChooser& desktop, std::function<void()> lower,
         }
         const FileQuestion question{
             .title = title, .kindName = QStringLiteral("Images"), .mimeTypes = mimeTypes()};
-        desktop.ask(*window, question, [finish](const FileAnswer& answer) {
+        desktop.ask(*window, question, [finish, window](const FileAnswer& answer) {
             switch (answer.kind) {
             case FileAnswer::Kind::Chosen:
                 return finish(answer.path);
             case FileAnswer::Kind::Cancelled:
                 return finish(std::nullopt);
             case FileAnswer::Kind::Unavailable:
-                return askByToolkit(finish);
+                return askByToolkit(*window, finish);
             }
         });
     };

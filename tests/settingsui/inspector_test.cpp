@@ -141,6 +141,34 @@ TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
     EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
 }
 
+TEST_F(InspectorTest, OddNamesOfPhotosAreNoHindrance) {
+    const QStringList names{
+        QStringLiteral("\u05de\u05d5\u05e8\u05d9\u05d3 \u202e right to left.png"),
+        QString(80, QChar(0x4e2d)) + QStringLiteral(".png"),
+        QStringLiteral("50% & <b>bold<b>\n#?.png")};
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        press(panel().findChild<AddTile*>());
+        pick(picture(names[i]));
+        ASSERT_TRUE(await([&] { return Prefs::customBGs(store).size() == i + 1; }));
+        ASSERT_TRUE(await([&] { return photoSwatches().last()->isMarked(); }));
+        EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
+        EXPECT_EQ(photoSwatches().last()->accessibleName(),
+                  QStringLiteral("Your photo %1").arg(i + 1));
+    }
+}
+
+TEST_F(InspectorTest, ManyStoredPhotosAreAllListed) {
+    QStringList paths;
+    for (int i = 0; i < 500; ++i) {
+        paths.append(QStringLiteral("/missing/%1.jpg").arg(i));
+    }
+    listOwn(paths);
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 500);
+    EXPECT_EQ(panel().findChildren<AddTile*>().size(), 0);
+    listOwn({});
+    EXPECT_EQ(photoSwatches().size(), photos.builtins().size());
+}
+
 TEST_F(InspectorTest, ACancelledOrRefusedPhotoChangesNothing) {
     press(panel().findChild<AddTile*>());
     pick(std::nullopt);

@@ -219,6 +219,16 @@ TEST_F(SettingsViewTest, SourceGoesBothWays) {
     EXPECT_EQ(field->text(), QStringLiteral("elsewhere"));
 }
 
+TEST_F(SettingsViewTest, ALongSourceIsKeptWhole) {
+    const QString text(100'000, QLatin1Char('x'));
+    only<QLineEdit>()->selectAll();
+    only<QLineEdit>()->insert(text);
+    EXPECT_EQ(store.text(K::source)->size(), only<QLineEdit>()->text().size());
+    store.set(K::source, text);
+    view();
+    EXPECT_EQ(store.text(K::source), text);
+}
+
 TEST_F(SettingsViewTest, PresetsSetTheSource) {
     auto* presets = button(QStringLiteral("Presets"));
     ASSERT_NE(presets, nullptr);
