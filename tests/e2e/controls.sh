@@ -29,6 +29,11 @@ focused() { stands "$1" "$2" focused "${3:-1}"; }
 checked() { stands "$1" "$2" checked "${3:-1}"; }
 enabled() { stands "$1" "$2" enabled "${3:-1}"; }
 
+# editor_listens: the keyboard is with the editor at the right edge, by focus or held
+editor_listens() {
+    read_aloud places | awk -F'|' '$3 ~ /focused/ && $4 >= 960 { found = 1 } END { exit !found }'
+}
+
 # point ROLE NAME [WHICH [PART]]: the mouse to the middle of a control, or to
 # another part of its width
 point() {

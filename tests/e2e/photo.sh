@@ -45,7 +45,7 @@ ask() {
 }
 back() {
     must "the dialog has gone" not dialog
-    must "the editor has the keyboard" focus_is Morrowleaf
+    must "the editor has the keyboard" editor_listens
     check "and is there" is_shown
 }
 
