@@ -47,6 +47,22 @@ QFont scaled(const QFont& font, double factor) {
     return result;
 }
 
+// A word without end may break anywhere, or it would widen the whole form.
+QString breakable(const QString& text) {
+    constexpr int longestWord = 30; // letters
+    QString result;
+    int letters = 0;
+    for (const QChar c : text) {
+        letters = c.isSpace() ? 0 : letters + 1;
+        if (letters > longestWord && !c.isLowSurrogate() && !c.isMark()) {
+            result += QChar(0x200B);
+            letters = 1;
+        }
+        result += c;
+    }
+    return result;
+}
+
 // With more room beside its text than the style leaves.
 QPushButton* roomyButton(const QString& text, QWidget* parent) {
     auto* button = new QPushButton(text, parent);
@@ -265,7 +281,8 @@ void SettingsView::test() {
 }
 
 void SettingsView::tell(const QString& testResult) {
-    testResult_->setText(testResult);
+    testResult_->setText(breakable(testResult));
+    testResult_->setAccessibleName(testResult);
     testResult_->setVisible(!testResult.isEmpty());
     testButton_->setAccessibleDescription(testResult);
 }

@@ -270,6 +270,15 @@ TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
     EXPECT_EQ(store.text(K::source), QStringLiteral("/somewhere"));
 }
 
+TEST_F(SettingsViewTest, AWordWithoutEndDoesNotWidenTheForm) {
+    view().test();
+    answer(Quote{QString(3000, QLatin1Char('W')), QStringLiteral("Nobody")});
+    QCoreApplication::processEvents();
+    for (const auto* card : view().findChildren<FormCard*>()) {
+        EXPECT_LT(card->mapTo(&view(), QPoint(card->width(), 0)).x(), view().width());
+    }
+}
+
 TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
     view().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view(), 60'000));
