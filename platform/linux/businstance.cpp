@@ -3,6 +3,8 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDeadlineTimer>
+#include <QThread>
 
 namespace morrowleaf {
 
@@ -12,8 +14,9 @@ const QString name = "org.morrowleaf.Morrowleaf";
 const QString path = "/org/morrowleaf/Morrowleaf";
 const QString interface = "org.freedesktop.Application";
 const QString tokenKey = "activation-token";
-constexpr int attempts = 3;         // the other instance may be just ending
 constexpr int answerTimeout = 5000; // milliseconds
+constexpr int retryTime = 2000;     // milliseconds that another instance may take to end
+constexpr int pause = 50;           // milliseconds between attempts
 
 } // namespace
 
@@ -35,18 +38,13 @@ BusInstance::BusInstance()
     connect(&application_, &BusApplication::requested, this, &SingleInstance::requested);
 }
 
-BusInstance::~BusInstance() {
-    auto bus = link_.bus();
-    bus.unregisterObject(path);
-    bus.unregisterService(name);
-}
-
 bool BusInstance::claim(const LaunchRequest& request) {
     link_.open();
     if (!link_.bus().isConnected()) {
         return true;
     }
-    for (int i = 0; i < attempts; ++i) {
+    const QDeadlineTimer retries(retryTime);
+    do {
         if (takeName()) {
             // A bus that comes back has forgotten the name.
             connect(&link_, &BusLink::up, this, &BusInstance::takeName);
@@ -55,7 +53,8 @@ bool BusInstance::claim(const LaunchRequest& request) {
         if (handOver(request)) {
             return false;
         }
-    }
+        QThread::msleep(pause);
+    } while (!retries.hasExpired()); // one that hangs has the request, and once is enough
     return false;
 }
 

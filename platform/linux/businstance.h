@@ -31,7 +31,6 @@ class BusInstance : public SingleInstance {
 
 public:
     BusInstance();
-    ~BusInstance() override;
 
     bool claim(const LaunchRequest& request) override;
 

@@ -73,6 +73,15 @@ application() {
 }
 application Activate '{"activation-token": <"abc">}'
 must "the desktop's way of activating shows it" opened_since "$n"
+xdotool key Escape
+must "a key closes it" is_gone
+n=$(maps)
+kill -STOP "$app"
+"$MORROWLEAF" || fail "a launch beside one that hangs ends with status 0"
+kill -CONT "$app"
+must "and is answered when that one goes on" opened_since "$n"
+sleep 0.7
+check "once" mapped_times $((n + 1))
 application ActivateAction quit '[]' '{}'
 must "and its way of quitting ends it" not kill -0 "$app"
 finish
