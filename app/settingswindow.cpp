@@ -37,6 +37,10 @@ void SettingsWindow::place(const QRect& available) {
 }
 
 void SettingsWindow::comeForward() {
+    if (isVisible() && !isActiveWindow()) {
+        // It may be on another workspace; shown anew, it comes up on this one.
+        hide();
+    }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();

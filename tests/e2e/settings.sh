@@ -32,6 +32,11 @@ check "and stays below the settings" test "$(convert "$work/above.png" \
 xdotool windowminimize "$id"
 "$MORROWLEAF" --settings
 must "asked for again it comes, wherever it was" focus_is "Morrowleaf Settings"
+xdotool set_num_desktops 2 set_desktop 1
+must "it stays on its workspace" not window
+# It learns a moment later that it has lost the keyboard.
+comes_when_asked() { "$MORROWLEAF" --settings && until_true 2 focus_is "Morrowleaf Settings"; }
+must "and comes to another that it is asked for on" comes_when_asked
 check "it cannot be resized" not sh -c "xprop -id $id _NET_WM_ALLOWED_ACTIONS | grep -q RESIZE"
 check "it has an icon" sh -c "xprop -id $id _NET_WM_ICON | grep -q 'Icon (32 x 32)'"
 # at the place and in the size of a frame with its title bar
