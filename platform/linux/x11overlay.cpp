@@ -223,7 +223,12 @@ private:
         if (!active || active->empty() || active->front() == XCB_WINDOW_NONE) {
             return;
         }
-        const xcb_window_t frame = x11::topLevelOf(active->front());
+        const auto owner = x11::property(active->front(), "WM_TRANSIENT_FOR");
+        if (owner && !owner->empty() && owner->front() == dialog_) {
+            return; // a question of the dialog's own: the dialog stays in sight
+        }
+        dialog_ = active->front();
+        const xcb_window_t frame = x11::topLevelOf(dialog_);
         if (frame != XCB_WINDOW_NONE && frame != id()) {
             stack(XCB_STACK_MODE_BELOW, frame);
         }
@@ -247,6 +252,7 @@ private:
     bool managed_;
     bool composited_;
     bool lowered_ = false;
+    xcb_window_t dialog_ = XCB_WINDOW_NONE; // what it was lowered for
     bool letGo_ = false;
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;
