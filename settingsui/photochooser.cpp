@@ -71,7 +71,10 @@ void askByToolkit(const QWidget& window, Picked picked) {
     // manager knows.
     auto* dialog = new QFileDialog(nullptr, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // The settings' window, which may be open, stays above ordinary ones too.
+    dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
     dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters(nameFilters());
     dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
     QObject::connect(
@@ -80,10 +83,12 @@ void askByToolkit(const QWidget& window, Picked picked) {
             picked(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
                                                                    : std::nullopt);
         });
-    // It must not go while it waits for the answer to a question of its own.
+    // It goes without an answer, for whom it would be has gone; but not while
+    // it waits for the answer to a question of its own.
     QObject::connect(&window, &QObject::destroyed, dialog, [dialog] {
         if (QApplication::activeModalWidget() == dialog) {
-            dialog->reject();
+            dialog->hide();
+            dialog->deleteLater();
         }
     });
     new EscapeCloses(dialog);

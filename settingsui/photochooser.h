@@ -12,7 +12,8 @@ namespace morrowleaf {
 class FileChooser;
 
 // Lets the user pick one picture file, without blocking; `picked` is called
-// exactly once, later, with nothing when the user cancels.
+// exactly once, later, with nothing when the user cancels; not at all when
+// `window` goes before.
 using PhotoChooser =
     std::function<void(QWidget* window, std::function<void(std::optional<QString>)> picked)>;
 

@@ -32,10 +32,10 @@ picture_is() {
     shot now
     [ "$(convert "$work/now.png" -crop 1x1+200+760 -format "%[fx:$1]" info:)" = 1 ]
 }
+# in_front [WINDOW]
 in_front() {
     shot front
-    local box
-    eval "$(xdotool getwindowgeometry --shell "$(dialog)")"
+    eval "$(xdotool getwindowgeometry --shell "${1:-$(dialog)}")"
     [ "$(convert "$work/front.png" -crop "1x1+$((X + WIDTH / 2))+$((Y + 4))" -format '%[fx:mean>0.7]' info:)" = 1 ]
 }
 ask() {
@@ -61,6 +61,8 @@ must "and has slid in" slid_in
 
 ask
 must "it stands in front of the quote screen" in_front
+topmost() { [ $(($(xprop -root _NET_CLIENT_LIST_STACKING | sed 's/.*[, ]//'))) -eq "$(dialog)" ]; }
+must "and of the settings" topmost
 shot dialog
 check "and nothing else does" shows_none_of dialog '#a0a0ff'
 press Escape
@@ -99,8 +101,13 @@ ask
 press ctrl+a
 xdotool type --delay 5 "$work/nothing.png"
 press Return
+both_in_sight() {
+    local number
+    for number in $(dialog); do in_front "$number" || return 1; done
+}
 two_dialogs() { [ "$(dialog | wc -l)" -eq 2 ]; }
 must "what is not there is asked about" two_dialogs
+must "with the dialog still in sight" both_in_sight
 press Escape
 must "Escape closes the question" not two_dialogs
 check "and not the dialog" dialog
@@ -113,4 +120,25 @@ must "and chosen" chosen
 press Escape
 must "Escape ends the editing" is_gone
 check "the program goes on" kill -0 "$app"
+
+# The picture goes before its dialog.
+ask_again() {
+    "$MORROWLEAF" --settings
+    must "the settings come back" focus_is "Morrowleaf Settings"
+    click_on "push button" "Edit Appearance"
+    must "the editor opens again" is_shown
+    must "with the keyboard" focus_is Morrowleaf
+    must "and slides in" slid_in
+    ask
+}
+ask_again
+"$MORROWLEAF"
+must "a new showing takes the dialog away" not dialog
+check "the program goes on" kill -0 "$app"
+press Escape
+must "the new showing ends" is_gone
+ask_again
+kill -TERM "$app"
+wait "$app"
+check "told to end with the dialog open it does so" test $? -eq 0
 finish
