@@ -14,9 +14,11 @@
 #include "textanim/fonts.h"
 
 #include <QApplication>
+#include <QThread>
 #include <QThreadPool>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace morrowleaf {
@@ -73,7 +75,8 @@ void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& 
 }
 
 // Everything between the start and the end of the application object.
-int runUntilQuit(QApplication& app, WindowSystem windowSystem, const QStringList& arguments) {
+int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& workers,
+                 const QStringList& arguments) {
     Platform platform = makePlatform(windowSystem);
     if (!platform.instance->claim(requestOf(arguments))) {
         return 0;
@@ -85,7 +88,7 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, const QStringList
     fonts.registerBundledFonts(fontFolder());
     SettingsStore store;
     SettingsFile file(store, defaultSettingsPath());
-    BGStore photos(store, backgroundFolder(), ownPhotoFolder());
+    BGStore photos(store, backgroundFolder(), ownPhotoFolder(), workers);
     QuoteFetcher fetcher;
     const ScreenSurroundings screen{.store = store,
                                     .fonts = fonts,
@@ -129,10 +132,12 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("Morrowleaf");
     QApplication::setQuitOnLastWindowClosed(false);
-    const int status = runUntilQuit(app, windowSystem, arguments);
-    if (!QThreadPool::globalInstance()->waitForDone(0)) {
-        // A photo is still being decoded, for nobody. The application object
-        // would wait for it.
+    QThreadPool workers;
+    // One core stays with the picture.
+    workers.setMaxThreadCount(std::max(QThread::idealThreadCount() - 1, 1));
+    const int status = runUntilQuit(app, windowSystem, workers, arguments);
+    if (!workers.waitForDone(0)) {
+        // A photo is still being decoded, for nobody, and would be waited for.
         std::_Exit(status);
     }
     return status;

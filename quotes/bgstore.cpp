@@ -38,11 +38,13 @@ QString ownPhotoFolder() {
     return data + QStringLiteral("/Morrowleaf/backgrounds");
 }
 
-BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder)
+BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
+                 QThreadPool& workers)
     : store_(store)
     , builtinFolder_(std::move(builtinFolder))
     , ownFolder_(std::move(ownFolder))
-    , import_(std::make_unique<PhotoImport>()) {
+    , workers_(workers)
+    , import_(std::make_unique<PhotoImport>(workers)) {
     if (ownFolder_.isEmpty()) {
         qFatal("There is no folder for the user's own photos.");
     }

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <QThreadPool>
 
 #include <functional>
 #include <memory>
@@ -27,7 +28,10 @@ class BGStore {
 public:
     static constexpr int limit = 3;
 
-    BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder);
+    // `workers` copy and decode. The global pool is the toolkit's own too: it
+    // paints with it, and would wait for a photo.
+    BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
+            QThreadPool& workers = *QThreadPool::globalInstance());
     ~BGStore(); // an unfinished add leaves nothing behind, and is not reported
 
     // Copies an image file into the own photos and lists it; the new path, or
@@ -42,6 +46,8 @@ public:
     // A decode failed: the photo no longer counts as readable, until another
     // file stands at its path.
     void markUnreadable(const QString& path);
+    // For what decodes photos.
+    QThreadPool& workers() const { return workers_; }
 
 private:
     struct FileStamp {
@@ -55,6 +61,7 @@ private:
     SettingsStore& store_;
     QString builtinFolder_;
     QString ownFolder_;
+    QThreadPool& workers_;
     QHash<QString, std::shared_ptr<const Photo>> cache_;
     QHash<QString, FileStamp> unreadable_;
     std::unique_ptr<PhotoImport> import_;

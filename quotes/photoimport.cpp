@@ -34,8 +34,9 @@ PendingFile::~PendingFile() {
     }
 }
 
-PhotoImport::PhotoImport()
-    : copying_(std::make_shared<Copying>()) {}
+PhotoImport::PhotoImport(QThreadPool& workers)
+    : workers_(workers)
+    , copying_(std::make_shared<Copying>()) {}
 
 PhotoImport::~PhotoImport() {
     copying_->cancelled = true;
@@ -73,18 +74,17 @@ std::shared_ptr<PendingFile> PhotoImport::copied(const QString& source, const QS
 
 void PhotoImport::work() {
     const Job& job = jobs_.front();
-    QThreadPool::globalInstance()->start(
-        [this, copying = copying_, source = job.source, destination = job.destination] {
-            auto copy = copied(source, destination, *copying);
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [this, copying, copy = std::move(copy)] {
-                    if (!copying->cancelled) {
-                        finish(copy);
-                    }
-                },
-                Qt::QueuedConnection);
-        });
+    workers_.start([this, copying = copying_, source = job.source, destination = job.destination] {
+        auto copy = copied(source, destination, *copying);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [this, copying, copy = std::move(copy)] {
+                if (!copying->cancelled) {
+                    finish(copy);
+                }
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 void PhotoImport::finish(const std::shared_ptr<PendingFile>& copy) {

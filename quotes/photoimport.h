@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class QThreadPool;
+
 namespace morrowleaf {
 
 // A file that goes away with its last holder unless it was kept.
@@ -31,7 +33,7 @@ class PhotoImport : public QObject {
     Q_OBJECT
 
 public:
-    PhotoImport();
+    explicit PhotoImport(QThreadPool& workers);
     ~PhotoImport() override; // waits for nothing and leaves no copy behind
 
     using Done = std::function<void(const std::shared_ptr<PendingFile>&)>;
@@ -53,6 +55,7 @@ private:
     void work();
     void finish(const std::shared_ptr<PendingFile>& copy);
 
+    QThreadPool& workers_;
     std::deque<Job> jobs_; // the first is being worked on
     std::shared_ptr<Copying> copying_;
 };

@@ -7,8 +7,9 @@
 
 namespace morrowleaf {
 
-GlassShowing::GlassShowing(QObject* parent)
-    : QObject(parent) {}
+GlassShowing::GlassShowing(QThreadPool& workers, QObject* parent)
+    : QObject(parent)
+    , workers_(workers) {}
 
 GlassShowing::~GlassShowing() = default;
 
@@ -28,7 +29,7 @@ void GlassShowing::want(const QImage& picture, double devicePixelRatio) {
     // The request lives on the main thread, with this object: a result that
     // finds it gone has nobody left to go to.
     const std::weak_ptr<Request> wanted = request_;
-    QThreadPool::globalInstance()->start([this, wanted, picture, devicePixelRatio] {
+    workers_.start([this, wanted, picture, devicePixelRatio] {
         if (wanted.expired()) {
             return;
         }

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QThreadPool;
+
 namespace morrowleaf {
 
 struct Glass;
@@ -15,7 +17,7 @@ class GlassShowing : public QObject {
     Q_OBJECT
 
 public:
-    explicit GlassShowing(QObject* parent = nullptr);
+    explicit GlassShowing(QThreadPool& workers, QObject* parent = nullptr);
     ~GlassShowing() override;
 
     // The picture to look through from now on; a null one is none. Asking
@@ -31,6 +33,7 @@ signals:
 private:
     struct Request {};
 
+    QThreadPool& workers_;
     qint64 key_ = 0;
     double ratio_ = 0;
     std::shared_ptr<const Glass> glass_;

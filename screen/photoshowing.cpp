@@ -7,6 +7,10 @@
 
 namespace morrowleaf {
 
+namespace {
+constexpr int beforeThumbnails = 1; // among what waits for a worker
+}
+
 struct PhotoShowing::Request {
     QString path;
     QSize pixels;
@@ -46,7 +50,7 @@ void PhotoShowing::decode(const QString& path, QSize pixels) {
     const std::shared_ptr<const Photo> photo = photos_.image(path);
     // The request lives on the main thread, with this object: a result that
     // finds it gone has nobody left to go to.
-    QThreadPool::globalInstance()->start([this, wanted, photo, pixels] {
+    const auto work = [this, wanted, photo, pixels] {
         if (wanted.expired()) {
             return;
         }
@@ -59,7 +63,8 @@ void PhotoShowing::decode(const QString& path, QSize pixels) {
                 }
             },
             Qt::QueuedConnection);
-    });
+    };
+    photos_.workers().start(work, beforeThumbnails);
 }
 
 void PhotoShowing::arrived(const Request& request, const QImage& image) {

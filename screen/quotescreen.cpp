@@ -1,5 +1,6 @@
 #include "screen/quotescreen.h"
 
+#include "quotes/bgstore.h"
 #include "quotes/settingsstore.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
@@ -49,7 +50,8 @@ struct QuoteScreen::Private {
         , around(surroundings)
         , box(around.store, around.loader, around.clock, around.random)
         , frames(around.monotonic)
-        , photo(around.photos) {}
+        , photo(around.photos)
+        , glass(around.photos.workers()) {}
 
     double sideInset() const { return inspector ? inspectorWidth : 0; }
     double sinceAppearance() const { return frames.now() - appearedAt; }

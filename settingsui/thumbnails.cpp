@@ -4,7 +4,6 @@
 
 #include <QFutureWatcher>
 #include <QPromise>
-#include <QThreadPool>
 
 namespace morrowleaf {
 
@@ -33,7 +32,7 @@ QImage Thumbnails::picture(const QString& path, QSize size) {
     });
     watcher->setFuture(promise->future());
     promise->start();
-    QThreadPool::globalInstance()->start([promise, photo, size] {
+    photos_.workers().start([promise, photo, size] {
         promise->addResult(photo->decodeFilling(size));
         promise->finish();
     });

@@ -181,6 +181,18 @@ TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
+TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
+    const QString source = picture(QStringLiteral("a.png"), "png", {3000, 2000});
+    QThreadPool workers;
+    photos = std::make_unique<BGStore>(store, QString(), own, workers);
+    QThreadPool::globalInstance()->waitForDone();
+    start(source);
+    EXPECT_EQ(workers.activeThreadCount(), 1);
+    EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    await(1);
+    EXPECT_EQ(listed().size(), 1);
+}
+
 TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
     const QString source = picture(QStringLiteral("a.png"), "png", {6000, 4000});
     const qint64 size = QFileInfo(source).size();

@@ -17,7 +17,7 @@ QImage picture(QRgb colour) {
 }
 
 TEST(GlassShowing, MakesTheGlassOnceForAPicture) {
-    GlassShowing showing;
+    GlassShowing showing(*QThreadPool::globalInstance());
     QSignalSpy made(&showing, &GlassShowing::made);
     const QImage desktop = picture(0xFF102030);
     showing.want(desktop, 1);
@@ -33,7 +33,7 @@ TEST(GlassShowing, MakesTheGlassOnceForAPicture) {
 }
 
 TEST(GlassShowing, OnlyTheLastPictureCounts) {
-    GlassShowing showing;
+    GlassShowing showing(*QThreadPool::globalInstance());
     QSignalSpy made(&showing, &GlassShowing::made);
     showing.want(picture(0xFF000000), 1);
     showing.want(picture(0xFFFFFFFF), 1);
@@ -46,7 +46,7 @@ TEST(GlassShowing, OnlyTheLastPictureCounts) {
 
 TEST(GlassShowing, MayGoBeforeItsGlassIsMade) {
     {
-        GlassShowing showing;
+        GlassShowing showing(*QThreadPool::globalInstance());
         showing.want(picture(0xFF123456), 1);
     }
     QThreadPool::globalInstance()->waitForDone();
