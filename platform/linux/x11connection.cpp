@@ -96,6 +96,22 @@ bool setInputFocus(xcb_window_t window) {
     return error == nullptr;
 }
 
+bool isClients(xcb_window_t window) {
+    auto* c = connection();
+    while (window > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        if (property(window, "WM_STATE")) {
+            return true;
+        }
+        const Reply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr));
+        if (!tree) {
+            return false;
+        }
+        window = tree->parent;
+    }
+    return false;
+}
+
 xcb_window_t topLevelOf(xcb_window_t window) {
     auto* c = connection();
     while (window != XCB_WINDOW_NONE) {

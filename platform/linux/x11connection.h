@@ -38,6 +38,10 @@ xcb_window_t inputFocus();
 // False when the window can no longer take it.
 bool setInputFocus(xcb_window_t window);
 
+// Whether `window` or one that holds it is an application's, by the mark of the
+// window manager; a manager also gives the focus to windows of its own.
+bool isClients(xcb_window_t window);
+
 // The child of the root that holds `window`, its frame for a managed one.
 xcb_window_t topLevelOf(xcb_window_t window);
 

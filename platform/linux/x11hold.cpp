@@ -51,12 +51,9 @@ void X11Hold::release(const QWindow& window) {
         return;
     }
     retry_.stop();
-    if (keyboard_) {
-        holder_->setKeyboardGrabEnabled(false);
-    }
-    if (mouse_) {
-        holder_->setMouseGrabEnabled(false);
-    }
+    // Whatever was noted: a grab that a popup took over may be ours again.
+    holder_->setKeyboardGrabEnabled(false);
+    holder_->setMouseGrabEnabled(false);
     keyboard_ = false;
     mouse_ = false;
 }
@@ -70,8 +67,8 @@ void X11Hold::giveBack(const QWindow& window) {
     holder_ = nullptr;
     // Somebody else may have taken the focus meanwhile and shall keep it.
     const xcb_window_t now = x11::inputFocus();
-    const bool nobodys =
-        now <= XCB_INPUT_FOCUS_POINTER_ROOT || now == own || now == x11::rootWindow();
+    const bool nobodys = now == own || (x11::isClients(before_) && !x11::isClients(now)) ||
+                         now <= XCB_INPUT_FOCUS_POINTER_ROOT || now == x11::rootWindow();
     if (nobodys && before_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
         x11::setInputFocus(before_);
     }
