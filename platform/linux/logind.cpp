@@ -184,7 +184,9 @@ void Logind::propertiesChanged(const QString& interface, const QVariantMap& chan
 void Logind::apply(const QVariantMap& properties, bool isChange) {
     const auto told = [&properties](const char* name) -> std::optional<bool> {
         const auto found = properties.find(name);
-        return found == properties.end() ? std::nullopt : std::optional(found->toBool());
+        return found == properties.end() || found->typeId() != QMetaType::Bool
+                   ? std::nullopt
+                   : std::optional(found->toBool());
     };
     const auto lockedHint = told("LockedHint");
     const auto active = told("Active");
