@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 namespace morrowleaf {
@@ -128,6 +129,10 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
 
 int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
     const WindowSystem windowSystem = chooseWindowSystem();
+    if (!isReachable(windowSystem)) {
+        std::fputs("There is no display to show anything on.\n", stderr);
+        return 1;
+    }
     QApplication::setDesktopFileName("org.morrowleaf.Morrowleaf");
     QApplication app(argc, argv);
     QApplication::setApplicationName("Morrowleaf");

@@ -13,6 +13,7 @@
 #include "platform/linux/waylandnative.h"
 #include "platform/linux/waylandoverlay.h"
 #include "platform/linux/waylandprobe.h"
+#include "platform/linux/x11connection.h"
 #include "platform/linux/x11mainscreen.h"
 #include "platform/linux/x11overlay.h"
 #include "platform/linux/x11picture.h"
@@ -109,6 +110,20 @@ WindowSystem chooseWindowSystem() {
         qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     }
     return system;
+}
+
+bool isReachable(WindowSystem system) {
+    switch (system) {
+    case WindowSystem::X11:
+    case WindowSystem::Xwayland:
+        return x11::serverAnswers();
+    case WindowSystem::Layer:
+    case WindowSystem::Wayland:
+        return probeWayland().reachable;
+    case WindowSystem::Null:
+        break;
+    }
+    return true;
 }
 
 Platform makePlatform(WindowSystem system) {

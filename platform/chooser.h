@@ -18,6 +18,10 @@ enum class WindowSystem {
 // xwayland) forces an answer.
 WindowSystem chooseWindowSystem();
 
+// Whether the application object can be made: without the server of that window
+// system the toolkit ends the process. Call before.
+bool isReachable(WindowSystem system);
+
 // Call after the application object was made.
 Platform makePlatform(WindowSystem system);
 

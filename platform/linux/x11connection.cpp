@@ -6,6 +6,13 @@
 
 namespace morrowleaf::x11 {
 
+bool serverAnswers() {
+    auto* c = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(c) == 0;
+    xcb_disconnect(c);
+    return answers;
+}
+
 xcb_connection_t* connection() {
     if (qGuiApp == nullptr) {
         return nullptr;

@@ -17,6 +17,10 @@ struct Free {
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
 
+// Whether the server that the environment names lets itself be connected to.
+// Needs no application object.
+bool serverAnswers();
+
 // The application's own connection; null where it is no X11 application.
 xcb_connection_t* connection();
 xcb_window_t rootWindow();

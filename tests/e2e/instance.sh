@@ -82,6 +82,9 @@ kill -CONT "$app"
 must "and is answered when that one goes on" opened_since "$n"
 sleep 0.7
 check "once" mapped_times $((n + 1))
+check "without a display it says so and ends" sh -c 'unset WAYLAND_DISPLAY
+    said=$(DISPLAY=:32000 "$MORROWLEAF" 2>&1); test $? = 1 &&
+    test "$said" = "There is no display to show anything on."'
 application ActivateAction quit '[]' '{}'
 must "and its way of quitting ends it" not kill -0 "$app"
 finish
