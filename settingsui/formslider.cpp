@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QWheelEvent>
 
 namespace morrowleaf {
 
@@ -24,6 +25,10 @@ void FormSlider::mousePressEvent(QMouseEvent* event) {
             groove.width() - handle.width(), option.upsideDown));
     }
     QSlider::mousePressEvent(event);
+}
+
+void FormSlider::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 } // namespace morrowleaf

@@ -14,6 +14,7 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override; // scrolls what lies around
 };
 
 } // namespace morrowleaf

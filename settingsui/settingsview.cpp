@@ -5,10 +5,10 @@
 #include "quotes/sourcepresets.h"
 #include "settingsui/binding.h"
 #include "settingsui/formcard.h"
+#include "settingsui/formpicker.h"
 #include "settingsui/formslider.h"
 #include "settingsui/loginswitch.h"
 
-#include <QComboBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -142,7 +142,7 @@ void SettingsView::addBehaviour(FormCard& card) {
     bindSwitch(*wake, store, K::showOnWake, true);
     card.addRow(wake);
 
-    auto* frequency = new QComboBox(&card);
+    auto* frequency = new FormPicker(&card);
     frequency->addItem(QStringLiteral("Every 6 hours"), QStringLiteral("6h"));
     frequency->addItem(QStringLiteral("Every 12 hours"), QStringLiteral("12h"));
     frequency->addItem(QStringLiteral("Every 24 hours"), QStringLiteral("24h"));

@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 namespace morrowleaf {
@@ -209,6 +210,22 @@ TEST_F(SettingsViewTest, CloseAfterTruncatesAndRewritesNothing) {
     EXPECT_TRUE(shows_(QStringLiteral("120s")));
     EXPECT_EQ(only<QSlider>()->value(), 60);
     EXPECT_EQ(store.real(K::dismiss), 120.5);
+}
+
+TEST_F(SettingsViewTest, TheWheelChangesNothingInPassing) {
+    store.set(K::frequency, QStringLiteral("12h"));
+    store.set(K::dismiss, 20.0);
+    for (QWidget* control : {static_cast<QWidget*>(only<QSlider>()), //
+                             static_cast<QWidget*>(only<QComboBox>())}) {
+        for (const int turn : {-120, 120}) {
+            const QPointF middle = QRectF(control->rect()).center();
+            QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, turn}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(control, &wheel);
+            EXPECT_EQ(store.text(K::frequency), QStringLiteral("12h"));
+            EXPECT_EQ(store.value(K::dismiss), QJsonValue(20.0));
+        }
+    }
 }
 
 TEST_F(SettingsViewTest, SourceGoesBothWays) {
