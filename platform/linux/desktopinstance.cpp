@@ -1,7 +1,7 @@
 #include "platform/linux/desktopinstance.h"
 
-#include "platform/linux/businstance.h"
-#include "platform/linux/socketinstance.h"
+#include "platform/linux/dbus/businstance.h"
+#include "platform/shared/socketinstance.h"
 
 #include <QStandardPaths>
 

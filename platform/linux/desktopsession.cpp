@@ -1,10 +1,10 @@
 #include "platform/linux/desktopsession.h"
 
-#include "platform/linux/logind.h"
-#include "platform/linux/screensavers.h"
-#include "platform/linux/sessiongate.h"
-#include "platform/linux/x11connection.h"
-#include "platform/linux/x11monitors.h"
+#include "platform/linux/dbus/logind.h"
+#include "platform/linux/dbus/screensavers.h"
+#include "platform/linux/x11/x11connection.h"
+#include "platform/linux/x11/x11monitors.h"
+#include "platform/shared/sessiongate.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,7 +1,7 @@
 #include "platform/linux/desktoptray.h"
 
-#include "platform/linux/notifierhost.h"
-#include "platform/linux/x11tray.h"
+#include "platform/linux/dbus/notifierhost.h"
+#include "platform/linux/x11/x11tray.h"
 
 namespace morrowleaf {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/sessiongate.h"
+#include "platform/shared/sessiongate.h"
 
 #include <gtest/gtest.h>
 

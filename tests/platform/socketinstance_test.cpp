@@ -1,4 +1,4 @@
-#include "platform/linux/socketinstance.h"
+#include "platform/shared/socketinstance.h"
 
 #include <QCoreApplication>
 #include <QFile>

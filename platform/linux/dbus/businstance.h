@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/linux/dbus/buslink.h"
+#include "platform/singleinstance.h"
+
+#include <QVariant>
+
+namespace morrowleaf {
+
+// The interface org.freedesktop.Application, by which the desktop and later
+// launches speak with the running instance.
+class BusApplication : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    using QObject::QObject;
+
+public slots:
+    void Activate(const QVariantMap& platformData);
+    void Open(const QStringList& uris, const QVariantMap& platformData);
+    void ActivateAction(const QString& action, const QVariantList& parameters,
+                        const QVariantMap& platformData);
+
+signals:
+    void requested(const morrowleaf::LaunchRequest& request);
+};
+
+class BusInstance : public SingleInstance {
+    Q_OBJECT
+
+public:
+    BusInstance();
+
+    bool claim(const LaunchRequest& request) override;
+
+private:
+    bool takeName();
+    bool handOver(const LaunchRequest& request);
+
+    BusLink link_;
+    BusApplication application_;
+};
+
+} // namespace morrowleaf

@@ -1,0 +1,55 @@
+#include "platform/linux/wayland/waylandglobals.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace morrowleaf {
+
+namespace {
+
+template <typename T>
+void bindIf(T*& object, wl_registry* registry, std::uint32_t name, const char* offered,
+            const wl_interface& wanted, std::uint32_t version) {
+    if (object == nullptr && std::strcmp(offered, wanted.name) == 0) {
+        object = static_cast<T*>(wl_registry_bind(registry, name, &wanted, version));
+    }
+}
+
+void onGlobal(void* data, wl_registry* registry, std::uint32_t name, const char* offered,
+              std::uint32_t version) {
+    auto& globals = *static_cast<WaylandGlobals*>(data);
+    // From version 2 on a surface can change its layer.
+    constexpr std::uint32_t layerVersion = 4;
+    bindIf(globals.layerShell, registry, name, offered, zwlr_layer_shell_v1_interface,
+           std::min(version, layerVersion));
+    bindIf(globals.screencopy, registry, name, offered, zwlr_screencopy_manager_v1_interface, 1);
+    bindIf(globals.blur, registry, name, offered, org_kde_kwin_blur_manager_interface, 1);
+    bindIf(globals.shm, registry, name, offered, wl_shm_interface, 1);
+}
+
+void onGlobalRemoved(void* /*data*/, wl_registry* /*registry*/, std::uint32_t /*name*/) {}
+
+constexpr wl_registry_listener listener{onGlobal, onGlobalRemoved};
+
+} // namespace
+
+WaylandGlobals bindGlobals(wl_display* display, wl_event_queue* queue) {
+    WaylandGlobals globals;
+    auto* wrapper = static_cast<wl_display*>(wl_proxy_create_wrapper(display));
+    if (queue != nullptr) {
+        wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), queue);
+    }
+    auto* registry = wl_display_get_registry(wrapper);
+    wl_proxy_wrapper_destroy(wrapper);
+    wl_registry_add_listener(registry, &listener, &globals);
+    if (queue != nullptr) {
+        wl_display_roundtrip_queue(display, queue);
+    } else {
+        wl_display_roundtrip(display);
+    }
+    wl_registry_destroy(registry);
+    return globals;
+}
+
+} // namespace morrowleaf

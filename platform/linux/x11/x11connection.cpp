@@ -1,0 +1,138 @@
+#include "platform/linux/x11/x11connection.h"
+
+#include <QGuiApplication>
+
+#include <cstring>
+
+namespace morrowleaf::x11 {
+
+bool serverAnswers() {
+    auto* c = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(c) == 0;
+    xcb_disconnect(c);
+    return answers;
+}
+
+xcb_connection_t* connection() {
+    if (qGuiApp == nullptr) {
+        return nullptr;
+    }
+    auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 != nullptr ? x11->connection() : nullptr;
+}
+
+xcb_window_t rootWindow() {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+}
+
+xcb_atom_t atom(const char* name) {
+    auto* c = connection();
+    const auto length = static_cast<std::uint16_t>(std::strlen(name));
+    const Reply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, length, name), nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+xcb_window_t selectionOwner(const char* selection) {
+    auto* c = connection();
+    const Reply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(c, xcb_get_selection_owner(c, atom(selection)), nullptr));
+    return reply ? reply->owner : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+}
+
+bool hasCompositor() {
+    return selectionOwner("_NET_WM_CM_S0") != XCB_WINDOW_NONE;
+}
+
+std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name) {
+    auto* c = connection();
+    constexpr std::uint32_t longest = 1024;
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        c, xcb_get_property(c, 0, window, atom(name), XCB_ATOM_ANY, 0, longest), nullptr));
+    if (!reply || reply->format != 32) {
+        return std::nullopt;
+    }
+    const auto* values = static_cast<const quint32*>(xcb_get_property_value(reply.get()));
+    return std::vector<quint32>(values, values + reply->value_len);
+}
+
+void setCardinal(xcb_window_t window, const char* name, quint32 value) {
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, atom(name), XCB_ATOM_CARDINAL,
+                        32, 1, &value);
+}
+
+// A property change is the one request that is answered with the server's
+// time. On a connection of its own the answer cannot be lost among the events
+// of the toolkit.
+quint32 serverTime() {
+    auto* c = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(c) != 0) {
+        xcb_disconnect(c);
+        return 0;
+    }
+    const xcb_window_t window = xcb_generate_id(c);
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+    xcb_create_window(c, 0, window, root, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0,
+                      XCB_CW_EVENT_MASK, &mask);
+    xcb_change_property(c, XCB_PROP_MODE_APPEND, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0,
+                        nullptr);
+    xcb_flush(c);
+    quint32 time = 0;
+    while (const Reply<xcb_generic_event_t> event{xcb_wait_for_event(c)}) {
+        if ((event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY) {
+            time = reinterpret_cast<const xcb_property_notify_event_t*>(event.get())->time;
+            break;
+        }
+    }
+    xcb_disconnect(c);
+    return time;
+}
+
+xcb_window_t inputFocus() {
+    auto* c = connection();
+    const Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
+    return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+}
+
+bool setInputFocus(xcb_window_t window) {
+    auto* c = connection();
+    const Reply<xcb_generic_error_t> error(xcb_request_check(
+        c, xcb_set_input_focus_checked(c, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME)));
+    return error == nullptr;
+}
+
+bool isClients(xcb_window_t window) {
+    auto* c = connection();
+    while (window > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        if (property(window, "WM_STATE")) {
+            return true;
+        }
+        const Reply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr));
+        if (!tree) {
+            return false;
+        }
+        window = tree->parent;
+    }
+    return false;
+}
+
+xcb_window_t topLevelOf(xcb_window_t window) {
+    auto* c = connection();
+    while (window != XCB_WINDOW_NONE) {
+        const Reply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr));
+        if (!tree) {
+            return XCB_WINDOW_NONE;
+        }
+        if (tree->parent == tree->root) {
+            return window;
+        }
+        window = tree->parent;
+    }
+    return XCB_WINDOW_NONE;
+}
+
+} // namespace morrowleaf::x11

@@ -1,0 +1,78 @@
+#include "platform/linux/x11/x11hold.h"
+
+#include "platform/linux/x11/x11connection.h"
+
+namespace morrowleaf {
+
+namespace {
+constexpr int retryInterval = 50; // milliseconds
+}
+
+X11Hold::X11Hold() {
+    retry_.setInterval(retryInterval);
+    QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { grab(); });
+}
+
+void X11Hold::take(QWindow& window, What what) {
+    if (holder_ == nullptr) {
+        before_ = x11::inputFocus();
+    }
+    holder_ = &window;
+    what_ = what;
+    keyboard_ = false;
+    mouse_ = false;
+    window.requestActivate();
+    if (what != What::Focus) {
+        // Another client may hold both for a while, a screen locker that is
+        // just leaving for instance.
+        retry_.start();
+        grab();
+    }
+}
+
+void X11Hold::grab() {
+    if (holder_ == nullptr) {
+        retry_.stop();
+        return;
+    }
+    if (!keyboard_) {
+        keyboard_ = holder_->setKeyboardGrabEnabled(true);
+    }
+    if (!mouse_ && what_ == What::Everything) {
+        mouse_ = holder_->setMouseGrabEnabled(true);
+    }
+    if (keyboard_ && (mouse_ || what_ != What::Everything)) {
+        retry_.stop();
+    }
+}
+
+void X11Hold::release(const QWindow& window) {
+    if (!isHolder(window)) {
+        return;
+    }
+    retry_.stop();
+    // Whatever was noted: a grab that a popup took over may be ours again.
+    holder_->setKeyboardGrabEnabled(false);
+    holder_->setMouseGrabEnabled(false);
+    keyboard_ = false;
+    mouse_ = false;
+}
+
+void X11Hold::giveBack(const QWindow& window) {
+    if (!isHolder(window)) {
+        return;
+    }
+    release(window);
+    const auto own = static_cast<xcb_window_t>(holder_->winId());
+    holder_ = nullptr;
+    // Somebody else may have taken the focus meanwhile and shall keep it.
+    const xcb_window_t now = x11::inputFocus();
+    const bool nobodys = now == own || (x11::isClients(before_) && !x11::isClients(now)) ||
+                         now <= XCB_INPUT_FOCUS_POINTER_ROOT || now == x11::rootWindow();
+    if (nobodys && before_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        x11::setInputFocus(before_);
+    }
+    before_ = XCB_WINDOW_NONE;
+}
+
+} // namespace morrowleaf

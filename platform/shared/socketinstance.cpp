@@ -1,0 +1,77 @@
+#include "platform/shared/socketinstance.h"
+
+#include <QLocalSocket>
+#include <QThread>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr int attempts = 20;
+constexpr int pause = 100;              // milliseconds between attempts
+constexpr int patience = 1000;          // milliseconds for one handing over
+constexpr qint64 longestRequest = 4096; // bytes
+
+} // namespace
+
+SocketInstance::SocketInstance(const QString& folder)
+    : socket_(folder + "/morrowleaf.socket")
+    , lock_(folder + "/morrowleaf.lock") {
+    lock_.setStaleLockTime(0); // old age alone makes no lock stale
+    connect(&server_, &QLocalServer::newConnection, this, &SocketInstance::receive);
+}
+
+bool SocketInstance::claim(const LaunchRequest& request) {
+    for (int i = 0; i < attempts; ++i) {
+        if (lock_.tryLock(0)) {
+            listen();
+            return true;
+        }
+        if (lock_.error() != QLockFile::LockFailedError) {
+            return true;
+        }
+        // The first instance may hold the lock and not listen yet.
+        if (handOver(request)) {
+            return false;
+        }
+        QThread::msleep(pause);
+    }
+    return false;
+}
+
+void SocketInstance::listen() {
+    // Whatever lies there was left behind: the lock is ours.
+    QLocalServer::removeServer(socket_);
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    server_.listen(socket_);
+}
+
+void SocketInstance::receive() {
+    while (auto* client = server_.nextPendingConnection()) {
+        connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
+        client->setReadBufferSize(longestRequest);
+        const auto read = [this, client] {
+            if (!client->canReadLine()) {
+                return;
+            }
+            const QStringList words =
+                QString::fromUtf8(client->readLine(longestRequest)).trimmed().split(' ');
+            client->disconnectFromServer();
+            emit requested({.action = words.value(0), .activationToken = words.value(1)});
+        };
+        connect(client, &QLocalSocket::readyRead, this, read);
+        read();
+    }
+}
+
+bool SocketInstance::handOver(const LaunchRequest& request) const {
+    QLocalSocket socket;
+    socket.connectToServer(socket_);
+    if (!socket.waitForConnected(patience)) {
+        return false;
+    }
+    socket.write((request.action + ' ' + request.activationToken + '\n').toUtf8());
+    return socket.waitForBytesWritten(patience) || socket.bytesToWrite() == 0;
+}
+
+} // namespace morrowleaf
