@@ -1,6 +1,6 @@
 #include "quotes/localfile.h"
 
-#include "quotes/regularfile.h"
+#include "platform/regularfile.h"
 
 #include <QScopeGuard>
 

@@ -1,6 +1,6 @@
 #include "quotes/photocopy.h"
 
-#include "quotes/regularfile.h"
+#include "platform/regularfile.h"
 
 #include <QByteArray>
 

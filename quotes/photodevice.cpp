@@ -1,6 +1,6 @@
 #include "quotes/photodevice.h"
 
-#include "quotes/regularfile.h"
+#include "platform/regularfile.h"
 
 namespace morrowleaf {
 

@@ -1,6 +1,6 @@
 #include "quotes/settingskeeper.h"
 
-#include "quotes/settingslock.h"
+#include "platform/filelock.h"
 #include "quotes/settingswatch.h"
 
 #include <QMutexLocker>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/settingsdisk.h"
+#include "platform/wholefile.h"
 #include "quotes/settingsdocument.h"
 
 #include <QDeadlineTimer>

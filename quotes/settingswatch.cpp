@@ -1,6 +1,6 @@
 #include "quotes/settingswatch.h"
 
-#include "quotes/settingsdisk.h"
+#include "platform/wholefile.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "quotes/webload.h"
 
-#include "quotes/floodguard.h"
+#include "platform/floodguard.h"
 #include "quotes/hostlookup.h"
 #include "quotes/systemproxies.h"
 

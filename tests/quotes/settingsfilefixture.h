@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/filelock.h"
 #include "quotes/settingsfile.h"
 #include "quotes/settingskeys.h"
-#include "quotes/settingslock.h"
 #include "quotes/settingsstore.h"
 
 #include <QCoreApplication>

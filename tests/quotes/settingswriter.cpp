@@ -4,8 +4,8 @@
 //   settings_writer FILE hold              takes the lock, says so, waits for its end
 //   settings_writer FILE quit              sets "quit" as the event loop ends
 
+#include "platform/filelock.h"
 #include "quotes/settingsfile.h"
-#include "quotes/settingslock.h"
 #include "quotes/settingsstore.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "quotes/floodguard.h"
+#include "platform/floodguard.h"
 
 #include <QDir>
 #include <QScopeGuard>

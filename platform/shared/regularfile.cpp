@@ -1,4 +1,4 @@
-#include "quotes/regularfile.h"
+#include "platform/regularfile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "quotes/settingslock.h"
+#include "platform/filelock.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "quotes/settingsdisk.h"
+#include "platform/wholefile.h"
 
 #include <QDateTime>
 #include <QDir>
