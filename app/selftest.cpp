@@ -1,8 +1,8 @@
 #include "app/selftest.h"
 
+#include "base/randomindex.h"
 #include "quotes/collection.h"
 #include "quotes/prefs.h"
-#include "quotes/randomindex.h"
 #include "quotes/schedule.h"
 #include "quotes/settingskeys.h"
 #include "quotes/settingsstore.h"

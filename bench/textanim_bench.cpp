@@ -1,5 +1,5 @@
+#include "base/curves.h"
 #include "tests/fakes/shippedfonts.h"
-#include "textanim/curves.h"
 #include "textanim/glyphpath.h"
 #include "textanim/pentrace.h"
 #include "textanim/revealline.h"

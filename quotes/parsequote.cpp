@@ -1,6 +1,6 @@
 #include "quotes/parsequote.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 #include "quotes/jsontree.h"
 #include "quotes/utf8.h"
 

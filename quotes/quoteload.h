@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/randomindex.h"
 #include "quotes/quote.h"
-#include "quotes/randomindex.h"
 
 #include <QThread>
 

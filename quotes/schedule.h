@@ -1,8 +1,8 @@
 #pragma once
 
-#include "quotes/moment.h"
+#include "base/moment.h"
+#include "base/randomindex.h"
 #include "quotes/quote.h"
-#include "quotes/randomindex.h"
 
 namespace morrowleaf {
 

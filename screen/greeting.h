@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/moment.h"
+#include "base/moment.h"
 
 #include <QLocale>
 #include <QString>

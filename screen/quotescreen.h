@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/moment.h"
+#include "base/moment.h"
 #include "quotes/quotebox.h"
 #include "screen/backdrop.h"
 #include "screen/frameclock.h"

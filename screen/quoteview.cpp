@@ -1,6 +1,6 @@
 #include "screen/quoteview.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 #include "screen/greeting.h"
 #include "screen/ground/linebalancing.h"
 #include "screen/textbound.h"

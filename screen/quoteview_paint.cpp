@@ -1,5 +1,5 @@
 // How the quote view looks at an instant, and what of it moves.
-#include "screen/parallel.h"
+#include "base/parallel.h"
 #include "screen/quoteview.h"
 
 #include <QImage>

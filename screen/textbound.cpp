@@ -1,6 +1,6 @@
 #include "screen/textbound.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 #include "screen/layout.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/moment.h"
+#include "base/moment.h"
 #include "screen/backdrop.h"
 #include "screen/ground/palettes.h"
 

@@ -1,6 +1,6 @@
 #include "textanim/revealvalues.h"
 
-#include "textanim/curves.h"
+#include "base/curves.h"
 
 #include <algorithm>
 #include <cmath>

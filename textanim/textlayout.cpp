@@ -1,6 +1,6 @@
 #include "textanim/textlayout.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 
 #include <QTextLayout>
 #include <QTextOption>

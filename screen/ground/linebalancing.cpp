@@ -1,6 +1,6 @@
 #include "screen/ground/linebalancing.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,11 +2,11 @@
 
 #include "app/appdelegate.h"
 
+#include "base/curves.h"
 #include "quotes/settingskeys.h"
 #include "quotes/settingsstore.h"
 #include "tests/fakes/fakeplatform.h"
 #include "tests/fakes/faketiming.h"
-#include "textanim/curves.h"
 
 #include <QLineEdit>
 #include <QMenu>

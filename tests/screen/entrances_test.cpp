@@ -1,6 +1,6 @@
 #include "screen/entrances.h"
 
-#include "textanim/curves.h"
+#include "base/curves.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "screen/quoteview.h"
 
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 #include "tests/screen/sceneforscreens.h"
 
 #include <QPainter>

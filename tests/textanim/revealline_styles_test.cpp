@@ -1,6 +1,6 @@
 // What every way of coming in has in common.
+#include "base/curves.h"
 #include "tests/textanim/paintedline.h"
-#include "textanim/curves.h"
 
 #include <gtest/gtest.h>
 

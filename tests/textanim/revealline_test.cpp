@@ -1,5 +1,5 @@
+#include "base/curves.h"
 #include "tests/textanim/paintedline.h"
-#include "textanim/curves.h"
 
 #include <gtest/gtest.h>
 

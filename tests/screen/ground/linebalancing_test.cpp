@@ -1,7 +1,7 @@
 #include "screen/ground/linebalancing.h"
 
+#include "base/graphemes.h"
 #include "quotes/collection.h"
-#include "quotes/graphemes.h"
 
 #include <gtest/gtest.h>
 

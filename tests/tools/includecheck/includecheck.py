@@ -15,13 +15,14 @@ import sys
 from pathlib import Path
 
 BELOW = {
-    "quotes": set(),
+    "base": set(),
+    "quotes": {"base"},
     "platform": set(),
-    "screen/ground": {"quotes"},
-    "textanim": {"quotes", "screen/ground"},
-    "screen": {"quotes", "screen/ground", "textanim"},
-    "settingsui": {"quotes", "screen/ground", "textanim", "screen"},
-    "app": {"quotes", "screen/ground", "textanim", "screen", "settingsui"},
+    "screen/ground": {"base", "quotes"},
+    "textanim": {"base", "quotes", "screen/ground"},
+    "screen": {"base", "quotes", "screen/ground", "textanim"},
+    "settingsui": {"base", "quotes", "screen/ground", "textanim", "screen"},
+    "app": {"base", "quotes", "screen/ground", "textanim", "screen", "settingsui"},
 }
 BACKENDS = {"platform/linux", "platform/null"}
 CHOOSERS = {"platform/chooser.cpp"}

@@ -1,4 +1,4 @@
-#include "textanim/curves.h"
+#include "base/curves.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "quotes/randomindex.h"
+#include "base/randomindex.h"
 
 #include <QRandomGenerator>
 

@@ -1,4 +1,4 @@
-#include "quotes/graphemes.h"
+#include "base/graphemes.h"
 
 #include <unicode/brkiter.h>
 #include <unicode/locid.h>

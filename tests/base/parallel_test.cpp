@@ -1,4 +1,4 @@
-#include "screen/parallel.h"
+#include "base/parallel.h"
 
 #include <QSemaphore>
 #include <QThreadPool>
