@@ -1,9 +1,9 @@
 #include "app/appdelegate.h"
 
 #include "base/curves.h"
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -5,8 +5,8 @@
 #include "app/resources.h"
 #include "app/selftest.h"
 #include "platform/chooser.h"
-#include "quotes/settingsfile.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingsfile.h"
+#include "settings/settingsstore.h"
 #include "textanim/fonts.h"
 
 #include <QGuiApplication>

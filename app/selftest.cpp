@@ -2,12 +2,12 @@
 
 #include "base/randomindex.h"
 #include "quotes/collection.h"
-#include "quotes/prefs.h"
 #include "quotes/schedule.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/ground/linebalancing.h"
 #include "screen/ground/palettes.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QSet>
 

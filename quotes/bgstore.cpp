@@ -1,9 +1,9 @@
 #include "quotes/bgstore.h"
 
 #include "quotes/photoimport.h"
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QDir>
 #include <QFileInfo>

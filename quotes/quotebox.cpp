@@ -1,9 +1,9 @@
 #include "quotes/quotebox.h"
 
-#include "quotes/prefs.h"
 #include "quotes/schedule.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QPointer>
 

@@ -1,7 +1,6 @@
 #include "screen/quotescreen.h"
 
 #include "quotes/bgstore.h"
-#include "quotes/settingsstore.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
 #include "screen/layers.h"
@@ -10,6 +9,7 @@
 #include "screen/renderframe.h"
 #include "screen/textbound.h"
 #include "screen/windowpixels.h"
+#include "settings/settingsstore.h"
 
 #include <QPaintEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "screen/viewsettings.h"
 
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <algorithm>
 #include <cmath>

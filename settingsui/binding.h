@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/settingsstore.h"
+#include "settings/settingsstore.h"
 
 #include <QObject>
 

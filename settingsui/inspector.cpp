@@ -1,7 +1,7 @@
 #include "settingsui/inspector.h"
 
-#include "quotes/settingskeys.h"
 #include "screen/ground/animationkinds.h"
+#include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"

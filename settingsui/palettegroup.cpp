@@ -1,7 +1,7 @@
 #include "settingsui/palettegroup.h"
 
-#include "quotes/settingskeys.h"
 #include "screen/ground/palettes.h"
+#include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/panelstyle.h"
 #include "settingsui/swatch.h"

@@ -1,8 +1,8 @@
 #include "settingsui/photogroup.h"
 
 #include "quotes/bgstore.h"
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/panelstyle.h"
 #include "settingsui/swatch.h"

@@ -1,8 +1,8 @@
 #include "settingsui/settingsview.h"
 
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
 #include "quotes/sourcepresets.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/formcard.h"
 #include "settingsui/formpicker.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/prefs.h"
+#include "settings/prefs.h"
 
 #include <QFont>
 #include <QHash>

@@ -1,10 +1,10 @@
 // Draws frames of the quote screen off-screen, for looking at and comparing.
 #include "quotes/bgstore.h"
 #include "quotes/schedule.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/quotescreen.h"
 #include "screen/renderframe.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 #include "textanim/fonts.h"
 #include "tools/contactsheet.h"
 

@@ -3,8 +3,8 @@
 #include "app/appdelegate.h"
 
 #include "base/curves.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 #include "tests/fakes/fakeplatform.h"
 #include "tests/fakes/faketiming.h"
 

@@ -1,8 +1,8 @@
 #include "app/selftest.h"
 
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "quotes/bgstore.h"
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "quotes/quotebox.h"
 #include "quotes/schedule.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <gtest/gtest.h>
 

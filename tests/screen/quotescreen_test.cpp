@@ -1,10 +1,10 @@
 #include "screen/quotescreen.h"
 
 #include "quotes/bgstore.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/quoteview.h"
 #include "screen/renderframe.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 #include "tests/screen/sceneforscreens.h"
 
 #include <QAccessible>

@@ -1,8 +1,8 @@
 #include "screen/viewsettings.h"
 
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/greeting.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QJsonArray>
 #include <gtest/gtest.h>

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "quotes/bgstore.h"
-#include "quotes/prefs.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/ground/animationkinds.h"
 #include "screen/ground/palettes.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 #include "settingsui/inspector.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"

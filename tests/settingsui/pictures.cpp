@@ -3,9 +3,9 @@
 
 #include "platform/loginitem.h"
 #include "quotes/bgstore.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
 #include "screen/backdrop.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/inspector.h"
 #include "settingsui/menupicker.h"

@@ -16,13 +16,14 @@ from pathlib import Path
 
 BELOW = {
     "base": set(),
-    "quotes": {"base"},
+    "settings": {"base"},
+    "quotes": {"base", "settings"},
     "platform": set(),
-    "screen/ground": {"base", "quotes"},
-    "textanim": {"base", "quotes", "screen/ground"},
-    "screen": {"base", "quotes", "screen/ground", "textanim"},
-    "settingsui": {"base", "quotes", "screen/ground", "textanim", "screen"},
-    "app": {"base", "quotes", "screen/ground", "textanim", "screen", "settingsui"},
+    "screen/ground": {"base"},
+    "textanim": {"base", "settings", "screen/ground"},
+    "screen": {"base", "settings", "quotes", "screen/ground", "textanim"},
+    "settingsui": {"base", "settings", "quotes", "screen/ground", "textanim", "screen"},
+    "app": {"base", "settings", "quotes", "screen/ground", "textanim", "screen", "settingsui"},
 }
 BACKENDS = {"platform/linux", "platform/null"}
 CHOOSERS = {"platform/chooser.cpp"}

@@ -11,13 +11,14 @@ sys.path.insert(0, str(Path(__file__).parent))
 import includecheck  # noqa: E402
 
 SOUND = {
+    "base/moment.h": "",
     "quotes/quote.h": "",
     "quotes/schedule.cpp": '#include "quotes/quote.h"\n#include <vector>\n',
     "platform/platform.h": "",
     "platform/chooser.cpp": '#include "platform/linux/x11.h"\n#include "platform/null/null.h"\n',
     "platform/linux/x11.h": '#include "platform/platform.h"\n#if defined(Q_OS_LINUX)\n#endif\n',
     "platform/null/null.h": '#include "platform/platform.h"\n',
-    "screen/ground/palettes.h": '#include "quotes/quote.h"\n',
+    "screen/ground/palettes.h": '#include "base/moment.h"\n',
     "textanim/line.h": '#include "screen/ground/palettes.h"\n#include "platform/platform.h"\n',
     "screen/view.h": '#include "textanim/line.h"\n#include "screen/ground/palettes.h"\n',
     "settingsui/panel.h": '#include "screen/view.h"\n#include "screen/ground/palettes.h"\n',

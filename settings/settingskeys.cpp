@@ -1,6 +1,6 @@
-#include "quotes/settingskeys.h"
+#include "settings/settingskeys.h"
 
-#include "quotes/settingsstore.h"
+#include "settings/settingsstore.h"
 
 namespace morrowleaf {
 

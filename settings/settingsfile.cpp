@@ -1,7 +1,7 @@
-#include "quotes/settingsfile.h"
+#include "settings/settingsfile.h"
 
-#include "quotes/settingskeeper.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeeper.h"
+#include "settings/settingsstore.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>

@@ -5,8 +5,8 @@
 //   settings_writer FILE quit              sets "quit" as the event loop ends
 
 #include "platform/filelock.h"
-#include "quotes/settingsfile.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingsfile.h"
+#include "settings/settingsstore.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -1,4 +1,4 @@
-#include "quotes/settingsvalue.h"
+#include "settings/settingsvalue.h"
 
 #include <QJsonArray>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/wholefile.h"
-#include "quotes/settingsdocument.h"
+#include "settings/settingsdocument.h"
 
 #include <QDeadlineTimer>
 #include <QJsonObject>

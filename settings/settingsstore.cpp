@@ -1,6 +1,6 @@
-#include "quotes/settingsstore.h"
+#include "settings/settingsstore.h"
 
-#include "quotes/settingsvalue.h"
+#include "settings/settingsvalue.h"
 
 #include <cmath>
 

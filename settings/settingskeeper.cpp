@@ -1,7 +1,7 @@
-#include "quotes/settingskeeper.h"
+#include "settings/settingskeeper.h"
 
 #include "platform/filelock.h"
-#include "quotes/settingswatch.h"
+#include "settings/settingswatch.h"
 
 #include <QMutexLocker>
 

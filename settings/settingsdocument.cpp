@@ -1,4 +1,4 @@
-#include "quotes/settingsdocument.h"
+#include "settings/settingsdocument.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "tests/quotes/settingsfilefixture.h"
+#include "tests/settings/settingsfilefixture.h"
 
 using namespace morrowleaf;
 

@@ -1,4 +1,4 @@
-#include "quotes/settingswatch.h"
+#include "settings/settingswatch.h"
 
 #include "platform/wholefile.h"
 

@@ -1,7 +1,7 @@
-#include "quotes/prefs.h"
+#include "settings/prefs.h"
 
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 namespace morrowleaf {
 

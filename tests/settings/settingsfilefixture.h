@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/filelock.h"
-#include "quotes/settingsfile.h"
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingsfile.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QCoreApplication>
 #include <QDir>

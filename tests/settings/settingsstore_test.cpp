@@ -1,5 +1,5 @@
-#include "quotes/settingskeys.h"
-#include "quotes/settingsstore.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
 
 #include <QJsonArray>
 
