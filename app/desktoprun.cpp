@@ -4,13 +4,13 @@
 #include "app/quotecontent.h"
 #include "app/resources.h"
 #include "app/timing.h"
+#include "photos/bgstore.h"
 #include "platform/chooser.h"
-#include "quotes/bgstore.h"
-#include "quotes/fetchquote.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/settingsview.h"
+#include "sources/fetchquote.h"
 #include "textanim/fonts.h"
 
 #include <QApplication>

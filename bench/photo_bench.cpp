@@ -1,6 +1,6 @@
 // Time and peak memory of showing a 48-megapixel JPEG at 1920 x 1080.
 
-#include "quotes/photo.h"
+#include "photos/photo.h"
 
 #include <QCoreApplication>
 #include <QFile>

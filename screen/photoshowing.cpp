@@ -1,6 +1,6 @@
 #include "screen/photoshowing.h"
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>

@@ -1,6 +1,6 @@
 #include "screen/quotescreen.h"
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
 #include "screen/layers.h"

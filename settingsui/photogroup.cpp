@@ -1,6 +1,6 @@
 #include "settingsui/photogroup.h"
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"

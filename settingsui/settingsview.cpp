@@ -1,6 +1,5 @@
 #include "settingsui/settingsview.h"
 
-#include "quotes/sourcepresets.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
@@ -8,6 +7,7 @@
 #include "settingsui/formpicker.h"
 #include "settingsui/formslider.h"
 #include "settingsui/loginswitch.h"
+#include "sources/sourcepresets.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "settingsui/thumbnails.h"
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 
 #include <QFutureWatcher>
 #include <QPromise>

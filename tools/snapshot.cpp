@@ -1,5 +1,5 @@
 // Draws frames of the quote screen off-screen, for looking at and comparing.
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 #include "quotes/schedule.h"
 #include "screen/quotescreen.h"
 #include "screen/renderframe.h"

@@ -1,6 +1,6 @@
 #include "screen/quotescreen.h"
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 #include "screen/quoteview.h"
 #include "screen/renderframe.h"
 #include "settings/settingskeys.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/bgstore.h"
+#include "photos/bgstore.h"
 #include "screen/ground/animationkinds.h"
 #include "screen/ground/palettes.h"
 #include "settings/prefs.h"

@@ -1,8 +1,8 @@
 // Draws the appearance editor and the settings window into picture files, to
 // be looked at: pictures FOLDER [light|dark]
 
+#include "photos/bgstore.h"
 #include "platform/loginitem.h"
-#include "quotes/bgstore.h"
 #include "screen/backdrop.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"

@@ -1,10 +1,10 @@
 #include "platform/loginitem.h"
-#include "quotes/sourcepresets.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/formcard.h"
 #include "settingsui/loginswitch.h"
 #include "settingsui/settingsview.h"
+#include "sources/sourcepresets.h"
 
 #include <QAccessible>
 #include <QComboBox>

@@ -1,5 +1,5 @@
+#include "photos/bgstore.h"
 #include "platform/null/nullplatform.h"
-#include "quotes/bgstore.h"
 #include "screen/backdrop.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"

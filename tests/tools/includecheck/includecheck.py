@@ -18,12 +18,17 @@ BELOW = {
     "base": set(),
     "settings": {"base"},
     "quotes": {"base", "settings"},
+    "sources": {"base", "quotes"},
+    "photos": {"settings"},
     "platform": set(),
     "screen/ground": {"base"},
     "textanim": {"base", "settings", "screen/ground"},
-    "screen": {"base", "settings", "quotes", "screen/ground", "textanim"},
-    "settingsui": {"base", "settings", "quotes", "screen/ground", "textanim", "screen"},
-    "app": {"base", "settings", "quotes", "screen/ground", "textanim", "screen", "settingsui"},
+    "screen": {"base", "settings", "quotes", "photos", "screen/ground", "textanim"},
+    "settingsui": {"settings", "quotes", "sources", "photos", "screen/ground"},
+    "app": {
+        "base", "settings", "quotes", "sources", "photos", "screen/ground", "textanim", "screen",
+        "settingsui",
+    },
 }
 BACKENDS = {"platform/linux", "platform/null"}
 CHOOSERS = {"platform/chooser.cpp"}

@@ -21,7 +21,7 @@ SOUND = {
     "screen/ground/palettes.h": '#include "base/moment.h"\n',
     "textanim/line.h": '#include "screen/ground/palettes.h"\n#include "platform/platform.h"\n',
     "screen/view.h": '#include "textanim/line.h"\n#include "screen/ground/palettes.h"\n',
-    "settingsui/panel.h": '#include "screen/view.h"\n#include "screen/ground/palettes.h"\n',
+    "settingsui/panel.h": '#include "quotes/quote.h"\n#include "screen/ground/palettes.h"\n',
     "app/main.cpp": '#include "settingsui/panel.h"\n#include "platform/platform.h"\n',
     "tests/platform/x11_test.cpp": '#include "platform/linux/x11.h"\n',
 }

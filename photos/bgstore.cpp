@@ -1,0 +1,153 @@
+#include "photos/bgstore.h"
+
+#include "photos/photoimport.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QStandardPaths>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace morrowleaf {
+namespace {
+
+// What follows the last point of a name that has something before it.
+QString extensionOf(const QString& fileName) {
+    const qsizetype point = fileName.lastIndexOf(QLatin1Char('.'));
+    return point > 0 ? fileName.mid(point + 1) : QString();
+}
+
+QString newPhotoName(const QString& source) {
+    const QString extension = extensionOf(source.section(QLatin1Char('/'), -1));
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + QLatin1Char('.') +
+           (extension.isEmpty() ? QStringLiteral("png") : extension);
+}
+
+} // namespace
+
+QString ownPhotoFolder() {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (data.isEmpty()) {
+        qFatal("There is no folder for the data of programs.");
+    }
+    return data + QStringLiteral("/Morrowleaf/backgrounds");
+}
+
+BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
+                 QThreadPool& workers)
+    : store_(store)
+    , builtinFolder_(std::move(builtinFolder))
+    , ownFolder_(std::move(ownFolder))
+    , workers_(workers)
+    , import_(std::make_unique<PhotoImport>(workers)) {
+    if (ownFolder_.isEmpty()) {
+        qFatal("There is no folder for the user's own photos.");
+    }
+}
+
+BGStore::~BGStore() = default;
+
+void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QString>)> done) {
+    if (Prefs::customBGs(store_).size() >= limit) {
+        QMetaObject::invokeMethod(
+            import_.get(), [done = std::move(done)] { done(std::nullopt); }, Qt::QueuedConnection);
+        return;
+    }
+    QDir().mkpath(ownFolder_);
+    const QString destination =
+        QDir(ownFolder_).absoluteFilePath(newPhotoName(QFileInfo(sourcePath).fileName()));
+    import_->start(sourcePath, destination,
+                   [this, done = std::move(done)](const std::shared_ptr<PendingFile>& copy) {
+                       const auto path = copy ? list(copy->path()) : std::nullopt;
+                       if (path) {
+                           copy->keep();
+                       }
+                       done(path);
+                   });
+}
+
+// The list may have grown while the worker copied.
+std::optional<QString> BGStore::list(const QString& copy) {
+    QStringList own = Prefs::customBGs(store_);
+    if (own.size() >= limit) {
+        return std::nullopt;
+    }
+    own.append(copy);
+    store_.set(K::customBGs, QJsonArray::fromStringList(own));
+    return copy;
+}
+
+void BGStore::remove(const QString& path) {
+    if (!path.isEmpty()) {
+        QFile::remove(path);
+    }
+    cache_.remove(path);
+    unreadable_.remove(path);
+    QStringList own = Prefs::customBGs(store_);
+    own.removeAll(path);
+    store_.set(K::customBGs, QJsonArray::fromStringList(own));
+    if (Prefs::bgImage(store_) == path) {
+        store_.set(K::bgImage, QString());
+    }
+}
+
+QStringList BGStore::builtins() const {
+    if (builtinFolder_.isEmpty()) {
+        return {};
+    }
+    const QDir folder(builtinFolder_);
+    QStringList names;
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted)) {
+        const QString extension = extensionOf(name).toLower();
+        if (extension == QLatin1String("jpg") || extension == QLatin1String("jpeg") ||
+            extension == QLatin1String("png")) {
+            names.append(name);
+        }
+    }
+    // By code points, which the bytes of UTF-8 keep the order of.
+    std::sort(names.begin(), names.end(),
+              [](const QString& a, const QString& b) { return a.toUtf8() < b.toUtf8(); });
+    for (QString& name : names) {
+        name = folder.absoluteFilePath(name);
+    }
+    return names;
+}
+
+std::shared_ptr<const Photo> BGStore::image(const QString& path) {
+    if (path.isEmpty()) {
+        return nullptr;
+    }
+    if (const auto cached = cache_.constFind(path); cached != cache_.cend()) {
+        return *cached;
+    }
+    if (const auto bad = unreadable_.constFind(path); bad != unreadable_.cend()) {
+        if (*bad == stampOf(path)) {
+            return nullptr;
+        }
+        unreadable_.erase(bad);
+    }
+    auto photo = inspectPhoto(path);
+    if (!photo) {
+        return nullptr;
+    }
+    auto shared = std::make_shared<const Photo>(std::move(*photo));
+    cache_.insert(path, shared);
+    return shared;
+}
+
+void BGStore::markUnreadable(const QString& path) {
+    cache_.remove(path);
+    unreadable_.insert(path, stampOf(path));
+}
+
+BGStore::FileStamp BGStore::stampOf(const QString& path) {
+    const QFileInfo info(path);
+    return {info.exists() ? info.size() : -1, info.lastModified()};
+}
+
+} // namespace morrowleaf

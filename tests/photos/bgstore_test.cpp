@@ -1,0 +1,308 @@
+#include "photos/bgstore.h"
+#include "settings/prefs.h"
+#include "settings/settingskeys.h"
+#include "settings/settingsstore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QJsonArray>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QThreadPool>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace morrowleaf {
+namespace {
+
+class BGStoreTest : public ::testing::Test {
+protected:
+    QString path(const QString& name) const { return folder.filePath(name); }
+
+    QString picture(const QString& name, const char* format = "png", QSize size = {40, 30}) const {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        EXPECT_TRUE(image.save(path(name), format));
+        return path(name);
+    }
+    QString textFile(const QString& name, const QByteArray& content = "no picture") const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return path(name);
+    }
+    static QByteArray contentOf(const QString& name) {
+        QFile file(name);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    void start(const QString& source) {
+        photos->add(source, [this](const std::optional<QString>& added) {
+            results.append(added.value_or(QString()));
+        });
+    }
+    void await(qsizetype count) {
+        QElapsedTimer since;
+        since.start();
+        while (results.size() < count && since.elapsed() < 60'000) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        }
+        ASSERT_EQ(results.size(), count);
+    }
+    // The new path, or "" when refused.
+    QString add(const QString& source) {
+        start(source);
+        await(results.size() + 1);
+        return results.last();
+    }
+    QStringList ownFiles() const {
+        return QDir(own).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    QStringList listed() const { return Prefs::customBGs(store); }
+    void list(const QStringList& paths) {
+        store.set(K::customBGs, QJsonArray::fromStringList(paths));
+    }
+
+    QTemporaryDir folder;
+    SettingsStore store;
+    QString own = folder.filePath(QStringLiteral("data/Morrowleaf/backgrounds"));
+    std::unique_ptr<BGStore> photos =
+        std::make_unique<BGStore>(store, folder.filePath(QStringLiteral("Backgrounds")), own);
+    QStringList results;
+};
+
+TEST_F(BGStoreTest, AddsACopyUnderANewName) {
+    const QString source = picture(QStringLiteral("photo.JPG"), "jpg");
+    const QString added = add(source);
+    EXPECT_TRUE(QRegularExpression(
+                    QStringLiteral("^%1/[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.JPG$").arg(own))
+                    .match(added)
+                    .hasMatch())
+        << added.toStdString();
+    EXPECT_EQ(contentOf(added), contentOf(source));
+    EXPECT_EQ(listed(), QStringList{added});
+    EXPECT_EQ(Prefs::bgImage(store), QString());
+}
+
+TEST_F(BGStoreTest, GivesAFileWithoutExtensionTheNameOfAPng) {
+    EXPECT_TRUE(add(picture(QStringLiteral("photo"), "jpg")).endsWith(QStringLiteral(".png")));
+}
+
+TEST_F(BGStoreTest, AddsTheSameFileTwiceUnderTwoNames) {
+    const QString source = picture(QStringLiteral("a.png"));
+    const QString first = add(source);
+    const QString second = add(source);
+    EXPECT_NE(first, second);
+    EXPECT_EQ(listed(), QStringList({first, second}));
+    EXPECT_EQ(ownFiles().size(), 2);
+}
+
+TEST_F(BGStoreTest, RefusesAFourthPhotoAndCopiesNothing) {
+    list({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
+    EXPECT_EQ(add(picture(QStringLiteral("a.png"))), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_EQ(listed().size(), 3);
+}
+
+TEST_F(BGStoreTest, CountsTheListAgainAfterTheCopy) {
+    list({QStringLiteral("/1"), QStringLiteral("/2")});
+    const QString source = picture(QStringLiteral("a.png"));
+    start(source);
+    start(source);
+    await(2);
+    EXPECT_EQ(results.count(QString()), 1);
+    EXPECT_EQ(listed().size(), 3);
+    EXPECT_EQ(ownFiles().size(), 1);
+}
+
+TEST_F(BGStoreTest, KeepsWhatWasListedWhileItCopied) {
+    start(picture(QStringLiteral("a.png")));
+    list({QStringLiteral("/meanwhile")});
+    await(1);
+    EXPECT_EQ(listed(), QStringList({QStringLiteral("/meanwhile"), results.first()}));
+}
+
+TEST_F(BGStoreTest, RefusesTextUnderThePictureName) {
+    EXPECT_EQ(add(textFile(QStringLiteral("a.png"))), QString());
+    EXPECT_EQ(add(textFile(QStringLiteral("empty.png"), {})), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_FALSE(store.value(K::customBGs).has_value());
+}
+
+TEST_F(BGStoreTest, RefusesADrawingThatIsNoPixels) {
+    const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+    EXPECT_EQ(add(textFile(QStringLiteral("a.svg"), drawing)), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, RefusesAPictureWithoutPixelsBehindItsHeader) {
+    const QByteArray whole = contentOf(picture(QStringLiteral("a.png"), "png", {400, 300}));
+    EXPECT_EQ(add(textFile(QStringLiteral("b.png"), whole.left(40))), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, RefusesWhatIsNoRegularFileAtOnce) {
+    const QString pipe = path(QStringLiteral("pipe.png"));
+    ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
+    const QString door = path(QStringLiteral("socket.png"));
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, qPrintable(door), sizeof(address.sun_path));
+    ASSERT_EQ(::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
+    for (const QString& source : {pipe, door, folder.path(), QStringLiteral("/dev/zero"),
+                                  path(QStringLiteral("missing")), QString()}) {
+        EXPECT_EQ(add(source), QString()) << source.toStdString();
+        EXPECT_EQ(photos->image(source), nullptr);
+    }
+    ::close(fd);
+    EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, AddsNothingWhereTheFolderCannotBeMade) {
+    textFile(QStringLiteral("data"));
+    EXPECT_EQ(add(picture(QStringLiteral("a.png"))), QString());
+}
+
+TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
+    start(picture(QStringLiteral("a.png"), "png", {2000, 1500}));
+    photos.reset();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(results.isEmpty());
+    EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
+    const QString source = picture(QStringLiteral("a.png"), "png", {3000, 2000});
+    QThreadPool workers;
+    photos = std::make_unique<BGStore>(store, QString(), own, workers);
+    QThreadPool::globalInstance()->waitForDone();
+    start(source);
+    EXPECT_EQ(workers.activeThreadCount(), 1);
+    EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    await(1);
+    EXPECT_EQ(listed().size(), 1);
+}
+
+TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
+    const QString source = picture(QStringLiteral("a.png"), "png", {6000, 4000});
+    const qint64 size = QFileInfo(source).size();
+    start(source);
+    start(source);
+    const QDir folder(own);
+    QElapsedTimer since;
+    since.start();
+    QFileInfoList files;
+    while ((files.isEmpty() || files.first().size() < size) && since.elapsed() < 60'000) {
+        files = folder.entryInfoList(QDir::Files);
+    }
+    ASSERT_EQ(files.size(), 1);
+    photos.reset();
+    EXPECT_EQ(ownFiles(), QStringList());
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_TRUE(results.isEmpty());
+    EXPECT_TRUE(listed().isEmpty());
+}
+
+TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
+    const QString chosen = add(picture(QStringLiteral("a.png")));
+    const QString other = add(picture(QStringLiteral("a.png")));
+    store.set(K::bgImage, chosen);
+    photos->remove(other);
+    EXPECT_EQ(Prefs::bgImage(store), chosen);
+    EXPECT_EQ(listed(), QStringList{chosen});
+    photos->remove(chosen);
+    EXPECT_EQ(Prefs::bgImage(store), QString());
+    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(ownFiles(), QStringList());
+}
+
+TEST_F(BGStoreTest, RemovesAFileThatIsNotListedAndItsCachedObject) {
+    const QString outside = picture(QStringLiteral("outside.png"));
+    ASSERT_NE(photos->image(outside), nullptr);
+    photos->remove(outside);
+    EXPECT_FALSE(QFile::exists(outside));
+    EXPECT_EQ(photos->image(outside), nullptr);
+    EXPECT_EQ(store.value(K::customBGs), QJsonValue(QJsonArray()));
+}
+
+TEST_F(BGStoreTest, RemovesEveryEntryOfAPath) {
+    list({QStringLiteral("/a"), QStringLiteral("/b"), QStringLiteral("/a")});
+    photos->remove(QStringLiteral("/a"));
+    EXPECT_EQ(listed(), QStringList{QStringLiteral("/b")});
+}
+
+TEST_F(BGStoreTest, RemovesALinkButNeverItsTargetNorAFolder) {
+    const QString target = picture(QStringLiteral("target.png"));
+    const QString link = path(QStringLiteral("link.png"));
+    ASSERT_TRUE(QFile::link(target, link));
+    photos->remove(link);
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(QFile::exists(target));
+
+    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("sub"))));
+    photos->remove(path(QStringLiteral("sub")));
+    EXPECT_TRUE(QDir(path(QStringLiteral("sub"))).exists());
+    photos->remove(QString());
+}
+
+TEST_F(BGStoreTest, ListsBuiltinsByCaseSensitiveName) {
+    EXPECT_EQ(photos->builtins(), QStringList());
+    QDir().mkpath(path(QStringLiteral("Backgrounds/folder.jpg")));
+    for (const char* name : {"b.PNG", "a.jpg", "c.gif", "A.jpeg", ".jpg", "png"}) {
+        textFile(QStringLiteral("Backgrounds/") + QLatin1String(name));
+    }
+    EXPECT_EQ(photos->builtins(), QStringList({path(QStringLiteral("Backgrounds/A.jpeg")),
+                                               path(QStringLiteral("Backgrounds/a.jpg")),
+                                               path(QStringLiteral("Backgrounds/b.PNG"))}));
+}
+
+TEST_F(BGStoreTest, ListsNoBuiltinsWithoutAFolder) {
+    EXPECT_EQ(BGStore(store, QString(), own).builtins(), QStringList());
+}
+
+TEST(BGStoreDeathTest, NeedsAFolderForOwnPhotos) {
+    SettingsStore store;
+    EXPECT_DEATH(BGStore(store, QString(), QString()), "no folder for the user's own photos");
+}
+
+TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
+    const QString file = picture(QStringLiteral("a.png"));
+    const auto first = photos->image(file);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->size, QSize(40, 30));
+    EXPECT_TRUE(QFile::remove(file));
+    EXPECT_EQ(photos->image(file), first);
+}
+
+TEST_F(BGStoreTest, RemembersNoFailure) {
+    const QString file = textFile(QStringLiteral("a.png"));
+    EXPECT_EQ(photos->image(file), nullptr);
+    picture(QStringLiteral("a.png"));
+    EXPECT_NE(photos->image(file), nullptr);
+    EXPECT_EQ(photos->image(QString()), nullptr);
+}
+
+TEST_F(BGStoreTest, AFailedDecodeMakesThePhotoUnreadableUntilItsFileChanges) {
+    const QString file = picture(QStringLiteral("a.png"));
+    ASSERT_NE(photos->image(file), nullptr);
+    photos->markUnreadable(file);
+    EXPECT_EQ(photos->image(file), nullptr);
+    EXPECT_EQ(photos->image(file), nullptr);
+    picture(QStringLiteral("a.png"), "png", {50, 60});
+    EXPECT_NE(photos->image(file), nullptr);
+}
+
+} // namespace
+} // namespace morrowleaf

@@ -1,0 +1,337 @@
+#include "photos/jpegscans.h"
+#include "photos/photo.h"
+#include "photos/photocopy.h"
+#include "photos/photodevice.h"
+#include "photos/photoplan.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <gtest/gtest.h>
+
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace morrowleaf {
+namespace {
+
+// Left half red, right half blue; the top left quarter is green.
+QImage quarters(QSize size, QImage::Format format = QImage::Format_RGB32) {
+    QImage image(size, format);
+    image.fill(Qt::red);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const bool left = x < size.width() / 2;
+            const bool top = y < size.height() / 2;
+            image.setPixelColor(x, y, left && top ? Qt::green : left ? Qt::red : Qt::blue);
+        }
+    }
+    return image;
+}
+
+bool isNear(QColor a, QColor b, int tolerance) {
+    return std::abs(a.red() - b.red()) <= tolerance &&
+           std::abs(a.green() - b.green()) <= tolerance &&
+           std::abs(a.blue() - b.blue()) <= tolerance;
+}
+
+QByteArray encoded(const QImage& image, const char* format, int quality = 95,
+                   bool progressive = false) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(quality);
+    writer.setProgressiveScanWrite(progressive);
+    EXPECT_TRUE(writer.write(image));
+    return buffer.data();
+}
+
+// A JPEG whose EXIF data turn it.
+QByteArray turned(const QByteArray& jpeg, char orientation) {
+    QByteArray exif = QByteArray::fromHex("ffe10022457869660000"
+                                          "4d4d002a00000008"
+                                          "0001"
+                                          "011200030000000100000000"
+                                          "00000000");
+    exif[exif.size() - 7] = orientation;
+    return jpeg.left(2) + exif + jpeg.mid(2);
+}
+
+void setBigEndian(QByteArray& bytes, qsizetype at, quint32 value, int count) {
+    for (int i = 0; i < count; ++i) {
+        bytes[at + i] = char(value >> (8 * (count - 1 - i)));
+    }
+}
+
+class PhotoTest : public ::testing::Test {
+protected:
+    QString file(const QByteArray& content) {
+        QString path = folder.filePath(QString::number(++count));
+        QFile out(path);
+        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(content);
+        return path;
+    }
+    QImage filling(const QByteArray& content, QSize target) {
+        const auto photo = inspectPhoto(file(content));
+        return photo ? photo->decodeFilling(target) : QImage();
+    }
+
+    QTemporaryDir folder;
+    int count = 0;
+};
+
+TEST_F(PhotoTest, FillsTheTargetCroppedAboutTheCentre) {
+    const QImage wide = filling(encoded(quarters({400, 100}), "png"), {50, 50});
+    ASSERT_EQ(wide.size(), QSize(50, 50));
+    EXPECT_EQ(wide.format(), QImage::Format_RGB32);
+    EXPECT_EQ(wide.pixelColor(5, 5), QColor(Qt::green));
+    EXPECT_EQ(wide.pixelColor(5, 45), QColor(Qt::red));
+    EXPECT_EQ(wide.pixelColor(45, 5), QColor(Qt::blue));
+    const QImage tall = filling(encoded(quarters({100, 400}), "jpg"), {60, 20});
+    ASSERT_EQ(tall.size(), QSize(60, 20));
+    EXPECT_TRUE(isNear(tall.pixelColor(5, 2), Qt::green, 20));
+    EXPECT_TRUE(isNear(tall.pixelColor(5, 17), Qt::red, 20));
+}
+
+TEST_F(PhotoTest, GrowsASmallPicture) {
+    const QImage image = filling(encoded(quarters({4, 4}), "png"), {64, 64});
+    ASSERT_EQ(image.size(), QSize(64, 64));
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::green));
+}
+
+TEST_F(PhotoTest, StripsAndNeedlesCostNoMoreThanTheTarget) {
+    const QImage strip = filling(encoded(quarters({20'000, 2}), "png"), {1920, 1080});
+    EXPECT_EQ(strip.size(), QSize(1920, 1080));
+    const QImage needle = filling(encoded(quarters({2, 20'000}), "jpg"), {1920, 1080});
+    EXPECT_EQ(needle.size(), QSize(1920, 1080));
+}
+
+// The orientations of EXIF, by where the stored top left quarter ends up.
+TEST_F(PhotoTest, HonoursTheOrientation) {
+    const QByteArray jpeg = encoded(quarters({80, 40}), "jpg");
+    const QRect ends[] = {{0, 0, 1, 1}, {1, 0, 1, 1}, {1, 1, 1, 1}, {0, 1, 1, 1},
+                          {0, 0, 1, 1}, {1, 0, 1, 1}, {1, 1, 1, 1}, {0, 1, 1, 1}};
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        const QByteArray content = turned(jpeg, char(orientation));
+        const auto photo = inspectPhoto(file(content));
+        ASSERT_TRUE(photo);
+        const QSize upright = orientation >= 5 ? QSize(40, 80) : QSize(80, 40);
+        EXPECT_EQ(photo->size, upright) << orientation;
+        const QImage image = photo->decodeFilling(upright);
+        ASSERT_EQ(image.size(), upright);
+        const QPoint corner = ends[orientation - 1].topLeft();
+        const QPoint at(corner.x() ? upright.width() - 6 : 5,
+                        corner.y() ? upright.height() - 6 : 5);
+        EXPECT_TRUE(isNear(image.pixelColor(at), Qt::green, 30))
+            << orientation << " " << image.pixelColor(at).name().toStdString();
+    }
+}
+
+TEST_F(PhotoTest, ConvertsAWideGamutToOurs) {
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(QColor(200, 100, 50));
+    image.setColorSpace(QColorSpace::DisplayP3);
+    const QImage shown = filling(encoded(image, "png"), {16, 16});
+    ASSERT_FALSE(shown.isNull());
+    QImage expected = image;
+    expected.convertToColorSpace(QColorSpace::SRgb);
+    EXPECT_TRUE(isNear(shown.pixelColor(8, 8), expected.pixelColor(8, 8), 1));
+    EXPECT_FALSE(isNear(shown.pixelColor(8, 8), QColor(200, 100, 50), 4));
+}
+
+TEST_F(PhotoTest, ReadsGreyDeepAndPalettePictures) {
+    QImage grey(16, 16, QImage::Format_Grayscale8);
+    grey.fill(QColor(90, 90, 90));
+    EXPECT_TRUE(
+        isNear(filling(encoded(grey, "png"), {8, 8}).pixelColor(4, 4), QColor(90, 90, 90), 1));
+    EXPECT_TRUE(
+        isNear(filling(encoded(grey, "jpg"), {8, 8}).pixelColor(4, 4), QColor(90, 90, 90), 2));
+    QImage deep(16, 16, QImage::Format_RGBX64);
+    deep.fill(QColor::fromRgba64(0x8000, 0x4000, 0xC000));
+    EXPECT_TRUE(isNear(filling(encoded(deep, "png"), {8, 8}).pixelColor(4, 4),
+                       QColor(0x80, 0x40, 0xC0), 1));
+    QImage grey16(16, 16, QImage::Format_Grayscale16);
+    grey16.fill(QColor(120, 120, 120));
+    EXPECT_TRUE(
+        isNear(filling(encoded(grey16, "png"), {8, 8}).pixelColor(4, 4), QColor(120, 120, 120), 1));
+    const QImage few = quarters({16, 16}).convertToFormat(QImage::Format_Indexed8);
+    EXPECT_EQ(filling(encoded(few, "png"), {16, 16}).pixelColor(1, 1), QColor(Qt::green));
+}
+
+TEST_F(PhotoTest, ReadsPicturesMadeForPrinting) {
+    const auto photo =
+        inspectPhoto(QStringLiteral(MORROWLEAF_SOURCE_DIR "/tests/photos/data/cmyk.jpg"));
+    ASSERT_TRUE(photo);
+    const QImage shown = photo->decodeFilling({16, 16});
+    ASSERT_FALSE(shown.isNull());
+    EXPECT_TRUE(isNear(shown.pixelColor(8, 8), QColor(200, 60, 40), 12))
+        << shown.pixelColor(8, 8).name().toStdString();
+}
+
+TEST_F(PhotoTest, PutsBlackBehindWhatIsTransparent) {
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(QColor(200, 100, 0, 128));
+    const QImage shown = filling(encoded(image, "png"), {16, 16});
+    ASSERT_EQ(shown.format(), QImage::Format_RGB32);
+    EXPECT_TRUE(isNear(shown.pixelColor(3, 3), QColor(100, 50, 0), 2));
+}
+
+TEST_F(PhotoTest, ReadsWebpWhereThePluginIs) {
+    if (!QImageReader::supportedImageFormats().contains("webp")) {
+        GTEST_SKIP() << "no reader for WebP";
+    }
+    const QImage shown = filling(encoded(quarters({64, 64}), "webp", 100), {32, 32});
+    ASSERT_EQ(shown.size(), QSize(32, 32));
+    EXPECT_TRUE(isNear(shown.pixelColor(4, 4), Qt::green, 12));
+}
+
+TEST_F(PhotoTest, TellsJpegsInSeveralScans) {
+    QByteArray plain = encoded(quarters({64, 64}), "jpg");
+    QByteArray layered = encoded(quarters({64, 64}), "jpg", 95, true);
+    QBuffer one(&plain);
+    QBuffer many(&layered);
+    one.open(QIODevice::ReadOnly);
+    many.open(QIODevice::ReadOnly);
+    EXPECT_FALSE(jpegHasManyScans(one));
+    EXPECT_TRUE(jpegHasManyScans(many));
+    EXPECT_EQ(one.pos(), 0);
+    EXPECT_FALSE(filling(layered, {32, 32}).isNull());
+    for (qsizetype cut = 0; cut < 400; cut += 7) {
+        QByteArray part = plain.left(cut);
+        QBuffer device(&part);
+        device.open(QIODevice::ReadOnly);
+        jpegHasManyScans(device);
+    }
+}
+
+// A picture's header that claims more pixels than there are.
+QByteArray pngClaiming(QSize size) {
+    QByteArray png = encoded(quarters({8, 8}), "png");
+    setBigEndian(png, 16, quint32(size.width()), 4);
+    setBigEndian(png, 20, quint32(size.height()), 4);
+    return png; // its checksum is wrong too, which readers of sizes pass over
+}
+
+QByteArray jpegClaiming(QSize size, bool progressive) {
+    QByteArray jpeg = encoded(quarters({8, 8}), "jpg", 90, progressive);
+    const qsizetype frame = jpeg.indexOf(progressive ? "\xff\xc2" : "\xff\xc0");
+    setBigEndian(jpeg, frame + 5, quint32(size.height()), 2);
+    setBigEndian(jpeg, frame + 7, quint32(size.width()), 2);
+    return jpeg;
+}
+
+// Its header has room for numbers that no product of two of them has.
+QByteArray bmpClaiming(quint32 side) {
+    QByteArray bmp = encoded(quarters({8, 8}), "bmp");
+    qToLittleEndian(side, bmp.data() + 18);
+    qToLittleEndian(side, bmp.data() + 22);
+    return bmp;
+}
+
+TEST_F(PhotoTest, RefusesBombs) {
+    EXPECT_TRUE(inspectPhoto(file(bmpClaiming(8))));
+    EXPECT_FALSE(inspectPhoto(file(bmpClaiming(30'000))));
+    EXPECT_FALSE(inspectPhoto(file(bmpClaiming(0x7FFFFFFF))));
+    EXPECT_FALSE(inspectPhoto(file(pngClaiming({30'000, 30'000}))));
+    EXPECT_FALSE(inspectPhoto(file(jpegClaiming({65'000, 65'000}, true))));
+}
+
+TEST_F(PhotoTest, TakesALargePhotoThatCanBeReadSmaller) {
+    // 48 megapixels, above what the decoder allows by itself.
+    const QByteArray large = encoded(QImage(8000, 6000, QImage::Format_Grayscale8), "jpg", 50);
+    const auto photo = inspectPhoto(file(large));
+    ASSERT_TRUE(photo);
+    EXPECT_EQ(photo->size, QSize(8000, 6000));
+    EXPECT_EQ(photo->decodeFilling({192, 108}).size(), QSize(192, 108));
+}
+
+TEST_F(PhotoTest, GivesNothingForNonsense) {
+    EXPECT_FALSE(inspectPhoto(file({})));
+    EXPECT_FALSE(inspectPhoto(file("GIF89a")));
+    EXPECT_FALSE(inspectPhoto(file(QByteArray(100'000, '\xff'))));
+    EXPECT_FALSE(inspectPhoto(QStringLiteral("/nowhere")));
+    const auto photo = inspectPhoto(file(encoded(quarters({8, 8}), "png")));
+    ASSERT_TRUE(photo);
+    EXPECT_TRUE(photo->decodeFilling({0, 10}).isNull());
+    EXPECT_TRUE(photo->decodeFilling({-5, 10}).isNull());
+    EXPECT_TRUE(QFile::remove(photo->path));
+    EXPECT_TRUE(photo->decodeFilling({10, 10}).isNull());
+}
+
+TEST_F(PhotoTest, EstimatesWhatDecodingNeeds) {
+    PhotoHeader jpeg{.format = "jpeg", .size = {8000, 6000}, .wholeInMemory = false};
+    EXPECT_LT(decodeBytes(jpeg, {1920, 1080}), 40 << 20);
+    jpeg.wholeInMemory = true;
+    EXPECT_GT(decodeBytes(jpeg, {1920, 1080}), 8000 * 6000 * 6);
+    EXPECT_LE(decodeBytes(jpeg, {1920, 1080}), photoMemoryLimit);
+    const PhotoHeader png{.format = "png", .size = {8000, 6000}};
+    EXPECT_GE(decodeBytes(png, {192, 108}), 8000 * 6000 * 4);
+    for (const int side : {100'000, 0x40000000, 0x7FFFFFFF}) {
+        const PhotoHeader bomb{.format = "bmp", .size = {side, side}, .bytesPerPixel = 8};
+        EXPECT_GT(decodeBytes(bomb, {192, 108}), photoMemoryLimit) << side;
+    }
+}
+
+TEST_F(PhotoTest, CropsFillTheTargetsShape) {
+    EXPECT_EQ(fillingCrop({400, 100}, {50, 50}), QRect(150, 0, 100, 100));
+    EXPECT_EQ(fillingCrop({100, 400}, {50, 50}), QRect(0, 150, 100, 100));
+    EXPECT_EQ(fillingCrop({1, 1000}, {1920, 1080}), QRect(0, 499, 1, 1));
+}
+
+TEST_F(PhotoTest, TheDeviceEndsAfterItsBytes) {
+    const QString path = file(QByteArray(100'000, 'x'));
+    PhotoDevice device(path, {.time = std::chrono::hours(1), .bytes = 40'000});
+    ASSERT_TRUE(device.isOpen());
+    EXPECT_EQ(device.readAll().size(), 40'000);
+    EXPECT_TRUE(device.exhausted());
+}
+
+TEST_F(PhotoTest, TheDeviceEndsAfterItsTime) {
+    PhotoDevice device(file(QByteArray(100, 'x')), {.time = std::chrono::milliseconds(0)});
+    ASSERT_TRUE(device.isOpen());
+    char byte = 0;
+    EXPECT_LE(device.read(&byte, 1), 0);
+    EXPECT_TRUE(device.exhausted());
+}
+
+TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
+    const std::atomic<bool> going = false;
+    const std::atomic<bool> stopped = true;
+    const QString source = file("content");
+    const QString taken = file("taken");
+    EXPECT_FALSE(copyPhotoFile(source, taken, going));
+    QFile there(taken);
+    ASSERT_TRUE(there.open(QIODevice::ReadOnly));
+    EXPECT_EQ(there.readAll(), QByteArray("taken"));
+    const QString fresh = folder.filePath(QStringLiteral("fresh"));
+    EXPECT_FALSE(copyPhotoFile(source, fresh, stopped));
+    EXPECT_FALSE(QFile::exists(fresh));
+    EXPECT_TRUE(copyPhotoFile(source, fresh, going));
+}
+
+TEST_F(PhotoTest, LeavesNothingOnAFullDisk) {
+    const QString small = folder.filePath(QStringLiteral("small"));
+    ASSERT_TRUE(QDir().mkpath(small));
+    if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {
+        GTEST_SKIP() << "may not mount a small disk here";
+    }
+    const std::atomic<bool> going = false;
+    const bool copied =
+        copyPhotoFile(file(QByteArray(1 << 20, 'x')), small + QStringLiteral("/copy"), going);
+    const QStringList left = QDir(small).entryList(QDir::Files | QDir::Hidden);
+    ::umount(qPrintable(small));
+    EXPECT_FALSE(copied);
+    EXPECT_EQ(left, QStringList());
+}
+
+} // namespace
+} // namespace morrowleaf

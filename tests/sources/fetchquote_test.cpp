@@ -1,0 +1,206 @@
+#include "sources/fetchquote.h"
+#include "sources/localfile.h"
+#include "sources/sourceaddress.h"
+#include "sources/sourcepresets.h"
+#include "sources/webload.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace morrowleaf;
+
+namespace {
+
+TEST(SourceAddress, NeverGuesses) {
+    for (const char* source : {"",
+                               " \t\n",
+                               "example.org",
+                               "example.org/q.json",
+                               "http:",
+                               "http://",
+                               "http:example.org",
+                               "https:///q",
+                               "ftp://example.org/",
+                               "q.json",
+                               "~/q.json",
+                               "file:q.json",
+                               "file://elsewhere/q",
+                               "about:blank",
+                               "javascript:1",
+                               "qrc:/x",
+                               "http://a:99999/",
+                               "http://[::1/",
+                               "file:///a%00b",
+                               "://",
+                               "C:\\q"}) {
+        EXPECT_FALSE(sourceAddress(QString::fromUtf8(source))) << source;
+    }
+}
+
+TEST(SourceAddress, ReadsPathsAsTheyStand) {
+    EXPECT_EQ(sourceAddress(" /a b#c?d%20e ")->path, "/a b#c?d%20e");
+    EXPECT_EQ(sourceAddress("//example.org/x")->path, "//example.org/x");
+    EXPECT_EQ(sourceAddress("file:///a%20b")->path, "/a b");
+    EXPECT_EQ(sourceAddress("FILE://localhost/a")->path, "/a");
+    EXPECT_EQ(sourceAddress(" HTTPS://Example.org/Q ")->url, QUrl("https://example.org/Q"));
+    EXPECT_EQ(sourceAddress("data:,x")->url.scheme(), "data");
+}
+
+TEST(Redirects, NeverLeaveTheWebOrGoDown) {
+    const auto may = [](const char* from, const char* to) {
+        return mayRedirect(QUrl(QString::fromUtf8(from)), QUrl(QString::fromUtf8(to)));
+    };
+    EXPECT_TRUE(may("http://a/", "http://b/"));
+    EXPECT_TRUE(may("http://a/", "https://b/"));
+    EXPECT_TRUE(may("https://a/", "https://b/"));
+    EXPECT_FALSE(may("https://a/", "http://a/"));
+    EXPECT_FALSE(may("http://a/", "file:///proc/version"));
+    EXPECT_FALSE(may("http://a/", "data:,x"));
+}
+
+TEST(SourcePresets, AreThree) {
+    ASSERT_EQ(sourcePresets().size(), 3U);
+    EXPECT_EQ(sourcePresets()[0].label, u"ZenQuotes \u2014 quote of the day");
+    EXPECT_EQ(sourcePresets()[1].address, "https://zenquotes.io/api/random");
+    EXPECT_EQ(sourcePresets()[2].address, "https://dummyjson.com/quotes/random");
+}
+
+class FetchQuote : public testing::Test {
+protected:
+    std::string fetch(const QString& source) {
+        QEventLoop loop;
+        std::string result = "nothing";
+        bool later = false;
+        fetcher.fetchQuote(source, [&](const std::optional<Quote>& quote) {
+            EXPECT_TRUE(later);
+            EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
+            if (quote) {
+                result = (quote->text + u'|' + quote->author).toStdString();
+            }
+            loop.quit();
+        });
+        later = true;
+        loop.exec();
+        return result;
+    }
+    QString file(const QString& name, const QByteArray& bytes) {
+        QFile made(folder.filePath(name));
+        EXPECT_TRUE(made.open(QIODevice::WriteOnly));
+        made.write(bytes);
+        return made.fileName();
+    }
+
+    QTemporaryDir folder;
+    QuoteFetcher fetcher{[](qsizetype) { return qsizetype{0}; }};
+};
+
+TEST_F(FetchQuote, ReadsLocalFiles) {
+    const QString path = file("a b#c?d%20.json", R"({"q":"A"})");
+    EXPECT_EQ(fetch("  " + path + "\n"), "A|Unknown");
+    EXPECT_EQ(fetch(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)), "A|Unknown");
+    QFile::link(path, folder.filePath("link"));
+    EXPECT_EQ(fetch(folder.filePath("link")), "A|Unknown");
+    EXPECT_NE(fetch("/proc/version"), "nothing");
+    EXPECT_EQ(fetch("data:application/json,%7B%22q%22:%22A%22%7D"), "A|Unknown");
+    EXPECT_EQ(fetch("data:;base64,eyJxIjoiQSJ9"), "A|Unknown");
+}
+
+TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
+    const QByteArray fifo = QFile::encodeName(folder.filePath("fifo"));
+    ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
+    const QByteArray loop = QFile::encodeName(folder.filePath("loop"));
+    ASSERT_EQ(::symlink(loop.constData(), loop.constData()), 0);
+    const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, QFile::encodeName(folder.filePath("socket")).constData(),
+             sizeof address.sun_path);
+    ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    QFile sparse(folder.filePath("sparse"));
+    ASSERT_TRUE(sparse.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(sparse.resize(qint64{1} << 40));
+    QElapsedTimer clock;
+    clock.start();
+    for (const QString& path :
+         {folder.filePath("fifo"), folder.filePath("loop"), folder.filePath("socket"),
+          folder.filePath("sparse"), folder.filePath("missing"), folder.path(), QString("/"),
+          QString("/dev/zero"), QString("/dev/stdin"), QString("   "), QString("no scheme"),
+          QString(300, u'/') + QString(5000, u'x')}) {
+        EXPECT_EQ(fetch(path), "nothing") << path.left(60).toStdString();
+    }
+    EXPECT_LT(clock.elapsed(), 3000);
+    ::close(listener);
+}
+
+// In a child, since root reads everything and has to become somebody else.
+TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
+    const QByteArray open = QFile::encodeName(file("open", R"({"q":"A"})"));
+    const QByteArray secret = QFile::encodeName(file("secret", R"({"q":"A"})"));
+    ASSERT_EQ(::chmod(secret.constData(), 0), 0);
+    ASSERT_EQ(::chmod(open.constData(), 0644), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        if (::geteuid() == 0 && ::setuid(nobody) != 0) {
+            ::_exit(3);
+        }
+        const auto read = [](const QByteArray& path) {
+            return readLocalFile(QFile::decodeName(path), 100, [] { return false; });
+        };
+        ::_exit(!read(open) ? 2 : (read(secret) ? 1 : 0));
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+TEST_F(FetchQuote, CountsTheBytesOfAFile) {
+    const QByteArray start = R"({"q":"A")";
+    const QByteArray full = start + QByteArray((4 << 20) - start.size() - 1, ' ') + "}";
+    EXPECT_EQ(fetch(file("full", full)), "A|Unknown");
+    EXPECT_EQ(fetch(file("over", full + " ")), "nothing");
+}
+
+TEST_F(FetchQuote, EndingTheFetcherInAnAnswerIsSafe) {
+    auto own = std::make_unique<QuoteFetcher>();
+    QEventLoop loop;
+    own->fetchQuote(file("q", R"({"q":"A"})"), [&](const std::optional<Quote>& quote) {
+        EXPECT_TRUE(quote);
+        own.reset();
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_FALSE(own);
+}
+
+TEST_F(FetchQuote, NoAnswerComesAfterTheFetcher) {
+    auto own = std::make_unique<QuoteFetcher>();
+    for (int i = 0; i < 50; ++i) {
+        own->fetchQuote("/proc/version", [](const std::optional<Quote>&) { FAIL(); });
+    }
+    QElapsedTimer clock;
+    clock.start();
+    own.reset();
+    EXPECT_LT(clock.elapsed(), 2000);
+    QEventLoop loop;
+    QTimer::singleShot(50, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+} // namespace
