@@ -5,8 +5,8 @@
 #include "app/settingswindow.h"
 #include "app/statusitem.h"
 #include "app/timing.h"
+#include "backdrop/backdrop.h"
 #include "platform/platform.h"
-#include "screen/backdrop.h"
 
 #include <QObject>
 #include <QStringList>

@@ -1,13 +1,13 @@
 #include "app/selftest.h"
 
 #include "base/randomindex.h"
+#include "look/palettes.h"
 #include "quotes/collection.h"
 #include "quotes/schedule.h"
-#include "screen/ground/linebalancing.h"
-#include "screen/ground/palettes.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "textanim/linebalancing.h"
 
 #include <QSet>
 

@@ -1,9 +1,9 @@
 // CPU time of a backdrop frame beside a memcpy of the same frame in the same
 // run, and beside the plain composition with QPainter that it replaces.
 
-#include "screen/backdrop.h"
-#include "screen/ground/grain.h"
-#include "screen/vignette.h"
+#include "backdrop/backdrop.h"
+#include "backdrop/vignette.h"
+#include "look/grain.h"
 
 #include <QPainter>
 #include <QRadialGradient>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/ground/animationkinds.h"
+#include "look/animationkinds.h"
 
 namespace morrowleaf {
 

@@ -1,6 +1,6 @@
 #include "screen/frameclock.h"
 
-#include "screen/backdrop.h"
+#include "backdrop/backdrop.h"
 
 #include <QElapsedTimer>
 

@@ -1,6 +1,6 @@
 #include "screen/glassshowing.h"
 
-#include "screen/glass.h"
+#include "backdrop/glass.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>

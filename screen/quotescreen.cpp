@@ -1,9 +1,9 @@
 #include "screen/quotescreen.h"
 
+#include "backdrop/layers.h"
 #include "photos/bgstore.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
-#include "screen/layers.h"
 #include "screen/photoshowing.h"
 #include "screen/quoteview.h"
 #include "screen/renderframe.h"

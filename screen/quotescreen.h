@@ -1,8 +1,8 @@
 #pragma once
 
+#include "backdrop/backdrop.h"
 #include "base/moment.h"
 #include "quotes/quotebox.h"
-#include "screen/backdrop.h"
 #include "screen/frameclock.h"
 #include "screen/quotescreen_accessible.h"
 

@@ -2,9 +2,9 @@
 
 #include "base/graphemes.h"
 #include "screen/greeting.h"
-#include "screen/ground/linebalancing.h"
 #include "screen/textbound.h"
 #include "textanim/fonts.h"
+#include "textanim/linebalancing.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screen/backdrop.h"
+#include "backdrop/backdrop.h"
 #include "screen/quoteview.h"
 
 #include <QImage>

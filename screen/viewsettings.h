@@ -1,8 +1,8 @@
 #pragma once
 
+#include "backdrop/backdrop.h"
 #include "base/moment.h"
-#include "screen/backdrop.h"
-#include "screen/ground/palettes.h"
+#include "look/palettes.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "settingsui/inspector.h"
 
-#include "screen/ground/animationkinds.h"
+#include "look/animationkinds.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/knob.h"

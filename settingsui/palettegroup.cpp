@@ -1,6 +1,6 @@
 #include "settingsui/palettegroup.h"
 
-#include "screen/ground/palettes.h"
+#include "look/palettes.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/panelstyle.h"

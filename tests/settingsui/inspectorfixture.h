@@ -1,8 +1,8 @@
 #pragma once
 
+#include "look/animationkinds.h"
+#include "look/palettes.h"
 #include "photos/bgstore.h"
-#include "screen/ground/animationkinds.h"
-#include "screen/ground/palettes.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"

@@ -1,9 +1,9 @@
 // Draws the appearance editor and the settings window into picture files, to
 // be looked at: pictures FOLDER [light|dark]
 
+#include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "platform/loginitem.h"
-#include "screen/backdrop.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"

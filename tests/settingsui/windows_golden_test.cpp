@@ -1,6 +1,6 @@
+#include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "platform/null/nullplatform.h"
-#include "screen/backdrop.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"

@@ -21,13 +21,14 @@ BELOW = {
     "sources": {"base", "quotes"},
     "photos": {"settings"},
     "platform": set(),
-    "screen/ground": {"base"},
-    "textanim": {"base", "settings", "screen/ground"},
-    "screen": {"base", "settings", "quotes", "photos", "screen/ground", "textanim"},
-    "settingsui": {"settings", "quotes", "sources", "photos", "screen/ground"},
+    "look": {"base"},
+    "backdrop": {"look"},
+    "textanim": {"base", "settings", "look"},
+    "screen": {"base", "settings", "quotes", "photos", "look", "backdrop", "textanim"},
+    "settingsui": {"settings", "quotes", "sources", "photos", "look"},
     "app": {
-        "base", "settings", "quotes", "sources", "photos", "screen/ground", "textanim", "screen",
-        "settingsui",
+        "base", "settings", "quotes", "sources", "photos", "look", "backdrop", "textanim",
+        "screen", "settingsui",
     },
 }
 BACKENDS = {"platform/linux", "platform/null"}
@@ -46,7 +47,7 @@ SYSTEM = re.compile(
 
 def room_of(path):
     """The folder of the picture in which a file stands, or None."""
-    for room in ("screen/ground", "platform/linux", "platform/null"):
+    for room in ("platform/linux", "platform/null"):
         if path.startswith(room + "/"):
             return room
     return path.split("/")[0] if "/" in path else None

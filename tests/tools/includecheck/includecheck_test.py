@@ -18,10 +18,10 @@ SOUND = {
     "platform/chooser.cpp": '#include "platform/linux/x11.h"\n#include "platform/null/null.h"\n',
     "platform/linux/x11.h": '#include "platform/platform.h"\n#if defined(Q_OS_LINUX)\n#endif\n',
     "platform/null/null.h": '#include "platform/platform.h"\n',
-    "screen/ground/palettes.h": '#include "base/moment.h"\n',
-    "textanim/line.h": '#include "screen/ground/palettes.h"\n#include "platform/platform.h"\n',
-    "screen/view.h": '#include "textanim/line.h"\n#include "screen/ground/palettes.h"\n',
-    "settingsui/panel.h": '#include "quotes/quote.h"\n#include "screen/ground/palettes.h"\n',
+    "look/palettes.h": '#include "base/moment.h"\n',
+    "textanim/line.h": '#include "look/palettes.h"\n#include "platform/platform.h"\n',
+    "screen/view.h": '#include "textanim/line.h"\n#include "look/palettes.h"\n',
+    "settingsui/panel.h": '#include "quotes/quote.h"\n#include "look/palettes.h"\n',
     "app/main.cpp": '#include "settingsui/panel.h"\n#include "platform/platform.h"\n',
     "tests/platform/x11_test.cpp": '#include "platform/linux/x11.h"\n',
 }
@@ -45,7 +45,7 @@ class IncludeCheck(unittest.TestCase):
         self.assertEqual(self.faults({}), [])
 
     def test_every_way_up_is_a_fault(self):
-        rooms = ["app", "settingsui", "screen", "textanim", "screen/ground", "quotes"]
+        rooms = ["app", "screen", "textanim", "look", "base"]
         for below, room in enumerate(rooms):
             for above in rooms[:below]:
                 header = {f"{above}/extra.h": ""}

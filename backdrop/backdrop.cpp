@@ -1,0 +1,181 @@
+#include "backdrop/backdrop.h"
+
+#include "backdrop/glass.h"
+#include "backdrop/kernel.h"
+#include "backdrop/layers.h"
+#include "backdrop/meshlattice.h"
+#include "backdrop/meshsurface.h"
+#include "backdrop/photoground.h"
+#include "look/grain.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <optional>
+
+namespace morrowleaf {
+
+namespace {
+
+void copyRows(QImage& target, const QRect& clip, const QImage& from) {
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        std::memcpy(target.scanLine(y) + clip.left() * 4, from.constScanLine(y) + clip.left() * 4,
+                    static_cast<std::size_t>(clip.width()) * 4);
+    }
+}
+
+void clear(QImage& target, const QRect& clip) {
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        std::memset(target.scanLine(y) + clip.left() * 4, 0,
+                    static_cast<std::size_t>(clip.width()) * 4);
+    }
+}
+
+} // namespace
+
+struct BackdropPainter::Private {
+    FittedPicture photo;
+    FittedPicture desktop;
+    PhotoGround photoGround;
+    MeshLattice mesh;
+    MeshPoints meshPoints{};
+    std::array<QColor, 9> meshColors;
+    bool meshBuilt = false;
+    NodeGrid nodes;
+    GrainTile tile;
+    GlassRim rim;
+
+    // What the nodes were made from.
+    struct Shaded {
+        QSize size;
+        double ratio = 1;
+        double scale = 1;
+        Shading shading;
+        std::shared_ptr<const Glass> glass; // kept while the shading points into it
+
+        bool operator==(const Shaded&) const = default;
+    };
+    std::optional<Shaded> shaded;
+
+    void buildMesh(const MeshPoints& points, const std::array<QColor, 9>& colors) {
+        const auto same = [](const MeshPoint& a, const MeshPoint& b) {
+            return a.x == b.x && a.y == b.y;
+        };
+        if (meshBuilt && colors == meshColors &&
+            std::equal(points.begin(), points.end(), meshPoints.begin(), same)) {
+            return;
+        }
+        meshPoints = points;
+        meshColors = colors;
+        meshBuilt = true;
+        mesh.build(unfolded(points), colors);
+        shaded.reset();
+    }
+
+    // Several parts of one frame share their nodes.
+    void shade(const Shaded& wanted) {
+        if (shaded == wanted) {
+            return;
+        }
+        nodes.resize(wanted.size, wanted.ratio);
+        shadeNodes(nodes, wanted.size, wanted.ratio, mesh, wanted.scale, wanted.shading);
+        shaded = wanted;
+    }
+};
+
+BackdropPainter::BackdropPainter()
+    : d_(std::make_unique<Private>()) {}
+
+BackdropPainter::~BackdropPainter() = default;
+
+bool glassAvailable(const Behind& behind) {
+    return behind.kind == Behind::Kind::Captured;
+}
+
+bool BackdropPainter::moves(const BackdropState& state) {
+    return state.animated && !state.hasPhoto && state.screenAnim != ScreenAnim::Still;
+}
+
+void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropState& state,
+                            double since2001) {
+    const QRect area = clip & target.rect();
+    if (area.isEmpty()) {
+        return;
+    }
+    if (target.format() != QImage::Format_ARGB32_Premultiplied &&
+        target.format() != QImage::Format_RGB32) {
+        qFatal("The backdrop can only be drawn into premultiplied 32-bit images.");
+    }
+    const double ratio = target.devicePixelRatio();
+    const QSize size = target.size();
+
+    const bool hasDesktop =
+        state.behind.kind == Behind::Kind::Captured && !state.behind.picture.isNull();
+    const std::shared_ptr<const Glass> glass =
+        hasDesktop && state.behind.glass && state.behind.glass->size == size ? state.behind.glass
+                                                                             : nullptr;
+    const Layers layers = layersOf(state, hasDesktop, glass != nullptr);
+    const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.behind.picture : QImage(), size);
+    if (layers.ground <= 0 && layers.tint <= 0) {
+        if (hasDesktop) {
+            copyRows(target, area, desktop);
+        } else {
+            clear(target, area);
+        }
+        return;
+    }
+
+    const double shown = state.hasPhoto && !state.photo.isNull() ? unitOf(state.photoOpacity) : 0.0;
+    const double strength = vignetteStrength(state);
+    KernelInput input;
+    if (shown > 0) {
+        const QImage& photo = d_->photoGround.composed(d_->photo.fitted(state.photo, size), ratio,
+                                                       strength, state.grainOn);
+        if (shown >= 1 && layers.ground >= 1) {
+            copyRows(target, area, photo);
+            return;
+        }
+        input.pictures[0] = {&photo, layers.ground * shown};
+        input.pictureCount = 1;
+    }
+    const auto shines = [&input](const QImage& image, double weight) {
+        if (weight > 0) {
+            input.pictures[static_cast<std::size_t>(input.pictureCount++)] = {&image, weight};
+        }
+    };
+    const bool clearGlass = state.liquidGlass && state.transparency > clearFrom;
+    if (hasDesktop) {
+        shines(desktop, layers.sharp);
+        if (glass && clearGlass) {
+            shines(glass->clear, layers.glass);
+        }
+    }
+
+    const double speedOf = speed(state.screenAnim);
+    const double asked = speedOf == 0 ? 0 : since2001 * speedOf;
+    const double phase = std::isfinite(asked) ? asked : 0;
+    const double mesh = layers.ground * (1 - shown);
+    const double grain = state.grainOn ? mesh : 0;
+    d_->buildMesh(meshDrift(phase, amplitude(state.screenAnim)), state.palette.colors);
+    Shading shading;
+    shading.factor = mesh * (state.grainOn ? 1 - grainOpacity : 1);
+    shading.alpha = mesh;
+    shading.vignette = strength;
+    const QColor& tint = state.palette.colors[4];
+    shading.base = {double(tint.blueF()) * layers.tint, double(tint.greenF()) * layers.tint,
+                    double(tint.redF()) * layers.tint, layers.tint};
+    if (glass && !clearGlass) {
+        shading.under = &glass->frosted;
+        shading.underWeight = layers.glass;
+    }
+    d_->shade({size, ratio, backdropScale(state.screenAnim, phase), shading, glass});
+    d_->tile.build(ratio, grain, hasDesktop || layers.ground >= 1);
+    input.nodes = &d_->nodes;
+    input.tile = &d_->tile;
+    runKernel(target, area, input);
+    if (layers.rim > 0) {
+        d_->rim.add(target, area, clearGlass ? GlassStyle::Clear : GlassStyle::Regular, layers.rim);
+    }
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,191 @@
+#include "backdrop/glass.h"
+
+#include "backdrop/blurredgrid.h"
+#include "backdrop/dither.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr double bevel = 56; // points from the edge in which the clear glass bends
+constexpr double bend = 24;  // points, at the edge itself
+
+// From where, in pixels, the clear glass shows what is seen at `at`.
+double bent(double at, int length, double ratio) {
+    const auto shift = [&](double distance) {
+        const double near = std::max(0.0, 1 - distance / (bevel * ratio));
+        return near * near * bend * ratio;
+    };
+    // A picture smaller than two bevels bends less.
+    const double most = std::min(1.0, length / (2 * bevel * ratio));
+    return at + most * (shift(at) - shift(length - at));
+}
+
+std::array<float, 3> colourAt(const std::vector<float>& row, const BlurredGrid::Place& place) {
+    const float* left = row.data() + std::ptrdiff_t(place.left) * 3;
+    const float* right = row.data() + std::ptrdiff_t(place.right) * 3;
+    return {left[0] + (right[0] - left[0]) * place.share,
+            left[1] + (right[1] - left[1]) * place.share,
+            left[2] + (right[2] - left[2]) * place.share};
+}
+
+NodeGrid frostedNodes(const QImage& picture, double ratio) {
+    NodeGrid nodes;
+    nodes.resize(picture.size(), ratio);
+    const BlurredGrid grid(picture, NodeGrid::cellFor(picture.size(), ratio), frostSigma * ratio);
+    std::vector<float> row;
+    for (int j = 0; j < nodes.rows; ++j) {
+        grid.mixRow(nodes.place(j), row);
+        qint16* to = nodes.row(j);
+        for (int i = 0; i < nodes.columns; ++i, to += 4) {
+            const std::array<float, 3> c = colourAt(row, grid.placeOf(nodes.place(i)));
+            const float luma = 0.0722F * c[0] + 0.7152F * c[1] + 0.2126F * c[2];
+            for (std::size_t n = 0; n < 3; ++n) {
+                const float lifted = luma + (c[n] - luma) * float(frostSaturation);
+                to[n] = static_cast<qint16>(std::lround(std::clamp(lifted, 0.0F, 255.0F) * 64));
+            }
+            to[3] = fullLane;
+        }
+    }
+    return nodes;
+}
+
+QImage clearPicture(const QImage& picture, double ratio) {
+    const BlurredGrid grid(picture, std::max(1, static_cast<int>(2 * ratio)), clearSigma * ratio);
+    QImage clear(picture.size(), QImage::Format_RGB32);
+    std::vector<BlurredGrid::Place> columns(static_cast<std::size_t>(clear.width()));
+    for (int x = 0; x < clear.width(); ++x) {
+        columns[static_cast<std::size_t>(x)] = grid.placeOf(bent(x + 0.5, clear.width(), ratio));
+    }
+    const DitherMask& mask = ditherMask();
+    std::vector<float> row;
+    for (int y = 0; y < clear.height(); ++y) {
+        grid.mixRow(bent(y + 0.5, clear.height(), ratio), row);
+        const quint8* dithers = mask.data() + std::ptrdiff_t(y % ditherSize) * ditherSize;
+        auto* line = reinterpret_cast<QRgb*>(clear.scanLine(y));
+        for (int x = 0; x < clear.width(); ++x) {
+            const std::array<float, 3> c = colourAt(row, columns[static_cast<std::size_t>(x)]);
+            const float dither = static_cast<float>(dithers[x % ditherSize]) * (1.0F / 64);
+            // Between 0 and 255 already; the dither's 63/64 cannot reach 256.
+            const auto level = [dither](float value) {
+                return static_cast<QRgb>(static_cast<int>(std::min(value, 255.0F) + dither));
+            };
+            line[x] = 0xFF000000U | level(c[2]) << 16 | level(c[1]) << 8 | level(c[0]);
+        }
+    }
+    return clear;
+}
+
+// The light at a distance from an edge, in points: a fine line and a glow.
+double rimLight(GlassStyle style, double distance) {
+    const double fine = std::exp(-distance * distance / 1.8);
+    return style == GlassStyle::Clear ? 0.5 * fine + 0.07 * std::exp(-distance / 7)
+                                      : 0.32 * fine + 0.05 * std::exp(-distance / 12);
+}
+
+constexpr double rimReach = 48;     // points: less than half a level of glow beyond
+constexpr double shadowSide = 0.55; // of the light, at the right and the bottom
+
+// The light of two opposite edges at every place between them.
+std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
+    std::vector<float> light(static_cast<std::size_t>(length));
+    for (int i = 0; i < length; ++i) {
+        const double lit = rimLight(style, (i + 0.5) / ratio);
+        const double shadowed = shadowSide * rimLight(style, (length - i - 0.5) / ratio);
+        light[static_cast<std::size_t>(i)] = static_cast<float>(lit + shadowed - lit * shadowed);
+    }
+    return light;
+}
+
+// Colour stays within alpha.
+void brighten(QRgb* pixels, const quint8* light, int count) {
+    for (int i = 0; i < count; ++i) {
+        const QRgb pixel = pixels[i];
+        const QRgb more = light[i];
+        const QRgb alpha = pixel >> 24;
+        const QRgb red = std::min(((pixel >> 16) & 0xFF) + more, alpha);
+        const QRgb green = std::min(((pixel >> 8) & 0xFF) + more, alpha);
+        const QRgb blue = std::min((pixel & 0xFF) + more, alpha);
+        pixels[i] = alpha << 24 | red << 16 | green << 8 | blue;
+    }
+}
+
+} // namespace
+
+std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio) {
+    if (picture.isNull()) {
+        return nullptr;
+    }
+    const double ratio = devicePixelRatio > 0 ? devicePixelRatio : 1;
+    const QImage pixels = picture.convertToFormat(QImage::Format_RGB32);
+    auto glass = std::make_shared<Glass>();
+    glass->size = pixels.size();
+    glass->frosted = frostedNodes(pixels, ratio);
+    glass->clear = clearPicture(pixels, ratio);
+    return glass;
+}
+
+bool GlassRim::hasWholeRow(int y) const {
+    return y < reach_ || y >= look_->size.height() - reach_ || look_->size.width() <= 2 * reach_;
+}
+
+void GlassRim::light(const Look& look) {
+    look_ = look;
+    const int width = look.size.width();
+    const int height = look.size.height();
+    const std::vector<float> across = rimAlong(width, look.ratio, look.style);
+    const std::vector<float> down = rimAlong(height, look.ratio, look.style);
+    reach_ = static_cast<int>(std::ceil(rimReach * look.ratio));
+    const auto most = static_cast<float>(255 * look.strength);
+    const auto& mask = ditherMask();
+    rows_.clear();
+    light_.clear();
+    for (int y = 0; y < height; ++y) {
+        rows_.push_back(light_.size());
+        const float fromDown = down[static_cast<std::size_t>(y)];
+        const auto lighten = [&](int first, int last) {
+            for (int x = first; x < last; ++x) {
+                const float fromAcross = across[static_cast<std::size_t>(x)];
+                const float light = fromAcross + fromDown - fromAcross * fromDown;
+                const auto dither = static_cast<float>(mask[static_cast<std::size_t>(
+                                        y % ditherSize * ditherSize + x % ditherSize)]) /
+                                    64;
+                light_.push_back(static_cast<quint8>(std::min(light * most + dither, 255.0F)));
+            }
+        };
+        if (hasWholeRow(y)) {
+            lighten(0, width);
+        } else {
+            lighten(0, reach_);
+            lighten(width - reach_, width);
+        }
+    }
+}
+
+void GlassRim::add(QImage& target, const QRect& clip, GlassStyle style, double strength) {
+    const Look look{target.size(), target.devicePixelRatio(), style, strength};
+    if (look_ != look) {
+        light(look);
+    }
+    const int width = target.width();
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(target.scanLine(y));
+        const quint8* row = light_.data() + rows_[static_cast<std::size_t>(y)];
+        const auto addPart = [&](int first, int last, const quint8* from) {
+            const int left = std::max(first, clip.left());
+            const int right = std::min(last, clip.left() + clip.width());
+            brighten(line + left, from + (left - first), right - left);
+        };
+        if (hasWholeRow(y)) {
+            addPart(0, width, row);
+        } else {
+            addPart(0, reach_, row);
+            addPart(width - reach_, width, row + reach_);
+        }
+    }
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,119 @@
+#include "backdrop/kernel.h"
+
+#include "backdrop/kernelrow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr int blockSize = 8; // pixels
+
+// A cell's weights at its pixels' centres, four lanes to a pixel.
+std::vector<qint16> cellWeights(int cell) {
+    std::vector<qint16> weights(static_cast<std::size_t>(cell) * 4);
+    for (std::size_t i = 0; i < weights.size(); ++i) {
+        weights[i] =
+            static_cast<qint16>(cell == 1 ? 0 : (2 * static_cast<int>(i / 4) + 1) * 16384 / cell);
+    }
+    return weights;
+}
+
+// One block that is wanted in part only, or that reaches over the row's end:
+// drawn beside and copied over.
+void drawPartly(RowFunction draw, const KernelRow& row, int index, int from, int to, int width) {
+    std::array<std::array<quint32, blockSize>, 3> sources{};
+    std::array<quint32, blockSize> pixels{};
+    KernelRow beside = row;
+    const int start = index * blockSize;
+    const auto inside = static_cast<std::size_t>(std::clamp(width - start, 0, blockSize));
+    for (std::size_t p = 0; p < static_cast<std::size_t>(row.pictureCount); ++p) {
+        std::memcpy(sources.at(p).data(), row.pictures.at(p) + start, inside * sizeof(quint32));
+        beside.pictures[p] = sources[p].data();
+    }
+    // The block becomes the first of a row of its own.
+    const int cell = row.cell < blockSize ? start / row.cell : index / row.blocksPerCell;
+    beside.nodes = row.nodes + cell * 4;
+    beside.across = row.across + index % row.blocksPerCell * blockSize * 4;
+    beside.blocksPerCell = 1;
+    beside.tile = row.tile + start % row.tileSize * 4;
+    beside.tileSize = blockSize;
+    beside.out = pixels.data();
+    draw(beside, 0, 1);
+    std::copy(pixels.begin() + (from - start), pixels.begin() + (to - start), row.out + from);
+}
+
+} // namespace
+
+bool kernelPathAvailable(KernelPath path) {
+    return path == KernelPath::Portable || hasAvx2();
+}
+
+KernelPath fastestKernelPath() {
+    static const KernelPath path = hasAvx2() ? KernelPath::Avx2 : KernelPath::Portable;
+    return path;
+}
+
+void runKernel(QImage& target, const QRect& clip, const KernelInput& input, KernelPath path) {
+    const NodeGrid& nodes = *input.nodes;
+    const bool fine = nodes.cell < blockSize;
+    const RowFunction draw = fine                       ? kernelRowFine
+                             : path == KernelPath::Avx2 ? kernelRowAvx2
+                                                        : kernelRowPortable;
+    const MixFunction mix = path == KernelPath::Avx2 ? mixRowsAvx2 : mixRowsPortable;
+    const std::vector<qint16> weights = cellWeights(nodes.cell);
+    // Some to spare: the last block may reach beyond the last node.
+    std::vector<qint16> mixed(static_cast<std::size_t>(nodes.columns + blockSize + 1) * 4);
+
+    KernelRow row;
+    row.nodes = mixed.data();
+    row.across = weights.data();
+    row.blocksPerCell = fine ? 1 : nodes.cell / blockSize;
+    row.cell = nodes.cell;
+    row.tileSize = input.tile->size();
+    row.pictureCount = input.pictureCount;
+    row.multiply = input.multiply;
+    for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p) {
+        row.weights[p] = static_cast<quint16>(
+            std::lround(std::clamp(input.pictures[p].weight, 0.0, 1.0) * 16384));
+    }
+
+    const int left = clip.left();
+    const int right = clip.left() + clip.width();
+    const int firstWhole = (left + blockSize - 1) / blockSize;
+    const int lastWhole = right / blockSize;
+    const int firstNode = left / nodes.cell;
+    const int lastNode = (right - 1) / nodes.cell + 1;
+    // Asked once: a non-const scanLine() would detach on every row.
+    auto* pixels = reinterpret_cast<quint32*>(target.bits());
+    const auto stride = target.bytesPerLine() / qsizetype(sizeof(quint32));
+    for (int y = clip.top(); y <= clip.bottom(); ++y) {
+        const int cell = y / nodes.cell;
+        mix(nodes.row(cell) + firstNode * 4, nodes.row(cell + 1) + firstNode * 4,
+            weights[static_cast<std::size_t>(y % nodes.cell) * 4], mixed.data() + firstNode * 4,
+            (lastNode - firstNode + 1) * 4);
+        row.tile = input.tile->row(y);
+        for (std::size_t p = 0; p < static_cast<std::size_t>(input.pictureCount); ++p) {
+            row.pictures[p] =
+                reinterpret_cast<const quint32*>(input.pictures[p].image->constScanLine(y));
+        }
+        row.out = pixels + stride * y;
+        if (firstWhole > lastWhole) { // within one block
+            drawPartly(draw, row, left / blockSize, left, right, target.width());
+            continue;
+        }
+        if (left % blockSize != 0) {
+            drawPartly(draw, row, left / blockSize, left, firstWhole * blockSize, target.width());
+        }
+        draw(row, firstWhole, lastWhole);
+        if (right % blockSize != 0) {
+            drawPartly(draw, row, lastWhole, lastWhole * blockSize, right, target.width());
+        }
+    }
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "backdrop/meshdrift.h"
+
+#include <QColor>
+
+#include <array>
+#include <span>
+#include <vector>
+
+namespace morrowleaf {
+
+// The colours of a mesh gradient on a regular lattice over its unit square,
+// with one ring of nodes beyond each edge for a spline through them. Depends
+// on points and colours alone, not on an earlier picture.
+class MeshLattice {
+public:
+    // The points must not fold, see unfolded().
+    void build(const MeshPoints& points, std::span<const QColor, 9> colors);
+
+    // Cells; more of them where the mesh is squeezed.
+    int columns() const { return columns_; }
+    int rows() const { return rows_; }
+
+    // Node 0 of a lattice row (-1...rows + 1) in one plane (0 red, 1 green,
+    // 2 blue), 0...1; nodes -1...columns + 1 stand beside it.
+    const float* row(int plane, int row) const {
+        return nodes_.data() + (plane * (rows_ + 3) + row + 1) * stride_ + 1;
+    }
+
+private:
+    int columns_ = 0;
+    int rows_ = 0;
+    int stride_ = 0; // columns + 3, padded to whole vectors
+    std::vector<float> nodes_;
+};
+
+} // namespace morrowleaf

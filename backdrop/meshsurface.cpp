@@ -1,0 +1,103 @@
+#include "backdrop/meshsurface.h"
+
+#include <algorithm>
+
+namespace morrowleaf {
+
+namespace {
+
+constexpr int probes = 21; // in each direction
+
+MeshPoints drawnBack(const MeshPoints& points, float swing) {
+    MeshPoints drawn = points;
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        const float restX = 0.5F * static_cast<float>(i % 3);
+        const std::size_t row = i / 3;
+        const float restY = 0.5F * static_cast<float>(row);
+        drawn[i].x = restX + (points[i].x - restX) * swing;
+        drawn[i].y = restY + (points[i].y - restY) * swing;
+    }
+    return drawn;
+}
+
+} // namespace
+
+KnotWeights knotWeights(double u) {
+    const bool mirrored = u > 1;
+    const double s = mirrored ? 2 - u : u;
+    const double near = ((0.5 * s - 0.5) * s - 1) * s + 1;
+    const double middle = ((-s + 1) * s + 1) * s;
+    const double far = (0.5 * s - 0.5) * s * s;
+    const double nearSlope = (1.5 * s - 1) * s - 1;
+    const double middleSlope = (-3 * s + 2) * s + 1;
+    const double farSlope = (1.5 * s - 1) * s;
+    if (mirrored) {
+        return {{far, middle, near}, {-farSlope, -middleSlope, -nearSlope}};
+    }
+    return {{near, middle, far}, {nearSlope, middleSlope, farSlope}};
+}
+
+SurfacePoint surfaceAt(const MeshPoints& points, double u, double v) {
+    const KnotWeights across = knotWeights(u);
+    const KnotWeights down = knotWeights(v);
+    SurfacePoint at;
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            const MeshPoint& p = points[row * 3 + column];
+            at.x += across.value[column] * down.value[row] * double(p.x);
+            at.y += across.value[column] * down.value[row] * double(p.y);
+            at.xByU += across.slope[column] * down.value[row] * double(p.x);
+            at.yByU += across.slope[column] * down.value[row] * double(p.y);
+            at.xByV += across.value[column] * down.slope[row] * double(p.x);
+            at.yByV += across.value[column] * down.slope[row] * double(p.y);
+        }
+    }
+    return at;
+}
+
+double lowestDeterminant(const MeshPoints& points) {
+    static const std::array<KnotWeights, probes> weights = [] {
+        std::array<KnotWeights, probes> all;
+        for (int i = 0; i < probes; ++i) {
+            all[static_cast<std::size_t>(i)] = knotWeights(2.0 * i / (probes - 1));
+        }
+        return all;
+    }();
+    double lowest = 1;
+    for (const KnotWeights& down : weights) {
+        // The tensor product, one direction at a time.
+        std::array<double, 3> x{}, y{}, xv{}, yv{};
+        for (std::size_t column = 0; column < 3; ++column) {
+            for (std::size_t row = 0; row < 3; ++row) {
+                const MeshPoint& p = points[row * 3 + column];
+                x[column] += down.value[row] * double(p.x);
+                y[column] += down.value[row] * double(p.y);
+                xv[column] += down.slope[row] * double(p.x);
+                yv[column] += down.slope[row] * double(p.y);
+            }
+        }
+        const auto dot = [](const std::array<double, 3>& a, const std::array<double, 3>& b) {
+            return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+        };
+        for (const KnotWeights& across : weights) {
+            lowest = std::min(lowest, dot(across.slope, x) * dot(across.value, yv) -
+                                          dot(across.value, xv) * dot(across.slope, y));
+        }
+    }
+    return lowest;
+}
+
+MeshPoints unfolded(const MeshPoints& points) {
+    if (lowestDeterminant(points) >= leastDeterminant) {
+        return points;
+    }
+    float whole = 0;
+    float folding = 1;
+    for (int step = 0; step < 14; ++step) {
+        const float swing = (whole + folding) / 2;
+        (lowestDeterminant(drawnBack(points, swing)) >= leastDeterminant ? whole : folding) = swing;
+    }
+    return drawnBack(points, whole);
+}
+
+} // namespace morrowleaf

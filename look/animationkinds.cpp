@@ -1,0 +1,121 @@
+#include "look/animationkinds.h"
+
+#include <QLatin1StringView>
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct TextAnimRow {
+    QLatin1StringView raw;
+    QLatin1StringView label;
+};
+
+struct ScreenAnimRow {
+    QLatin1StringView raw;
+    QLatin1StringView label;
+    double speed;
+    double amplitude;
+};
+
+// In the order of the cases.
+constexpr std::array<TextAnimRow, allTextAnims.size()> textRows{{
+    {"fade"_L1, "Fade"_L1},
+    {"handwrite"_L1, "Handwrite"_L1},
+    {"typewriter"_L1, "Typewriter"_L1},
+    {"rise"_L1, "Rise"_L1},
+    {"blur"_L1, "Blur"_L1},
+}};
+
+constexpr std::array<ScreenAnimRow, allScreenAnims.size()> screenRows{{
+    {"drift"_L1, "Drift"_L1, 0.11, 0.16},
+    {"still"_L1, "Still"_L1, 0.0, 0.16},
+    {"breathe"_L1, "Breathe"_L1, 0.06, 0.1},
+    {"aurora"_L1, "Aurora"_L1, 0.3, 0.26},
+    {"zoom"_L1, "Zoom"_L1, 0.08, 0.16},
+}};
+
+const TextAnimRow& row(TextAnim kind) {
+    return textRows[static_cast<size_t>(kind)];
+}
+const ScreenAnimRow& row(ScreenAnim kind) {
+    return screenRows[static_cast<size_t>(kind)];
+}
+
+template <typename Kinds>
+auto kindNamed(const Kinds& kinds, const QString& raw)
+    -> std::optional<typename Kinds::value_type> {
+    const auto found =
+        std::find_if(kinds.begin(), kinds.end(), [&](auto kind) { return row(kind).raw == raw; });
+    return found == kinds.end() ? std::nullopt : std::optional(*found);
+}
+
+} // namespace
+
+QString rawValue(TextAnim kind) {
+    return row(kind).raw;
+}
+QString rawValue(ScreenAnim kind) {
+    return row(kind).raw;
+}
+
+std::optional<TextAnim> textAnimFromRawValue(const QString& raw) {
+    return kindNamed(allTextAnims, raw);
+}
+
+std::optional<ScreenAnim> screenAnimFromRawValue(const QString& raw) {
+    return kindNamed(allScreenAnims, raw);
+}
+
+TextAnim storedTextAnim(const QString& raw) {
+    return textAnimFromRawValue(raw).value_or(allTextAnims.front());
+}
+
+ScreenAnim storedScreenAnim(const QString& raw) {
+    return screenAnimFromRawValue(raw).value_or(allScreenAnims.front());
+}
+
+QString label(TextAnim kind) {
+    return row(kind).label;
+}
+QString label(ScreenAnim kind) {
+    return row(kind).label;
+}
+
+double speed(ScreenAnim kind) {
+    return row(kind).speed;
+}
+double amplitude(ScreenAnim kind) {
+    return row(kind).amplitude;
+}
+
+double backdropScale(ScreenAnim kind, double phase) {
+    switch (kind) {
+    case ScreenAnim::Breathe:
+        return 1.02 + 0.025 * std::sin(3.0 * phase);
+    case ScreenAnim::Zoom:
+        return 1.06 + 0.06 * std::sin(1.4 * phase);
+    case ScreenAnim::Drift:
+    case ScreenAnim::Still:
+    case ScreenAnim::Aurora:
+        break;
+    }
+    return 1;
+}
+
+double lineDelay(TextAnim kind, qint64 index) {
+    const auto i = static_cast<double>(index);
+    return kind == TextAnim::Handwrite ? 1.05 * i + 0.4 : 0.16 * i + 0.55;
+}
+
+double revealDone(TextAnim kind, qsizetype lines) {
+    const double afterLast = lineDelay(kind, lines);
+    return kind == TextAnim::Handwrite ? afterLast + 0.5 : afterLast;
+}
+
+} // namespace morrowleaf

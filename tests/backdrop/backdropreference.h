@@ -1,0 +1,30 @@
+#pragma once
+
+#include "backdrop/meshdrift.h"
+
+#include <QColor>
+#include <QRgb>
+#include <QSize>
+
+#include <array>
+#include <vector>
+
+namespace morrowleaf {
+
+// A mesh ground over a constant premultiplied colour, pixel by pixel in double
+// precision and without any table: what the kernel must come close to.
+struct Reference {
+    MeshPoints points{};
+    std::array<QColor, 9> colors;
+    double scale = 1;
+    double vignette = 0;
+    bool grainOn = true;
+    double opacity = 1;
+    std::array<double, 4> base{}; // B, G, R, A, added
+    QSize size;
+    double ratio = 1;
+
+    std::vector<QRgb> draw() const;
+};
+
+} // namespace morrowleaf
