@@ -32,7 +32,7 @@ BELOW = {
     },
 }
 BACKENDS = {"platform/linux", "platform/null"}
-CHOOSERS = {"platform/chooser.cpp"}
+CHOOSERS = {"platform/linux/chooser.cpp"}
 # The tools stand above everything, like app.
 ABOVE = {"tools", "bench", "tests"}
 SOURCES = {".h", ".cpp"}

@@ -15,7 +15,7 @@ SOUND = {
     "quotes/quote.h": "",
     "quotes/schedule.cpp": '#include "quotes/quote.h"\n#include <vector>\n',
     "platform/platform.h": "",
-    "platform/chooser.cpp": '#include "platform/linux/x11.h"\n#include "platform/null/null.h"\n',
+    "platform/linux/chooser.cpp": '#include "platform/linux/x11.h"\n#include "platform/null/null.h"\n',
     "platform/linux/x11.h": '#include "platform/platform.h"\n#if defined(Q_OS_LINUX)\n#endif\n',
     "platform/null/null.h": '#include "platform/platform.h"\n',
     "look/palettes.h": '#include "base/moment.h"\n',
@@ -53,7 +53,7 @@ class IncludeCheck(unittest.TestCase):
                 self.assertEqual(found, [f"{room}/a.cpp:1: may not include {above}/extra.h"])
 
     def test_the_platform_includes_nothing_of_ours(self):
-        for path in ("platform/a.h", "platform/chooser.cpp", "platform/linux/a.cpp"):
+        for path in ("platform/a.h", "platform/linux/chooser.cpp", "platform/linux/a.cpp"):
             self.assert_fault(path, '#include "quotes/quote.h"\n', "may not include quotes/quote.h")
 
     def test_only_the_chooser_knows_the_backends(self):

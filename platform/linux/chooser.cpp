@@ -28,8 +28,18 @@
 
 namespace morrowleaf {
 
+// The ways in which a window can come to stand above everything.
+enum class WindowSystem : int {
+    Null,     // nothing of the desktop is used
+    X11,      // a window that no window manager touches
+    Layer,    // a Wayland layer surface
+    Xwayland, // a managed full-screen window of Xwayland
+    Wayland,  // an opaque full-screen window of the compositor
+};
+
 namespace {
 
+// By the environment, for tests and for who knows better.
 std::optional<WindowSystem> forced() {
     const QByteArray name = qgetenv("MORROWLEAF_PLATFORM");
     if (name == "null") {

@@ -1,0 +1,25 @@
+#include "platform/chooser.h"
+
+#include "platform/null/nullplatform.h"
+
+namespace morrowleaf {
+
+enum class WindowSystem : int { Null };
+
+WindowSystem chooseWindowSystem() {
+    return WindowSystem::Null;
+}
+
+bool isReachable(WindowSystem /*system*/) {
+    return true;
+}
+
+Platform makePlatform(WindowSystem /*system*/) {
+    return makeNullPlatform();
+}
+
+std::unique_ptr<LoginItem> makeLoginItem() {
+    return makeNullPlatform().loginItem;
+}
+
+} // namespace morrowleaf
