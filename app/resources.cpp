@@ -1,22 +1,14 @@
 #include "app/resources.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
 
 namespace morrowleaf {
 
-namespace {
-
-// Works before there is an application object.
-QString programFolder() {
-    return QFileInfo(QFileInfo("/proc/self/exe").canonicalFilePath()).absolutePath();
-}
-
-} // namespace
-
 QString resourceFolder() {
-    const QString program = programFolder();
+    const QString program = QCoreApplication::applicationDirPath();
     QStringList candidates{program + "/../share/morrowleaf"};
     constexpr int deepestBuildFolder = 5;
     QString up = program;

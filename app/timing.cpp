@@ -1,11 +1,12 @@
 #include "app/timing.h"
 
+#include "platform/uptime.h"
+
 #include <QElapsedTimer>
 #include <QTimer>
 
 #include <algorithm>
 #include <cmath>
-#include <ctime>
 
 namespace morrowleaf {
 
@@ -63,12 +64,7 @@ Task makeTask(Arguments&&... arguments) {
 
 class SystemTiming final : public Timing {
 public:
-    // Neither set by the user nor standing still while the machine sleeps.
-    double now() const override {
-        timespec time{};
-        clock_gettime(CLOCK_BOOTTIME, &time);
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-    }
+    double now() const override { return uptime(); }
 
     Task after(double seconds, std::function<void()> what) override {
         auto* timer = new QTimer;

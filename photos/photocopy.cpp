@@ -3,6 +3,7 @@
 #include "platform/regularfile.h"
 
 #include <QByteArray>
+#include <QFile>
 
 namespace morrowleaf {
 namespace {

@@ -6,16 +6,16 @@
 
 namespace morrowleaf {
 
-// Keeps other processes of this program from replacing the settings file at
-// `path` meanwhile. The kernel lets go of it when its holder dies, so that it
-// cannot become stale; where it cannot be had in time (its holder is stopped,
-// the file system knows no locks) the work goes on without it.
-class SettingsLock {
+// Keeps other processes of this program from replacing the file at `path`
+// meanwhile. The kernel lets go of it when its holder dies, so that it cannot
+// become stale; where it cannot be had in time (its holder is stopped, the
+// file system knows no locks) the work goes on without it.
+class FileLock {
 public:
-    SettingsLock(const QString& path, std::chrono::milliseconds patience);
-    SettingsLock(const SettingsLock&) = delete;
-    SettingsLock& operator=(const SettingsLock&) = delete;
-    ~SettingsLock();
+    FileLock(const QString& path, std::chrono::milliseconds patience);
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    ~FileLock();
 
     bool held() const { return held_; }
 
@@ -24,8 +24,8 @@ private:
     bool held_ = false;
 };
 
-// The file that is locked, beside the settings file. It stays there: to
+// The file that is locked, beside the one at `path`. It stays there: to
 // remove it would let two holders in.
-QString settingsLockPath(const QString& path);
+QString lockPathOf(const QString& path);
 
 } // namespace morrowleaf

@@ -17,7 +17,7 @@
 
 namespace morrowleaf {
 
-// Everything the program needs of the operating system; no member is null.
+// Everything the program needs of the desktop; no member is null.
 struct Platform {
     std::unique_ptr<MainScreen> mainScreen;
     std::unique_ptr<OverlayMaker> overlays;

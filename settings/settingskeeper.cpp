@@ -14,6 +14,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
+// Files above this size are rejected.
+constexpr qint64 sizeLimit = qint64(16) * 1024 * 1024; // bytes
 // A slider dragged for a second makes a dozen writes, not sixty.
 constexpr auto burst = 70ms;
 // Some editors take the old file away before they put the new one there.
@@ -68,7 +70,7 @@ SettingsKeeper::SettingsKeeper(QString path, std::shared_ptr<SettingsMailbox> ma
 SettingsKeeper::~SettingsKeeper() = default;
 
 void SettingsKeeper::start() {
-    judge(readSettings(path_));
+    judge(readWholeFile(path_, sizeLimit));
     tell();
 }
 
@@ -82,7 +84,7 @@ void SettingsKeeper::look() {
     if (watch_) {
         watch_->arm();
     }
-    if (!judge(readSettings(path_))) {
+    if (!judge(readWholeFile(path_, sizeLimit))) {
         return;
     }
     tell();
@@ -98,23 +100,23 @@ void SettingsKeeper::look() {
     }
 }
 
-bool SettingsKeeper::judge(const SettingsRead& read) {
+bool SettingsKeeper::judge(const WholeFile& read) {
     std::optional<SettingsDocument> document;
     switch (read.kind) {
-    case SettingsRead::Kind::Unreadable:
+    case WholeFile::Kind::Unreadable:
         // Nobody can tell what it holds: go on with what was known.
         believe(known_);
         return true;
-    case SettingsRead::Kind::Missing:
+    case WholeFile::Kind::Missing:
         if (!known_.values().isEmpty() && doubt(patienceWithMissing)) {
             return false;
         }
         document.emplace();
         break;
-    case SettingsRead::Kind::Text:
-        document = SettingsDocument::parse(read.text);
+    case WholeFile::Kind::Bytes:
+        document = SettingsDocument::parse(read.bytes);
         break;
-    case SettingsRead::Kind::Unusable:
+    case WholeFile::Kind::Unusable:
         break;
     }
     if (document) {
@@ -143,16 +145,16 @@ bool SettingsKeeper::doubt(std::chrono::milliseconds patience) {
 // have come first and written a good file since. Never reached from write(),
 // which holds the lock itself and leaves at the first doubt.
 void SettingsKeeper::setAside() {
-    const SettingsLock lock(path_, lockPatience);
-    const SettingsRead now = readSettings(path_);
-    const bool text = now.kind == SettingsRead::Kind::Text;
-    if (const auto mended = text ? SettingsDocument::parse(now.text) : std::nullopt) {
+    const FileLock lock(path_, lockPatience);
+    const WholeFile now = readWholeFile(path_, sizeLimit);
+    const bool text = now.kind == WholeFile::Kind::Bytes;
+    if (const auto mended = text ? SettingsDocument::parse(now.bytes) : std::nullopt) {
         believe(*mended);
         return;
     }
-    const bool missing = now.kind == SettingsRead::Kind::Missing;
+    const bool missing = now.kind == WholeFile::Kind::Missing;
     believe(SettingsDocument());
-    blocked_ = !missing && !setSettingsAside(path_);
+    blocked_ = !missing && !setFileAside(path_);
 }
 
 void SettingsKeeper::believe(const SettingsDocument& document) {
@@ -204,8 +206,8 @@ bool SettingsKeeper::write(std::chrono::milliseconds patience) {
     if (outstanding_.isEmpty() || doubt_) {
         return outstanding_.isEmpty(); // after the doubt look() comes back to it
     }
-    makeSettingsFolder(path_);
-    const SettingsLock lock(path_, patience);
+    makeFolderOf(path_);
+    const FileLock lock(path_, patience);
     bool again = true;
     for (int attempt = 0; again && attempt < attempts; ++attempt) {
         again = false;
@@ -223,8 +225,8 @@ bool SettingsKeeper::write(std::chrono::milliseconds patience) {
 }
 
 bool SettingsKeeper::mergeOnce(bool exclusive, bool& again) {
-    const SettingsRead read = readSettings(path_);
-    if (read.kind == SettingsRead::Kind::Unreadable || !judge(read)) {
+    const WholeFile read = readWholeFile(path_, sizeLimit);
+    if (read.kind == WholeFile::Kind::Unreadable || !judge(read)) {
         return false;
     }
     SettingsDocument merged = known_;
@@ -232,14 +234,14 @@ bool SettingsKeeper::mergeOnce(bool exclusive, bool& again) {
     for (auto it = outstanding_.begin(); it != outstanding_.end(); ++it) {
         SettingsDocument with = merged;
         with.apply(it.key(), it.value());
-        if (with.text().size() > settingsSizeLimit) {
+        if (with.text().size() > sizeLimit) {
             left.insert(it.key(), it.value());
         } else {
             merged = with;
         }
     }
     if (merged.text() != known_.text()) {
-        const Replaced replaced = replaceSettings(path_, merged.text(), read.mark, exclusive);
+        const Replaced replaced = replaceWholeFile(path_, merged.text(), read.mark, exclusive);
         again = replaced == Replaced::Overtaken;
         if (replaced != Replaced::Done) {
             return false;

@@ -78,7 +78,7 @@ private:
     void look();
     // Takes what was read as the truth, or doubts it for a while. True when
     // there is no doubt.
-    bool judge(const SettingsRead& read);
+    bool judge(const WholeFile& read);
     bool doubt(std::chrono::milliseconds patience);
     void setAside();
     void believe(const SettingsDocument& document);

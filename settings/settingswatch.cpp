@@ -46,7 +46,7 @@ SettingsWatch::SettingsWatch(QString path, QObject* parent)
 
 void SettingsWatch::arm() {
     QStringList wanted{nearestFolder(path_)};
-    const QString target = settingsTarget(path_);
+    const QString target = linkTarget(path_);
     if (target != path_ && !target.isEmpty()) {
         wanted.append(nearestFolder(target));
     }

@@ -1,9 +1,7 @@
 #include "sources/hostlookup.h"
 
+#include "platform/hostaddress.h"
 #include "sources/systemproxies.h"
-
-#include <netdb.h>
-#include <sys/socket.h>
 
 namespace morrowleaf {
 
@@ -18,16 +16,7 @@ QString firstHost(const QUrl& url) {
 } // namespace
 
 bool canBeReached(const QUrl& url) {
-    addrinfo wanted{};
-    wanted.ai_family = AF_UNSPEC;
-    wanted.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    const QByteArray host = firstHost(url).toUtf8();
-    if (::getaddrinfo(host.constData(), nullptr, &wanted, &found) != 0) {
-        return false;
-    }
-    ::freeaddrinfo(found);
-    return true;
+    return hasAddress(firstHost(url).toUtf8());
 }
 
 } // namespace morrowleaf

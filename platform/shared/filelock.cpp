@@ -13,13 +13,13 @@
 
 namespace morrowleaf {
 
-QString settingsLockPath(const QString& path) {
+QString lockPathOf(const QString& path) {
     const QFileInfo info(path);
     return info.path() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".lock");
 }
 
-SettingsLock::SettingsLock(const QString& path, std::chrono::milliseconds patience) {
-    const QByteArray name = QFile::encodeName(settingsLockPath(path));
+FileLock::FileLock(const QString& path, std::chrono::milliseconds patience) {
+    const QByteArray name = QFile::encodeName(lockPathOf(path));
     // Readable for all who get into the folder: what an administrator's
     // process has created must be lockable by its user too.
     fd_ = ::open(name.constData(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
@@ -40,7 +40,7 @@ SettingsLock::SettingsLock(const QString& path, std::chrono::milliseconds patien
     }
 }
 
-SettingsLock::~SettingsLock() {
+FileLock::~FileLock() {
     if (fd_ >= 0) {
         ::close(fd_);
     }

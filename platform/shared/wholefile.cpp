@@ -67,28 +67,28 @@ FileMark markOf(const struct stat& found) {
             nanoseconds(found.st_ctim)};
 }
 
-std::optional<QByteArray> readAll(int fd) {
-    QByteArray text;
+std::optional<QByteArray> readAll(int fd, qint64 sizeLimit) {
+    QByteArray bytes;
     QByteArray piece(qsizetype(64) * 1024, Qt::Uninitialized);
-    while (text.size() <= settingsSizeLimit) {
+    while (bytes.size() <= sizeLimit) {
         const ssize_t count =
             restarted([&] { return ::read(fd, piece.data(), static_cast<size_t>(piece.size())); });
         if (count < 0) {
             return std::nullopt;
         }
         if (count == 0) {
-            return text;
+            return bytes;
         }
-        text.append(piece.constData(), count);
+        bytes.append(piece.constData(), count);
     }
-    return text;
+    return bytes;
 }
 
-bool writeAll(int fd, const QByteArray& text) {
+bool writeAll(int fd, const QByteArray& bytes) {
     qsizetype done = 0;
-    while (done < text.size()) {
+    while (done < bytes.size()) {
         const ssize_t count = restarted([&] {
-            return ::write(fd, text.constData() + done, static_cast<size_t>(text.size() - done));
+            return ::write(fd, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
         });
         if (count <= 0) {
             return false;
@@ -121,7 +121,7 @@ QString besideName(const QFileInfo& target, bool exclusive) {
     return target.path() + QStringLiteral("/.") + target.fileName() + part + QStringLiteral(".new");
 }
 
-bool writeBeside(const QString& beside, const QByteArray& text, const struct stat* model) {
+bool writeBeside(const QString& beside, const QByteArray& bytes, const struct stat* model) {
     removeFile(beside);
     const Descriptor file = opened(beside, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownFile);
     if (!file) {
@@ -134,7 +134,7 @@ bool writeBeside(const QString& beside, const QByteArray& text, const struct sta
         }
         [[maybe_unused]] const int set = ::fchmod(file.get(), model->st_mode & ALLPERMS);
     }
-    return writeAll(file.get(), text);
+    return writeAll(file.get(), bytes);
 }
 
 // An empty file or folder of a name that nothing had before; empty on failure.
@@ -160,7 +160,7 @@ QString reserveBeside(const QFileInfo& victim, bool folder) {
 
 } // namespace
 
-QString settingsTarget(const QString& path) {
+QString linkTarget(const QString& path) {
     QString target = path;
     for (int links = 0; links < 40; ++links) {
         const QByteArray name = QFile::encodeName(target);
@@ -176,8 +176,8 @@ QString settingsTarget(const QString& path) {
     return {};
 }
 
-SettingsRead readSettings(const QString& path) {
-    using Kind = SettingsRead::Kind;
+WholeFile readWholeFile(const QString& path, qint64 sizeLimit) {
+    using Kind = WholeFile::Kind;
     struct stat found {};
     if (::stat(QFile::encodeName(path).constData(), &found) != 0) {
         if (errno == ENOENT || errno == ENOTDIR) {
@@ -185,7 +185,7 @@ SettingsRead readSettings(const QString& path) {
         }
         return {errno == ELOOP ? Kind::Unusable : Kind::Unreadable, {}, {}};
     }
-    if (!S_ISREG(found.st_mode) || found.st_size > settingsSizeLimit) {
+    if (!S_ISREG(found.st_mode) || found.st_size > sizeLimit) {
         return {Kind::Unusable, {}, markOf(found)};
     }
     // It may have become a pipe since.
@@ -199,19 +199,19 @@ SettingsRead readSettings(const QString& path) {
     if (!S_ISREG(found.st_mode)) {
         return {Kind::Unusable, {}, markOf(found)};
     }
-    const std::optional<QByteArray> text = readAll(file.get());
-    if (!text) {
+    const std::optional<QByteArray> bytes = readAll(file.get(), sizeLimit);
+    if (!bytes) {
         return {Kind::Unreadable, {}, markOf(found)};
     }
-    if (text->size() > settingsSizeLimit) {
+    if (bytes->size() > sizeLimit) {
         return {Kind::Unusable, {}, markOf(found)};
     }
-    return {Kind::Text, *text, markOf(found)};
+    return {Kind::Bytes, *bytes, markOf(found)};
 }
 
-Replaced replaceSettings(const QString& path, const QByteArray& text, const FileMark& mark,
-                         bool exclusive) {
-    const QString target = settingsTarget(path);
+Replaced replaceWholeFile(const QString& path, const QByteArray& bytes, const FileMark& mark,
+                          bool exclusive) {
+    const QString target = linkTarget(path);
     if (target.isEmpty()) {
         return Replaced::Failed;
     }
@@ -219,7 +219,7 @@ Replaced replaceSettings(const QString& path, const QByteArray& text, const File
     struct stat now {};
     const bool exists = ::stat(name.constData(), &now) == 0;
     const QString beside = besideName(QFileInfo(target), exclusive);
-    if (!writeBeside(beside, text, exists ? &now : nullptr)) {
+    if (!writeBeside(beside, bytes, exists ? &now : nullptr)) {
         removeFile(beside);
         return Replaced::Failed;
     }
@@ -237,8 +237,8 @@ Replaced replaceSettings(const QString& path, const QByteArray& text, const File
     return Replaced::Done;
 }
 
-bool setSettingsAside(const QString& path) {
-    const QString target = settingsTarget(path);
+bool setFileAside(const QString& path) {
+    const QString target = linkTarget(path);
     struct stat found {};
     const bool regular = !target.isEmpty() &&
                          ::stat(QFile::encodeName(target).constData(), &found) == 0 &&
@@ -260,12 +260,12 @@ bool setSettingsAside(const QString& path) {
     return true;
 }
 
-bool makeSettingsFolder(const QString& path) {
+bool makeFolderOf(const QString& path) {
     const QString folder = QFileInfo(path).path();
     if (QFileInfo(folder).isDir()) {
         return true;
     }
-    if (folder == path || !makeSettingsFolder(folder)) {
+    if (folder == path || !makeFolderOf(folder)) {
         return false;
     }
     return ::mkdir(QFile::encodeName(folder).constData(), ownFolder) == 0 || errno == EEXIST;

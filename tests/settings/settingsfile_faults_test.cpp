@@ -176,7 +176,7 @@ TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     EXPECT_EQ(json().value("x"), 1);
     holder.kill();
     holder.waitForFinished();
-    const SettingsLock lock(path, 5s); // the dead hold nothing
+    const FileLock lock(path, 5s); // the dead hold nothing
     EXPECT_TRUE(lock.held());
 }
 

@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     const QString& path = arguments.at(1);
     const QString& mode = arguments.at(2);
     if (mode == "hold") {
-        const SettingsLock lock(path, std::chrono::seconds(5));
+        const FileLock lock(path, std::chrono::seconds(5));
         std::puts(lock.held() ? "held" : "not held");
         std::fflush(stdout);
         std::getchar();

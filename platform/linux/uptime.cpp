@@ -1,0 +1,13 @@
+#include "platform/uptime.h"
+
+#include <ctime>
+
+namespace morrowleaf {
+
+double uptime() {
+    timespec time{};
+    clock_gettime(CLOCK_BOOTTIME, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,12 @@
+#include "platform/uptime.h"
+
+#include <chrono>
+
+namespace morrowleaf {
+
+double uptime() {
+    const std::chrono::duration<double> since = std::chrono::steady_clock::now().time_since_epoch();
+    return since.count();
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace morrowleaf {
+
+// Seconds, from an arbitrary origin, of a clock that nobody sets and that goes
+// on while the machine sleeps, where the system has one. Any thread.
+double uptime();
+
+} // namespace morrowleaf
