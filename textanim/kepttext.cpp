@@ -1,6 +1,6 @@
 #include "textanim/kepttext.h"
 
-#include "textanim/shapedtextdata.h"
+#include "textanim/textoutline.h"
 
 #include <QPainter>
 
@@ -16,7 +16,7 @@ void KeptText::paint(QPainter& painter, const ShapedText& text, const QColor& co
     }
     if (picture_.isNull()) {
         const QRect rect =
-            look.device.mapRect(text.data().text.ink).toAlignedRect().adjusted(-1, -1, 1, 1);
+            look.device.mapRect(text.outline().ink).toAlignedRect().adjusted(-1, -1, 1, 1);
         corner_ = rect.topLeft();
         picture_ = QImage(rect.size(), QImage::Format_ARGB32_Premultiplied);
         picture_.fill(Qt::transparent);

@@ -3,7 +3,6 @@
 #include "textanim/glyphpath.h"
 #include "textanim/lineframe.h"
 #include "textanim/shapedtext.h"
-#include "textanim/shapedtextdata.h"
 
 #include <QPainter>
 
@@ -26,7 +25,7 @@ LineShapes shapesOf(const RevealLine::Parts& parts) {
         PenTrace trace = penTrace(wholePath(line.text), stretchShare * parts.strokeFont.size);
         return {std::move(line.text), std::move(trace), line.penWidth};
     }
-    return {ShapedText(parts.text, parts.font, 0, parts.maxWidth).data().text, {}, 0};
+    return {ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline(), {}, 0};
 }
 
 } // namespace

@@ -1,43 +1,39 @@
 #include "textanim/shapedtext.h"
 
 #include "textanim/paintoutline.h"
-#include "textanim/shapedtextdata.h"
 #include "textanim/textlayout.h"
+#include "textanim/textoutline.h"
 
 #include <QPainter>
 
 namespace morrowleaf {
 
 ShapedText::ShapedText()
-    : data_(std::make_shared<Data>()) {}
+    : outline_(std::make_shared<TextOutline>()) {}
 
 ShapedText::ShapedText(const QString& text, const TextFont& font, double tracking,
                        double maxWidth) {
-    auto data = std::make_shared<Data>();
+    TextOutline outline;
     if (font.size > 0) {
         const double unit = font.size / shapingSize;
-        data->text =
+        outline =
             outlineOf(layOut(text, font.face, tracking / unit, maxWidth / unit, LineBreaks::Kept),
                       unit, maxWidth);
     }
-    data_ = std::move(data);
+    outline_ = std::make_shared<TextOutline>(std::move(outline));
 }
-
-ShapedText::~ShapedText() = default;
-ShapedText::ShapedText(const ShapedText&) = default;
-ShapedText& ShapedText::operator=(const ShapedText&) = default;
 
 QSizeF ShapedText::size() const {
-    return data_->text.size;
+    return outline_->size;
 }
 double ShapedText::baseline() const {
-    return data_->text.baseline;
+    return outline_->baseline;
 }
 
 void ShapedText::paint(QPainter& painter, QPointF topLeft, const QColor& color) const {
     painter.save();
     painter.translate(topLeft);
-    paintOutline(painter, data_->text, color);
+    paintOutline(painter, *outline_, color);
     painter.restore();
 }
 

@@ -3,7 +3,6 @@
 #include "textanim/fonts.h"
 
 #include <QColor>
-#include <QPainterPath>
 #include <QSizeF>
 
 #include <memory>
@@ -11,6 +10,8 @@
 class QPainter;
 
 namespace morrowleaf {
+
+struct TextOutline;
 
 // A text laid out once: its glyph outlines, its place, its colour glyphs.
 // A cheap, shared, immutable value. Drawn from outlines, so that it is the
@@ -22,19 +23,15 @@ public:
     // With a `maxWidth` above 0 the text wraps at word boundaries into
     // leading-aligned rows; one word wider than that is scaled down as a whole.
     ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
-    ~ShapedText();
-    ShapedText(const ShapedText&);
-    ShapedText& operator=(const ShapedText&);
 
     QSizeF size() const;     // typographic width × rows of (ascent + descent), points
     double baseline() const; // of the first row, from the top
     void paint(QPainter& painter, QPointF topLeft, const QColor& color) const;
 
-    struct Data;
-    const Data& data() const { return *data_; }
+    const TextOutline& outline() const { return *outline_; }
 
 private:
-    std::shared_ptr<const Data> data_;
+    std::shared_ptr<const TextOutline> outline_;
 };
 
 } // namespace morrowleaf

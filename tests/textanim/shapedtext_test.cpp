@@ -1,5 +1,5 @@
 #include "textanim/shapedtext.h"
-#include "textanim/shapedtextdata.h"
+#include "textanim/textoutline.h"
 
 #include "tests/fakes/shippedfonts.h"
 #include "textanim/glyphpath.h"
@@ -19,7 +19,7 @@ TextFont face(const char* name, double size = 44) {
 const QString sentence = "The office of AVA: “find, affix”";
 
 bool hasPart(const ShapedText& text, bool rightToLeft) {
-    for (const OutlinePart& part : text.data().text.parts) {
+    for (const OutlinePart& part : text.outline().parts) {
         if (part.rightToLeft == rightToLeft && !part.outline.isEmpty()) {
             return true;
         }
@@ -35,8 +35,8 @@ TEST(ShapedText, EverythingScalesWithTheSize) {
             const double ratio = size / 88;
             EXPECT_NEAR(text.size().width(), large.size().width() * ratio, 1e-6) << name;
             EXPECT_NEAR(text.baseline(), large.baseline() * ratio, 1e-9) << name;
-            const auto& parts = text.data().text.parts;
-            const auto& largeParts = large.data().text.parts;
+            const auto& parts = text.outline().parts;
+            const auto& largeParts = large.outline().parts;
             ASSERT_EQ(parts.size(), largeParts.size());
             for (std::size_t i = 0; i < parts.size(); ++i) {
                 EXPECT_NEAR(parts[i].left, largeParts[i].left * ratio, 1e-6);
@@ -57,8 +57,8 @@ TEST(ShapedText, KernsAndJoinsLetters) {
                          ShapedText("V", face("serif")).size().width();
     EXPECT_LT(ShapedText("AV", face("serif")).size().width(), apart - 0.5);
     const ShapedText joined("office", face("serif"));
-    EXPECT_LT(joined.data().text.parts.size(), 6U);
-    EXPECT_EQ(joined.data().text.characterCount, 6);
+    EXPECT_LT(joined.outline().parts.size(), 6U);
+    EXPECT_EQ(joined.outline().characterCount, 6);
 }
 
 TEST(ShapedText, TrackingComesAfterEveryCharacter) {
@@ -91,7 +91,7 @@ TEST(ShapedText, WrapsAtWordsIntoLeadingRows) {
 TEST(ShapedText, AWordTooWideIsScaledDown) {
     const ShapedText text("a Donaudampfschifffahrtsgesellschaft", face("serif"), 0, 300);
     EXPECT_NEAR(text.size().width(), 300, 1e-6);
-    EXPECT_LE(text.data().text.ink.right(), 302);
+    EXPECT_LE(text.outline().ink.right(), 302);
     EXPECT_LT(text.size().height(), 2 * ShapedText("a", face("serif")).size().height());
 }
 
@@ -100,7 +100,7 @@ TEST(ShapedText, RightToLeftRowsEndAtTheRight) {
     EXPECT_GT(text.size().height(), ShapedText("x", face("sans")).size().height() * 1.5);
     EXPECT_TRUE(hasPart(text, true));
     EXPECT_FALSE(hasPart(text, false));
-    EXPECT_GT(text.data().text.parts.front().left, text.data().text.parts.back().left);
+    EXPECT_GT(text.outline().parts.front().left, text.outline().parts.back().left);
 }
 
 TEST(ShapedText, EmptyAndBlankTextsDrawNothing) {
@@ -109,14 +109,14 @@ TEST(ShapedText, EmptyAndBlankTextsDrawNothing) {
     EXPECT_GT(nothing.size().height(), 40);
     const ShapedText spaces("   ", face("fraunces"));
     EXPECT_GT(spaces.size().width(), 20);
-    EXPECT_TRUE(spaces.data().text.ink.isEmpty());
+    EXPECT_TRUE(spaces.outline().ink.isEmpty());
     EXPECT_EQ(ShapedText().size(), QSizeF(0, 0));
     EXPECT_EQ(ShapedText("x", face("serif", 0)).size(), QSizeF(0, 0));
 }
 
 TEST(ShapedText, EmojiKeepTheirPictures) {
     const ShapedText text("a 🇩🇪 b", face("fraunces"));
-    if (!text.data().text.hasPictures) {
+    if (!text.outline().hasPictures) {
         GTEST_SKIP() << "no face with colour glyphs is installed";
     }
     EXPECT_LT(text.size().height(), 100);
