@@ -60,8 +60,7 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     : QWidget(parent)
     , column_(new QVBoxLayout(this))
     , frame_(new QWidget(this)) {
-    installPanelAccessibility();
-    setAccessibleName(title);
+    speakAsGroup(*this, title);
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(6);
     auto* heading = new QLabel(title, this);

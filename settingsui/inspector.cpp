@@ -52,11 +52,10 @@ Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<vo
     : QWidget(parent)
     , around_(surroundings)
     , onDone_(std::move(onDone)) {
-    installPanelAccessibility();
     setFixedWidth(width);
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
-    setAccessibleName(QStringLiteral("Appearance"));
+    speakAsGroup(*this, QStringLiteral("Appearance"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 0, 0, 0);
     column->setSpacing(0);

@@ -3,6 +3,7 @@
 #include "look/palettes.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
+#include "settingsui/panelaccessible.h"
 #include "settingsui/panelstyle.h"
 #include "settingsui/swatch.h"
 
@@ -15,7 +16,7 @@ namespace morrowleaf {
 PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store) {
-    setAccessibleName(QStringLiteral("Palette"));
+    speakAsGroup(*this, QStringLiteral("Palette"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);

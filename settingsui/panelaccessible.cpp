@@ -1,11 +1,7 @@
 #include "settingsui/panelaccessible.h"
 
-#include "settingsui/formcard.h"
-#include "settingsui/inspector.h"
 #include "settingsui/menupicker.h"
-#include "settingsui/palettegroup.h"
 #include "settingsui/panelslider.h"
-#include "settingsui/photogroup.h"
 #include "settingsui/swatch.h"
 
 #include <QAccessible>
@@ -13,6 +9,9 @@
 
 namespace morrowleaf {
 namespace {
+
+// On a widget that holds controls that belong together.
+constexpr const char* groupProperty = "morrowleafGroup";
 
 // A button of ours: can be pressed, and has a role of its own.
 class ButtonAccessible : public QAccessibleWidget {
@@ -90,18 +89,9 @@ private:
     PanelSlider* slider() const { return static_cast<PanelSlider*>(widget()); }
 };
 
-// What holds controls that belong together, and has a name.
-QWidget* asGroup(QObject* object) {
-    const bool groups = qobject_cast<FormCard*>(object) != nullptr ||
-                        qobject_cast<Inspector*>(object) != nullptr ||
-                        qobject_cast<PaletteGroup*>(object) != nullptr ||
-                        qobject_cast<PhotoGroup*>(object) != nullptr;
-    return groups ? static_cast<QWidget*>(object) : nullptr;
-}
-
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
-    if (QWidget* group = asGroup(object)) {
-        return new QAccessibleWidget(group, QAccessible::Grouping);
+    if (object->property(groupProperty).toBool()) {
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     }
     if (auto* tile = qobject_cast<AddTile*>(object)) {
         return new ButtonAccessible(tile, QAccessible::Button);
@@ -123,8 +113,10 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
 
 } // namespace
 
-void installPanelAccessibility() {
-    QAccessible::installFactory(make);
+void speakAsGroup(QWidget& group, const QString& name) {
+    QAccessible::installFactory(make); // ignores one that it knows
+    group.setProperty(groupProperty, true);
+    group.setAccessibleName(name);
 }
 
 } // namespace morrowleaf

@@ -1,9 +1,12 @@
 #pragma once
 
+class QString;
+class QWidget;
+
 namespace morrowleaf {
 
-// Tells assistive programs what our own controls and groups of them are;
-// once per process, repeated calls do nothing.
-void installPanelAccessibility();
+// Makes `group` a named group for assistive programs. From the first call on
+// they also hear what the controls of this room are.
+void speakAsGroup(QWidget& group, const QString& name);
 
 } // namespace morrowleaf

@@ -4,6 +4,7 @@
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
+#include "settingsui/panelaccessible.h"
 #include "settingsui/panelstyle.h"
 #include "settingsui/swatch.h"
 #include "settingsui/thumbnails.h"
@@ -40,7 +41,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
     , anchor_(new QWidget(this)) {
     anchor_->setFocusPolicy(Qt::TabFocus); // else it has no place in that order
     anchor_->hide();
-    setAccessibleName(QStringLiteral("Your photo"));
+    speakAsGroup(*this, QStringLiteral("Your photo"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PanelStyle::gutter);
