@@ -5,7 +5,7 @@
 #include "app/settingswindow.h"
 #include "app/statusitem.h"
 #include "app/timing.h"
-#include "backdrop/backdrop.h"
+#include "backdrop/backdropstate.h"
 #include "platform/platform.h"
 
 #include <QObject>

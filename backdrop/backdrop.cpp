@@ -88,10 +88,6 @@ BackdropPainter::BackdropPainter()
 
 BackdropPainter::~BackdropPainter() = default;
 
-bool glassAvailable(const Behind& behind) {
-    return behind.kind == Behind::Kind::Captured;
-}
-
 bool BackdropPainter::moves(const BackdropState& state) {
     return state.animated && !state.hasPhoto && state.screenAnim != ScreenAnim::Still;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backdrop/backdrop.h"
+#include "backdrop/backdropstate.h"
 #include "base/moment.h"
 #include "look/palettes.h"
 
