@@ -4,7 +4,7 @@
 #include "base/moment.h"
 #include "quotes/quotebox.h"
 #include "screen/frameclock.h"
-#include "screen/quotescreen_accessible.h"
+#include "screen/spokentexts.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "screen/quotescreen_accessible.h"
+#include "screen/spokentexts.h"
 
 #include "screen/quotescreen.h"
 
