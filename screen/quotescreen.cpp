@@ -1,5 +1,6 @@
 #include "screen/quotescreen.h"
 
+#include "backdrop/backdrop.h"
 #include "backdrop/layers.h"
 #include "photos/bgstore.h"
 #include "screen/glassshowing.h"
@@ -275,7 +276,7 @@ QuoteScreen::QuoteScreen(const ScreenSurroundings& surroundings, std::optional<E
                          QWidget* parent)
     : QWidget(parent)
     , d_(std::make_unique<Private>(*this, surroundings)) {
-    installQuoteScreenAccessibility();
+    installSpokenTexts();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     if (editing && editing->inspector) {

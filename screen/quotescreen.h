@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backdrop/backdrop.h"
+#include "backdrop/backdropstate.h"
 #include "base/moment.h"
 #include "quotes/quotebox.h"
 #include "screen/frameclock.h"
@@ -37,7 +37,7 @@ inline constexpr int inspectorWidth = 320; // points
 // The whole content of the quote window: the quotation over its backdrop and,
 // while editing, the appearance editor. Its entrance begins with the first
 // frame that is drawn; to replay it, build a new screen.
-class QuoteScreen : public QWidget {
+class QuoteScreen : public QWidget, public SpeakingWidget {
     Q_OBJECT
 
 public:
@@ -57,9 +57,8 @@ public:
     // Whether another frame has been asked for.
     bool awake() const;
 
-    // The painted texts and their places, for those who hear them.
-    SpokenTexts spokenTexts() const;
-    QList<QRect> spokenRects() const; // in the order of SpokenTexts::all()
+    SpokenTexts spokenTexts() const override;
+    QList<QRect> spokenRects() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,10 +1,10 @@
 #include "screen/spokentexts.h"
 
-#include "screen/quotescreen.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QPointer>
+#include <QWidget>
+#include <QWindow>
 
 #include <array>
 
@@ -17,24 +17,24 @@ constexpr int spokenCount = 5;
 // One painted text, as a label would be.
 class SpokenText : public QAccessibleInterface {
 public:
-    SpokenText(QuoteScreen* screen, int index)
-        : screen_(screen)
+    SpokenText(QWidget* widget, int index)
+        : widget_(widget)
         , index_(index) {}
 
-    bool isValid() const override { return !screen_.isNull(); }
+    bool isValid() const override { return speaker() != nullptr; }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override {
-        return isValid() ? screen_->window()->windowHandle() : nullptr;
+        return isValid() ? widget_->window()->windowHandle() : nullptr;
     }
     QAccessibleInterface* parent() const override {
-        return QAccessible::queryAccessibleInterface(screen_.data());
+        return QAccessible::queryAccessibleInterface(widget_.data());
     }
     QAccessibleInterface* child(int) const override { return nullptr; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name && isValid() ? screen_->spokenTexts().all().at(index_)
+        return kind == QAccessible::Name && isValid() ? speaker()->spokenTexts().all().at(index_)
                                                       : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
@@ -42,39 +42,43 @@ public:
         if (!isValid()) {
             return {};
         }
-        const QRect own = screen_->spokenRects().at(index_);
-        return {screen_->mapToGlobal(own.topLeft()), own.size()};
+        const QRect own = speaker()->spokenRects().at(index_);
+        return {widget_->mapToGlobal(own.topLeft()), own.size()};
     }
     QAccessible::Role role() const override { return QAccessible::StaticText; }
     QAccessible::State state() const override {
         QAccessible::State state;
         state.readOnly = true;
-        state.invisible = !isValid() || !screen_->isVisible();
+        state.invisible = !isValid() || !widget_->isVisible();
         return state;
     }
 
 private:
-    QPointer<QuoteScreen> screen_;
+    const SpeakingWidget* speaker() const {
+        return dynamic_cast<const SpeakingWidget*>(widget_.data());
+    }
+
+    QPointer<QWidget> widget_;
     int index_;
 };
 
 // The painted texts come before the children that are widgets.
-class SpokenScreen : public QAccessibleWidget {
+class SpokenPane : public QAccessibleWidget {
 public:
-    explicit SpokenScreen(QuoteScreen* screen)
-        : QAccessibleWidget(screen, QAccessible::Pane) {
+    explicit SpokenPane(QWidget* widget)
+        : QAccessibleWidget(widget, QAccessible::Pane) {
         for (int i = 0; i < spokenCount; ++i) {
             ids_[static_cast<size_t>(i)] =
-                QAccessible::registerAccessibleInterface(new SpokenText(screen, i));
+                QAccessible::registerAccessibleInterface(new SpokenText(widget, i));
         }
     }
-    ~SpokenScreen() override {
+    ~SpokenPane() override {
         for (const QAccessible::Id id : ids_) {
             QAccessible::deleteAccessibleInterface(id);
         }
     }
-    SpokenScreen(const SpokenScreen&) = delete;
-    SpokenScreen& operator=(const SpokenScreen&) = delete;
+    SpokenPane(const SpokenPane&) = delete;
+    SpokenPane& operator=(const SpokenPane&) = delete;
 
     int childCount() const override { return spokenCount + QAccessibleWidget::childCount(); }
     QAccessibleInterface* child(int index) const override {
@@ -103,11 +107,11 @@ public:
         return nullptr;
     }
     QString text(QAccessible::Text kind) const override {
-        const auto* screen = qobject_cast<QuoteScreen*>(object());
-        if (!screen || kind != QAccessible::Name) {
+        const auto* speaker = dynamic_cast<const SpeakingWidget*>(object());
+        if (speaker == nullptr || kind != QAccessible::Name) {
             return QAccessibleWidget::text(kind);
         }
-        const SpokenTexts texts = screen->spokenTexts();
+        const SpokenTexts texts = speaker->spokenTexts();
         return texts.author.isEmpty() ? texts.quotation
                                       : texts.quotation + QStringLiteral(" \u2014 ") + texts.author;
     }
@@ -116,21 +120,20 @@ private:
     std::array<QAccessible::Id, spokenCount> ids_{};
 };
 
-QAccessibleInterface* makeSpokenScreen(const QString& className, QObject* object) {
-    auto* screen = className == QLatin1String("morrowleaf::QuoteScreen")
-                       ? qobject_cast<QuoteScreen*>(object)
-                       : nullptr;
-    return screen ? new SpokenScreen(screen) : nullptr;
+QAccessibleInterface* makeSpokenPane(const QString& /*className*/, QObject* object) {
+    const bool speaks = dynamic_cast<SpeakingWidget*>(object) != nullptr;
+    auto* widget = qobject_cast<QWidget*>(object);
+    return speaks && widget != nullptr ? new SpokenPane(widget) : nullptr;
 }
 
 } // namespace
 
-void installQuoteScreenAccessibility() {
-    QAccessible::installFactory(makeSpokenScreen); // ignores one that it knows
+void installSpokenTexts() {
+    QAccessible::installFactory(makeSpokenPane); // ignores one that it knows
 }
 
-void announceSpokenTexts(QuoteScreen& screen) {
-    QAccessibleEvent event(&screen, QAccessible::NameChanged);
+void announceSpokenTexts(QWidget& widget) {
+    QAccessibleEvent event(&widget, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
 }
 

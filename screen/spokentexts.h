@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QList>
+#include <QRect>
 #include <QStringList>
+
+class QWidget;
 
 namespace morrowleaf {
 
-class QuoteScreen;
-
-// What the screen reads out, in order; its painted texts are no widgets.
+// The texts that the quote screen paints, for screen readers.
 struct SpokenTexts {
     QString quotation;
     QString author;
@@ -14,13 +16,27 @@ struct SpokenTexts {
     QString date;
     QString hint;
 
+    // In the order in which they are read out.
     QStringList all() const { return {greeting, date, quotation, author, hint}; }
 };
 
-// Makes quote screens speak to assistive technology; once is enough.
-void installQuoteScreenAccessibility();
+// A widget that paints its texts itself, so that Qt cannot tell them to screen
+// readers.
+class SpeakingWidget {
+public:
+    virtual SpokenTexts spokenTexts() const = 0;
+    // Their places in the widget, in the order of SpokenTexts::all().
+    virtual QList<QRect> spokenRects() const = 0;
 
-// Tells assistive technology that the texts have changed.
-void announceSpokenTexts(QuoteScreen& screen);
+protected:
+    ~SpeakingWidget() = default;
+};
+
+// Shows the texts of every SpeakingWidget to assistive technology; once is
+// enough, and more does no harm.
+void installSpokenTexts();
+
+// Tells assistive technology that the texts of `widget` have changed.
+void announceSpokenTexts(QWidget& widget);
 
 } // namespace morrowleaf
