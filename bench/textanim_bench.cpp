@@ -1,6 +1,6 @@
 #include "base/curves.h"
 #include "tests/fakes/shippedfonts.h"
-#include "textanim/glyphpath.h"
+#include "textanim/handwriting.h"
 #include "textanim/pentrace.h"
 #include "textanim/revealline.h"
 

@@ -1,7 +1,7 @@
 #include "textanim/revealline.h"
 
-#include "textanim/glyphpath.h"
-#include "textanim/lineframe.h"
+#include "textanim/handwriting.h"
+#include "textanim/lettering.h"
 #include "textanim/shapedtext.h"
 
 #include <QPainter>

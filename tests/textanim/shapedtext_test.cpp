@@ -2,7 +2,7 @@
 #include "textanim/textoutline.h"
 
 #include "tests/fakes/shippedfonts.h"
-#include "textanim/glyphpath.h"
+#include "textanim/handwriting.h"
 #include "textanim/textlayout.h"
 
 #include <QPainter>

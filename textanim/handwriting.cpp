@@ -1,4 +1,4 @@
-#include "textanim/glyphpath.h"
+#include "textanim/handwriting.h"
 
 #include "textanim/textlayout.h"
 

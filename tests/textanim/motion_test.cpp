@@ -1,4 +1,4 @@
-#include "textanim/revealvalues.h"
+#include "textanim/motion.h"
 
 #include "base/curves.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "textanim/motion.h"
 #include "textanim/pentrace.h"
 #include "textanim/revealline.h"
-#include "textanim/revealvalues.h"
 #include "textanim/textoutline.h"
 
 #include <QImage>

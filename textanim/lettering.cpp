@@ -1,4 +1,4 @@
-#include "textanim/lineframe.h"
+#include "textanim/lettering.h"
 
 #include "textanim/blurredlayer.h"
 #include "textanim/paintoutline.h"
