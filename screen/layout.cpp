@@ -12,6 +12,14 @@ QRectF centred(double top, QSizeF size) {
 
 } // namespace
 
+double screenScale(std::optional<double> screenHeight) {
+    if (!screenHeight) {
+        return 1;
+    }
+    const double scale = *screenHeight / 982;
+    return scale > 0.85 ? std::min(scale, 1.55) : 0.85;
+}
+
 int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale) {
     const double width = std::min(screenWidth.value_or(1512) - sideInset, measure::contentWidth) -
                          2 * measure::columnPadding;

@@ -37,6 +37,10 @@ inline constexpr double shadowRadius = 24;
 inline constexpr double shadowDrop = 6;
 } // namespace measure
 
+// The factor s on every scaled size: the main screen's height in points over
+// 982, clamped to 0.85...1.55. NaN gives 0.85; without a screen it is 1.
+double screenScale(std::optional<double> screenHeight);
+
 // Characters in a line, 16...48, for a scale s × k. The width is that of the
 // main screen, 1512 without one.
 int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale);

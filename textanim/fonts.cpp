@@ -8,8 +8,6 @@
 #include <QFontDatabase>
 #include <QRawFont>
 
-#include <algorithm>
-
 namespace morrowleaf {
 
 namespace {
@@ -138,14 +136,6 @@ TextFont quoteFont(const FontBook& book, const QString& fontName, double size) {
         }
     }
     return nsFont(book, size, fontDesignNamed(fontName));
-}
-
-double screenScale(std::optional<double> screenHeight) {
-    if (!screenHeight) {
-        return 1;
-    }
-    const double scale = *screenHeight / 982;
-    return scale > 0.85 ? std::min(scale, 1.55) : 0.85;
 }
 
 } // namespace morrowleaf

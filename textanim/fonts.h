@@ -45,8 +45,4 @@ TextFont nsFont(const FontBook& book, double size, FontDesign design,
 // "fraunces" (the serif design where it is missing), else nsFont of its design.
 TextFont quoteFont(const FontBook& book, const QString& fontName, double size);
 
-// Screen height in points over 982, within 0.85...1.55; no number counts as
-// below; 1 without a screen.
-double screenScale(std::optional<double> screenHeight);
-
 } // namespace morrowleaf

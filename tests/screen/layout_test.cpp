@@ -7,6 +7,16 @@
 
 using namespace morrowleaf;
 
+TEST(ScreenScale, IsTheHeightOver982WithinItsBounds) {
+    EXPECT_EQ(screenScale(982), 1);
+    EXPECT_EQ(44 * screenScale(700), 37.4);
+    EXPECT_EQ(44 * screenScale(2000), 68.2);
+    EXPECT_EQ(screenScale(std::nullopt), 1);
+    EXPECT_EQ(screenScale(std::numeric_limits<double>::quiet_NaN()), 0.85);
+    EXPECT_EQ(screenScale(-1), 0.85);
+    EXPECT_DOUBLE_EQ(screenScale(1080), 1080.0 / 982);
+}
+
 TEST(WrapTarget, FollowsTheMainScreen) {
     EXPECT_EQ(wrapTarget(1512, 0, 1), 41);
     EXPECT_EQ(wrapTarget(1440, 0, 900.0 / 982), 45);

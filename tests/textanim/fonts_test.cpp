@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 using namespace morrowleaf;
 
@@ -110,16 +109,6 @@ TEST(QuoteFont, AMissingFrauncesIsTheSerifDesign) {
     book.registerBundledFonts(folder.path());
     EXPECT_EQ(resolved(quoteFont(book, "fraunces", 44)), "EBGaramond-Regular");
     EXPECT_EQ(quoteFont(book, "fraunces", 37.4).size, 37.4);
-}
-
-TEST(ScreenScale, IsTheHeightOver982WithinItsBounds) {
-    EXPECT_EQ(screenScale(982), 1);
-    EXPECT_EQ(44 * screenScale(700), 37.4);
-    EXPECT_EQ(44 * screenScale(2000), 68.2);
-    EXPECT_EQ(screenScale(std::nullopt), 1);
-    EXPECT_EQ(screenScale(std::numeric_limits<double>::quiet_NaN()), 0.85);
-    EXPECT_EQ(screenScale(-1), 0.85);
-    EXPECT_DOUBLE_EQ(screenScale(1080), 1080.0 / 982);
 }
 
 } // namespace
