@@ -38,9 +38,4 @@ double amplitude(ScreenAnim kind);
 // Factor on the mesh about the backdrop's centre at a phase.
 double backdropScale(ScreenAnim kind, double phase);
 
-// Seconds from appearance to the start of the line with this index.
-double lineDelay(TextAnim kind, qint64 index);
-// Seconds from appearance until the whole quotation counts as revealed.
-double revealDone(TextAnim kind, qsizetype lines);
-
 } // namespace morrowleaf

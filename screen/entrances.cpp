@@ -1,6 +1,7 @@
 #include "screen/entrances.h"
 
 #include "base/curves.h"
+#include "textanim/stagger.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "textanim/handwriting.h"
 #include "textanim/lettering.h"
 #include "textanim/shapedtext.h"
+#include "textanim/stagger.h"
 
 #include <QPainter>
 
