@@ -67,6 +67,29 @@ void slopes(const std::vector<float>& cells, float* to) {
     }
 }
 
+// Turns values into bytes of a channel that is still 0. The same threshold in
+// all channels keeps each below its alpha.
+void writeChannel(const float* values, float factor, const std::vector<float>& dither, int shift,
+                  QRgb* pixels) {
+    const auto count = static_cast<int>(dither.size());
+    const float* threshold = dither.data();
+    for (int x = 0; x < count; ++x) {
+        const float value = std::min(values[x] * factor + threshold[x], 255.0F);
+        pixels[x] |= static_cast<QRgb>(static_cast<int>(value)) << shift;
+    }
+}
+
+// The thresholds of eight rows, after which they repeat.
+std::array<std::vector<float>, 8> ditherRows(int left, int width) {
+    std::array<std::vector<float>, 8> rows;
+    for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < width; ++x) {
+            rows[static_cast<std::size_t>(y)].push_back(ditherAt(left + x, y));
+        }
+    }
+    return rows;
+}
+
 } // namespace
 
 int BlurredLayer::cellSize(double sigma) {
@@ -137,6 +160,37 @@ void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) cons
         return slopes<16>(mixed, to);
     default:
         return slopesOf(mixed, static_cast<std::size_t>(cell_), to);
+    }
+}
+
+void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint origin) const {
+    const bool colored = planes_.size() > 1;
+    const QRect shown = rect_ & QRect(origin, to.size());
+    const std::array<std::vector<float>, 8> dither = ditherRows(shown.left(), shown.width());
+    const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
+    const auto skipped = static_cast<std::size_t>(shown.left() - rect_.left());
+    std::vector<float> values;
+    for (int y = origin.y(); y < origin.y() + to.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
+        std::fill_n(line, to.width(), 0U);
+        if (y < shown.top() || y > shown.bottom()) {
+            continue;
+        }
+        QRgb* pixels = line + (shown.left() - origin.x());
+        if (!colored) {
+            row(0, y, values);
+        }
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            if (colored) {
+                row(i, y, values);
+            }
+            const float factor = static_cast<float>(opacity) * (colored ? 1.0F : parts[i]);
+            if (factor > 0) {
+                writeChannel(values.data() + skipped, factor,
+                             dither[static_cast<std::size_t>(y & 7)], 8 * static_cast<int>(i),
+                             pixels);
+            }
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "textanim/gaussian.h"
 
+#include <QColor>
 #include <QImage>
 #include <QRect>
 
@@ -35,6 +36,11 @@ public:
     // Gives a channel (0...255) over the whole width of `rect` in one of its
     // rows, counted from the top of the device.
     void row(std::size_t channel, int y, std::vector<float>& out) const;
+
+    // Sets every pixel of `to`, whose top left corner is the device pixel
+    // `origin`, at an opacity of 0...1. A layer of a single channel is painted in
+    // `color`, one of all four in its own colours.
+    void paint(const QColor& color, double opacity, QImage& to, QPoint origin) const;
 
 private:
     int cell_ = 1;

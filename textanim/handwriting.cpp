@@ -1,11 +1,15 @@
 #include "textanim/handwriting.h"
 
+#include "base/curves.h"
+#include "textanim/pentrace.h"
 #include "textanim/textlayout.h"
 
+#include <QPainter>
 #include <QTransform>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace morrowleaf {
 
@@ -26,6 +30,78 @@ TextOutline outlineAt(const TextLayout& layout, const TextFont& font, double siz
     text.baseline = baseline;
     return text;
 }
+
+// Length at which a contour is cut for the pen, as a share of the size.
+constexpr double stretchShare = 0.75;
+
+// Raises what the pen drew over the ink, both in one colour.
+void drawPen(QImage& letters, const QImage& pen, const QColor& color) {
+    const QRgb ink = qPremultiply(color.rgba());
+    for (int y = 0; y < pen.height(); ++y) {
+        const uchar* coverage = pen.constScanLine(y);
+        auto* pixels = reinterpret_cast<QRgb*>(letters.scanLine(y));
+        for (int x = 0; x < pen.width(); ++x) {
+            if (coverage[x] == 0) {
+                continue;
+            }
+            const unsigned room = 255 - qAlpha(pixels[x]);
+            const unsigned share = (coverage[x] * room + 127) / 255;
+            const auto part = [share](int channel) {
+                return (static_cast<unsigned>(channel) * share + 127) / 255;
+            };
+            pixels[x] += part(qBlue(ink)) | part(qGreen(ink)) << 8 | part(qRed(ink)) << 16 |
+                         part(qAlpha(ink)) << 24;
+        }
+    }
+}
+
+class PenLettering final : public Lettering {
+public:
+    PenLettering(HandwrittenLine line, double size)
+        : trace_(penTrace(wholePath(line.text), stretchShare * size))
+        , penWidth_(line.penWidth)
+        , type_(std::move(line.text), line.penWidth / 2 + 1) {}
+
+    const TextOutline& text() const override { return type_.text(); }
+    QRectF rect(const RevealValues& values) const override { return type_.rect(values); }
+
+    PlacedPicture draw(const RevealValues& values, double scale, const QColor& color) override {
+        if (trace_.stretches.empty()) {
+            return type_.draw(values, scale, color);
+        }
+        const QRect area = deviceRect(rect(values), scale);
+        if (!pen_ || pen_->scale() != scale || pen_->rect() != area) {
+            pen_.emplace(scale, penWidth_, area, baselineShift(text(), scale));
+            ink_ = {};
+        }
+        PlacedPicture result{transparentPicture(area.size(), memory_), area.topLeft()};
+        if (values.ink > 0) {
+            if (ink_.isNull()) {
+                ink_ = type_.draw({}, scale, color).picture;
+            }
+            QPainter painter(&result.picture);
+            painter.setOpacity(values.ink);
+            painter.drawImage(0, 0, ink_);
+        }
+        drawPen(result.picture, pen_->at(trace_, trace_.length * values.traced), color);
+        return result;
+    }
+
+    void letGo() override {
+        pen_.reset();
+        ink_ = {};
+        memory_ = {};
+        type_.letGo();
+    }
+
+private:
+    PenTrace trace_;
+    double penWidth_;
+    TypeLettering type_;
+    std::optional<PenDrawing> pen_;
+    QImage ink_; // in the memory of type_, at the scale of the pen
+    std::vector<QRgb> memory_;
+};
 
 } // namespace
 
@@ -56,6 +132,26 @@ GlyphPath glyphPath(const QString& text, const TextFont& font) {
     GlyphPath result{upwards.map(wholePath(line)), line.size};
     result.path.setFillRule(Qt::WindingFill);
     return result;
+}
+
+std::unique_ptr<Lettering> penLettering(const QString& text, const TextFont& font,
+                                        double maxWidth) {
+    return std::make_unique<PenLettering>(handwrittenLine(text, font, maxWidth), font.size);
+}
+
+// The pen traces the outlines; near its end the letters fill with ink.
+Motion handwriting() {
+    constexpr double traceDuration = 1.25;
+    constexpr double inkStart = 0.7 * traceDuration;
+    constexpr double inkDuration = 0.45 * traceDuration;
+    const auto valuesAt = [](double seconds) {
+        const double since = sinceStart(seconds);
+        RevealValues values;
+        values.traced = easeInEaseOut(since / traceDuration);
+        values.ink = std::clamp((since - inkStart) / inkDuration, 0.0, 1.0);
+        return values;
+    };
+    return {valuesAt, inkStart + inkDuration};
 }
 
 } // namespace morrowleaf

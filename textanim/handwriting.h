@@ -1,10 +1,13 @@
 #pragma once
 
 #include "textanim/fonts.h"
+#include "textanim/lettering.h"
 #include "textanim/textoutline.h"
 
 #include <QPainterPath>
 #include <QSizeF>
+
+#include <memory>
 
 namespace morrowleaf {
 
@@ -30,5 +33,9 @@ QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double max
 
 // Width of the pen for a size in points: a share of it, but never a hair.
 double penWidth(double size);
+
+// The line as a pen draws it: its outlines are traced, then filled with ink. A
+// line without outlines (of pictures alone) is set in type.
+std::unique_ptr<Lettering> penLettering(const QString& text, const TextFont& font, double maxWidth);
 
 } // namespace morrowleaf

@@ -1,56 +1,59 @@
 #pragma once
 
 #include "textanim/motion.h"
-#include "textanim/pentrace.h"
-#include "textanim/revealline.h"
+#include "textanim/placedpicture.h"
 #include "textanim/textoutline.h"
 
-#include <QImage>
-#include <QRect>
-
-#include <optional>
-#include <vector>
+#include <QColor>
 
 namespace morrowleaf {
 
-// How far a line has come; equal stages look alike.
-struct LineStage {
-    RevealValues values;
-    qint64 typed = 0; // characters
+// The letters of one line, without their shadow, as a style draws them. What is
+// costly is kept between calls; different lines may be drawn at the same time
+// on different threads.
+class Lettering {
+public:
+    virtual ~Lettering() = default;
+    Lettering(const Lettering&) = delete;
+    Lettering& operator=(const Lettering&) = delete;
 
-    bool operator==(const LineStage&) const = default;
+    // The line at rest.
+    virtual const TextOutline& text() const = 0;
+    // What the letters touch, with the halo of their blur, in points from the
+    // top left of the line's place; empty when there is nothing to draw.
+    virtual QRectF rect(const RevealValues& values) const = 0;
+    // The letters at a device scale. The pixels live until the next call.
+    virtual PlacedPicture draw(const RevealValues& values, double scale, const QColor& color) = 0;
+    // Drops all that is kept, the pixels of the last call too.
+    virtual void letGo() = 0;
+
+protected:
+    Lettering() = default;
 };
 
-// What a line is made of, whichever way it comes in.
-struct LineShapes {
-    TextOutline text;
-    PenTrace trace; // of a handwritten line
-    double penWidth = 0;
+// Letters that are set in type: all styles but the handwriting.
+class TypeLettering final : public Lettering {
+public:
+    // `margin` in points lies around the ink, for what goes beyond the outlines.
+    explicit TypeLettering(TextOutline text, double margin = 1);
+
+    const TextOutline& text() const override { return text_; }
+    QRectF rect(const RevealValues& values) const override;
+    PlacedPicture draw(const RevealValues& values, double scale, const QColor& color) override;
+    void letGo() override { memory_ = {}; }
+
+private:
+    QImage paint(const RevealValues& values, double scale, int cell, QRect rect,
+                 const QColor& color);
+    PlacedPicture drawBlurred(const RevealValues& values, double scale, double sigma,
+                              const QColor& color);
+
+    TextOutline text_;
+    double margin_;
+    std::vector<QRgb> memory_;
 };
 
-// What a line touches at a stage, in points from the top left of its place:
-// its letters with their blur, and with the shadow.
-QRectF letterRect(const LineShapes& line, const LineStage& stage);
-QRectF lineRect(const LineShapes& line, const LineStage& stage, const LineShadow& shadow);
-
-// Pixels with their place relative to the line's origin on the device.
-struct PlacedPicture {
-    QImage picture; // premultiplied
-    QPoint origin;
-};
-
-// What the caller keeps for a line between its frames: memory for the pixels
-// and what the pen has drawn.
-struct LineCanvas {
-    std::vector<QRgb> letters;
-    std::vector<QRgb> frame;
-    std::optional<PenDrawing> pen;
-    std::vector<QRgb> ink; // of the line that the pen is at
-};
-
-// Letters and shadow at a stage, at a device scale. The pixels live in the
-// canvas until the next call.
-PlacedPicture lineFrame(const LineShapes& line, const LineStage& stage, double scale,
-                        const QColor& color, const LineShadow& shadow, LineCanvas& canvas);
+// Device pixels, up or down, that bring the resting baseline onto whole ones.
+double baselineShift(const TextOutline& text, double scale);
 
 } // namespace morrowleaf

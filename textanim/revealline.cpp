@@ -1,83 +1,125 @@
 #include "textanim/revealline.h"
 
+#include "textanim/blurredlayer.h"
 #include "textanim/handwriting.h"
 #include "textanim/lettering.h"
+#include "textanim/motion.h"
 #include "textanim/shapedtext.h"
 #include "textanim/stagger.h"
 
 #include <QPainter>
 
 #include <cmath>
+#include <optional>
 
 namespace morrowleaf {
 
 namespace {
 
-// Length at which a contour is cut for the pen, as a share of the size.
-constexpr double stretchShare = 0.75;
-
 double scaleOf(const QTransform& device) {
     return std::sqrt(std::abs(device.determinant()));
 }
 
-LineShapes shapesOf(const RevealLine::Parts& parts) {
+std::unique_ptr<Lettering> letteringOf(const RevealLine::Parts& parts) {
     if (parts.style == TextAnim::Handwrite) {
-        HandwrittenLine line = handwrittenLine(parts.text, parts.strokeFont, parts.maxWidth);
-        PenTrace trace = penTrace(wholePath(line.text), stretchShare * parts.strokeFont.size);
-        return {std::move(line.text), std::move(trace), line.penWidth};
+        return penLettering(parts.text, parts.strokeFont, parts.maxWidth);
     }
-    return {ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline(), {}, 0};
+    return std::make_unique<TypeLettering>(
+        ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline());
+}
+
+Motion motionOf(TextAnim style, qint64 characters) {
+    switch (style) {
+    case TextAnim::Fade:
+        break;
+    case TextAnim::Handwrite:
+        return handwriting();
+    case TextAnim::Typewriter:
+        return typewriter(characters);
+    case TextAnim::Rise:
+        return rise();
+    case TextAnim::Blur:
+        return blur();
+    }
+    return fade();
 }
 
 } // namespace
 
 struct RevealLine::Private {
+    explicit Private(const Parts& p)
+        : parts(p)
+        , letters(letteringOf(p))
+        , motion(motionOf(p.style, letters->text().characterCount))
+        , delay(lineDelay(p.style, p.index)) {}
+
     Parts parts;
-    LineShapes shapes;
-    double delay = 0;
+    std::unique_ptr<Lettering> letters;
+    Motion motion;
+    double delay;
 
     // The last picture, for repaints while nothing changed.
     struct Kept {
-        LineStage stage;
+        RevealValues values;
         double scale = 0;
         PlacedPicture frame;
     };
     mutable std::optional<Kept> kept;
-    mutable LineCanvas canvas;
+    mutable std::vector<QRgb> memory; // of a picture with its shadow
 
-    LineStage stageAt(double seconds) const {
-        const double since = seconds - delay;
-        const qint64 length = shapes.text.characterCount;
-        return {revealValues(parts.style, since),
-                parts.style == TextAnim::Typewriter ? typedCharacters(since, length) : length};
+    RevealValues valuesAt(double seconds) const { return motion.valuesAt(seconds - delay); }
+
+    bool visible(const RevealValues& values) const {
+        return !letters->text().ink.isEmpty() && values.opacity > 0 && values.typed > 0 &&
+               (values.ink > 0 || values.traced > 0);
     }
 
-    bool visible(const LineStage& stage) const {
-        return !shapes.text.ink.isEmpty() && stage.values.opacity > 0 && stage.typed > 0 &&
-               (stage.values.ink > 0 || stage.values.traced > 0);
+    bool hasFrame(const RevealValues& values, double scale) const {
+        return kept && kept->scale == scale && kept->values == values;
     }
 
-    bool hasFrame(const LineStage& stage, double scale) const {
-        return kept && kept->scale == scale && kept->stage == stage;
-    }
-
-    const PlacedPicture& frameAt(const LineStage& stage, double scale) const {
-        if (!hasFrame(stage, scale)) {
-            kept = Kept{stage, scale,
-                        lineFrame(shapes, stage, scale, parts.color, parts.shadow, canvas)};
+    // What letters and shadow touch, in points from the top left of the place.
+    QRectF rect(const RevealValues& values) const {
+        const QRectF own = letters->rect(values);
+        if (own.isEmpty() || parts.shadow.opacity <= 0) {
+            return own;
         }
-        if (stage == LineStage{{}, shapes.text.characterCount} && parts.shadow.opacity > 0) {
-            // At rest only the finished picture is needed.
-            canvas.pen.reset();
-            canvas.letters = {};
-            canvas.ink = {};
+        const double halo = 3 * parts.shadow.radius;
+        return own | own.translated(parts.shadow.offset).adjusted(-halo, -halo, halo, halo);
+    }
+
+    PlacedPicture draw(const RevealValues& values, double scale) const {
+        const LineShadow& shadow = parts.shadow;
+        PlacedPicture own = letters->draw(values, scale, parts.color);
+        if (shadow.opacity <= 0) {
+            return own;
+        }
+        const QRect area = deviceRect(rect(values), scale);
+        PlacedPicture result{unpaintedPicture(area.size(), memory), area.topLeft()};
+        const double sigma = shadow.radius * scale;
+        const int cell = BlurredLayer::cellSize(sigma);
+        const QPoint offset = (shadow.offset * scale).toPoint();
+        const BlurredLayer layer(reducedAlpha(own.picture, cell), own.origin + offset, cell, sigma);
+        layer.paint(Qt::black, shadow.opacity, result.picture, result.origin);
+        QPainter painter(&result.picture);
+        painter.drawImage(own.origin - result.origin, own.picture);
+        painter.end();
+        return result;
+    }
+
+    const PlacedPicture& frameAt(const RevealValues& values, double scale) const {
+        if (!hasFrame(values, scale)) {
+            kept = Kept{values, scale, draw(values, scale)};
+        }
+        if (values == RevealValues{} && parts.shadow.opacity > 0) {
+            letters->letGo(); // at rest only the finished picture is needed
         }
         return kept->frame;
     }
 };
 
 RevealLine::RevealLine(const Parts& parts)
-    : d_(new Private{parts, shapesOf(parts), lineDelay(parts.style, parts.index), {}, {}}) {}
+    : d_(std::make_unique<Private>(parts)) {}
 
 RevealLine::~RevealLine() = default;
 RevealLine::RevealLine(RevealLine&&) noexcept = default;
@@ -90,12 +132,12 @@ double RevealLine::delay() const {
     return d_->delay;
 }
 QSizeF RevealLine::size() const {
-    return d_->shapes.text.size;
+    return d_->letters->text().size;
 }
 
 void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const {
-    const LineStage stage = d_->stageAt(seconds);
-    if (!d_->visible(stage)) {
+    const RevealValues values = d_->valuesAt(seconds);
+    if (!d_->visible(values)) {
         return;
     }
     const QTransform device = painter.deviceTransform();
@@ -103,7 +145,7 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
     if (!(scale > 0)) {
         return;
     }
-    const PlacedPicture& frame = d_->frameAt(stage, scale);
+    const PlacedPicture& frame = d_->frameAt(values, scale);
     painter.save();
     if (device.type() <= QTransform::TxScale && device.m11() > 0 && device.m22() > 0) {
         // Pixel on pixel. The resting place is on whole pixels, so that the
@@ -123,41 +165,38 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
 
 void RevealLine::prepare(const QTransform& device, double seconds) const {
     if (!isPrepared(device, seconds)) {
-        d_->frameAt(d_->stageAt(seconds), scaleOf(device));
+        d_->frameAt(d_->valuesAt(seconds), scaleOf(device));
     }
 }
 
 bool RevealLine::isPrepared(const QTransform& device, double seconds) const {
-    const LineStage stage = d_->stageAt(seconds);
+    const RevealValues values = d_->valuesAt(seconds);
     const double scale = scaleOf(device);
-    return !d_->visible(stage) || !(scale > 0) || d_->hasFrame(stage, scale);
+    return !d_->visible(values) || !(scale > 0) || d_->hasFrame(values, scale);
 }
 
 QRectF RevealLine::paintedRect(double seconds) const {
-    const LineStage stage = d_->stageAt(seconds);
-    if (!d_->visible(stage)) {
+    const RevealValues values = d_->valuesAt(seconds);
+    if (!d_->visible(values)) {
         return {};
     }
     // Room for whole pixels, also where the screen has fewer than points.
-    return lineRect(d_->shapes, stage, d_->parts.shadow).adjusted(-3, -3, 3, 3);
+    return d_->rect(values).adjusted(-3, -3, 3, 3);
 }
 
 bool RevealLine::changesBetween(double from, double to) const {
-    const LineStage before = d_->stageAt(from);
-    const LineStage after = d_->stageAt(to);
+    const RevealValues before = d_->valuesAt(from);
+    const RevealValues after = d_->valuesAt(to);
     return before != after && (d_->visible(before) || d_->visible(after));
 }
 
 double RevealLine::settledAfter() const {
-    if (d_->shapes.text.ink.isEmpty()) {
+    if (d_->letters->text().ink.isEmpty()) {
         return 0;
     }
-    if (d_->parts.style != TextAnim::Typewriter) {
-        return d_->delay + revealDuration(d_->parts.style);
-    }
-    const qint64 length = d_->shapes.text.characterCount;
-    double seconds = d_->delay + typingDuration(length);
-    while (d_->stageAt(seconds).typed < length) {
+    double seconds = d_->delay + d_->motion.duration;
+    // The sum may be rounded down to an instant just before the rest.
+    while (d_->valuesAt(seconds) != RevealValues{}) {
         seconds = std::nextafter(seconds, seconds + 1);
     }
     return seconds;

@@ -25,7 +25,7 @@ struct LineShadow {
 
 // One line of the quotation and the way it comes in. The drawing is a pure
 // function of the line and the seconds since it appeared; what is costly is
-// kept between calls. Seconds are finite: a typed line takes others for a fatal
+// kept between calls. Seconds are finite; to a typed line others are a fatal
 // error. For a line that is there at once, use `settledAfter`.
 class RevealLine {
 public:

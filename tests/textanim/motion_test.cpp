@@ -1,6 +1,7 @@
 #include "textanim/motion.h"
 
 #include "base/curves.h"
+#include "textanim/typewriter.h"
 
 #include <gtest/gtest.h>
 
@@ -11,52 +12,52 @@ using namespace morrowleaf;
 namespace {
 
 TEST(RevealValues, FadeAtItsInstants) {
-    const RevealValues before = revealValues(TextAnim::Fade, -1);
+    const RevealValues before = fade().valuesAt(-1);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 9);
     EXPECT_EQ(before.offset, 22);
-    const RevealValues half = revealValues(TextAnim::Fade, 0.575);
+    const RevealValues half = fade().valuesAt(0.575);
     EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
     EXPECT_NEAR(half.blurRadius, 9 * 0.3154, 1e-3);
     EXPECT_NEAR(half.offset, 22 * 0.3154, 3e-3);
     EXPECT_EQ(half.scale, 1);
-    EXPECT_EQ(revealValues(TextAnim::Fade, 1.15), RevealValues{});
-    EXPECT_NE(revealValues(TextAnim::Fade, 1.14), RevealValues{});
+    EXPECT_EQ(fade().valuesAt(1.15), RevealValues{});
+    EXPECT_NE(fade().valuesAt(1.14), RevealValues{});
 }
 
 TEST(RevealValues, BlurAtItsInstants) {
-    const RevealValues before = revealValues(TextAnim::Blur, 0);
+    const RevealValues before = blur().valuesAt(0);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 26);
     EXPECT_DOUBLE_EQ(before.scale, 1.06);
     EXPECT_EQ(before.offset, 0);
-    const RevealValues half = revealValues(TextAnim::Blur, 0.7);
+    const RevealValues half = blur().valuesAt(0.7);
     EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
     EXPECT_NEAR(half.blurRadius, 26 * 0.3154, 3e-3);
     EXPECT_NEAR(half.scale, 1 + 0.06 * 0.3154, 1e-4);
-    EXPECT_EQ(revealValues(TextAnim::Blur, 1.4), RevealValues{});
+    EXPECT_EQ(blur().valuesAt(1.4), RevealValues{});
 }
 
 TEST(RevealValues, RiseOvershootsItsPlaceButNotItsOpacity) {
-    const RevealValues before = revealValues(TextAnim::Rise, 0);
+    const RevealValues before = rise().valuesAt(0);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.offset, 46);
     double highest = 0;
     for (int tick = 0; tick * 0.001 < 3; ++tick) {
         const double t = tick * 0.001;
-        const RevealValues values = revealValues(TextAnim::Rise, t);
+        const RevealValues values = rise().valuesAt(t);
         highest = std::min(highest, values.offset);
         EXPECT_LE(values.opacity, 1);
         EXPECT_NEAR(values.offset, 46 * (1 - spring(t, 0.9, 0.72)), 0.03);
         EXPECT_EQ(values.blurRadius, 0);
     }
     EXPECT_NEAR(highest, -1.77, 0.05);
-    EXPECT_EQ(revealValues(TextAnim::Rise, revealDuration(TextAnim::Rise)), RevealValues{});
-    EXPECT_LT(revealDuration(TextAnim::Rise), 2);
+    EXPECT_EQ(rise().valuesAt(rise().duration), RevealValues{});
+    EXPECT_LT(rise().duration, 2);
 }
 
 TEST(RevealValues, HandwritingTracesThenInks) {
-    const auto at = [](double t) { return revealValues(TextAnim::Handwrite, t); };
+    const auto at = [](double t) { return handwriting().valuesAt(t); };
     EXPECT_EQ(at(-0.1).traced, 0);
     EXPECT_EQ(at(0).ink, 0);
     EXPECT_NEAR(at(0.625).traced, 0.5, 1e-9);
@@ -66,15 +67,14 @@ TEST(RevealValues, HandwritingTracesThenInks) {
     EXPECT_EQ(at(1.25).traced, 1);
     EXPECT_NEAR(at(1.25).ink, 0.375 / 0.5625, 1e-9);
     EXPECT_EQ(at(1.4375).ink, 1);
-    EXPECT_DOUBLE_EQ(revealDuration(TextAnim::Handwrite), 1.4375);
+    EXPECT_DOUBLE_EQ(handwriting().duration, 1.4375);
     EXPECT_EQ(at(0.5).opacity, 1);
 }
 
 TEST(RevealValues, ANumberThatIsNoneHasNotBegun) {
     const double nothing = std::numeric_limits<double>::quiet_NaN();
-    for (const TextAnim style :
-         {TextAnim::Fade, TextAnim::Rise, TextAnim::Blur, TextAnim::Handwrite}) {
-        EXPECT_EQ(revealValues(style, nothing), revealValues(style, 0));
+    for (const Motion& motion : {fade(), rise(), blur(), handwriting()}) {
+        EXPECT_EQ(motion.valuesAt(nothing), motion.valuesAt(0));
     }
 }
 
