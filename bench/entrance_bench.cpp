@@ -53,9 +53,7 @@ QuoteViewState quoted(TextAnim style, const Screen& screen) {
 }
 
 double processorTime() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) * 1e-6;
+    return static_cast<double>(std::clock()) * 1e3 / CLOCKS_PER_SEC;
 }
 
 struct Costs {

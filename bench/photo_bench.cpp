@@ -1,15 +1,14 @@
 // Time and peak memory of showing a 48-megapixel JPEG at 1920 x 1080.
 
+#include "bench/processmemory.h"
 #include "photos/photo.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 #include <cmath>
-#include <malloc.h>
 
 using namespace morrowleaf;
 
@@ -17,26 +16,6 @@ namespace {
 
 constexpr QSize photoSize(8000, 6000);
 constexpr QSize shownSize(1920, 1080);
-
-qint64 statusKilobytes(const QByteArray& name) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith(name + ':')) {
-                return line.mid(name.size() + 1).simplified().split(' ').value(0).toLongLong();
-            }
-        }
-    }
-    return 0;
-}
-
-void forgetPeak() {
-    malloc_trim(0);
-    QFile refs(QStringLiteral("/proc/self/clear_refs"));
-    if (refs.open(QIODevice::WriteOnly)) {
-        refs.write("5");
-    }
-}
 
 const QString& largePhoto() {
     static const QTemporaryDir folder;
@@ -60,12 +39,12 @@ const QString& largePhoto() {
 void decodeLargePhoto(benchmark::State& state) {
     const Photo photo{largePhoto(), photoSize};
     forgetPeak();
-    const qint64 before = statusKilobytes("VmRSS");
+    const qint64 before = residentKilobytes();
     for ([[maybe_unused]] auto _ : state) {
         const QImage image = photo.decodeFilling(shownSize);
         benchmark::DoNotOptimize(image.constBits());
     }
-    state.counters["peak_MiB_above_idle"] = double(statusKilobytes("VmHWM") - before) / 1024;
+    state.counters["peak_MiB_above_idle"] = double(peakKilobytes() - before) / 1024;
 }
 
 void decodeTile(benchmark::State& state) {

@@ -42,9 +42,7 @@ RevealLine::Parts parts(TextAnim style) {
 
 // Of this process alone: other programs do not count.
 double processorSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 double copySeconds(const QImage& frame) {
