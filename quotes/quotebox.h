@@ -6,17 +6,9 @@
 
 #include <QObject>
 
-#include <functional>
-#include <optional>
-
 namespace morrowleaf {
 
 class SettingsStore;
-
-// Starts one load of a source; `done` is called at most once, later, on the
-// main thread, with nothing on any failure.
-using QuoteLoader =
-    std::function<void(const QString& source, std::function<void(std::optional<Quote>)> done)>;
 
 // Holds the quotation on show. Its first value comes from the cache (when a
 // source is set) or the schedule; one load of the source may replace it once.

@@ -3,6 +3,7 @@
 #include "backdrop/backdrop.h"
 #include "backdrop/layers.h"
 #include "photos/bgstore.h"
+#include "quotes/quotebox.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
 #include "screen/photoshowing.h"

@@ -2,7 +2,8 @@
 
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
-#include "quotes/quotebox.h"
+#include "base/randomindex.h"
+#include "quotes/quote.h"
 #include "screen/frameclock.h"
 #include "screen/spokentexts.h"
 
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace morrowleaf {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quotes/quotebox.h"
+#include "quotes/quote.h"
 
 #include <QCoreApplication>
 #include <QWidget>
