@@ -39,7 +39,7 @@ enum class WindowSystem : int {
 
 namespace {
 
-// By the environment, for tests and for who knows better.
+// What the environment variable MORROWLEAF_PLATFORM asks for, if anything.
 std::optional<WindowSystem> forced() {
     const QByteArray name = qgetenv("MORROWLEAF_PLATFORM");
     if (name == "null") {
