@@ -7,6 +7,7 @@
 #include "settings/settingsstore.h"
 #include "textanim/fonts.h"
 #include "tools/contactsheet.h"
+#include "tools/sourcepath.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -46,7 +47,8 @@ void addOptions(QCommandLineParser& parser) {
         {"locale", "Locale of the date (en_US).", "name", "en_US"},
         {"at", "Instants in seconds since the appearance, with commas (6).", "list", "6"},
         {"editing", "Keep the width of the appearance editor free."},
-        {"resources", "Folder that holds Fonts and Backgrounds.", "folder", MORROWLEAF_RESOURCES},
+        {"resources", "Folder that holds Fonts and Backgrounds.", "folder",
+         morrowleaf::sourcePath("resources")},
         {"out", "Folder for the frames (out).", "folder", "out"},
         {"name", "Beginning of the file names (frame).", "text", "frame"},
         {"sheet", "Write one contact sheet instead of frames.", "file"},

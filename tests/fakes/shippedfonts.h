@@ -1,6 +1,7 @@
 #pragma once
 
 #include "textanim/fonts.h"
+#include "tools/sourcepath.h"
 
 namespace morrowleaf {
 
@@ -8,7 +9,7 @@ namespace morrowleaf {
 inline const FontBook& shippedFonts() {
     static const FontBook filled = [] {
         FontBook shipped;
-        shipped.registerBundledFonts(QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Fonts"));
+        shipped.registerBundledFonts(sourcePath("resources/Fonts"));
         return shipped;
     }();
     return filled;

@@ -3,6 +3,7 @@
 #include "photos/photocopy.h"
 #include "photos/photodevice.h"
 #include "photos/photoplan.h"
+#include "tools/sourcepath.h"
 
 #include <QBuffer>
 #include <QColorSpace>
@@ -168,8 +169,7 @@ TEST_F(PhotoTest, ReadsGreyDeepAndPalettePictures) {
 }
 
 TEST_F(PhotoTest, ReadsPicturesMadeForPrinting) {
-    const auto photo =
-        inspectPhoto(QStringLiteral(MORROWLEAF_SOURCE_DIR "/tests/photos/data/cmyk.jpg"));
+    const auto photo = inspectPhoto(sourcePath("tests/photos/data/cmyk.jpg"));
     ASSERT_TRUE(photo);
     const QImage shown = photo->decodeFilling({16, 16});
     ASSERT_FALSE(shown.isNull());

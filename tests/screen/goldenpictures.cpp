@@ -1,4 +1,5 @@
 #include "tests/screen/goldenpictures.h"
+#include "tools/sourcepath.h"
 
 #include <algorithm>
 #include <array>
@@ -88,7 +89,7 @@ QImage forRecord(const QImage& frame, int factor) {
 }
 
 QImage goldenPicture(const QString& name, const QImage& fresh) {
-    const QString path = QStringLiteral(MORROWLEAF_SOURCE_DIR "/tests/golden/") + name;
+    const QString path = sourcePath("tests/golden/" + name);
     if (qEnvironmentVariableIsSet("MORROWLEAF_RECORD")) {
         fresh.save(path);
     }

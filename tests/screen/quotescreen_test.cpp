@@ -6,6 +6,7 @@
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "tests/screen/sceneforscreens.h"
+#include "tools/sourcepath.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -20,7 +21,7 @@ using namespace morrowleaf;
 
 namespace {
 
-const char* const lake = MORROWLEAF_RESOURCE_DIR "/Backgrounds/lake.jpg";
+const QString lake = sourcePath("resources/Backgrounds/lake.jpg");
 
 class CountingScreen : public QuoteScreen {
 public:

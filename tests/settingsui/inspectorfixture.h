@@ -14,6 +14,7 @@
 #include "settingsui/pickermenu.h"
 #include "settingsui/swatch.h"
 #include "settingsui/switch.h"
+#include "tools/sourcepath.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -110,7 +111,7 @@ protected:
 
     QTemporaryDir folder;
     SettingsStore store;
-    BGStore photos{store, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
+    BGStore photos{store, sourcePath("resources/Backgrounds"),
                    folder.filePath(QStringLiteral("own"))};
     bool glass = true;
     int done = 0;

@@ -11,6 +11,7 @@
 #include "settingsui/menupicker.h"
 #include "settingsui/settingsview.h"
 #include "textanim/fonts.h"
+#include "tools/sourcepath.h"
 
 #include <QApplication>
 #include <QDir>
@@ -88,7 +89,7 @@ int main(int argc, char** argv) {
     const QString folder = QString::fromLocal8Bit(argc > 1 ? argv[1] : ".");
     QDir().mkpath(folder);
     FontBook fonts;
-    fonts.registerBundledFonts(QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Fonts"));
+    fonts.registerBundledFonts(sourcePath("resources/Fonts"));
     const QFont face = nsFont(fonts, 12, FontDesign::Default).face;
     SettingsStore store;
     registerAppDefaults(store);
@@ -98,8 +99,7 @@ int main(int argc, char** argv) {
     QApplication::setPalette(hostPalette(ColorPreference::Dark));
     drawSettings(folder, store, QStringLiteral("dark"));
 
-    BGStore photos(store, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
-                   folder + QStringLiteral("/own"));
+    BGStore photos(store, sourcePath("resources/Backgrounds"), folder + QStringLiteral("/own"));
     store.set(K::customBGs, QJsonArray{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
     const auto draw = [&](const QString& name, const BackdropState& state, QSize size) {
         Ground ground;

@@ -9,6 +9,7 @@
 #include "settingsui/swatch.h"
 #include "tests/screen/goldenpictures.h"
 #include "tests/screen/sceneforscreens.h"
+#include "tools/sourcepath.h"
 
 #include <QApplication>
 #include <QDir>
@@ -98,8 +99,7 @@ protected:
 
 private:
     SettingsStore store_;
-    BGStore photos_{store_, QStringLiteral(MORROWLEAF_RESOURCE_DIR "/Backgrounds"),
-                    QStringLiteral("/nowhere")};
+    BGStore photos_{store_, sourcePath("resources/Backgrounds"), QStringLiteral("/nowhere")};
     Ground ground_;
 };
 

@@ -1,6 +1,8 @@
 // The corpus and mutations of it, run through the fuzzing entry in an
 // ordinary build.
 
+#include "tools/sourcepath.h"
+
 #include <QDirIterator>
 #include <QFile>
 
@@ -46,7 +48,7 @@ QByteArray mutated(QByteArray body, const QByteArray& other, std::mt19937& rando
 
 TEST(FuzzReplay, TheCorpusAndItsMutations) {
     QList<QByteArray> corpus;
-    QDirIterator files(MORROWLEAF_SOURCE_DIR "/tests/sources/corpus", QDir::Files);
+    QDirIterator files(morrowleaf::sourcePath("tests/sources/corpus"), QDir::Files);
     while (files.hasNext()) {
         QFile file(files.next());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));

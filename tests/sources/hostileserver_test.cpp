@@ -2,6 +2,8 @@
 // that its time, memory and main thread can be watched; several at once, for
 // most of them last until the deadline.
 
+#include "tools/sourcepath.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QJsonDocument>
@@ -102,7 +104,7 @@ constexpr std::array cases{
 class HostileServer : public testing::Test {
 protected:
     void SetUp() override {
-        server.start("python3", {"-B", MORROWLEAF_SOURCE_DIR "/tests/fakes/hostileserver.py"});
+        server.start("python3", {"-B", morrowleaf::sourcePath("tests/fakes/hostileserver.py")});
         while (!server.canReadLine() && server.waitForReadyRead(20000)) {
         }
         ports = server.readLine().simplified().split(' ');

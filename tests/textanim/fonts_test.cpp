@@ -1,5 +1,6 @@
 #include "textanim/fontnames.h"
 #include "textanim/fonts.h"
+#include "tools/sourcepath.h"
 
 #include <QFile>
 #include <QRawFont>
@@ -12,7 +13,7 @@ using namespace morrowleaf;
 
 namespace {
 
-const QString shipped = MORROWLEAF_RESOURCE_DIR "/Fonts";
+const QString shipped = sourcePath("resources/Fonts");
 
 const FontBook& shippedBook() {
     static const FontBook book = [] {

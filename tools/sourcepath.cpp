@@ -1,0 +1,9 @@
+#include "tools/sourcepath.h"
+
+namespace morrowleaf {
+
+QString sourcePath(const QString& relative) {
+    return QStringLiteral(MORROWLEAF_SOURCE_DIR "/") + relative;
+}
+
+} // namespace morrowleaf
