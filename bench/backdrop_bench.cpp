@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // CPU time of a backdrop frame beside a memcpy of the same frame in the same
 // run, and beside the plain composition with QPainter that it replaces.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Time and peak memory of showing a 48-megapixel JPEG at 1920 x 1080.
 
 #include "bench/processmemory.h"

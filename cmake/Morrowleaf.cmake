@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # What every target of this project shares: the language, the warnings, the
 # sanitizers, and two short ways to add a library and a test.
 

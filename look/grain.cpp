@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #include "look/grain.h"
 
 namespace morrowleaf {

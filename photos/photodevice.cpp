@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #include "photos/photodevice.h"
 
 #include "platform/regularfile.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // How the quote view looks at an instant, and what of it moves.
 #include "base/parallel.h"
 #include "screen/quoteview.h"

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Runs the program through one whole showing on a private virtual screen, with
 # a window manager, a compositor, a session bus and a home of its own, and
 # leaves pictures of it.

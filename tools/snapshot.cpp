@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Draws frames of the quote screen off-screen, for looking at and comparing.
 #include "photos/bgstore.h"
 #include "quotes/schedule.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // The desktop behind, glass and photos.
 #include "backdrop/layers.h"
 #include "tests/backdrop/drawnbackdrop.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #include "backdrop/layers.h"
 #include "tests/backdrop/backdropreference.h"
 #include "tests/backdrop/drawnbackdrop.h"

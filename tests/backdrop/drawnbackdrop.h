@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // Backdrops of every kind, as they are drawn at an instant.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """A small screen reader: finds, presses and sets what a program exposes.
 
 accessible.py list

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # What a screen reader gets of the quotation, of the editor and of the settings
 # window, over an accessibility bus of its own.
 here=$(dirname "$0")

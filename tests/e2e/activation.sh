@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Started by the bus from what is installed, for whatever is asked first.
 #   activation.sh BUILD-FOLDER
 here=$(dirname "$0")

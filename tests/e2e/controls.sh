@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests that press the program's controls with real keys and
 # clicks; needs x11.sh. The accessibility bus tells where a control is and how

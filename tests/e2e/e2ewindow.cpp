@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // A plain window for sessions under test: one colour, and a line on standard
 // output for everything that happens to it.
 //   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock|grabbing]

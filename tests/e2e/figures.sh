@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Figures of the running program on a private X server; not a test.
 #   MORROWLEAF=... E2E_MAPWATCH=... figures.sh [SHOWINGS [SETTINGS [picom]]]
 # SETTINGS are more lines of the settings file, such as '"screenAnimation": "still"'.

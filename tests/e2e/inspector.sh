@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The appearance editor under real keys and clicks: after each step the
 # settings file holds what the control says, and nothing else has changed.
 here=$(dirname "$0")

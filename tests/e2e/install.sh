@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # What is installed: valid, whole, and at home in any folder.
 #   install.sh BUILD-FOLDER
 here=$(dirname "$0")

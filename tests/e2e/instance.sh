@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # One instance in a session, however it is started, with and without a bus.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """Writes a PNG of 8000 x 6000 pixels that takes its time to decode.
 
 largephoto.py FILE

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests that run the program in a session of its own. A script
 # sources this, starts what it needs and calls the checks; everything that was

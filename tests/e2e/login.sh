@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Starting at login: what is said of it, and what stands in the desktop's
 # folder. As an ordinary user, whom a folder can refuse.
 here=$(dirname "$0")

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Prints a line each time a top-level window of a given name comes onto the
 // screen of an X server ("map") or leaves it ("unmap"). For a moment after each
 // "map" the middle of the screen is watched: "painted" when it begins to

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """A panel's side of the status notifier protocol: a watcher with a host, and
 ways to read and click the menu of the item that registered.
   notifierhost.py serve | props | menu | activate | click LABEL

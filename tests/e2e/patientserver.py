@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """Serves one quotation on a port of its own, once a file exists.
 
     patientserver.py PORTFILE RELEASEFILE

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Photos of the user's own in the toolkit's dialog, without any portal: in
 # front of the quote screen with the keyboard, and what comes of what is chosen.
 #   photo.sh openbox|xfwm4

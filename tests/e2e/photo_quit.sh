@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The program is told to end while it decodes a photo of 48 megapixels.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """A desktop portal as far as the program asks it.
 
 portal.py serve [NUMBER]      says "serving", then writes down every question

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The desktop's portal: dark and light, and the dialog that chooses a photo.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # A quotation from a source: the scheduled one stands first, the loaded one
 # replaces it, and once the server is gone the cached one is shown.
 here=$(dirname "$0")

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The program is told to end while its source keeps silent.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """Compares the whole settings file with what it should hold.
 
 stored.py FILE EXPECTED [KEY VALUE]...

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests under a headless sway, which refuses to run as root;
 # needs lib.sh.

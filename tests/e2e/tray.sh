@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The status item: without a host, with one that comes late, that restarts, and
 # that is there from the start.
 here=$(dirname "$0")

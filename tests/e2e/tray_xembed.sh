@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # The status item in a tray of X11's old kind, which comes after the program
 # and goes before it.
 here=$(dirname "$0")

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Waking and unlocking, in every order they come in: one showing each.
 #   triggers.sh [orders|signals|services]
 # Without an argument all three, each in a session of its own at the same time:

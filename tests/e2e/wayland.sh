@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # One showing after another on Wayland, under a compositor with layer surfaces.
 # Such a compositor refuses to run as root.
 here=$(dirname "$0")

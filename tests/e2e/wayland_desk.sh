@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Outputs that come late and change, a tray, and starting by the bus on Wayland.
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then

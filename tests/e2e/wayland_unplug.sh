@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # An output that goes while the quotation is on it. The compositor draws its
 # outputs into windows of an X server; closing one unplugs it.
 here=$(dirname "$0")

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # A Wayland compositor without layer surfaces: the quotation is a full-screen
 # window of Xwayland, or of the compositor where there is no Xwayland. The
 # compositor draws into a window of an X server that sees all.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests on a private X server; needs lib.sh.
 

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # What closes a showing and what does not, and who holds keyboard and mouse.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # Several monitors, scales, and monitors that change while something is shown.
 here=$(dirname "$0")
 . "$here/lib.sh"

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 # One showing after another on X11: it covers everything and goes away by
 # click, key and time, and whoever had the focus has it again.
 #   x11_showing.sh MANAGER [picom]

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """A web server on the loopback address that behaves as badly as it is asked to.
 
 Prints one line of ports, "http IPv4, http IPv6, never accepting", and serves

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // A second process for the settings tests:
 //   settings_writer FILE selftest          sets and removes "quoteFrequency"
 //   settings_writer FILE count PREFIX N    sets PREFIX0 to PREFIXN-1, one by one

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Draws the appearance editor and the settings window into picture files, to
 // be looked at: pictures FOLDER [light|dark]
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // The corpus and mutations of it, run through the fuzzing entry in an
 // ordinary build.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Loads from a server that means harm, each load in a process of its own so
 // that its time, memory and main thread can be watched; several at once, for
 // most of them last until the deadline.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Loads one source as the program would and prints, as one JSON object, what
 // came of it: the quotation, the time, the memory and the longest gap of a
 // 16 ms timer on the main thread, with the gap of the same run without a load.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // What the largest bodies cost while they are read, each in a child process of
 // its own, as the peak of a process only grows.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 // Random bodies, read by parseQuote and by a second, plain formulation of the
 // same rules that knows the document it was written from. The seed is printed;
 // PARSEQUOTE_SEED tries another one.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // A line as it is drawn at an instant, and what its pixels tell.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
 #include "platform/linux/wayland/layeroverlay.h"
 
 #include "platform/linux/wayland/waylandnative.h"

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+# SPDX-License-Identifier: MIT
+
 """Holds the sources against the table of rooms in ARCHITECTURE.md.
 
 A room is a folder with a row in that table. Checked is that
