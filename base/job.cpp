@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "base/job.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+#include <mutex>
+
+namespace morrowleaf {
+
+namespace {
+
+// What the two threads share.
+struct Link {
+    std::stop_source stop;
+    std::mutex mutex;
+    QObject* receiver = nullptr; // null once the job is gone
+};
+
+} // namespace
+
+// The end of a job that stays on its thread.
+struct Job::Delivery {
+    explicit Delivery(std::function<void()> whenDone)
+        : done(std::move(whenDone)) {
+        link->receiver = &receiver;
+    }
+    ~Delivery() {
+        link->stop.request_stop();
+        // The receiver takes a posted result with it.
+        const std::scoped_lock lock(link->mutex);
+        link->receiver = nullptr;
+    }
+    Delivery(const Delivery&) = delete;
+    Delivery& operator=(const Delivery&) = delete;
+
+    std::function<void()> done;
+    QObject receiver;
+    std::shared_ptr<Link> link = std::make_shared<Link>();
+};
+
+Job::Job() = default;
+Job::~Job() = default;
+Job::Job(Job&& other) noexcept = default;
+Job& Job::operator=(Job&& other) noexcept = default;
+
+void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> work,
+                std::function<void()> done, int priority) {
+    delivery_ = std::make_unique<Delivery>(std::move(done));
+    const auto deliver = [delivery = delivery_.get()] {
+        // `done` may destroy the job.
+        const std::function<void()> call = std::move(delivery->done);
+        call();
+    };
+    const auto run = [link = delivery_->link, work = std::move(work), deliver]() mutable {
+        if (link->stop.stop_requested()) {
+            return;
+        }
+        work(link->stop.get_token());
+        work = nullptr; // frees what it holds before the result arrives
+        const std::scoped_lock lock(link->mutex);
+        if (link->receiver) {
+            QMetaObject::invokeMethod(link->receiver, deliver, Qt::QueuedConnection);
+        }
+    };
+    pool.start(run, priority);
+}
+
+} // namespace morrowleaf
