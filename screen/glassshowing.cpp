@@ -5,16 +5,11 @@
 
 #include "backdrop/glass.h"
 
-#include <QCoreApplication>
-#include <QThreadPool>
-
 namespace morrowleaf {
 
 GlassShowing::GlassShowing(QThreadPool& workers, QObject* parent)
     : QObject(parent)
     , workers_(workers) {}
-
-GlassShowing::~GlassShowing() = default;
 
 void GlassShowing::want(const QImage& picture, double devicePixelRatio) {
     const qint64 key = picture.isNull() ? 0 : picture.cacheKey();
@@ -24,31 +19,19 @@ void GlassShowing::want(const QImage& picture, double devicePixelRatio) {
     key_ = key;
     ratio_ = devicePixelRatio;
     glass_.reset();
-    request_.reset();
     if (picture.isNull()) {
+        making_ = {};
         return;
     }
-    request_ = std::make_shared<Request>();
-    // The request lives on the main thread, with this object: a result that
-    // finds it gone has nobody left to go to.
-    const std::weak_ptr<Request> wanted = request_;
-    workers_.start([this, wanted, picture, devicePixelRatio] {
-        if (wanted.expired()) {
-            return;
-        }
-        const std::shared_ptr<const Glass> glass = makeGlass(picture, devicePixelRatio);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [this, wanted, glass] {
-                if (wanted.expired()) {
-                    return;
-                }
-                request_.reset();
-                glass_ = glass;
-                emit made();
-            },
-            Qt::QueuedConnection);
-    });
+    making_ = Job(
+        workers_,
+        [picture, devicePixelRatio](const std::stop_token&) {
+            return makeGlass(picture, devicePixelRatio);
+        },
+        [this](const std::shared_ptr<const Glass>& glass) {
+            glass_ = glass;
+            emit made();
+        });
 }
 
 } // namespace morrowleaf

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "base/job.h"
+
 #include <QImage>
 #include <QObject>
 
@@ -21,7 +23,6 @@ class GlassShowing : public QObject {
 
 public:
     explicit GlassShowing(QThreadPool& workers, QObject* parent = nullptr);
-    ~GlassShowing() override;
 
     // The picture to look through from now on; a null one is none. Asking
     // again for the same costs nothing.
@@ -34,13 +35,11 @@ signals:
     void made();
 
 private:
-    struct Request {};
-
     QThreadPool& workers_;
     qint64 key_ = 0;
     double ratio_ = 0;
     std::shared_ptr<const Glass> glass_;
-    std::shared_ptr<Request> request_;
+    Job making_;
 };
 
 } // namespace morrowleaf

@@ -5,25 +5,15 @@
 
 #include "photos/bgstore.h"
 
-#include <QCoreApplication>
-#include <QThreadPool>
-
 namespace morrowleaf {
 
 namespace {
 constexpr int beforeThumbnails = 1; // among what waits for a worker
 }
 
-struct PhotoShowing::Request {
-    QString path;
-    QSize pixels;
-};
-
 PhotoShowing::PhotoShowing(BGStore& photos, QObject* parent)
     : QObject(parent)
     , photos_(photos) {}
-
-PhotoShowing::~PhotoShowing() = default;
 
 void PhotoShowing::want(const QString& path, QSize pixels) {
     const std::shared_ptr<const Photo> photo = path.isEmpty() ? nullptr : photos_.image(path);
@@ -33,7 +23,7 @@ void PhotoShowing::want(const QString& path, QSize pixels) {
         size_ = {};
         pixels_ = {};
         replaced_ = {};
-        request_.reset();
+        decoding_ = {};
         return;
     }
     if (path == path_ && pixels == size_) {
@@ -44,42 +34,21 @@ void PhotoShowing::want(const QString& path, QSize pixels) {
     if (pixels_.size() != pixels) {
         pixels_ = {};
     }
-    decode(path, pixels);
+    decoding_ = Job(
+        photos_.workers(),
+        [photo, pixels](const std::stop_token&) { return photo->decodeFilling(pixels); },
+        [this](const QImage& image) { take(image); }, beforeThumbnails);
 }
 
-void PhotoShowing::decode(const QString& path, QSize pixels) {
-    request_ = std::make_shared<Request>(Request{path, pixels});
-    const std::weak_ptr<Request> wanted = request_;
-    const std::shared_ptr<const Photo> photo = photos_.image(path);
-    // The request lives on the main thread, with this object: a result that
-    // finds it gone has nobody left to go to.
-    const auto work = [this, wanted, photo, pixels] {
-        if (wanted.expired()) {
-            return;
-        }
-        const QImage image = photo->decodeFilling(pixels);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [this, wanted, image] {
-                if (const std::shared_ptr<Request> request = wanted.lock()) {
-                    arrived(*request, image);
-                }
-            },
-            Qt::QueuedConnection);
-    };
-    photos_.workers().start(work, beforeThumbnails);
-}
-
-void PhotoShowing::arrived(const Request& request, const QImage& image) {
+void PhotoShowing::take(const QImage& image) {
     if (image.isNull()) {
-        photos_.markUnreadable(request.path);
+        photos_.markUnreadable(path_);
         readable_ = false;
         path_.clear();
         size_ = {};
     }
     replaced_ = image.isNull() ? QImage() : pixels_;
     pixels_ = image;
-    request_.reset();
     emit changed();
 }
 

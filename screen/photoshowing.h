@@ -3,13 +3,12 @@
 
 #pragma once
 
+#include "base/job.h"
+
 #include <QImage>
 #include <QObject>
 #include <QSize>
 #include <QString>
-
-#include <memory>
-#include <optional>
 
 namespace morrowleaf {
 
@@ -22,7 +21,6 @@ class PhotoShowing : public QObject {
 
 public:
     explicit PhotoShowing(BGStore& photos, QObject* parent = nullptr);
-    ~PhotoShowing() override;
 
     // What to show from now on, and how large in device pixels; an empty path
     // is no photo. Asking again for the same costs nothing.
@@ -42,11 +40,7 @@ signals:
     void changed();
 
 private:
-    // What a worker may still touch when nobody waits for it any more.
-    struct Request;
-
-    void decode(const QString& path, QSize pixels);
-    void arrived(const Request& request, const QImage& image);
+    void take(const QImage& image);
 
     BGStore& photos_;
     bool readable_ = false;
@@ -54,7 +48,7 @@ private:
     QSize size_;
     QImage pixels_;
     QImage replaced_;
-    std::shared_ptr<Request> request_;
+    Job decoding_;
 };
 
 } // namespace morrowleaf

@@ -5,9 +5,6 @@
 
 #include "photos/bgstore.h"
 
-#include <QFutureWatcher>
-#include <QPromise>
-
 namespace morrowleaf {
 
 Thumbnails::Thumbnails(BGStore& photos, QObject* parent)
@@ -15,42 +12,28 @@ Thumbnails::Thumbnails(BGStore& photos, QObject* parent)
     , photos_(photos) {}
 
 QImage Thumbnails::picture(const QString& path, QSize size) {
-    if (const auto known = pictures_.constFind(path);
-        known != pictures_.cend() && known->first == size) {
-        return known->second;
-    }
-    if (wanted_.value(path) == size) {
-        return {};
+    if (const auto known = thumbnails_.find(path);
+        known != thumbnails_.end() && known->second.size == size) {
+        return known->second.picture;
     }
     const auto photo = photos_.image(path);
     if (!photo) {
         return {};
     }
-    wanted_.insert(path, size);
-    auto promise = std::make_shared<QPromise<QImage>>();
-    auto* watcher = new QFutureWatcher<QImage>(this);
-    connect(watcher, &QFutureWatcher<QImage>::finished, this, [this, watcher, path, size] {
-        watcher->deleteLater();
-        finish(path, size, watcher->result());
-    });
-    watcher->setFuture(promise->future());
-    promise->start();
-    photos_.workers().start([promise, photo, size] {
-        promise->addResult(photo->decodeFilling(size));
-        promise->finish();
-    });
+    const auto decode = [photo, size](const std::stop_token&) {
+        return photo->decodeFilling(size);
+    };
+    const auto done = [this, path](const QImage& picture) { take(path, picture); };
+    thumbnails_[path] = {size, {}, Job(photos_.workers(), decode, done)};
     return {};
 }
 
-void Thumbnails::finish(const QString& path, QSize size, const QImage& picture) {
+void Thumbnails::take(const QString& path, const QImage& picture) {
     if (picture.isNull()) {
         photos_.markUnreadable(path);
     }
-    if (wanted_.value(path) == size) {
-        wanted_.remove(path);
-        pictures_.insert(path, {size, picture});
-        emit ready(path);
-    }
+    thumbnails_[path].picture = picture;
+    emit ready(path);
 }
 
 } // namespace morrowleaf

@@ -3,9 +3,13 @@
 
 #pragma once
 
-#include <QHash>
+#include "base/job.h"
+
 #include <QImage>
 #include <QObject>
+#include <QString>
+
+#include <unordered_map>
 
 namespace morrowleaf {
 
@@ -27,11 +31,16 @@ signals:
     void ready(const QString& path);
 
 private:
-    void finish(const QString& path, QSize size, const QImage& picture);
+    struct Thumbnail {
+        QSize size;
+        QImage picture; // null while it is decoded, and where that failed
+        Job decoding;
+    };
+
+    void take(const QString& path, const QImage& picture);
 
     BGStore& photos_;
-    QHash<QString, QPair<QSize, QImage>> pictures_;
-    QHash<QString, QSize> wanted_;
+    std::unordered_map<QString, Thumbnail> thumbnails_; // by path
 };
 
 } // namespace morrowleaf
