@@ -58,31 +58,31 @@ BGStore::~BGStore() = default;
 void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QString>)> done) {
     if (Prefs::customBGs(store_).size() >= limit) {
         QMetaObject::invokeMethod(
-            import_.get(), [done = std::move(done)] { done(std::nullopt); }, Qt::QueuedConnection);
+            &context_, [done = std::move(done)] { done(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     QDir().mkpath(ownFolder_);
     const QString destination =
         QDir(ownFolder_).absoluteFilePath(newPhotoName(QFileInfo(sourcePath).fileName()));
     import_->start(sourcePath, destination,
-                   [this, done = std::move(done)](const std::shared_ptr<PendingFile>& copy) {
-                       const auto path = copy ? list(copy->path()) : std::nullopt;
-                       if (path) {
-                           copy->keep();
+                   [this, destination, done = std::move(done)](bool copied) {
+                       const bool listed = copied && list(destination);
+                       if (copied && !listed) {
+                           QFile::remove(destination);
                        }
-                       done(path);
+                       done(listed ? std::optional(destination) : std::nullopt);
                    });
 }
 
 // The list may have grown while the worker copied.
-std::optional<QString> BGStore::list(const QString& copy) {
+bool BGStore::list(const QString& copy) {
     QStringList own = Prefs::customBGs(store_);
     if (own.size() >= limit) {
-        return std::nullopt;
+        return false;
     }
     own.append(copy);
     store_.set(K::customBGs, QJsonArray::fromStringList(own));
-    return copy;
+    return true;
 }
 
 void BGStore::remove(const QString& path) {

@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QHash>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
@@ -59,7 +60,7 @@ private:
         bool operator==(const FileStamp&) const = default;
     };
     static FileStamp stampOf(const QString& path);
-    std::optional<QString> list(const QString& copy);
+    bool list(const QString& copy);
 
     SettingsStore& store_;
     QString builtinFolder_;
@@ -68,6 +69,7 @@ private:
     QHash<QString, std::shared_ptr<const Photo>> cache_;
     QHash<QString, FileStamp> unreadable_;
     std::unique_ptr<PhotoImport> import_;
+    QObject context_; // of refusals, which are posted
 };
 
 } // namespace morrowleaf

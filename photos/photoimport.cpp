@@ -4,99 +4,117 @@
 #include "photos/photoimport.h"
 
 #include "photos/photo.h"
-#include "photos/photocopy.h"
+#include "platform/regularfile.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QThreadPool>
 
-#include <mutex>
-
 namespace morrowleaf {
-
-struct PhotoImport::Copying {
-    std::mutex busy;
-    std::atomic<bool> cancelled = false;
-};
-
 namespace {
+
+constexpr qint64 pieceSize = 1 << 20; // bytes
 
 // Small and quick, yet it shows whether there are pixels behind the header.
 constexpr QSize trialSize(192, 108);
+
+bool copyBytes(QFile& from, QFile& to, const std::stop_token& stop) {
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    while (!stop.stop_requested()) {
+        const qint64 read = from.read(piece.data(), pieceSize);
+        if (read <= 0) {
+            return read == 0 && to.flush();
+        }
+        for (qint64 done = 0; done < read;) {
+            const qint64 written = to.write(piece.constData() + done, read - done);
+            if (written <= 0) {
+                return false;
+            }
+            done += written;
+        }
+    }
+    return false;
+}
 
 bool isUsable(const QString& path) {
     const auto photo = inspectPhoto(path);
     return photo && !photo->decodeFilling(trialSize).isNull();
 }
 
-} // namespace
-
-PendingFile::~PendingFile() {
-    if (!kept_) {
-        QFile::remove(path_);
+// Inspects the source before copying it, so that a huge file that is no
+// picture is not copied; but only the copy can be trusted.
+bool importPhoto(const QString& source, const QString& destination, std::mutex& copying,
+                 const std::stop_token& stop) {
+    if (!inspectPhoto(source)) {
+        return false;
     }
+    {
+        const std::scoped_lock lock(copying);
+        if (!copyPhotoFile(source, destination, stop)) {
+            return false;
+        }
+    }
+    if (!isUsable(destination)) {
+        QFile::remove(destination);
+        return false;
+    }
+    return true;
 }
 
+} // namespace
+
 PhotoImport::PhotoImport(QThreadPool& workers)
-    : workers_(workers)
-    , copying_(std::make_shared<Copying>()) {}
+    : workers_(workers) {}
 
 PhotoImport::~PhotoImport() {
-    copying_->cancelled = true;
-    // A copy stops at once. A decoder would not, and is not waited for.
-    const std::scoped_lock stopped(copying_->busy);
-    for (const Job& job : jobs_) {
-        QFile::remove(job.destination);
+    job_ = {};
+    // From here on the worker makes no copy any more.
+    const std::scoped_lock stopped(*copying_);
+    if (!requests_.empty()) {
+        QFile::remove(requests_.front().destination);
     }
 }
 
 void PhotoImport::start(const QString& source, const QString& destination, Done done) {
-    jobs_.push_back({source, destination, std::move(done)});
-    if (jobs_.size() == 1) {
+    requests_.push_back({source, destination, std::move(done)});
+    if (requests_.size() == 1) {
         work();
     }
-}
-
-// The source is looked at before the copy, so that a huge file that is no
-// picture is not copied first; the copy counts.
-std::shared_ptr<PendingFile> PhotoImport::copied(const QString& source, const QString& destination,
-                                                 Copying& copying) {
-    if (!inspectPhoto(source)) {
-        return nullptr;
-    }
-    std::shared_ptr<PendingFile> copy;
-    {
-        const std::scoped_lock busy(copying.busy);
-        if (!copyPhotoFile(source, destination, copying.cancelled)) {
-            return nullptr;
-        }
-        copy = std::make_shared<PendingFile>(destination);
-    }
-    return isUsable(destination) ? copy : nullptr;
 }
 
 void PhotoImport::work() {
-    const Job& job = jobs_.front();
-    workers_.start([this, copying = copying_, source = job.source, destination = job.destination] {
-        auto copy = copied(source, destination, *copying);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [this, copying, copy = std::move(copy)] {
-                if (!copying->cancelled) {
-                    finish(copy);
-                }
-            },
-            Qt::QueuedConnection);
-    });
+    const Request& next = requests_.front();
+    job_ = Job(
+        workers_,
+        [copying = copying_, source = next.source,
+         destination = next.destination](const std::stop_token& stop) {
+            return importPhoto(source, destination, *copying, stop);
+        },
+        [this](bool copied) { finish(copied); });
 }
 
-void PhotoImport::finish(const std::shared_ptr<PendingFile>& copy) {
-    const Done done = std::move(jobs_.front().done);
-    jobs_.pop_front();
-    if (!jobs_.empty()) {
+void PhotoImport::finish(bool copied) {
+    const Done done = std::move(requests_.front().done);
+    requests_.pop_front();
+    if (!requests_.empty()) {
         work();
     }
-    done(copy);
+    done(copied);
+}
+
+bool copyPhotoFile(const QString& source, const QString& destination, const std::stop_token& stop) {
+    QFile from;
+    QFile to(destination);
+    if (stop.stop_requested() || !openRegularFile(from, source) ||
+        !to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    const bool copied = copyBytes(from, to, stop);
+    to.close();
+    if (!copied || to.error() != QFileDevice::NoError) {
+        QFile::remove(destination);
+        return false;
+    }
+    return true;
 }
 
 } // namespace morrowleaf

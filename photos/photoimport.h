@@ -3,64 +3,58 @@
 
 #pragma once
 
-#include <QObject>
+#include "base/job.h"
+
 #include <QString>
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <stop_token>
 
 class QThreadPool;
 
 namespace morrowleaf {
 
-// A file that goes away with its last holder unless it was kept.
-class PendingFile {
+// Copies photos on a thread of a pool, one after the other, and checks that
+// they can be decoded. Destroying it removes what has not been reported; that
+// waits for the copying to stop (at most for one piece of a file), not for a
+// decoder.
+class PhotoImport {
 public:
-    explicit PendingFile(QString path)
-        : path_(std::move(path)) {}
-    ~PendingFile();
-    PendingFile(const PendingFile&) = delete;
-    PendingFile& operator=(const PendingFile&) = delete;
+    using Done = std::function<void(bool)>;
 
-    const QString& path() const { return path_; }
-    void keep() { kept_ = true; }
-
-private:
-    QString path_;
-    bool kept_ = false;
-};
-
-// Copies and checks photos one after the other in a worker.
-class PhotoImport : public QObject {
-    Q_OBJECT
-
-public:
     explicit PhotoImport(QThreadPool& workers);
-    ~PhotoImport() override; // waits for nothing and leaves no copy behind
+    ~PhotoImport();
+    PhotoImport(const PhotoImport&) = delete;
+    PhotoImport& operator=(const PhotoImport&) = delete;
 
-    using Done = std::function<void(const std::shared_ptr<PendingFile>&)>;
-
-    // `done` is called later, on this object's thread, with null on any
-    // failure; it never leaves that thread.
+    // Copies `source` to the new file `destination`. `done` is called later, on
+    // this thread; on false there is no copy.
     void start(const QString& source, const QString& destination, Done done);
 
 private:
-    struct Job {
+    struct Request {
         QString source;
         QString destination;
         Done done;
     };
-    struct Copying; // what a worker may still touch when this is gone
 
-    static std::shared_ptr<PendingFile> copied(const QString& source, const QString& destination,
-                                               Copying& copying);
     void work();
-    void finish(const std::shared_ptr<PendingFile>& copy);
+    void finish(bool copied);
 
     QThreadPool& workers_;
-    std::deque<Job> jobs_; // the first is being worked on
-    std::shared_ptr<Copying> copying_;
+    std::deque<Request> requests_; // the first is being worked on
+    std::shared_ptr<std::mutex> copying_ = std::make_shared<std::mutex>(); // held by the worker
+    Job job_;
 };
+
+// Copies a regular file byte for byte to a new file. On failure, and where
+// `stop` is requested on the way, returns false and leaves no copy. Where
+// something exists at `destination` already, that is a failure and it is left
+// alone. Any thread.
+[[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
+                                 const std::stop_token& stop);
 
 } // namespace morrowleaf

@@ -3,8 +3,8 @@
 
 #include "photos/jpegscans.h"
 #include "photos/photo.h"
-#include "photos/photocopy.h"
 #include "photos/photodevice.h"
+#include "photos/photoimport.h"
 #include "photos/photoplan.h"
 #include "tools/sourcepath.h"
 
@@ -307,8 +307,9 @@ TEST_F(PhotoTest, TheDeviceEndsAfterItsTime) {
 }
 
 TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
-    const std::atomic<bool> going = false;
-    const std::atomic<bool> stopped = true;
+    const std::stop_token going;
+    std::stop_source stopped;
+    stopped.request_stop();
     const QString source = file("content");
     const QString taken = file("taken");
     EXPECT_FALSE(copyPhotoFile(source, taken, going));
@@ -316,7 +317,7 @@ TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
     ASSERT_TRUE(there.open(QIODevice::ReadOnly));
     EXPECT_EQ(there.readAll(), QByteArray("taken"));
     const QString fresh = folder.filePath(QStringLiteral("fresh"));
-    EXPECT_FALSE(copyPhotoFile(source, fresh, stopped));
+    EXPECT_FALSE(copyPhotoFile(source, fresh, stopped.get_token()));
     EXPECT_FALSE(QFile::exists(fresh));
     EXPECT_TRUE(copyPhotoFile(source, fresh, going));
 }
@@ -327,7 +328,7 @@ TEST_F(PhotoTest, LeavesNothingOnAFullDisk) {
     if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {
         GTEST_SKIP() << "may not mount a small disk here";
     }
-    const std::atomic<bool> going = false;
+    const std::stop_token going;
     const bool copied =
         copyPhotoFile(file(QByteArray(1 << 20, 'x')), small + QStringLiteral("/copy"), going);
     const QStringList left = QDir(small).entryList(QDir::Files | QDir::Hidden);
