@@ -196,9 +196,9 @@ QPushButton* SettingsView::makePresets() {
     auto* button = new QPushButton(QStringLiteral("Presets"), this);
     button->setFixedWidth(presetsWidth);
     auto* menu = new QMenu(button);
-    for (const SourcePreset& preset : sourcePresets()) {
-        menu->addAction(preset.label, this, [this, address = preset.address] {
-            around_.store.set(K::source, address);
+    for (const SourcePreset& preset : sourcePresets) {
+        menu->addAction(preset.label.toString(), this, [this, address = preset.address] {
+            around_.store.set(K::source, QString(address));
         });
     }
     menu->addAction(QStringLiteral("Built-in list"), this,

@@ -3,7 +3,14 @@
 
 #include "sources/fetchquote.h"
 
-#include <QDeadlineTimer>
+#include "base/job.h"
+#include "sources/loadsource.h"
+#include "sources/parsequote.h"
+
+#include <QThreadPool>
+#include <QTimer>
+
+#include <utility>
 
 namespace morrowleaf {
 
@@ -13,41 +20,69 @@ namespace {
 
 constexpr auto partingTime = 200ms;
 
-// Loads that hang in the kernel cannot be ended; no more than these pile up.
-constexpr qsizetype loadLimit = 32;
+// Including loads that are stuck: no more than these pile up.
+constexpr int loadLimit = 32;
 
 } // namespace
+
+// One load, until it is answered.
+class QuoteFetcher::Load : public QObject {
+public:
+    Load(QuoteFetcher& fetcher, const QString& source, Done done)
+        : QObject(&fetcher)
+        , done_(std::move(done)) {
+        if (fetcher.pool_->activeThreadCount() >= loadLimit) {
+            QTimer::singleShot(0, this, [this] { answer(std::nullopt); });
+            return;
+        }
+        QTimer::singleShot(fetcher.limits_.deadline, Qt::PreciseTimer, this,
+                           [this] { answer(std::nullopt); });
+        const auto load = [source, random = fetcher.random_, limit = fetcher.limits_.bytes](
+                              const std::stop_token& stop) -> std::optional<Quote> {
+            const std::optional<QByteArray> body = loadSource(source, limit, stop);
+            return body && !stop.stop_requested() ? parseQuote(*body, random) : std::nullopt;
+        };
+        job_ =
+            Job(*fetcher.pool_, load, [this](const std::optional<Quote>& quote) { answer(quote); });
+    }
+
+private:
+    // `done_` may destroy the fetcher.
+    void answer(const std::optional<Quote>& quote) {
+        job_ = {};
+        if (const Done done = std::exchange(done_, nullptr)) {
+            deleteLater();
+            done(quote);
+        }
+    }
+
+    Done done_;
+    Job job_;
+};
 
 QuoteFetcher::QuoteFetcher(RandomIndex random, const LoadLimits& limits, QObject* parent)
     : QObject(parent)
     , random_(std::move(random))
-    , limits_(limits) {}
+    , limits_(limits)
+    , pool_(std::make_unique<QThreadPool>()) {
+    pool_->setMaxThreadCount(loadLimit);
+    pool_->setExpiryTimeout(0); // an idle program keeps no threads
+}
 
 QuoteFetcher::~QuoteFetcher() {
-    const auto loads = findChildren<QuoteLoad*>(Qt::FindDirectChildrenOnly);
-    for (QuoteLoad* load : loads) {
-        load->stop();
-    }
-    const QDeadlineTimer deadline(partingTime);
-    for (QuoteLoad* load : loads) {
-        load->wait(std::chrono::milliseconds(deadline.remainingTime()));
+    const QObjectList loads = children();
+    qDeleteAll(loads);
+    if (!pool_->waitForDone(static_cast<int>(std::chrono::milliseconds(partingTime).count()))) {
+        static_cast<void>(pool_.release()); // its destructor would wait
     }
 }
 
-void QuoteFetcher::fetchQuote(const QString& from, QuoteLoad::Done done) {
-    if (findChildren<QuoteLoad*>(Qt::FindDirectChildrenOnly).size() >= loadLimit) {
-        QMetaObject::invokeMethod(
-            this, [done = std::move(done)] { done(std::nullopt); }, Qt::QueuedConnection);
-        return;
-    }
-    auto* load = new QuoteLoad(from, random_, limits_, std::move(done), this);
-    connect(load, &QuoteLoad::ended, load, &QObject::deleteLater);
+void QuoteFetcher::fetchQuote(const QString& from, Done done) {
+    new Load(*this, from, std::move(done)); // its parent's, and gone once answered
 }
 
 QuoteLoader QuoteFetcher::loader() {
-    return [this](const QString& source, QuoteLoad::Done done) {
-        fetchQuote(source, std::move(done));
-    };
+    return [this](const QString& source, Done done) { fetchQuote(source, std::move(done)); };
 }
 
 } // namespace morrowleaf

@@ -3,37 +3,58 @@
 
 #pragma once
 
+#include "base/randomindex.h"
 #include "quotes/quote.h"
-#include "sources/quoteload.h"
 
 #include <QObject>
 
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QThreadPool;
+
 namespace morrowleaf {
+
+// The bounds of one load.
+struct LoadLimits {
+    std::chrono::milliseconds deadline{6000};     // from the call to the answer
+    qsizetype bytes = qsizetype{4} * 1024 * 1024; // of the decoded body
+};
 
 // Loads quotations from sources: web addresses and local files. One object for
 // the program; it lives on the main thread, and all answers come there.
 //
-// A load takes six seconds at most and answers with nothing on any failure.
-// Nothing of it runs on the main thread. Destroying this object ends all loads
-// without an answer and takes a moment at most, whatever they wait for.
+// Loads run on threads of their own, since one that the kernel holds (in a
+// resolver, or on a file system that hangs) cannot be ended: it is answered at
+// the deadline and keeps its thread. Destroying this object ends all loads
+// without an answer; it takes 200 ms at most and abandons threads that are
+// still busy then.
 class QuoteFetcher : public QObject {
     Q_OBJECT
 
 public:
-    // `random` is called in the threads of the loads.
+    using Done = std::function<void(std::optional<Quote>)>;
+
+    // `random` is called on the threads of the loads.
     explicit QuoteFetcher(RandomIndex random = secureRandomIndex(), const LoadLimits& limits = {},
                           QObject* parent = nullptr);
     ~QuoteFetcher() override;
 
-    // Starts one load of a source as the user typed it.
-    void fetchQuote(const QString& from, QuoteLoad::Done done);
+    // Loads a source as the user typed it. `done` is called once, later, at the
+    // deadline at the latest, with std::nullopt on any failure.
+    void fetchQuote(const QString& from, Done done);
 
     // fetchQuote of this object, which must outlive its use.
     QuoteLoader loader();
 
 private:
+    class Load;
+
     RandomIndex random_;
     LoadLimits limits_;
+    std::unique_ptr<QThreadPool> pool_;
 };
 
 } // namespace morrowleaf

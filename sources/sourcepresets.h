@@ -5,16 +5,23 @@
 
 #include <QString>
 
-#include <span>
+#include <array>
 
 namespace morrowleaf {
 
 // A quotation service that the settings offer by name.
 struct SourcePreset {
-    QString label;
-    QString address;
+    QStringView label;
+    QLatin1StringView address;
 };
 
-std::span<const SourcePreset> sourcePresets();
+inline constexpr auto sourcePresets = [] {
+    using namespace Qt::Literals::StringLiterals;
+    return std::array{
+        SourcePreset{u"ZenQuotes \u2014 quote of the day", "https://zenquotes.io/api/today"_L1},
+        SourcePreset{u"ZenQuotes \u2014 random", "https://zenquotes.io/api/random"_L1},
+        SourcePreset{u"DummyJSON \u2014 random", "https://dummyjson.com/quotes/random"_L1},
+    };
+}();
 
 } // namespace morrowleaf

@@ -3,33 +3,59 @@
 
 #include "sources/webload.h"
 
+#include "base/job.h"
 #include "platform/floodguard.h"
-#include "sources/hostlookup.h"
-#include "sources/systemproxies.h"
+#include "platform/hostaddress.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QThreadPool>
 
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <memory>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool isSecure(const QUrl& url) {
-    return url.scheme() == QLatin1StringView("https");
+    return url.scheme() == "https"_L1;
 }
 
 bool isWeb(const QUrl& url) {
-    return isSecure(url) || url.scheme() == QLatin1StringView("http");
+    return isSecure(url) || url.scheme() == "http"_L1;
+}
+
+// The proxies of the desktop or the environment, asked anew for every
+// connection. Asking may take long.
+class SystemProxies : public QNetworkProxyFactory {
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
+        return systemProxyForQuery(query);
+    }
+};
+
+QString firstHost(const QUrl& url) {
+    const QList<QNetworkProxy> proxies = SystemProxies().queryProxy(QNetworkProxyQuery(url));
+    const QNetworkProxy proxy = proxies.value(0, QNetworkProxy(QNetworkProxy::NoProxy));
+    return proxy.hostName().isEmpty() ? url.host(QUrl::FullyEncoded) : proxy.hostName();
+}
+
+// Whether the first host on the way to `url` (a proxy, or its own) has an
+// address. Blocks as long as the resolver does. Asked before a connection is
+// tried, because Qt looks names up on threads that it joins when the program
+// ends: a resolver that hangs would hang the exit.
+bool canBeReached(const QUrl& url) {
+    return hasAddress(firstHost(url).toUtf8());
 }
 
 constexpr int redirectLimit = 20;
@@ -52,8 +78,8 @@ QNetworkRequest requestFor(const QUrl& url) {
     return request;
 }
 
-// Every status counts as an answer, though the network layer calls some of
-// them errors; a transfer that broke off does not.
+// Every status counts as an answer, though Qt calls some of them errors; a
+// transfer that broke off does not.
 bool isAnswer(const QNetworkReply& reply) {
     switch (reply.error()) {
     case QNetworkReply::NoError:
@@ -89,7 +115,7 @@ public:
     WebLoad(const QUrl& url, qsizetype limit)
         : at_(url)
         , limit_(limit) {
-        manager_.setProxyFactory(systemProxies().release());
+        manager_.setProxyFactory(new SystemProxies); // takes ownership
         reply_.reset(manager_.get(requestFor(url)));
         reply_->setReadBufferSize(readBuffer);
         connect(reply_.get(), &QNetworkReply::readyRead, this, &WebLoad::take);
@@ -97,10 +123,14 @@ public:
         connect(reply_.get(), &QNetworkReply::redirected, this, &WebLoad::redirected);
     }
 
-    std::optional<QByteArray> run() {
+    std::optional<QByteArray> run(const std::stop_token& stop) {
+        // Posted, since a loop that has not begun cannot be quit.
+        const std::stop_callback quit(stop, [this] {
+            QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
+        });
         loop_.exec();
-        // The network layer reads on in its own thread as long as a header
-        // keeps coming, whether or not anybody waits for it.
+        // Qt reads on, on its own thread, as long as a header keeps coming,
+        // whether or not anybody waits for it.
         flood_.end(remainderBytes);
         return std::move(body_);
     }
@@ -125,16 +155,19 @@ private:
         loop_.quit();
     }
 
-    void watch(const std::stop_token& stop) {
+    bool watch(const std::stop_token& stop) {
         std::mutex mutex;
         std::unique_lock lock(mutex);
         std::condition_variable_any ended;
+        bool flooded = false;
         while (!stop.stop_requested()) {
             ended.wait_for(lock, stop, guardPause, [] { return false; });
             if (flood_.end(floodBytes)) {
+                flooded = true;
                 loop_.quit();
             }
         }
+        return flooded;
     }
 
     // The next request goes out once this has returned.
@@ -153,8 +186,10 @@ private:
     FloodGuard flood_;
     QNetworkAccessManager manager_;
     std::unique_ptr<QNetworkReply> reply_;
-    // A flood keeps this thread too busy for a timer of its own.
-    std::jthread watch_{[this](const std::stop_token& stop) { watch(stop); }};
+    // A flood keeps this thread too busy for a timer of its own. The pool waits
+    // for the watch when this is destroyed.
+    QThreadPool watchers_;
+    Job watch_{watchers_, [this](const std::stop_token& stop) { return watch(stop); }, [](bool) {}};
 };
 
 } // namespace
@@ -163,11 +198,12 @@ bool mayRedirect(const QUrl& from, const QUrl& to) {
     return isWeb(to) && (!isSecure(from) || isSecure(to));
 }
 
-std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit) {
+std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit,
+                                      const std::stop_token& stop) {
     if (isWeb(url) && !canBeReached(url)) {
         return std::nullopt;
     }
-    return WebLoad(url, limit).run();
+    return WebLoad(url, limit).run(stop);
 }
 
 } // namespace morrowleaf

@@ -7,13 +7,16 @@
 #include <QUrl>
 
 #include <optional>
+#include <stop_token>
 
 namespace morrowleaf {
 
 // The decoded body that an http, https or data address answers with, whatever
-// its status; nothing if the load fails or the body is longer than `limit`
-// bytes. Blocks; to be called in a QThread of its own, whose quit() ends it.
-std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit);
+// its status. std::nullopt if the load fails, the body is longer than `limit`
+// bytes, or `stop` is requested meanwhile. Any thread but the main one: it runs
+// an event loop of its own, and blocks as long as the resolver does.
+std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit,
+                                      const std::stop_token& stop);
 
 // Whether an answer from `from` may send the load on to `to`: to the web only,
 // and never from https down to http.

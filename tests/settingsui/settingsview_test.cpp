@@ -256,7 +256,7 @@ TEST_F(SettingsViewTest, PresetsSetTheSource) {
     const auto actions = presets->menu()->actions();
     ASSERT_EQ(actions.size(), 4);
     for (qsizetype i = 0; i < 3; ++i) {
-        const SourcePreset& preset = sourcePresets()[std::size_t(i)];
+        const SourcePreset& preset = sourcePresets[std::size_t(i)];
         EXPECT_EQ(actions[i]->text(), preset.label);
         actions[i]->trigger();
         EXPECT_EQ(store.text(K::source), preset.address);

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sources/fetchquote.h"
-#include "sources/localfile.h"
-#include "sources/sourceaddress.h"
+#include "sources/loadsource.h"
 #include "sources/sourcepresets.h"
 #include "sources/webload.h"
 
@@ -75,10 +74,10 @@ TEST(Redirects, NeverLeaveTheWebOrGoDown) {
 }
 
 TEST(SourcePresets, AreThree) {
-    ASSERT_EQ(sourcePresets().size(), 3U);
-    EXPECT_EQ(sourcePresets()[0].label, u"ZenQuotes \u2014 quote of the day");
-    EXPECT_EQ(sourcePresets()[1].address, "https://zenquotes.io/api/random");
-    EXPECT_EQ(sourcePresets()[2].address, "https://dummyjson.com/quotes/random");
+    ASSERT_EQ(sourcePresets.size(), 3U);
+    EXPECT_EQ(sourcePresets[0].label, u"ZenQuotes \u2014 quote of the day");
+    EXPECT_EQ(sourcePresets[1].address, "https://zenquotes.io/api/random");
+    EXPECT_EQ(sourcePresets[2].address, "https://dummyjson.com/quotes/random");
 }
 
 class FetchQuote : public testing::Test {
@@ -163,7 +162,7 @@ TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
             ::_exit(3);
         }
         const auto read = [](const QByteArray& path) {
-            return readLocalFile(QFile::decodeName(path), 100, [] { return false; });
+            return readLocalFile(QFile::decodeName(path), 100, {});
         };
         ::_exit(!read(open) ? 2 : (read(secret) ? 1 : 0));
     }
