@@ -45,12 +45,9 @@ Behind behindOf(Behind::Kind kind, const QImage& picture = {}) {
 
 OverlaySetup overlaySetup(bool preview, bool editing) {
     if (preview) {
-        return {.level = WindowLevel::Normal,
-                .behaviour = quoteWindowBehaviour,
-                .hold = InputHold::Nothing};
+        return {.level = WindowLevel::Normal, .hold = InputHold::FocusOnly};
     }
     return {.level = WindowLevel::ScreenSaver,
-            .behaviour = quoteWindowBehaviour,
             .hold = editing ? InputHold::KeyboardIfNeeded : InputHold::KeyboardAndMouse};
 }
 

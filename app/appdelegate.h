@@ -24,8 +24,6 @@ class SettingsStore;
 // Escape, by the number that keyboards give it in the event monitor's terms.
 inline constexpr int escapeKeyCode = 53;
 inline constexpr EventMask closingEvents = leftMouseDown | rightMouseDown | keyDown;
-inline constexpr WindowBehaviour quoteWindowBehaviour =
-    canJoinAllSpaces | ignoresCycle | fullScreenAuxiliary;
 
 // What fills a quote window.
 struct QuoteContent {

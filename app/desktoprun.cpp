@@ -116,7 +116,7 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
                                       {.store = store,
                                        .loader = fetcher.loader(),
                                        .loginItem = *platform.loginItem,
-                                       .beep = [&] { platform.beeper->beep(); },
+                                       .beep = [] { QApplication::beep(); },
                                        .onShowNow = std::move(onShowNow),
                                        .onEditAppearance = std::move(onEditAppearance),
                                        .quit = terminate});

@@ -13,30 +13,21 @@ class QWidget;
 
 namespace morrowleaf {
 
-// How high a window stands. The numbers order them; what a desktop has for
-// each is the backend's affair.
-enum class WindowLevel : int {
-    Normal = 0,
-    Floating = 3,       // above ordinary windows
-    ScreenSaver = 1000, // above panels, docks and everybody's windows
+// How high a window stands among those of the desktop.
+enum class WindowLevel {
+    Normal,      // among ordinary windows
+    ScreenSaver, // above panels, docks and the windows of all other programs
 };
 
-// How a window behaves among workspaces and other windows; flags.
-using WindowBehaviour = unsigned;
-inline constexpr WindowBehaviour canJoinAllSpaces = 1U << 0U;
-inline constexpr WindowBehaviour ignoresCycle = 1U << 6U; // not in task lists and switchers
-inline constexpr WindowBehaviour fullScreenAuxiliary = 1U << 8U;
-
-// What an overlay takes of keyboard and mouse while it is in front.
+// The input that an overlay takes while it is in front.
 enum class InputHold {
-    Nothing,          // the focus only
-    KeyboardIfNeeded, // the focus, held where it does not stay by itself
-    KeyboardAndMouse, // both, from everybody
+    FocusOnly,        // keyboard focus, without any grab
+    KeyboardIfNeeded, // keyboard focus; a keyboard grab where the focus does not stay otherwise
+    KeyboardAndMouse, // keyboard focus and a grab of both devices
 };
 
 struct OverlaySetup {
     WindowLevel level = WindowLevel::ScreenSaver;
-    WindowBehaviour behaviour = 0;
     InputHold hold = InputHold::KeyboardAndMouse;
 };
 

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "platform/beeper.h"
 #include "platform/colorscheme.h"
 #include "platform/desktoppicture.h"
 #include "platform/filechooser.h"
@@ -29,7 +28,6 @@ struct Platform {
     std::unique_ptr<SessionEvents> sessionEvents;
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
-    std::unique_ptr<Beeper> beeper;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<SingleInstance> instance;
     std::unique_ptr<QuitRequests> quitRequests;

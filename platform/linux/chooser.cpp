@@ -6,7 +6,6 @@
 #include "platform/linux/autostart.h"
 #include "platform/linux/dbus/portalcolorscheme.h"
 #include "platform/linux/dbus/portalfilechooser.h"
-#include "platform/linux/desktopbeeper.h"
 #include "platform/linux/desktopinstance.h"
 #include "platform/linux/desktopsession.h"
 #include "platform/linux/desktoptray.h"
@@ -146,7 +145,6 @@ Platform makePlatform(WindowSystem system) {
     }
     mallopt(M_MMAP_THRESHOLD, ownPagesFrom);
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
-    platform.beeper = makeDesktopBeeper();
     platform.colorScheme = std::make_unique<PortalColorScheme>();
     platform.fileChooser = std::make_unique<PortalFileChooser>();
     platform.sessionEvents = makeDesktopSession();

@@ -95,11 +95,6 @@ public:
     bool claim(const LaunchRequest& /*request*/) override { return true; }
 };
 
-class SilentBeeper final : public Beeper {
-public:
-    void beep() override {}
-};
-
 } // namespace
 
 std::unique_ptr<OverlayMaker> makeNullOverlays() {
@@ -114,7 +109,6 @@ Platform makeNullPlatform() {
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<NoTrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
-            .beeper = std::make_unique<SilentBeeper>(),
             .colorScheme = std::make_unique<NullColorScheme>(),
             .instance = std::make_unique<OnlyInstance>(),
             .quitRequests = std::make_unique<QuitRequests>(),

@@ -48,7 +48,7 @@ public:
         if (!managed_) {
             flags |= Qt::X11BypassWindowManagerHint;
         }
-        if (setup.level > WindowLevel::Normal) {
+        if (setup.level == WindowLevel::ScreenSaver) {
             flags |= Qt::WindowStaysOnTopHint;
         }
         window.setWindowFlags(flags);
@@ -100,7 +100,7 @@ public:
         if (managed_) {
             return;
         }
-        lowered_ = level < WindowLevel::ScreenSaver;
+        lowered_ = level == WindowLevel::Normal;
         if (lowered_) {
             hold_->release(*window_.windowHandle());
             stack(XCB_STACK_MODE_BELOW, XCB_WINDOW_NONE);
@@ -140,16 +140,13 @@ private:
     xcb_window_t id() const { return static_cast<xcb_window_t>(window_.winId()); }
 
     void describe() {
-        if ((setup_.behaviour & canJoinAllSpaces) != 0) {
-            x11::setCardinal(id(), "_NET_WM_DESKTOP", 0xFFFFFFFF);
-        }
-        if ((setup_.behaviour & ignoresCycle) != 0) {
-            const std::array<xcb_atom_t, 2> skip{x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
-                                                 x11::atom("_NET_WM_STATE_SKIP_PAGER")};
-            xcb_change_property(x11::connection(), XCB_PROP_MODE_APPEND, id(),
-                                x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, skip.size(),
-                                skip.data());
-        }
+        constexpr quint32 allDesktops = 0xFFFFFFFF;
+        x11::setCardinal(id(), "_NET_WM_DESKTOP", allDesktops);
+        const std::array<xcb_atom_t, 2> skip{x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
+                                             x11::atom("_NET_WM_STATE_SKIP_PAGER")};
+        xcb_change_property(x11::connection(), XCB_PROP_MODE_APPEND, id(),
+                            x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, skip.size(),
+                            skip.data());
         // Redirection that stops and starts again flickers; it is needed for the fades.
         constexpr quint32 keepCompositing = 2;
         x11::setCardinal(id(), "_NET_WM_BYPASS_COMPOSITOR", keepCompositing);
