@@ -144,13 +144,14 @@ void AppDelegate::present(bool preview, bool editing) {
     }
     window->setContent(content.widget);
     window->setAlpha(0);
-    // What takes the window away is still at work when it tells.
-    const auto gone = [this, lost = window.get()] {
-        QMetaObject::invokeMethod(
-            this, [this, lost] { lose(lost); }, Qt::QueuedConnection);
+    const auto loseIt = [this, lost = QPointer(window.get())] {
+        if (lost) {
+            lose(lost);
+        }
     };
-    window->overlay().onLost = gone;
-    connect(window.get(), &QuoteWindow::closed, this, gone);
+    // Queued: the sender is still at work when it emits.
+    connect(&window->overlay(), &OverlayWindow::lost, this, loseIt, Qt::QueuedConnection);
+    connect(window.get(), &QuoteWindow::closed, this, loseIt, Qt::QueuedConnection);
     window->orderFront();
     window_ = std::move(window);
     window_->fade(around_.timing, 1, fadeInSeconds, easeOut, [] {});

@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QObject>
 
-#include <functional>
 #include <memory>
 
 class QScreen;
@@ -39,16 +38,15 @@ enum class SeeThrough {
 };
 
 // Turns one top-level widget into a window that covers its screen. It follows
-// the screen's size; the widget outlives it.
+// the screen's size, is seen on every workspace and stands in no task list or
+// window switcher. The widget outlives it.
 //
 // Order of a life: made (nothing on screen yet), orderFront(), orderOut(),
 // destroyed. Destroying it orders out what still stands.
-class OverlayWindow {
-public:
-    virtual ~OverlayWindow() = default;
-    OverlayWindow(const OverlayWindow&) = delete;
-    OverlayWindow& operator=(const OverlayWindow&) = delete;
+class OverlayWindow : public QObject {
+    Q_OBJECT
 
+public:
     virtual SeeThrough seeThrough() const = 0;
     // Maps the window, raises it and takes focus and input as asked.
     virtual void orderFront() = 0;
@@ -64,11 +62,10 @@ public:
     // time stamps (milliseconds, wraps at 32 bits); nothing known: 0.
     virtual quint32 orderedFrontAt() const = 0;
 
-    // Called once when the screen or the surface is gone for good.
-    std::function<void()> onLost;
-
-protected:
-    OverlayWindow() = default;
+signals:
+    // The screen or the surface is gone for good. May be emitted more than once,
+    // and from within orderFront().
+    void lost();
 };
 
 class OverlayMaker {

@@ -5,16 +5,13 @@
 
 #include <QGuiApplication>
 
-#include <utility>
-
 namespace morrowleaf {
 
-ScreenFollower::ScreenFollower(QWidget& window, QScreen& screen, std::function<void()> onLost)
-    : onLost_(std::move(onLost)) {
+ScreenFollower::ScreenFollower(QWidget& window, QScreen& screen) {
     connect(&screen, &QScreen::geometryChanged, this, [this, &window](const QRect& geometry) {
         // The last monitor that goes leaves a screen without an area.
         if (geometry.isEmpty()) {
-            lost();
+            emit lost();
         } else {
             window.setGeometry(geometry);
         }
@@ -22,15 +19,9 @@ ScreenFollower::ScreenFollower(QWidget& window, QScreen& screen, std::function<v
     connect(qGuiApp, &QGuiApplication::screenRemoved, this,
             [this, gone = &screen](const QScreen* removed) {
                 if (removed == gone) {
-                    lost();
+                    emit lost();
                 }
             });
-}
-
-void ScreenFollower::lost() {
-    if (const auto call = std::exchange(onLost_, nullptr)) {
-        call();
-    }
 }
 
 } // namespace morrowleaf

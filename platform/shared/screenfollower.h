@@ -7,19 +7,17 @@
 #include <QScreen>
 #include <QWidget>
 
-#include <functional>
-
 namespace morrowleaf {
 
-// Keeps a window as large as its screen and tells when the screen is gone.
+// Keeps a window as large as its screen for as long as both exist.
 class ScreenFollower : public QObject {
+    Q_OBJECT
+
 public:
-    ScreenFollower(QWidget& window, QScreen& screen, std::function<void()> onLost);
+    ScreenFollower(QWidget& window, QScreen& screen);
 
-private:
-    void lost();
-
-    std::function<void()> onLost_;
+signals:
+    void lost(); // the screen was removed or has no area any more
 };
 
 } // namespace morrowleaf

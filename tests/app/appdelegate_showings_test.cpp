@@ -110,7 +110,7 @@ TEST_F(AppDelegateTest, WithoutAScreenTheOldShowingStillGoes) {
 
 TEST_F(AppDelegateTest, AVanishedScreenEndsTheShowing) {
     launch();
-    top().overlay->onLost();
+    emit top().overlay->lost();
     EXPECT_TRUE(isShown());
     QCoreApplication::processEvents();
     EXPECT_FALSE(isShown());
@@ -122,7 +122,7 @@ TEST_F(AppDelegateTest, AVanishedScreenEndsAFadeOut) {
     launch();
     delegate->dismiss(true);
     auto record = desktop.overlays.back();
-    record->overlay->onLost();
+    emit record->overlay->lost();
     QCoreApplication::processEvents();
     EXPECT_EQ(record->outs, 1);
     timing.pass(1);

@@ -55,9 +55,7 @@ public:
         }
         if (!configured_) {
             // A surface that is given a picture too early ends the connection.
-            if (onLost) {
-                onLost();
-            }
+            emit lost();
             return;
         }
         window_.show();
@@ -165,9 +163,7 @@ private:
     static void onClosed(void* data, zwlr_layer_surface_v1* /*layer*/) {
         auto& self = *static_cast<LayerOverlay*>(data);
         self.closed_ = true;
-        if (self.onLost) {
-            self.onLost();
-        }
+        emit self.lost();
     }
 
     QWidget& window_;

@@ -16,14 +16,11 @@ public:
     WaylandOverlay(QWidget& window, QScreen& screen, const OverlaySetup& setup)
         : window_(window)
         , fullScreen_(setup.level == WindowLevel::ScreenSaver)
-        , follower_(window, screen, [this] {
-            if (onLost) {
-                onLost();
-            }
-        }) {
+        , follower_(window, screen) {
         window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         window.setScreen(&screen);
         window.setGeometry(screen.geometry());
+        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
     }
     ~WaylandOverlay() override { window_.hide(); }
 

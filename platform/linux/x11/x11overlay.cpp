@@ -39,11 +39,7 @@ public:
         , managed_(managed || setup.level != WindowLevel::ScreenSaver)
         , composited_(x11::hasCompositor())
         , hold_(std::move(hold))
-        , follower_(window, screen, [this] {
-            if (onLost) {
-                onLost();
-            }
-        }) {
+        , follower_(window, screen) {
         Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
         if (!managed_) {
             flags |= Qt::X11BypassWindowManagerHint;
@@ -58,9 +54,10 @@ public:
         window.winId();
         describe();
         listen();
-        QObject::connect(&monitors_, &X11Monitors::changed, &monitors_, [this] {
-            if (onLost && !X11Monitors::anyIsOn()) {
-                onLost();
+        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
+        connect(&monitors_, &X11Monitors::changed, this, [this] {
+            if (!X11Monitors::anyIsOn()) {
+                emit lost();
             }
         });
     }
