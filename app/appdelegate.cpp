@@ -3,13 +3,19 @@
 
 #include "app/appdelegate.h"
 
+#include "app/services.h"
 #include "base/curves.h"
+#include "platform/platform.h"
+#include "quotes/quotebox.h"
+#include "screen/quotescreen.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settingsui/inspector.h"
+#include "settingsui/settingsview.h"
+#include "textanim/fonts.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 
@@ -20,28 +26,13 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr double throttle = 8.0; // seconds between a showing and a triggered one
+using namespace Qt::Literals::StringLiterals;
+
+constexpr double throttleSeconds = 8.0; // between a showing and a triggered one
 constexpr double fadeInSeconds = 0.55;
 constexpr double fadeOutSeconds = 0.45;
-constexpr double shortestShowing = 5.0; // seconds
-
-// The number of a key in the monitor's terms; 0 where none is needed.
-int keyCode(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Escape ? escapeKeyCode : 0;
-}
-
-// A menu or dialog in front closes first.
-bool somethingInFront(const QWidget* window) {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return QApplication::activePopupWidget() != nullptr || (modal != nullptr && modal != window);
-}
-
-Behind behindOf(Behind::Kind kind, const QImage& picture = {}) {
-    Behind behind;
-    behind.kind = kind;
-    behind.picture = picture;
-    return behind;
-}
+constexpr double shortestShowing = 5.0;  // seconds until the automatic close
+constexpr double inspectorFaceSize = 13; // points; the editor sets its own sizes
 
 OverlaySetup overlaySetup(bool preview, bool editing) {
     if (preview) {
@@ -53,14 +44,19 @@ OverlaySetup overlaySetup(bool preview, bool editing) {
 
 } // namespace
 
-AppDelegate::AppDelegate(AppSurroundings surroundings)
-    : around_(std::move(surroundings)) {}
+AppDelegate::AppDelegate(const Services& services)
+    : services_(services) {
+    connect(&actions_.showQuote, &QAction::triggered, this, &AppDelegate::show);
+    connect(&actions_.editAppearance, &QAction::triggered, this, &AppDelegate::editAppearance);
+    connect(&actions_.openSettings, &QAction::triggered, this, &AppDelegate::openSettings);
+    connect(&actions_.quit, &QAction::triggered, this, &AppDelegate::quitRequested);
+}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::prepare() {
-    registerAppDefaults(around_.store);
-    SessionEvents* session = around_.platform.sessionEvents.get();
+    registerAppDefaults(services_.store);
+    SessionEvents* session = services_.platform.sessionEvents.get();
     connect(session, &SessionEvents::didWake, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::sessionDidBecomeActive, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::screenIsUnlocked, this, &AppDelegate::trigger);
@@ -69,7 +65,7 @@ void AppDelegate::prepare() {
             window_->overlay().letGo();
         }
     });
-    TrayHost* tray = around_.platform.trayHost.get();
+    TrayHost* tray = services_.platform.trayHost.get();
     connect(tray, &TrayHost::appeared, this, &AppDelegate::installStatusItem);
     if (tray->isPresent()) {
         installStatusItem();
@@ -78,7 +74,7 @@ void AppDelegate::prepare() {
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
     prepare();
-    if (arguments.contains("--settings")) {
+    if (arguments.contains("--settings"_L1)) {
         openSettings();
     } else {
         present(false, false);
@@ -86,11 +82,7 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
 }
 
 void AppDelegate::installStatusItem() {
-    statusItem_ =
-        std::make_unique<StatusItem>(StatusActions{.show = [this] { show(); },
-                                                   .editAppearance = [this] { editAppearance(); },
-                                                   .openSettings = [this] { openSettings(); },
-                                                   .terminate = around_.terminate});
+    statusItem_ = std::make_unique<StatusItem>(actions_);
 }
 
 void AppDelegate::show() {
@@ -102,7 +94,8 @@ void AppDelegate::editAppearance() {
 }
 
 void AppDelegate::trigger() {
-    if (Prefs::showOnWake(around_.store) && around_.timing.now() - lastShown_ > throttle) {
+    if (Prefs::showOnWake(services_.store) &&
+        services_.timing.now() - lastShown_ > throttleSeconds) {
         present(false, false);
     }
 }
@@ -111,107 +104,105 @@ void AppDelegate::present(bool preview, bool editing) {
     if (window_) {
         dismiss(false);
     }
-    lastShown_ = around_.timing.now();
-    QScreen* screen = around_.platform.mainScreen->current();
+    lastShown_ = services_.timing.now();
+    QScreen* screen = services_.platform.mainScreen->current();
     if (screen == nullptr) {
         return;
     }
-    auto window = std::make_unique<QuoteWindow>(*around_.platform.overlays, *screen,
+    auto window = std::make_unique<QuoteWindow>(*services_.platform.overlays, *screen,
                                                 overlaySetup(preview, editing));
-    const Behind behind = lookBehind(*window, *screen, editing);
-    const EditingHooks hooks{.onDone =
-                                 [self = QPointer(this)] {
-                                     if (self) {
-                                         self->dismiss(true);
-                                     }
-                                 },
-                             .lowerForDialog =
-                                 [w = QPointer(window.get())] {
-                                     if (w) {
-                                         w->overlay().setLevel(WindowLevel::Normal);
-                                     }
-                                 },
-                             .restoreAfterDialog =
-                                 [w = QPointer(window.get())] {
-                                     if (w) {
-                                         w->overlay().setLevel(WindowLevel::ScreenSaver);
-                                     }
-                                 },
-                             .glassCanBeDrawn = glassAvailable(behind)};
-    const QuoteContent content = around_.makeQuoteScreen(editing ? &hooks : nullptr);
-    if (content.setBehind) {
-        content.setBehind(behind);
+    QuoteScreen* content = makeQuoteScreen(captureBehind(*window, *screen, editing));
+    if (editing) {
+        addInspector(*content, window->overlay());
     }
-    window->setContent(content.widget);
+    window->setContent(content);
     window->setAlpha(0);
-    const auto loseIt = [this, lost = QPointer(window.get())] {
+    const auto handleThisLoss = [this, lost = QPointer(window.get())] {
         if (lost) {
-            lose(lost);
+            handleLoss(lost);
         }
     };
-    // Queued: the sender is still at work when it emits.
-    connect(&window->overlay(), &OverlayWindow::lost, this, loseIt, Qt::QueuedConnection);
-    connect(window.get(), &QuoteWindow::closed, this, loseIt, Qt::QueuedConnection);
+    // Queued, because the sender is still at work.
+    connect(&window->overlay(), &OverlayWindow::lost, this, handleThisLoss, Qt::QueuedConnection);
+    connect(window.get(), &QuoteWindow::closed, this, handleThisLoss, Qt::QueuedConnection);
     window->orderFront();
     window_ = std::move(window);
-    window_->fade(around_.timing, 1, fadeInSeconds, easeOut, [] {});
+    window_->fade(services_.timing, 1, fadeInSeconds, easeOut, [] {});
     if (preview) {
         return;
     }
-    installMonitor(editing);
+    monitor_ = std::make_unique<EventMonitor>(editing ? EndedBy::Escape : EndedBy::AnyInput,
+                                              *window_, window_->overlay().orderedFrontAt());
+    connect(monitor_.get(), &EventMonitor::endRequested, this, [this] { dismiss(true); });
     if (!editing) {
-        const double seconds = Prefs::dismissSeconds(around_.store);
-        // Written so that what is not a number gives the shortest.
-        autoDismiss_ = around_.timing.after(seconds > shortestShowing ? seconds : shortestShowing,
-                                            [this] { dismiss(true); });
+        const double seconds = Prefs::dismissSeconds(services_.store);
+        // The comparison is false for NaN, which gives the shortest showing.
+        autoDismiss_ = services_.timing.after(seconds > shortestShowing ? seconds : shortestShowing,
+                                              [this] { dismiss(true); });
     }
 }
 
-void AppDelegate::installMonitor(bool editing) {
-    const quint32 since = window_->overlay().orderedFrontAt();
-    if (editing) {
-        monitor_ = std::make_unique<EventMonitor>(keyDown, since, [this](const QEvent& event) {
-            if (keyCode(static_cast<const QKeyEvent&>(event)) != escapeKeyCode ||
-                somethingInFront(window_.get())) {
-                return false;
-            }
-            dismiss(true);
-            return true;
-        });
-    } else {
-        monitor_ = std::make_unique<EventMonitor>(closingEvents, since, [this](const QEvent&) {
-            dismiss(true);
-            return true;
-        });
-    }
+QuoteScreen* AppDelegate::makeQuoteScreen(const Behind& behind) {
+    auto box = std::make_unique<QuoteBox>(services_.store, services_.loader, services_.clock,
+                                          services_.random);
+    auto* screen = new QuoteScreen(services_.store, services_.fonts, services_.photos,
+                                   std::move(box), services_.clock);
+    screen->setBehind(behind);
+    return screen;
 }
 
-Behind AppDelegate::lookBehind(QuoteWindow& window, QScreen& screen, bool editing) {
+void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
+    InspectorSetup setup{.glassCanBeDrawn = glassAvailable(screen.behind()),
+                         .face =
+                             nsFont(services_.fonts, inspectorFaceSize, FontDesign::Default).face};
+    if (const QScreen* main = services_.platform.mainScreen->current()) {
+        setup.screen =
+            ScreenFrames{.whole = main->geometry(), .visible = main->availableGeometry()};
+    }
+    auto* inspector = new Inspector(services_.store, services_.photos,
+                                    *services_.platform.fileChooser, setup, &screen);
+    connect(inspector, &Inspector::done, this, [this] { dismiss(true); });
+    // The dialog can come in front of the window only while that is lowered.
+    connect(inspector, &Inspector::dialogOpening, &overlay,
+            [&overlay] { overlay.setLevel(WindowLevel::Normal); });
+    connect(inspector, &Inspector::dialogClosed, &overlay,
+            [&overlay] { overlay.setLevel(WindowLevel::ScreenSaver); });
+    screen.setInspector(inspector);
+}
+
+// Finds out what can be shown behind the window. The desktop is captured only
+// where its picture is needed: for the glass, or to fade over it.
+Behind AppDelegate::captureBehind(QuoteWindow& window, QScreen& screen, bool editing) {
     const SeeThrough through = window.overlay().seeThrough();
-    const bool looksThrough = editing || around_.store.real(K::transparency) > 0;
+    const bool looksThrough = editing || services_.store.real(K::transparency) > 0;
+    Behind behind;
     if (looksThrough || through == SeeThrough::No) {
-        const QImage picture = around_.platform.desktopPicture->capture(screen);
+        const QImage picture = services_.platform.desktopPicture->capture(screen);
         if (through == SeeThrough::No) {
             window.setDesktop(picture);
         }
         if (!picture.isNull() && looksThrough) {
-            return behindOf(Behind::Kind::Captured, picture);
+            behind.kind = Behind::Kind::Captured;
+            behind.picture = picture;
+            return behind;
         }
     }
     switch (through) {
     case SeeThrough::Plain:
-        return behindOf(Behind::Kind::Plain);
+        behind.kind = Behind::Kind::Plain;
+        break;
     case SeeThrough::Blurred:
-        return behindOf(Behind::Kind::LiveBlur);
+        behind.kind = Behind::Kind::LiveBlur;
+        break;
     case SeeThrough::No:
         break;
     }
-    return {};
+    return behind;
 }
 
 void AppDelegate::dismiss(bool animated) {
     autoDismiss_.reset();
-    // It may be the monitor's own call that leads here.
+    // It may be the monitor's own signal that leads here.
     if (EventMonitor* monitor = monitor_.release()) {
         QCoreApplication::instance()->removeEventFilter(monitor);
         monitor->deleteLater();
@@ -222,22 +213,22 @@ void AppDelegate::dismiss(bool animated) {
     QuoteWindow* leaving = window_.get();
     fadingOut_.push_back(std::move(window_));
     if (animated) {
-        leaving->fade(around_.timing, 0, fadeOutSeconds, easeIn,
-                      [this, leaving] { leave(leaving); });
+        leaving->fade(services_.timing, 0, fadeOutSeconds, easeIn,
+                      [this, leaving] { removeWindow(leaving); });
     } else {
-        leave(leaving);
+        removeWindow(leaving);
     }
 }
 
-void AppDelegate::lose(const QuoteWindow* window) {
+void AppDelegate::handleLoss(const QuoteWindow* window) {
     if (window_.get() == window) {
         dismiss(false);
     } else {
-        leave(window);
+        removeWindow(window);
     }
 }
 
-void AppDelegate::leave(const QuoteWindow* window) {
+void AppDelegate::removeWindow(const QuoteWindow* window) {
     const auto found = std::find_if(fadingOut_.begin(), fadingOut_.end(),
                                     [window](const auto& w) { return w.get() == window; });
     if (found == fadingOut_.end()) {
@@ -253,13 +244,15 @@ void AppDelegate::leave(const QuoteWindow* window) {
 
 void AppDelegate::openSettings() {
     if (!settingsWindow_) {
-        settingsWindow_ = std::make_unique<SettingsWindow>(
-            around_.makeSettingsView([this] { show(); }, [this] { editAppearance(); }));
-        if (const QScreen* screen = around_.platform.mainScreen->current()) {
+        auto* view = new SettingsView(services_.store, services_.loader,
+                                      *services_.platform.loginItem, actions_);
+        connect(view, &SettingsView::loginItemRefused, qApp, &QApplication::beep);
+        settingsWindow_ = std::make_unique<SettingsWindow>(view);
+        if (const QScreen* screen = services_.platform.mainScreen->current()) {
             settingsWindow_->place(screen->availableGeometry());
         }
     }
-    settingsWindow_->comeForward();
+    settingsWindow_->bringToFront();
 }
 
 } // namespace morrowleaf

@@ -8,72 +8,52 @@
 #include "app/settingswindow.h"
 #include "app/statusitem.h"
 #include "app/timing.h"
-#include "backdrop/backdropstate.h"
-#include "platform/platform.h"
+#include "settingsui/menuactions.h"
 
 #include <QObject>
 #include <QStringList>
 
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace morrowleaf {
 
-class SettingsStore;
+class OverlayWindow;
+class QuoteScreen;
+struct Behind;
+struct Services;
 
-// Escape, by the number that keyboards give it in the event monitor's terms.
-inline constexpr int escapeKeyCode = 53;
-inline constexpr EventMask closingEvents = leftMouseDown | rightMouseDown | keyDown;
-
-// What fills a quote window.
-struct QuoteContent {
-    QWidget* widget = nullptr;
-    std::function<void(const Behind&)> setBehind; // may be empty
-};
-
-// What the appearance editor may ask of the window around it.
-struct EditingHooks {
-    std::function<void()> onDone;
-    std::function<void()> lowerForDialog;
-    std::function<void()> restoreAfterDialog;
-    bool glassCanBeDrawn = false; // the desktop behind the window is known
-};
-
-// What the controller works with; all of it outlives the controller.
-struct AppSurroundings {
-    SettingsStore& store;
-    Platform& platform;
-    Timing& timing;
-    // A fresh quote screen, the appearance editor in it when hooks are given.
-    std::function<QuoteContent(const EditingHooks* editing)> makeQuoteScreen;
-    std::function<QWidget*(std::function<void()> onShowNow, std::function<void()> onEditAppearance)>
-        makeSettingsView;
-    std::function<void()> terminate;
-};
-
-// Decides when the quotation is shown and when it goes away, and owns the
-// windows and the status item.
+// The controller: decides when the quotation is shown and when it goes away,
+// and owns the windows, the menu's actions and the status item.
 class AppDelegate : public QObject {
     Q_OBJECT
 
 public:
-    explicit AppDelegate(AppSurroundings surroundings);
+    // `services` outlive the controller.
+    explicit AppDelegate(const Services& services);
     ~AppDelegate() override;
 
-    // Everything of a launch but its first window, for one that was asked for
-    // something else.
+    // Does everything of a launch except opening the first window. Call it when
+    // the launch was asked for something else.
     void prepare();
-    // With "--settings" among the arguments the settings window opens,
-    // otherwise the quotation is shown.
+    // Prepares, then opens the settings window when "--settings" is among the
+    // arguments, and shows the quotation otherwise.
     void applicationDidFinishLaunching(const QStringList& arguments);
 
-    // Without `preview` the screen is covered, and a click, a key or time
-    // closes it; with `editing` only Escape or the editor does.
+    // Shows the quotation on the main screen, in place of an earlier showing;
+    // does nothing while there is no screen. A click, a key or time ends the
+    // showing; with `editing`, Escape or the editor does; with `preview`, only
+    // the next call does.
     void present(bool preview, bool editing);
+    // Ends the showing, if there is one, with or without a fade.
     void dismiss(bool animated);
 
+    // Null while nothing is shown; a window that fades out no longer counts.
     const QuoteWindow* window() const { return window_.get(); }
+    // Null until first opened.
     const QWidget* settingsWindow() const { return settingsWindow_.get(); }
+    // Null until there is a panel to hold it.
     const StatusItem* statusItem() const { return statusItem_.get(); }
 
 public slots:
@@ -82,17 +62,20 @@ public slots:
     void openSettings();
 
 signals:
+    void quitRequested();
     void showingEnded(); // the last quote window has left the screen
 
 private:
     void trigger();
     void installStatusItem();
-    Behind lookBehind(QuoteWindow& window, QScreen& screen, bool editing);
-    void installMonitor(bool editing);
-    void lose(const QuoteWindow* window);
-    void leave(const QuoteWindow* window);
+    Behind captureBehind(QuoteWindow& window, QScreen& screen, bool editing);
+    QuoteScreen* makeQuoteScreen(const Behind& behind);
+    void addInspector(QuoteScreen& screen, OverlayWindow& overlay);
+    void handleLoss(const QuoteWindow* window);
+    void removeWindow(const QuoteWindow* window);
 
-    AppSurroundings around_;
+    const Services& services_;
+    MenuActions actions_;
     std::unique_ptr<QuoteWindow> window_;
     std::unique_ptr<EventMonitor> monitor_;
     Task autoDismiss_;

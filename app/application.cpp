@@ -3,24 +3,40 @@
 
 #include "app/application.h"
 
-#include "app/desktoprun.h"
-#include "app/launch.h"
+#include "app/appdelegate.h"
 #include "app/resources.h"
 #include "app/selftest.h"
+#include "app/services.h"
+#include "app/timing.h"
+#include "photos/bgstore.h"
 #include "platform/chooser.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
+#include "settingsui/hostpalette.h"
+#include "sources/fetchquote.h"
 #include "textanim/fonts.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QThread>
+#include <QThreadPool>
+#include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <utility>
 
 namespace morrowleaf {
 
 namespace {
 
-// The modes of one line work without a display.
+using namespace Qt::Literals::StringLiterals;
+
+constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
+constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
+constexpr int requestPatience = 1500; // milliseconds
+
+// Prints one line. These modes work without a display.
 void runLineMode(int& argc, char** argv, Mode mode) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
@@ -36,20 +52,140 @@ void runLineMode(int& argc, char** argv, Mode mode) {
     std::fflush(stdout);
 }
 
+LaunchRequest launchRequest(const QStringList& arguments) {
+    return {.action = arguments.contains("--settings"_L1) ? u"settings"_s : u"show"_s,
+            .activationToken = qEnvironmentVariable(activationToken)};
+}
+
+void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
+    if (!request.activationToken.isEmpty()) {
+        // Qt takes it from there for the next window.
+        qputenv(activationToken, request.activationToken.toUtf8());
+    }
+    if (request.action == "settings"_L1) {
+        delegate.openSettings();
+    } else if (request.action == "edit-appearance"_L1) {
+        delegate.editAppearance();
+    } else if (request.action == "quit"_L1) {
+        QCoreApplication::exit(0);
+    } else {
+        delegate.show();
+    }
+}
+
+// Begins with what the arguments ask for; where the bus started the program,
+// with the request that follows at once instead.
+void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& arguments) {
+    const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
+    qunsetenv(startedByBus);
+    auto launched = std::make_shared<bool>(false);
+    QObject::connect(&instance, &SingleInstance::requested, &delegate,
+                     [&delegate, launched](const LaunchRequest& request) {
+                         if (!std::exchange(*launched, true)) {
+                             delegate.prepare();
+                         }
+                         carryOut(request, delegate);
+                     });
+    const auto begin = [&delegate, launched, arguments] {
+        if (!std::exchange(*launched, true)) {
+            delegate.applicationDidFinishLaunching(arguments);
+        }
+    };
+    if (requestFollows) {
+        QTimer::singleShot(requestPatience, &delegate, begin);
+    } else {
+        begin();
+    }
+}
+
+// Runs from the making of the application object to its end.
+int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& workers,
+                 const QStringList& arguments) {
+    Platform platform = makePlatform(windowSystem);
+    if (!platform.instance->claim(launchRequest(arguments))) {
+        return 0;
+    }
+    // exit(), since quit() asks the windows first, which is for documents.
+    const auto quit = [] { QCoreApplication::exit(0); };
+    QObject::connect(platform.quitRequests.get(), &QuitRequests::requested, &app, quit);
+    followColorScheme(*platform.colorScheme);
+    FontBook fonts;
+    fonts.registerBundledFonts(fontFolder());
+    SettingsStore store;
+    SettingsFile file(store, defaultSettingsPath());
+    BGStore photos(store, backgroundFolder(), ownPhotoFolder(), workers);
+    QuoteFetcher fetcher;
+    const auto timing = makeSystemTiming();
+    const Services services{.store = store,
+                            .fonts = fonts,
+                            .photos = photos,
+                            .loader = fetcher.loader(),
+                            .platform = platform,
+                            .timing = *timing};
+    AppDelegate delegate(services);
+    QObject::connect(&delegate, &AppDelegate::quitRequested, &app, quit);
+    QObject::connect(&delegate, &AppDelegate::showingEnded, &app, platform.giveMemoryBack,
+                     Qt::QueuedConnection);
+    launch(delegate, *platform.instance, arguments);
+    return QApplication::exec();
+}
+
+// Runs as the program of the desktop until the user quits, or hands the
+// arguments to the instance that runs already.
+int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
+    const WindowSystem windowSystem = chooseWindowSystem();
+    if (!isReachable(windowSystem)) {
+        std::fputs("There is no display to show anything on.\n", stderr);
+        return 1;
+    }
+    QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(u"Morrowleaf"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QThreadPool workers;
+    // One core stays free for drawing.
+    workers.setMaxThreadCount(std::max(QThread::idealThreadCount() - 1, 1));
+    const int status = runUntilQuit(app, windowSystem, workers, arguments);
+    if (!workers.waitForDone(0)) {
+        // A photo is still being decoded; the pool's destructor would wait for it.
+        std::_Exit(status);
+    }
+    return status;
+}
+
 } // namespace
+
+Mode modeFor(const QStringList& arguments) {
+    if (arguments.contains("--selftest"_L1)) {
+        return Mode::SelfTest;
+    }
+    if (arguments.contains("--register-login"_L1)) {
+        return Mode::RegisterLogin;
+    }
+    return Mode::Desktop;
+}
+
+QString registerLogin(LoginItem& item) {
+    if (const auto error = item.registerItem()) {
+        return "login item failed: "_L1 + *error;
+    }
+    return item.status() == LoginItem::Status::Enabled
+               ? u"login item: enabled"_s
+               : u"login item: registered, pending approval"_s;
+}
 
 int runApplication(int argc, char** argv) {
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);
     }
-    // The toolkit would read, and refuse, arguments of its own.
-    int ownName = argc > 0 ? 1 : 0;
+    // Qt would read, and refuse, arguments of its own.
+    int programName = argc > 0 ? 1 : 0;
     const Mode mode = modeFor(arguments);
     if (mode == Mode::Desktop) {
-        return runOnDesktop(ownName, argv, arguments);
+        return runOnDesktop(programName, argv, arguments);
     }
-    runLineMode(ownName, argv, mode);
+    runLineMode(programName, argv, mode);
     return 0;
 }
 

@@ -3,10 +3,22 @@
 
 #pragma once
 
+#include "platform/loginitem.h"
+
+#include <QStringList>
+
 namespace morrowleaf {
 
-// The whole program: one of its modes, chosen by the arguments. Gives the
-// exit status, 0 in every mode.
+enum class Mode { SelfTest, RegisterLogin, Desktop };
+
+// The mode that the arguments ask for; unknown arguments are ignored.
+Mode modeFor(const QStringList& arguments);
+
+// Registers the login item. Gives the line that tells the user how it went.
+QString registerLogin(LoginItem& item);
+
+// Runs the whole program in the mode that the arguments ask for. Gives the exit
+// status: 0, or 1 when the desktop mode finds no display.
 int runApplication(int argc, char** argv);
 
 } // namespace morrowleaf

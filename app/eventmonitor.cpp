@@ -3,40 +3,19 @@
 
 #include "app/eventmonitor.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace morrowleaf {
 
 namespace {
 
-EventMask kindOf(const QEvent& event) {
-    switch (event.type()) {
-    case QEvent::KeyPress:
-        return isKeyDown(static_cast<const QKeyEvent&>(event)) ? keyDown : 0;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        switch (static_cast<const QMouseEvent&>(event).button()) {
-        case Qt::LeftButton:
-            return leftMouseDown;
-        case Qt::RightButton:
-            return rightMouseDown;
-        default:
-            return 0;
-        }
-    default:
-        return 0;
-    }
-}
-
-// Such keys change nothing that is on the screen, and a hand that looks for
-// quiet does not ask for the quotation to go.
-bool worksTheMachine(int key) {
+// Turning the volume down is no wish to see the quotation go.
+bool operatesMachine(int key) {
     static constexpr std::array keys{Qt::Key_VolumeDown,
                                      Qt::Key_VolumeMute,
                                      Qt::Key_VolumeUp,
@@ -79,17 +58,7 @@ bool worksTheMachine(int key) {
     return std::find(keys.begin(), keys.end(), key) != keys.end();
 }
 
-bool isBefore(quint64 timestamp, quint32 since) {
-    if (since == 0 || timestamp == 0) {
-        return false;
-    }
-    // The server's clock wraps every 49 days.
-    return static_cast<qint32>(static_cast<quint32>(timestamp) - since) < 0;
-}
-
-} // namespace
-
-bool isKeyDown(const QKeyEvent& event) {
+bool isTyping(const QKeyEvent& event) {
     switch (event.key()) {
     case Qt::Key_Shift:
     case Qt::Key_Control:
@@ -110,28 +79,61 @@ bool isKeyDown(const QKeyEvent& event) {
         return false;
     case 0:
     case Qt::Key_unknown:
-        // Shifts of further levels and the machine's own keys have no name here.
+        // Qt has no names for the shifts of further levels and some machines' own keys.
         return !event.text().isEmpty();
     default:
-        return !worksTheMachine(event.key());
+        return !operatesMachine(event.key());
     }
 }
 
-EventMonitor::EventMonitor(EventMask mask, quint32 since, Consumes consumes)
-    : mask_(mask)
-    , since_(since)
-    , consumes_(std::move(consumes)) {
+bool isBefore(quint64 timestamp, quint32 since) {
+    if (since == 0 || timestamp == 0) {
+        return false;
+    }
+    // The server's clock wraps every 49 days.
+    return static_cast<qint32>(static_cast<quint32>(timestamp) - since) < 0;
+}
+
+bool isMenuOrDialogInFront(const QWidget& window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return QApplication::activePopupWidget() != nullptr || (modal != nullptr && modal != &window);
+}
+
+} // namespace
+
+EventMonitor::EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since)
+    : endedBy_(endedBy)
+    , window_(window)
+    , since_(since) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
+bool EventMonitor::endsShowing(const QEvent& event) const {
+    switch (event.type()) {
+    case QEvent::KeyPress: {
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        return endedBy_ == EndedBy::Escape
+                   ? key.key() == Qt::Key_Escape && !isMenuOrDialogInFront(window_)
+                   : isTyping(key);
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+        const Qt::MouseButton button = static_cast<const QMouseEvent&>(event).button();
+        return endedBy_ == EndedBy::AnyInput &&
+               (button == Qt::LeftButton || button == Qt::RightButton);
+    }
+    default:
+        return false;
+    }
+}
+
 bool EventMonitor::eventFilter(QObject* /*receiver*/, QEvent* event) {
-    if ((kindOf(*event) & mask_) == 0 ||
+    if (!endsShowing(*event) ||
         isBefore(static_cast<const QInputEvent*>(event)->timestamp(), since_)) {
         return false;
     }
-    // The answer may destroy this monitor.
-    const auto consumes = consumes_;
-    return consumes(*event);
+    emit endRequested();
+    return true;
 }
 
 } // namespace morrowleaf

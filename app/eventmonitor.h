@@ -5,41 +5,41 @@
 
 #include <QObject>
 
-#include <functional>
-
-class QKeyEvent;
+class QWidget;
 
 namespace morrowleaf {
 
-// Kinds of input events, as flags.
-using EventMask = unsigned;
-inline constexpr EventMask leftMouseDown = 1U << 1U;
-inline constexpr EventMask rightMouseDown = 1U << 3U;
-inline constexpr EventMask keyDown = 1U << 10U;
+// What ends a showing.
+enum class EndedBy {
+    AnyInput, // the left or right mouse button, a touch, or a key
+    Escape,   // that key only, and a menu or dialog in front takes it first
+};
 
-// Whether a key press is one that a program is meant to get: not that of a
-// modifier or a lock alone, nor of a key that works the machine, as those for
-// loudness and brightness do.
-bool isKeyDown(const QKeyEvent& event);
-
-// Watches the input of the whole program as long as it lives. An event of the
-// mask is given to `consumes`; when that answers true, nobody else gets it.
+// Watches the input of the whole program while it lives. An event that ends the
+// showing is announced by a signal and reaches nobody else.
+//
+// Keys that are no typing do not count: a modifier or lock alone, and those
+// that operate the machine, such as for volume and brightness.
 class EventMonitor : public QObject {
     Q_OBJECT
 
 public:
-    using Consumes = std::function<bool(const QEvent& event)>;
-    // Events with a time stamp before `since` are not looked at (milliseconds
-    // that wrap at 32 bits; 0 looks at all).
-    EventMonitor(EventMask mask, quint32 since, Consumes consumes);
+    // `window` is that of the showing. Events with a time stamp before `since`
+    // are ignored (milliseconds that wrap at 32 bits; 0 ignores none).
+    EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since);
+
+signals:
+    void endRequested();
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    EventMask mask_;
+    bool endsShowing(const QEvent& event) const;
+
+    EndedBy endedBy_;
+    const QWidget& window_;
     quint32 since_;
-    Consumes consumes_;
 };
 
 } // namespace morrowleaf

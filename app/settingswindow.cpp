@@ -36,10 +36,10 @@ SettingsWindow::SettingsWindow(QWidget* view)
 void SettingsWindow::place(const QRect& available) {
     available_ = available;
     // No frame is there yet; one with a title bar of the usual height will be.
-    moveTo(size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
+    moveIntoPlace(size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
 }
 
-void SettingsWindow::comeForward() {
+void SettingsWindow::bringToFront() {
     if (isVisible() && !isActiveWindow()) {
         // It may be on another workspace; shown anew, it comes up on this one.
         hide();
@@ -55,13 +55,13 @@ void SettingsWindow::paintEvent(QPaintEvent* event) {
     if (!available_.isEmpty()) {
         // On screen, so the frame is known.
         QTimer::singleShot(0, this, [this] {
-            moveTo(frameGeometry().size());
+            moveIntoPlace(frameGeometry().size());
             available_ = {};
         });
     }
 }
 
-void SettingsWindow::moveTo(const QSize& frame) {
+void SettingsWindow::moveIntoPlace(const QSize& frame) {
     const QPoint origin = settingsWindowOrigin(available_, frame);
     if (pos() != origin && !available_.isEmpty()) {
         move(origin);

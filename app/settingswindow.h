@@ -21,13 +21,13 @@ public:
     void place(const QRect& available);
 
     // Comes to the front, also out of an icon, and takes the keyboard.
-    void comeForward();
+    void bringToFront();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void moveTo(const QSize& frame);
+    void moveIntoPlace(const QSize& frame);
 
     QRect available_; // empty once it stands where it belongs
 };

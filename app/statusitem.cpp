@@ -3,53 +3,105 @@
 
 #include "app/statusitem.h"
 
-#include "app/symbolicon.h"
+#include "app/resources.h"
+#include "settingsui/menuactions.h"
 
 #include <QCursor>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QSvgRenderer>
+
+#include <array>
 
 namespace morrowleaf {
 
 namespace {
 
-// A menu without a window to hang on can be placed on X11 alone.
+using namespace Qt::Literals::StringLiterals;
+
+// Panels ask for one of these; each is drawn from the drawing that was fitted
+// to its pixel grid.
+struct Size {
+    int pixels;
+    QLatin1StringView drawing;
+};
+constexpr std::array sizes{Size{16, "quote-sym-16.svg"_L1}, Size{22, "quote-sym-22.svg"_L1},
+                           Size{24, "quote-sym-24.svg"_L1}, Size{32, "quote-sym-16.svg"_L1},
+                           Size{44, "quote-sym-22.svg"_L1}, Size{48, "quote-sym-24.svg"_L1},
+                           Size{64, "quote-sym-16.svg"_L1}, Size{96, "quote-sym-24.svg"_L1},
+                           Size{128, "quote-sym-16.svg"_L1}};
+
+QPixmap drawSymbol(const Size& size, const QColor& colour) {
+    QSvgRenderer drawing(iconFolder() + u'/' + size.drawing);
+    if (!drawing.isValid()) {
+        return {};
+    }
+    QPixmap pixmap(size.pixels, size.pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    drawing.render(&painter, QRectF(0, 0, size.pixels, size.pixels));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), colour);
+    return pixmap;
+}
+
+// In one colour; empty when the files of the symbol are missing.
+QIcon symbolIn(const QColor& colour) {
+    QIcon icon;
+    for (const Size& size : sizes) {
+        const QPixmap pixmap = drawSymbol(size, colour);
+        if (!pixmap.isNull()) {
+            icon.addPixmap(pixmap);
+        }
+    }
+    return icon;
+}
+
+// In a tone that can be read on the panels of this desktop.
+QIcon panelSymbol() {
+    // Where the symbol is installed the panel tints it itself.
+    QIcon themed = QIcon::fromTheme(u"org.morrowleaf.Morrowleaf-symbolic"_s);
+    const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+    if (!themed.isNull() && (desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1))) {
+        return themed;
+    }
+    return symbolIn(QGuiApplication::palette().color(QPalette::WindowText));
+}
+
+// A menu without a parent window can be placed on X11 only.
 bool canPopUpAnywhere() {
-    return !QGuiApplication::platformName().startsWith("wayland");
+    return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
 } // namespace
 
-StatusItem::StatusItem(const StatusActions& actions) {
-    const auto add = [this](const QString& title, const QKeySequence& keys,
-                            const std::function<void()>& action) {
-        auto* entry = menu_.addAction(title);
-        entry->setShortcut(keys);
-        entry->setShortcutVisibleInContextMenu(true);
-        QObject::connect(entry, &QAction::triggered, &menu_, action);
-    };
-    add("Show Today's Quote", QKeySequence("Ctrl+S"), actions.show);
-    add("Edit Appearance…", QKeySequence("Ctrl+E"), actions.editAppearance);
-    add("Settings…", QKeySequence("Ctrl+,"), actions.openSettings);
+StatusItem::StatusItem(MenuActions& actions) {
+    menu_.addActions({&actions.showQuote, &actions.editAppearance, &actions.openSettings});
     menu_.addSeparator();
-    add("Quit", QKeySequence("Ctrl+Q"), actions.terminate);
+    menu_.addAction(&actions.quit);
 
     icon_.setIcon(panelSymbol());
-    icon_.setToolTip("Morrowleaf");
+    icon_.setToolTip(u"Morrowleaf"_s);
     icon_.setContextMenu(&menu_);
-    QObject::connect(&icon_, &QSystemTrayIcon::activated, &menu_,
-                     [this, show = actions.show](QSystemTrayIcon::ActivationReason reason) {
-                         if (reason != QSystemTrayIcon::Trigger) {
-                             return;
-                         }
-                         if (canPopUpAnywhere()) {
-                             menu_.popup(QCursor::pos());
-                         } else {
-                             show();
-                         }
-                     });
+    connect(&icon_, &QSystemTrayIcon::activated, this,
+            [this, &actions](QSystemTrayIcon::ActivationReason reason) {
+                handleClick(reason, actions.showQuote);
+            });
     icon_.show();
     menu_.installEventFilter(this);
+}
+
+void StatusItem::handleClick(QSystemTrayIcon::ActivationReason reason, QAction& showQuote) {
+    if (reason != QSystemTrayIcon::Trigger) {
+        return;
+    }
+    if (canPopUpAnywhere()) {
+        menu_.popup(QCursor::pos());
+    } else {
+        showQuote.trigger();
+    }
 }
 
 bool StatusItem::eventFilter(QObject* /*watched*/, QEvent* event) {

@@ -3,28 +3,23 @@
 
 #pragma once
 
+#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
-#include <functional>
-
 namespace morrowleaf {
 
-struct StatusActions {
-    std::function<void()> show;
-    std::function<void()> editAppearance;
-    std::function<void()> openSettings;
-    std::function<void()> terminate;
-};
+struct MenuActions;
 
-// The program's symbol in the panel, with its menu.
+// The program's symbol in the panel, with its menu. Make it only while a panel
+// is present: Qt looks for one once, when the first item is made.
 class StatusItem : public QObject {
     Q_OBJECT
 
 public:
-    explicit StatusItem(const StatusActions& actions);
+    // `actions` outlive the item.
+    explicit StatusItem(MenuActions& actions);
 
-    QMenu& menu() { return menu_; }
     const QMenu& menu() const { return menu_; }
 
 protected:
@@ -32,6 +27,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void handleClick(QSystemTrayIcon::ActivationReason reason, QAction& showQuote);
+
     QMenu menu_;
     QSystemTrayIcon icon_;
 };

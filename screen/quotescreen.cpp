@@ -50,13 +50,16 @@ QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
 } // namespace
 
 struct QuoteScreen::Private {
-    Private(QuoteScreen& owner, const ScreenSurroundings& surroundings)
+    Private(QuoteScreen& owner, SettingsStore& settings, const FontBook& book, BGStore& bgStore,
+            std::unique_ptr<QuoteBox> quoteBox, Clock wallClock, Monotonic monotonic)
         : screen(owner)
-        , around(surroundings)
-        , box(around.store, around.loader, around.clock, around.random)
-        , frames(around.monotonic)
-        , photo(around.photos)
-        , glass(around.photos.workers()) {}
+        , store(settings)
+        , fonts(book)
+        , clock(std::move(wallClock))
+        , box(std::move(quoteBox))
+        , frames(std::move(monotonic))
+        , photo(bgStore)
+        , glass(bgStore.workers()) {}
 
     double sideInset() const { return inspector ? inspectorWidth : 0; }
     double sinceAppearance() const { return frames.now() - appearedAt; }
@@ -79,8 +82,10 @@ struct QuoteScreen::Private {
     void draw(QImage& target, const QRegion& region);
 
     QuoteScreen& screen;
-    ScreenSurroundings around;
-    QuoteBox box;
+    SettingsStore& store;
+    const FontBook& fonts;
+    Clock clock;
+    std::unique_ptr<QuoteBox> box;
     FrameClock frames;
     PhotoShowing photo;
     GlassShowing glass;
@@ -106,7 +111,7 @@ struct QuoteScreen::Private {
 QuoteViewState QuoteScreen::Private::viewState(const Moment& moment,
                                                const ViewSettings& settings) const {
     QuoteViewState state;
-    state.quote = box.quote();
+    state.quote = box->quote();
     state.settings = settings;
     state.palette = viewPalette(settings, photo.readable(), moment);
     const QScreen* main = screen.screen();
@@ -138,18 +143,18 @@ void QuoteScreen::Private::appear() {
 }
 
 void QuoteScreen::Private::evaluate() {
-    const ViewSettings settings = readViewSettings(around.store);
+    const ViewSettings settings = readViewSettings(store);
     const double seconds = sinceAppearance();
     if (settings.bgImagePath != photoWanted) {
         photoWanted = settings.bgImagePath;
         photoWantedAt = seconds;
     }
     photo.want(settings.bgImagePath, (QSizeF(screen.size()) * screen.devicePixelRatioF()).toSize());
-    const QuoteViewState state = viewState(around.clock(), settings);
+    const QuoteViewState state = viewState(clock(), settings);
     if (view) {
         view->update(state, seconds);
     } else {
-        view.emplace(state, around.fonts);
+        view.emplace(state, fonts);
     }
     backdrop = backdropFor(settings, state.palette, photo.readable());
     backdrop.behind = behind;
@@ -203,7 +208,7 @@ void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
     backdrop.behind.glassOpacity = std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
     if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
         backdropTickShown = backdropTick(seconds);
-        backdropInstant = around.clock().unixSeconds - unixToReference;
+        backdropInstant = clock().unixSeconds - unixToReference;
     }
 }
 
@@ -276,24 +281,21 @@ void QuoteScreen::Private::draw(QImage& target, const QRegion& region) {
     }
 }
 
-QuoteScreen::QuoteScreen(const ScreenSurroundings& surroundings, std::optional<Editing> editing,
+QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& photos,
+                         std::unique_ptr<QuoteBox> box, Clock clock, Monotonic monotonic,
                          QWidget* parent)
     : QWidget(parent)
-    , d_(std::make_unique<Private>(*this, surroundings)) {
+    , d_(std::make_unique<Private>(*this, store, fonts, photos, std::move(box), std::move(clock),
+                                   std::move(monotonic))) {
     installSpokenTexts();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
-    if (editing && editing->inspector) {
-        d_->inspector = editing->inspector(this, editing->onDone);
-    }
-    d_->placeInspector(0);
-
     const auto refresh = [this] {
         d_->stale = true;
         update();
     };
-    connect(&surroundings.store, &SettingsStore::changed, this, refresh);
-    connect(&d_->box, &QuoteBox::quoteChanged, this, [this, refresh] {
+    connect(&store, &SettingsStore::changed, this, refresh);
+    connect(d_->box.get(), &QuoteBox::quoteChanged, this, [this, refresh] {
         refresh();
         announceSpokenTexts(*this);
     });
@@ -310,10 +312,21 @@ QuoteScreen::QuoteScreen(const ScreenSurroundings& surroundings, std::optional<E
 
 QuoteScreen::~QuoteScreen() = default;
 
+void QuoteScreen::setInspector(QWidget* inspector) {
+    d_->inspector = inspector;
+    inspector->setParent(this);
+    inspector->show();
+    d_->placeInspector(0);
+}
+
 void QuoteScreen::setBehind(const Behind& behind) {
     d_->behind = behind;
     d_->stale = true;
     update();
+}
+
+const Behind& QuoteScreen::behind() const {
+    return d_->behind;
 }
 
 const QuoteView* QuoteScreen::view() const {
@@ -325,8 +338,8 @@ bool QuoteScreen::awake() const {
 }
 
 SpokenTexts QuoteScreen::spokenTexts() const {
-    const Moment moment = d_->around.clock();
-    const Quote& quote = d_->box.quote();
+    const Moment moment = d_->clock();
+    const Quote& quote = d_->box->quote();
     return {beginningOf(quote.text, spokenLimit), beginningOf(quote.author, spokenLimit),
             greeting(moment), today(moment, QLocale::system()), hintText(d_->sideInset())};
 }

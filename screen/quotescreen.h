@@ -5,38 +5,21 @@
 
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
-#include "base/randomindex.h"
-#include "quotes/quote.h"
 #include "screen/frameclock.h"
 #include "screen/spokentexts.h"
 
 #include <QWidget>
 
-#include <functional>
 #include <memory>
-#include <optional>
 
 namespace morrowleaf {
 
 class BGStore;
 class FontBook;
+class QuoteBox;
 class QuoteView;
 class SettingsStore;
 
-// What a quote screen needs of the world; all of it outlives the screen.
-struct ScreenSurroundings {
-    SettingsStore& store;
-    const FontBook& fonts;
-    BGStore& photos;
-    Clock clock;
-    RandomIndex random;
-    QuoteLoader loader;
-    Monotonic monotonic = steadySeconds(); // times the entrances
-};
-
-// Builds the appearance editor as a child of the screen; the screen places it
-// at its right edge.
-using InspectorFactory = std::function<QWidget*(QWidget* parent, std::function<void()> onDone)>;
 inline constexpr int inspectorWidth = 320; // points
 
 // The whole content of the quote window: the quotation over its backdrop and,
@@ -46,16 +29,19 @@ class QuoteScreen : public QWidget, public SpeakingWidget {
     Q_OBJECT
 
 public:
-    struct Editing {
-        InspectorFactory inspector;
-        std::function<void()> onDone;
-    };
-    explicit QuoteScreen(const ScreenSurroundings& surroundings,
-                         std::optional<Editing> editing = std::nullopt, QWidget* parent = nullptr);
+    // Shows the quotation of `box`, with the date and the greeting of `clock`;
+    // `monotonic` times the entrances. The referenced objects outlive the screen.
+    QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& photos,
+                std::unique_ptr<QuoteBox> box, Clock clock, Monotonic monotonic = steadySeconds(),
+                QWidget* parent = nullptr);
     ~QuoteScreen() override;
 
+    // Takes over the appearance editor, which slides in at the right edge while
+    // the quotation keeps clear of it. Call before the first frame.
+    void setInspector(QWidget* inspector);
     // What lies behind the window; may be called again when a capture arrives.
     void setBehind(const Behind& behind);
+    const Behind& behind() const;
 
     // Null before the first frame.
     const QuoteView* view() const;

@@ -13,6 +13,7 @@
 #include "settingsui/panelbutton.h"
 #include "settingsui/panelscrollbar.h"
 #include "settingsui/panelstyle.h"
+#include "settingsui/photochooser.h"
 #include "settingsui/photogroup.h"
 #include "settingsui/switch.h"
 
@@ -50,11 +51,15 @@ double headerTopPadding(const std::optional<ScreenFrames>& screen) {
     return screen ? qMax(screen->visible.top() - screen->whole.top() + 8, 24) : 38;
 }
 
-Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<void()> onDone,
-                     QWidget* parent)
+Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
+                     InspectorSetup setup, QWidget* parent)
     : QWidget(parent)
-    , around_(surroundings)
-    , onDone_(std::move(onDone)) {
+    , store_(store)
+    , photos_(photos)
+    , setup_(std::move(setup))
+    , photoChooser_(new PhotoChooser(files, this)) {
+    connect(photoChooser_, &PhotoChooser::opening, this, &Inspector::dialogOpening);
+    connect(photoChooser_, &PhotoChooser::closed, this, &Inspector::dialogClosed);
     setFixedWidth(width);
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
@@ -84,10 +89,10 @@ Inspector::Inspector(const InspectorSurroundings& surroundings, std::function<vo
 QWidget* Inspector::makeHeader() {
     auto* header = new QWidget(this);
     auto* row = new QHBoxLayout(header);
-    row->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(around_.screen)),
+    row->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(setup_.screen)),
                             PanelStyle::margin, 14);
     row->addWidget(panelLabel(QStringLiteral("APPEARANCE"),
-                              panelFont(around_.face, 10, QFont::Medium, 2.2), 0.55, header));
+                              panelFont(setup_.face, 10, QFont::Medium, 2.2), 0.55, header));
     row->addStretch(1);
     return header;
 }
@@ -97,7 +102,7 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
     auto* group = new QVBoxLayout;
     group->setSpacing(PanelStyle::titleSpacing);
     QLabel* label =
-        panelLabel(title.toUpper(), panelFont(around_.face, 9, QFont::Medium, 1.8), 0.4, this);
+        panelLabel(title.toUpper(), panelFont(setup_.face, 9, QFont::Medium, 1.8), 0.4, this);
     label->setAccessibleName(title);
     label->setContentsMargins(PanelStyle::focusRoom, 0, 0, 0);
     group->addWidget(label);
@@ -122,8 +127,8 @@ QWidget* Inspector::makePicker(const QString& name, const QString& key, const QS
     for (const auto& [value, text] : entries) {
         list.push_back({value, text});
     }
-    auto* picker = new MenuPicker(name, std::move(list), around_.face, this);
-    SettingsStore& store = around_.store;
+    auto* picker = new MenuPicker(name, std::move(list), setup_.face, this);
+    SettingsStore& store = store_;
     auto* binding = new Binding(store, key, picker, [picker, &store, key, fallback] {
         picker->showValue(textOr(store, key, fallback));
     });
@@ -133,8 +138,8 @@ QWidget* Inspector::makePicker(const QString& name, const QString& key, const QS
 }
 
 QWidget* Inspector::makeGroups() {
-    SettingsStore& store = around_.store;
-    const QFont& face = around_.face;
+    SettingsStore& store = store_;
+    const QFont& face = setup_.face;
     auto* groups = new QWidget(this);
     auto* column = new QVBoxLayout(groups);
     column->setContentsMargins(
@@ -155,7 +160,7 @@ QWidget* Inspector::makeGroups() {
 
     addGroup(*column, QStringLiteral("Palette"), {new PaletteGroup(store, face, this)});
     addGroup(*column, QStringLiteral("Your photo"),
-             {new PhotoGroup(store, around_.photos, around_.choosePhoto, face, this)});
+             {new PhotoGroup(store, photos_, *photoChooser_, face, this)});
     addGroup(*column, QStringLiteral("Typeface"),
              {makePicker(QStringLiteral("Typeface"), K::font, QStringLiteral("serif"),
                          {{QStringLiteral("fraunces"), QStringLiteral("Fraunces")},
@@ -168,7 +173,7 @@ QWidget* Inspector::makeGroups() {
     addGroup(*column, QStringLiteral("Vignette"),
              {knob("Vignette", K::vignette, {0, 0.85, 0.55}, plainReadout)});
     Knob* transparency = knob("Transparency", K::transparency, {0, 1, 0}, percentReadout);
-    if (around_.glassCanBeDrawn) {
+    if (setup_.glassCanBeDrawn) {
         Switch* glass = smallSwitch("Liquid Glass", K::liquidGlass);
         new Binding(store, K::transparency, glass, [glass, &store] {
             glass->setEnabled(realOr(store, K::transparency, 0) >= leastGlass);
@@ -193,16 +198,16 @@ QWidget* Inspector::makeFooter() {
     auto* row = new QHBoxLayout(footer);
     row->setContentsMargins(PanelStyle::margin - 1 - PanelButton::sidePadding, 10,
                             PanelStyle::margin, 12);
-    const QFont font = panelFont(around_.face, 12);
+    const QFont font = panelFont(setup_.face, 12);
     auto* resetButton = new PanelButton(QStringLiteral("Reset"), PanelButton::Kind::Plain, footer);
-    auto* done = new PanelButton(QStringLiteral("Done"), PanelButton::Kind::Default, footer);
+    auto* doneButton = new PanelButton(QStringLiteral("Done"), PanelButton::Kind::Default, footer);
     resetButton->setFont(font);
-    done->setFont(panelFont(around_.face, 12, QFont::DemiBold));
+    doneButton->setFont(panelFont(setup_.face, 12, QFont::DemiBold));
     connect(resetButton, &QAbstractButton::clicked, this, &Inspector::reset);
-    connect(done, &QAbstractButton::clicked, this, [this] { onDone_(); });
+    connect(doneButton, &QAbstractButton::clicked, this, &Inspector::done);
     row->addWidget(resetButton);
     row->addStretch(1);
-    row->addWidget(done);
+    row->addWidget(doneButton);
     return footer;
 }
 
@@ -220,7 +225,7 @@ void Inspector::reset() {
         {K::grain, true},
     };
     for (const Factory& setting : factory) {
-        around_.store.set(setting.key, setting.value);
+        store_.set(setting.key, setting.value);
     }
 }
 
@@ -232,7 +237,7 @@ void Inspector::paintEvent(QPaintEvent* /*event*/) {
 
 void Inspector::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        onDone_();
+        emit done();
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -3,13 +3,10 @@
 
 #pragma once
 
-#include "settingsui/photochooser.h"
-
 #include <QFont>
 #include <QRect>
 #include <QWidget>
 
-#include <functional>
 #include <optional>
 
 class QScrollArea;
@@ -18,6 +15,8 @@ class QVBoxLayout;
 namespace morrowleaf {
 
 class BGStore;
+class FileChooser;
+class PhotoChooser;
 class SettingsStore;
 
 // Where a screen is and which part of it panels leave free; points, y down.
@@ -26,33 +25,37 @@ struct ScreenFrames {
     QRect visible;
 };
 
-// What the editor needs of the world; all of it outlives the editor.
-struct InspectorSurroundings {
-    SettingsStore& store;
-    BGStore& photos;
-    PhotoChooser choosePhoto;
-    bool glassCanBeDrawn = false;
-    QFont face{};                         // the system font; its size is of no meaning
-    std::optional<ScreenFrames> screen{}; // of the main screen, nothing without one
+// How the editor is laid out.
+struct InspectorSetup {
+    bool glassCanBeDrawn = false;         // adds the switch "Liquid Glass"
+    QFont face{};                         // the system font; its size is ignored
+    std::optional<ScreenFrames> screen{}; // the main screen; std::nullopt without one
 };
 
-// Room above the header, so that it clears a panel at the screen's top.
+// Points above the header, so that it clears a panel at the screen's top.
 double headerTopPadding(const std::optional<ScreenFrames>& screen);
 
 // The appearance editor at the right edge of the quote screen. Every control
-// writes its setting the moment it changes. Keys: Tab goes through the
-// controls, Space presses one, Return runs `onDone`.
+// writes its setting the moment it changes. Tab goes through the controls, Space
+// presses one, Return presses "Done".
 class Inspector : public QWidget {
     Q_OBJECT
 
 public:
     static constexpr int width = 320; // points
 
-    explicit Inspector(
-        const InspectorSurroundings& surroundings, std::function<void()> onDone = [] {},
-        QWidget* parent = nullptr);
+    // The referenced objects outlive the editor.
+    Inspector(SettingsStore& store, BGStore& photos, FileChooser& files, InspectorSetup setup = {},
+              QWidget* parent = nullptr);
 
     QSize sizeHint() const override { return {width, 600}; }
+
+signals:
+    void done(); // the user has finished
+    // Around the dialog that adds a photo: just before it opens and once it has
+    // gone. The window must make way for it meanwhile.
+    void dialogOpening();
+    void dialogClosed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -70,8 +73,10 @@ private:
                         const std::vector<std::pair<QString, QString>>& entries);
     void reset();
 
-    InspectorSurroundings around_;
-    std::function<void()> onDone_;
+    SettingsStore& store_;
+    BGStore& photos_;
+    InspectorSetup setup_;
+    PhotoChooser* photoChooser_;
     QScrollArea* scroll_ = nullptr;
 };
 

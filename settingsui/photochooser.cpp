@@ -9,12 +9,15 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QStandardPaths>
 
 namespace morrowleaf {
 namespace {
 
-constexpr QLatin1StringView title{"Add a Photo"};
+using namespace Qt::Literals::StringLiterals;
+
+constexpr auto title = "Add a Photo"_L1;
 
 QStringList mimeTypes() {
     QStringList types;
@@ -30,15 +33,15 @@ QStringList nameFilters() {
     QStringList patterns;
     for (const QByteArray& format : QImageReader::supportedImageFormats()) {
         if (!format.startsWith("svg")) {
-            patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-            patterns.append(QStringLiteral("*.") + QString::fromLatin1(format).toUpper());
+            patterns.append(u"*."_s + QString::fromLatin1(format));
+            patterns.append(u"*."_s + QString::fromLatin1(format).toUpper());
         }
     }
-    return {QStringLiteral("Images (%1)").arg(patterns.join(QLatin1Char(' ')))};
+    return {u"Images (%1)"_s.arg(patterns.join(u' '))};
 }
 
-// Escape belongs to the dialog while it is open, before anything else in the
-// program that waits for it.
+// Gives Escape to the dialog while it is open, before anything else in the
+// program that waits for that key.
 class EscapeCloses : public QObject {
 public:
     explicit EscapeCloses(QDialog* dialog)
@@ -56,7 +59,7 @@ protected:
         if (QWidget* popup = QApplication::activePopupWidget()) {
             popup->close();
         } else if (QApplication::activeModalWidget() != dialog_) {
-            return false; // a question of the dialog's own, which it waits for
+            return false; // a question of the dialog's own, which comes first
         } else {
             dialog_->reject();
         }
@@ -67,28 +70,62 @@ private:
     QDialog* dialog_;
 };
 
-using Picked = std::function<void(std::optional<QString>)>;
+} // namespace
 
-void askByToolkit(const QWidget& window, Picked picked) {
-    // Without a parent: the picture's window may be one that no window
-    // manager knows.
+PhotoChooser::PhotoChooser(FileChooser& desktop, QWidget* parent)
+    : QObject(parent)
+    , desktop_(desktop) {}
+
+void PhotoChooser::choose() {
+    if (isOpen_) {
+        return;
+    }
+    isOpen_ = true;
+    emit opening();
+    const FileQuestion question{.title = title, .kindName = u"Images"_s, .mimeTypes = mimeTypes()};
+    QWidget& window = *static_cast<QWidget*>(parent())->window();
+    desktop_.ask(window, question, [self = QPointer(this)](const FileAnswer& answer) {
+        if (!self) {
+            return;
+        }
+        switch (answer.kind) {
+        case FileAnswer::Kind::Chosen:
+            return self->finish(answer.path);
+        case FileAnswer::Kind::Cancelled:
+            return self->finish(std::nullopt);
+        case FileAnswer::Kind::Unavailable:
+            return self->chooseWithQt();
+        }
+    });
+}
+
+void PhotoChooser::finish(const std::optional<QString>& path) {
+    isOpen_ = false;
+    emit closed();
+    if (path) {
+        emit picked(*path);
+    }
+}
+
+void PhotoChooser::chooseWithQt() {
+    // Without a parent: no window manager may know the window of the quotation.
     auto* dialog = new QFileDialog(nullptr, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // The settings' window, which may be open, stays above ordinary ones too.
+    // The settings window, which may be open, stays above ordinary ones too.
     dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     dialog->setNameFilters(nameFilters());
     dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    QObject::connect(
-        dialog, &QFileDialog::finished, dialog, [dialog, picked = std::move(picked)](int result) {
-            const QStringList files = dialog->selectedFiles();
-            picked(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
-                                                                   : std::nullopt);
-        });
-    // It goes without an answer, for whom it would be has gone; but not while
-    // it waits for the answer to a question of its own.
-    QObject::connect(&window, &QObject::destroyed, dialog, [dialog] {
+    connect(dialog, &QFileDialog::finished, this, [this, dialog](int result) {
+        const QStringList files = dialog->selectedFiles();
+        finish(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
+                                                               : std::nullopt);
+    });
+    // Goes with the window, unless it waits for the answer to a question of its
+    // own.
+    const QWidget* window = static_cast<QWidget*>(parent())->window();
+    connect(window, &QObject::destroyed, dialog, [dialog] {
         if (QApplication::activeModalWidget() == dialog) {
             dialog->hide();
             dialog->deleteLater();
@@ -98,37 +135,6 @@ void askByToolkit(const QWidget& window, Picked picked) {
     dialog->open();
     dialog->raise();
     dialog->activateWindow();
-}
-
-} // namespace
-
-PhotoChooser photoDialog(FileChooser& desktop, std::function<void()> lower,
-                         std::function<void()> restore) {
-    return [&desktop, lower = std::move(lower), restore = std::move(restore)](QWidget* window,
-                                                                              Picked picked) {
-        const Picked finish = [restore,
-                               picked = std::move(picked)](const std::optional<QString>& path) {
-            if (restore) {
-                restore();
-            }
-            picked(path);
-        };
-        if (lower) {
-            lower();
-        }
-        const FileQuestion question{
-            .title = title, .kindName = QStringLiteral("Images"), .mimeTypes = mimeTypes()};
-        desktop.ask(*window, question, [finish, window](const FileAnswer& answer) {
-            switch (answer.kind) {
-            case FileAnswer::Kind::Chosen:
-                return finish(answer.path);
-            case FileAnswer::Kind::Cancelled:
-                return finish(std::nullopt);
-            case FileAnswer::Kind::Unavailable:
-                return askByToolkit(*window, finish);
-            }
-        });
-    };
 }
 
 } // namespace morrowleaf

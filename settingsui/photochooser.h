@@ -3,9 +3,8 @@
 
 #pragma once
 
-#include <QString>
+#include <QObject>
 
-#include <functional>
 #include <optional>
 
 class QWidget;
@@ -14,16 +13,31 @@ namespace morrowleaf {
 
 class FileChooser;
 
-// Lets the user pick one picture file, without blocking; `picked` is called
-// exactly once, later, with nothing when the user cancels; not at all when
-// `window` goes before.
-using PhotoChooser =
-    std::function<void(QWidget* window, std::function<void(std::optional<QString>)> picked)>;
+// Lets the user pick one picture file: in the desktop's dialog, or in Qt's
+// where the desktop has none. Never blocks.
+class PhotoChooser : public QObject {
+    Q_OBJECT
 
-// The desktop's dialog, or the toolkit's where the desktop has none. `lower`
-// runs before it opens and `restore` after it has gone, whichever way.
-// `desktop` outlives the chooser.
-PhotoChooser photoDialog(FileChooser& desktop, std::function<void()> lower,
-                         std::function<void()> restore);
+public:
+    // The dialog belongs to the window of `parent`, and goes with it.
+    // `desktop` outlives the chooser.
+    PhotoChooser(FileChooser& desktop, QWidget* parent);
+
+    // Opens the dialog; does nothing while it is open.
+    void choose();
+
+signals:
+    void opening(); // emitted just before the dialog opens
+    void closed();  // after it has gone, whichever way
+    // Follows closed() unless the user cancelled; an absolute local path.
+    void picked(const QString& path);
+
+private:
+    void chooseWithQt();
+    void finish(const std::optional<QString>& path);
+
+    FileChooser& desktop_;
+    bool isOpen_ = false;
+};
 
 } // namespace morrowleaf

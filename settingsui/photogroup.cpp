@@ -9,6 +9,7 @@
 #include "settingsui/binding.h"
 #include "settingsui/panelaccessible.h"
 #include "settingsui/panelstyle.h"
+#include "settingsui/photochooser.h"
 #include "settingsui/swatch.h"
 #include "settingsui/thumbnails.h"
 
@@ -32,12 +33,12 @@ QString spokenName(const QString& path) {
 
 } // namespace
 
-PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choose,
+PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser,
                        const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store)
     , photos_(photos)
-    , choose_(std::move(choose))
+    , chooser_(chooser)
     , face_(face)
     , thumbnails_(new Thumbnails(photos, this))
     , builtins_(photos.builtins())
@@ -51,6 +52,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choos
     for (int column = 0; column < PanelStyle::photoColumns; ++column) {
         grid->setColumnStretch(column, 1);
     }
+    connect(&chooser_, &PhotoChooser::picked, this, &PhotoGroup::addPhoto);
     connect(thumbnails_, &Thumbnails::ready, this, &PhotoGroup::fetchPictures);
     new Binding(store_, K::customBGs, this, [this] { rebuild(); });
     new Binding(store_, K::bgImage, this, [this] { mark(); });
@@ -78,12 +80,12 @@ void PhotoGroup::rebuild() {
         auto* corner = new QGridLayout(swatch);
         corner->setContentsMargins(2, 2, 2, 2);
         corner->addWidget(cross, 0, 0, Qt::AlignTop | Qt::AlignRight);
-        connect(cross, &QAbstractButton::clicked, this, [this, path] { remove(path); });
+        connect(cross, &QAbstractButton::clicked, this, [this, path] { photos_.remove(path); });
         cells_.append(swatch);
     }
     if (customBGs_.size() < BGStore::limit) {
         auto* tile = new AddTile(face_, this);
-        connect(tile, &QAbstractButton::clicked, this, &PhotoGroup::addPhoto);
+        connect(tile, &QAbstractButton::clicked, &chooser_, &PhotoChooser::choose);
         cells_.append(tile);
     }
     place();
@@ -165,28 +167,10 @@ bool PhotoGroup::event(QEvent* event) {
     return QWidget::event(event);
 }
 
-void PhotoGroup::remove(const QString& path) {
-    photos_.remove(path);
-}
-
-void PhotoGroup::addPhoto() {
-    if (choosing_ || !choose_) {
-        return;
-    }
-    choosing_ = true;
-    const QPointer<PhotoGroup> self(this);
-    choose_(window(), [self](const std::optional<QString>& picked) {
-        if (!self) {
-            return;
-        }
-        self->choosing_ = false;
-        if (picked) {
-            self->photos_.add(*picked,
-                              [self, store = &self->store_](const std::optional<QString>& added) {
-                                  if (self && added) {
-                                      store->set(K::bgImage, *added);
-                                  }
-                              });
+void PhotoGroup::addPhoto(const QString& path) {
+    photos_.add(path, [self = QPointer(this)](const std::optional<QString>& added) {
+        if (self && added) {
+            self->store_.set(K::bgImage, *added);
         }
     });
 }

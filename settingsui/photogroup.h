@@ -3,14 +3,13 @@
 
 #pragma once
 
-#include "settingsui/photochooser.h"
-
+#include <QFont>
 #include <QWidget>
 
 namespace morrowleaf {
 
-class AddTile;
 class BGStore;
+class PhotoChooser;
 class PhotoSwatch;
 class SettingsStore;
 class Thumbnails;
@@ -21,10 +20,9 @@ class PhotoGroup : public QWidget {
     Q_OBJECT
 
 public:
-    PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser choose, const QFont& face,
+    // The referenced objects outlive the group.
+    PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser, const QFont& face,
                QWidget* parent = nullptr);
-
-    void addPhoto();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -37,11 +35,11 @@ private:
     void place();
     void mark();
     void fetchPictures();
-    void remove(const QString& path);
+    void addPhoto(const QString& path);
 
     SettingsStore& store_;
     BGStore& photos_;
-    PhotoChooser choose_;
+    PhotoChooser& chooser_;
     QFont face_;
     Thumbnails* thumbnails_;
     QStringList builtins_;
@@ -49,7 +47,6 @@ private:
     QStringList customBGs_;
     QList<QWidget*> cells_;
     QList<PhotoSwatch*> swatches_;
-    bool choosing_ = false;
 };
 
 } // namespace morrowleaf

@@ -3,13 +3,15 @@
 
 #include "settingsui/settingsview.h"
 
+#include "platform/loginitem.h"
 #include "settings/prefs.h"
 #include "settings/settingskeys.h"
 #include "settingsui/binding.h"
 #include "settingsui/formcard.h"
 #include "settingsui/formpicker.h"
 #include "settingsui/formslider.h"
-#include "settingsui/loginswitch.h"
+#include "settingsui/menuactions.h"
+#include "settingsui/switch.h"
 #include "sources/sourcepresets.h"
 
 #include <QFontDatabase>
@@ -21,6 +23,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -73,6 +76,12 @@ QPushButton* roomyButton(const QString& text, QWidget* parent) {
     return button;
 }
 
+QPushButton* actionButton(QAction& action, QWidget* parent) {
+    QPushButton* button = roomyButton(action.text(), parent);
+    QObject::connect(button, &QPushButton::clicked, &action, &QAction::trigger);
+    return button;
+}
+
 class Line : public QWidget {
 public:
     explicit Line(QWidget* parent)
@@ -88,9 +97,13 @@ protected:
 
 } // namespace
 
-SettingsView::SettingsView(SettingsSurroundings surroundings, QWidget* parent)
+SettingsView::SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& loginItem,
+                           MenuActions& actions, QWidget* parent)
     : QWidget(parent)
-    , around_(std::move(surroundings)) {
+    , store_(store)
+    , loader_(std::move(loader))
+    , loginItem_(loginItem)
+    , actions_(actions) {
     setFixedSize(settingsViewSize);
     auto* form = new QWidget;
     auto* sections = new QVBoxLayout(form);
@@ -131,15 +144,14 @@ void SettingsView::addAppearance(FormCard& card) {
     auto* text = quietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
                             Emphasis::Secondary, row);
     text->setFont(scaled(font(), 0.95));
-    auto* edit = roomyButton(QStringLiteral("Edit Appearance…"), row);
-    connect(edit, &QPushButton::clicked, this, [this] { around_.onEditAppearance(); });
+    auto* edit = actionButton(actions_.editAppearance, row);
     layout->addWidget(text, 1);
     layout->addWidget(edit);
     card.addRow(row);
 }
 
 void SettingsView::addBehaviour(FormCard& card) {
-    SettingsStore& store = around_.store;
+    SettingsStore& store = store_;
     auto* wake =
         new Switch(QStringLiteral("Show on wake and unlock"), Switch::Size::Regular, &card);
     bindSwitch(*wake, store, K::showOnWake, true);
@@ -154,7 +166,21 @@ void SettingsView::addBehaviour(FormCard& card) {
     card.addRow(QStringLiteral("New quote"), frequency);
 
     card.addRow(makeCloseAfter());
-    card.addRow(new LoginSwitch(around_.loginItem, around_.beep, &card));
+    card.addRow(makeLoginSwitch());
+}
+
+QWidget* SettingsView::makeLoginSwitch() {
+    auto* control = new Switch(QStringLiteral("Open at login"), Switch::Size::Regular, this);
+    const auto isEnabled = [this] { return loginItem_.status() == LoginItem::Status::Enabled; };
+    control->setChecked(isEnabled());
+    connect(control, &QAbstractButton::toggled, this, [this, control, isEnabled](bool on) {
+        if (on ? loginItem_.registerItem() : loginItem_.unregisterItem()) {
+            const QSignalBlocker blocker(control);
+            control->setChecked(isEnabled());
+            emit loginItemRefused();
+        }
+    });
+    return control;
 }
 
 QWidget* SettingsView::makeCloseAfter() {
@@ -178,7 +204,7 @@ QWidget* SettingsView::makeCloseAfter() {
     layout->addWidget(slider);
     layout->addWidget(readout);
 
-    SettingsStore& store = around_.store;
+    SettingsStore& store = store_;
     auto* binding = new Binding(store, K::dismiss, slider, [slider, readout, &store] {
         const double seconds = realOr(store, K::dismiss, 15);
         slider->setValue(qRound(std::clamp(seconds, shortest, longest)));
@@ -198,11 +224,11 @@ QPushButton* SettingsView::makePresets() {
     auto* menu = new QMenu(button);
     for (const SourcePreset& preset : sourcePresets) {
         menu->addAction(preset.label.toString(), this, [this, address = preset.address] {
-            around_.store.set(K::source, QString(address));
+            store_.set(K::source, QString(address));
         });
     }
     menu->addAction(QStringLiteral("Built-in list"), this,
-                    [this] { around_.store.set(K::source, QString()); });
+                    [this] { store_.set(K::source, QString()); });
     button->setMenu(menu);
     return button;
 }
@@ -212,7 +238,7 @@ void SettingsView::addQuotes(FormCard& card) {
     source->setPlaceholderText(QStringLiteral("Leave empty for the built-in 124 quotes"));
     source->setMinimumWidth(330);
     source->setTextMargins(4, 0, 4, 0);
-    bindText(*source, around_.store, K::source, {});
+    bindText(*source, store_, K::source, {});
     card.addRow(QStringLiteral("Source URL"), source);
 
     auto* row = new QWidget(&card);
@@ -246,13 +272,9 @@ QWidget* SettingsView::makeBottomBar() {
     auto* bar = new QWidget(this);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(barPadding, barPadding, barPadding, barPadding);
-    auto* show = roomyButton(QStringLiteral("Show Today's Quote"), bar);
-    auto* quit = roomyButton(QStringLiteral("Quit"), bar);
-    connect(show, &QPushButton::clicked, this, [this] { around_.onShowNow(); });
-    connect(quit, &QPushButton::clicked, this, [this] { around_.quit(); });
-    layout->addWidget(show);
+    layout->addWidget(actionButton(actions_.showQuote, bar));
     layout->addStretch(1);
-    layout->addWidget(quit);
+    layout->addWidget(actionButton(actions_.quit, bar));
     return bar;
 }
 
@@ -266,9 +288,9 @@ void SettingsView::test() {
     }
     testButton_->setEnabled(false);
     testButton_->setText(QStringLiteral("Testing…"));
-    tell({});
+    showTestResult({});
     const QPointer<SettingsView> self(this);
-    around_.loader(Prefs::source(around_.store), [self](const std::optional<Quote>& quote) {
+    loader_(Prefs::source(store_), [self](const std::optional<Quote>& quote) {
         if (!self) {
             return;
         }
@@ -277,13 +299,13 @@ void SettingsView::test() {
         if (self->testButton_->parentWidget()->hasFocus()) {
             self->testButton_->setFocus();
         }
-        self->tell(quote ? QChar(0x201C) + quote->text + QChar(0x201D) + QStringLiteral(" — ") +
-                               quote->author
-                         : QStringLiteral("No quote found at that source."));
+        self->showTestResult(quote ? QChar(0x201C) + quote->text + QChar(0x201D) +
+                                         QStringLiteral(" — ") + quote->author
+                                   : QStringLiteral("No quote found at that source."));
     });
 }
 
-void SettingsView::tell(const QString& testResult) {
+void SettingsView::showTestResult(const QString& testResult) {
     testResult_->setText(breakable(testResult));
     testResult_->setAccessibleName(testResult);
     testResult_->setVisible(!testResult.isEmpty());

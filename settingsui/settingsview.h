@@ -5,10 +5,7 @@
 
 #include "quotes/quote.h"
 
-#include <QCoreApplication>
 #include <QWidget>
-
-#include <functional>
 
 class QLabel;
 class QPushButton;
@@ -17,18 +14,8 @@ namespace morrowleaf {
 
 class FormCard;
 class LoginItem;
+struct MenuActions;
 class SettingsStore;
-
-// What the settings need of the world; all of it outlives the view.
-struct SettingsSurroundings {
-    SettingsStore& store;
-    QuoteLoader loader;
-    LoginItem& loginItem;
-    std::function<void()> beep = [] {};
-    std::function<void()> onShowNow = [] {};
-    std::function<void()> onEditAppearance = [] {};
-    std::function<void()> quit = [] { QCoreApplication::quit(); };
-};
 
 inline constexpr QSize settingsViewSize(520, 545); // points
 
@@ -38,10 +25,19 @@ class SettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SettingsView(SettingsSurroundings surroundings, QWidget* parent = nullptr);
+    // `loader` is called with the source that is to be tested. The referenced
+    // objects outlive the view.
+    SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& loginItem,
+                 MenuActions& actions, QWidget* parent = nullptr);
 
-    // Tries the source that is set and tells what came of it.
+    // Loads a quotation from the source that is set and shows the outcome. Does
+    // nothing while a test runs.
     void test();
+
+signals:
+    // The system refused to change the start at login, and the switch has gone
+    // back to the system's state.
+    void loginItemRefused();
 
 private:
     void addAppearance(FormCard& card);
@@ -50,9 +46,13 @@ private:
     QWidget* makeCloseAfter();
     QWidget* makeBottomBar();
     QPushButton* makePresets();
-    void tell(const QString& testResult);
+    QWidget* makeLoginSwitch();
+    void showTestResult(const QString& text);
 
-    SettingsSurroundings around_;
+    SettingsStore& store_;
+    QuoteLoader loader_;
+    LoginItem& loginItem_;
+    MenuActions& actions_;
     QPushButton* testButton_ = nullptr;
     QLabel* testResult_ = nullptr;
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "settingsui/switch.h"
 #include "tests/app/appdelegatefixture.h"
 
 #include <QAccessible>
@@ -8,6 +9,12 @@
 
 namespace morrowleaf {
 namespace {
+
+bool hasGlassSwitch(const Inspector& editor) {
+    const auto switches = editor.findChildren<Switch*>();
+    return std::any_of(switches.begin(), switches.end(),
+                       [](const Switch* s) { return s->text() == "Liquid Glass"; });
+}
 
 TEST_F(AppDelegateTest, SecondPresentReplacesWithoutFade) {
     launch();
@@ -90,7 +97,6 @@ TEST_F(AppDelegateTest, WithoutAScreenNothingIsShownYetTheThrottleRuns) {
     delegate->show();
     EXPECT_EQ(showings(), 1);
     EXPECT_FALSE(isShown());
-    EXPECT_EQ(screensMade, 1);
     desktop.hasScreen = true;
     timing.jump(8);
     wake();
@@ -133,34 +139,34 @@ TEST_F(AppDelegateTest, DesktopIsCapturedOnlyWhereItIsSeen) {
     desktop.picture = QImage(8, 8, QImage::Format_RGB32);
     launch();
     EXPECT_EQ(desktop.captures, 0);
-    EXPECT_EQ(behind->kind, Behind::Kind::Plain);
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::Plain);
     store.set(K::transparency, 0.5);
     delegate->show();
     EXPECT_EQ(desktop.captures, 1);
-    EXPECT_EQ(behind->kind, Behind::Kind::Captured);
-    EXPECT_FALSE(behind->picture.isNull());
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::Captured);
+    EXPECT_FALSE(content()->behind().picture.isNull());
     store.set(K::transparency, 0.0);
     delegate->editAppearance();
-    EXPECT_EQ(behind->kind, Behind::Kind::Captured);
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::Captured);
 }
 
 TEST_F(AppDelegateTest, TheEditorKnowsWhetherGlassCanBeDrawn) {
     desktop.picture = QImage(8, 8, QImage::Format_RGB32);
     launch();
     delegate->editAppearance();
-    EXPECT_TRUE(hooks.value().glassCanBeDrawn);
+    EXPECT_TRUE(hasGlassSwitch(*editor()));
     desktop.picture = {};
     for (const auto through : {SeeThrough::Plain, SeeThrough::Blurred, SeeThrough::No}) {
         desktop.seeThrough = through;
         delegate->editAppearance();
-        EXPECT_FALSE(hooks.value().glassCanBeDrawn);
+        EXPECT_FALSE(hasGlassSwitch(*editor()));
     }
 }
 
 TEST_F(AppDelegateTest, EscapeInTheSettingsEndsTheEditingAndNothingElse) {
     launchAndClose();
     delegate->openSettings();
-    edit();
+    pressButton(delegate->settingsWindow(), "Edit Appearance…");
     auto* settings = const_cast<QWidget*>(delegate->settingsWindow());
     auto* field = settings->findChild<QLineEdit*>();
     QTest::keyClicks(field, "kept");
@@ -177,13 +183,13 @@ TEST_F(AppDelegateTest, WithoutACaptureTheNextRungHolds) {
     store.set(K::transparency, 0.5);
     desktop.seeThrough = SeeThrough::Blurred;
     launch();
-    EXPECT_EQ(behind->kind, Behind::Kind::LiveBlur);
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::LiveBlur);
     desktop.seeThrough = SeeThrough::Plain;
     delegate->show();
-    EXPECT_EQ(behind->kind, Behind::Kind::Plain);
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::Plain);
     desktop.seeThrough = SeeThrough::No;
     delegate->show();
-    EXPECT_EQ(behind->kind, Behind::Kind::Nothing);
+    EXPECT_EQ(content()->behind().kind, Behind::Kind::Nothing);
 }
 
 TEST_F(AppDelegateTest, AnOpaqueWindowFadesOverTheDesktop) {
@@ -191,10 +197,7 @@ TEST_F(AppDelegateTest, AnOpaqueWindowFadesOverTheDesktop) {
     desktop.picture = QImage(QGuiApplication::primaryScreen()->size(), QImage::Format_RGB32);
     desktop.picture.fill(Qt::green);
     launch();
-    QPalette blue;
-    blue.setColor(QPalette::Window, Qt::blue);
-    content->setPalette(blue);
-    content->setAutoFillBackground(true);
+    paintBlue();
     auto* window = desktop.overlays.back()->window;
     EXPECT_EQ(window->grab().toImage().pixelColor(50, 50), QColor(Qt::green));
     timing.pass(0.1);
@@ -207,10 +210,7 @@ TEST_F(AppDelegateTest, AnOpaqueWindowFadesOverTheDesktop) {
 
 TEST_F(AppDelegateTest, ASeeThroughWindowFadesByItsAlpha) {
     launch();
-    QPalette blue;
-    blue.setColor(QPalette::Window, Qt::blue);
-    content->setPalette(blue);
-    content->setAutoFillBackground(true);
+    paintBlue();
     QWidget* window = top().window;
     const auto pixel = [window] {
         QImage image(window->size(), QImage::Format_ARGB32_Premultiplied);
@@ -230,6 +230,8 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     launchAndClose();
     delegate->openSettings();
     auto* window = const_cast<QWidget*>(delegate->settingsWindow());
+    auto* view = window->findChild<SettingsView*>();
+    const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
     EXPECT_EQ(window->windowTitle(), "Morrowleaf Settings");
     EXPECT_EQ(window->size(), QSize(520, 545));
     EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
@@ -244,8 +246,8 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     EXPECT_EQ(delegate->settingsWindow(), window);
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->findChild<QLineEdit*>()->text(), "kept");
-    EXPECT_EQ(viewsMade, 1);
-    EXPECT_EQ(terminations, 0);
+    EXPECT_EQ(window->findChildren<SettingsView*>(), QList{view});
+    EXPECT_EQ(quits.count(), 0);
 }
 
 TEST_F(AppDelegateTest, SettingsWindowComesBackOutOfAnIcon) {
@@ -273,13 +275,16 @@ TEST_F(AppDelegateTest, WindowsAreWindowsToAScreenReader) {
 TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
     launchAndClose();
     delegate->openSettings();
-    showNow();
+    pressButton(delegate->settingsWindow(), "Show Today's Quote");
     EXPECT_EQ(showings(), 2);
-    EXPECT_FALSE(hooks);
-    edit();
+    EXPECT_EQ(editor(), nullptr);
+    pressButton(delegate->settingsWindow(), "Edit Appearance…");
     EXPECT_EQ(showings(), 3);
-    EXPECT_TRUE(hooks);
+    EXPECT_NE(editor(), nullptr);
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
+    const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
+    pressButton(delegate->settingsWindow(), "Quit");
+    EXPECT_EQ(quits.count(), 1);
 }
 
 TEST_F(AppDelegateTest, StatusItemComesWithItsHostAndAnewWithAnother) {
@@ -306,13 +311,14 @@ TEST_F(AppDelegateTest, MenuEntriesInOrder) {
                                   "Settings…|Ctrl+,", "-", "Quit|Ctrl+Q"}));
     entries[0]->trigger();
     EXPECT_EQ(showings(), 2);
-    EXPECT_FALSE(hooks);
+    EXPECT_EQ(editor(), nullptr);
     entries[1]->trigger();
-    EXPECT_TRUE(hooks);
+    EXPECT_NE(editor(), nullptr);
     entries[2]->trigger();
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
+    const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
     entries[4]->trigger();
-    EXPECT_EQ(terminations, 1);
+    EXPECT_EQ(quits.count(), 1);
 }
 
 TEST_F(AppDelegateTest, GoesWithEverythingStillRunning) {

@@ -1,27 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "settingsui/swatch.h"
 #include "tests/app/appdelegatefixture.h"
 
 namespace morrowleaf {
 namespace {
 
-TEST_F(AppDelegateTest, NumbersOfTheWindow) {
-    EXPECT_EQ(closingEvents, 1034U);
-    EXPECT_EQ(escapeKeyCode, 53);
-}
-
 TEST_F(AppDelegateTest, LaunchRegistersDefaultsAndShowsOnce) {
     launch();
     EXPECT_EQ(store.real(K::dismiss), 15);
     EXPECT_EQ(showings(), 1);
-    EXPECT_EQ(screensMade, 1);
-    EXPECT_EQ(viewsMade, 0);
+    EXPECT_EQ(delegate->settingsWindow(), nullptr);
     EXPECT_EQ(top().setup.level, WindowLevel::ScreenSaver);
     EXPECT_EQ(top().setup.hold, InputHold::KeyboardAndMouse);
     EXPECT_EQ(top().fronts, 1);
     EXPECT_EQ(top().window->geometry(), QGuiApplication::primaryScreen()->geometry());
-    EXPECT_EQ(content->size(), top().window->size());
+    EXPECT_EQ(content()->size(), top().window->size());
 }
 
 TEST_F(AppDelegateTest, LaunchShowsEvenWithShowOnWakeOff) {
@@ -126,9 +121,9 @@ TEST_F(AppDelegateTest, MiddleClickAndWheelDoNotClose) {
     launch();
     click(Qt::MiddleButton);
     click(Qt::BackButton);
-    QTest::mouseMove(content, {5, 5});
+    QTest::mouseMove(content(), {5, 5});
     QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(content, &wheel);
+    QCoreApplication::sendEvent(content(), &wheel);
     EXPECT_TRUE(isShown());
 }
 
@@ -193,12 +188,12 @@ TEST_F(AppDelegateTest, ClosingEventsAreConsumed) {
         int seen = 0;
     } counter;
     launch();
-    content->installEventFilter(&counter);
+    content()->installEventFilter(&counter);
     click(Qt::LeftButton);
     EXPECT_EQ(counter.seen, 0);
     launch();
-    content->installEventFilter(&counter);
-    content->setFocus();
+    content()->installEventFilter(&counter);
+    content()->setFocus();
     press(Qt::Key_Space);
     EXPECT_EQ(counter.seen, 0);
 }
@@ -222,7 +217,7 @@ TEST_F(AppDelegateTest, EditingClosesByEscapeAlone) {
     delegate->editAppearance();
     EXPECT_EQ(top().setup.level, WindowLevel::ScreenSaver);
     EXPECT_EQ(top().setup.hold, InputHold::KeyboardIfNeeded);
-    ASSERT_TRUE(hooks);
+    ASSERT_NE(editor(), nullptr);
     click(Qt::LeftButton);
     click(Qt::RightButton);
     press(Qt::Key_A);
@@ -250,22 +245,38 @@ TEST_F(AppDelegateTest, EscapeClosesAnOpenMenuFirst) {
 TEST_F(AppDelegateTest, DoneClosesTheEditor) {
     launchAndClose();
     delegate->editAppearance();
-    hooks->onDone();
+    pressButton(top().window, "Done");
     EXPECT_FALSE(isShown());
-    const auto late = hooks->onDone;
+    emit editor()->done(); // while it fades out
+    EXPECT_EQ(top().outs, 0);
     timing.pass(1);
-    late();
+    EXPECT_EQ(top().outs, 1);
+}
+
+TEST_F(AppDelegateTest, ReturnClosesTheEditor) {
+    launchAndClose();
+    delegate->editAppearance();
+    QTest::keyClick(editor(), Qt::Key_Return);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(AppDelegateTest, ADialogMayOutliveTheEditor) {
+    launchAndClose();
+    delegate->editAppearance();
+    editor()->findChild<AddTile*>()->click();
     delegate.reset();
-    late();
-    hooks->lowerForDialog();
-    hooks->restoreAfterDialog();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    desktop.files->answer({.kind = FileAnswer::Kind::Chosen, .path = "/late.png"});
+    EXPECT_EQ(store.text(K::bgImage), "");
 }
 
 TEST_F(AppDelegateTest, TheEditorLowersTheWindowForDialogs) {
     launchAndClose();
     delegate->editAppearance();
-    hooks->lowerForDialog();
-    hooks->restoreAfterDialog();
+    editor()->findChild<AddTile*>()->click();
+    EXPECT_EQ(desktop.files->asked, 1);
+    EXPECT_EQ(top().levels, std::vector{WindowLevel::Normal});
+    desktop.files->answer({.kind = FileAnswer::Kind::Cancelled, .path = {}});
     EXPECT_EQ(top().levels, (std::vector{WindowLevel::Normal, WindowLevel::ScreenSaver}));
 }
 
@@ -286,7 +297,7 @@ TEST_F(AppDelegateTest, PreviewHasNeitherMonitorNorTimer) {
     delegate->present(true, false);
     EXPECT_EQ(top().setup.level, WindowLevel::Normal);
     EXPECT_EQ(top().setup.hold, InputHold::FocusOnly);
-    EXPECT_FALSE(hooks);
+    EXPECT_EQ(editor(), nullptr);
     click(Qt::LeftButton);
     press(Qt::Key_Escape);
     timing.pass(100);

@@ -5,51 +5,32 @@
 
 #include "app/appdelegate.h"
 
+#include "app/services.h"
 #include "base/curves.h"
+#include "photos/bgstore.h"
+#include "screen/quotescreen.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settingsui/inspector.h"
+#include "settingsui/settingsview.h"
 #include "tests/fakes/fakeplatform.h"
 #include "tests/fakes/faketiming.h"
+#include "tests/fakes/shippedfonts.h"
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace morrowleaf {
 
 class AppDelegateTest : public testing::Test {
 protected:
-    AppSurroundings surroundings() {
-        return {
-            .store = store,
-            .platform = desktop.platform,
-            .timing = timing,
-            .makeQuoteScreen =
-                [this](const EditingHooks* editing) {
-                    ++screensMade;
-                    hooks = editing != nullptr ? std::optional(*editing) : std::nullopt;
-                    content = new QWidget;
-                    return QuoteContent{.widget = content,
-                                        .setBehind = [this](const Behind& b) { behind = b; }};
-                },
-            .makeSettingsView =
-                [this](std::function<void()> onShowNow, std::function<void()> onEditAppearance) {
-                    ++viewsMade;
-                    showNow = std::move(onShowNow);
-                    edit = std::move(onEditAppearance);
-                    auto* view = new QLineEdit;
-                    view->setFixedSize(520, 545);
-                    return view;
-                },
-            .terminate = [this] { ++terminations; }};
-    }
-
-    void launch(const QStringList& arguments = {"morrowleaf"}) {
-        delegate = std::make_unique<AppDelegate>(surroundings());
+    void launch(const QStringList& arguments = {QStringLiteral("morrowleaf")}) {
+        delegate = std::make_unique<AppDelegate>(services);
         delegate->applicationDidFinishLaunching(arguments);
     }
     // A launch whose showing is long over.
@@ -62,9 +43,31 @@ protected:
         QKeyEvent event(QEvent::KeyPress, key, modifiers);
         QCoreApplication::sendEvent(top().window, &event);
     }
-    void click(Qt::MouseButton button) { QTest::mousePress(content, button); }
+    void click(Qt::MouseButton button) { QTest::mousePress(content(), button); }
+    // Presses the button with that text, in a window of the program.
+    static void pressButton(const QWidget* window, const QString& text) {
+        for (auto* button : window->findChildren<QAbstractButton*>()) {
+            if (button->text() == text) {
+                return button->click();
+            }
+        }
+        ADD_FAILURE() << "no button " << text.toStdString();
+    }
 
     OverlayRecord& top() { return *desktop.overlays.back(); }
+    // What fills the window of the last showing, and the editor in it, if any.
+    QuoteScreen* content() { return top().window->findChild<QuoteScreen*>(); }
+    Inspector* editor() { return top().window->findChild<Inspector*>(); }
+    // Covers the content, so that the colour of every pixel is known.
+    void paintBlue() {
+        auto* cover = new QWidget(content());
+        cover->setGeometry(content()->rect());
+        QPalette blue;
+        blue.setColor(QPalette::Window, Qt::blue);
+        cover->setPalette(blue);
+        cover->setAutoFillBackground(true);
+        cover->show();
+    }
     bool isShown() const { return delegate->window() != nullptr; }
     qsizetype showings() const { return static_cast<qsizetype>(desktop.overlays.size()); }
     void wake() { emit desktop.platform.sessionEvents->didWake(); }
@@ -74,14 +77,14 @@ protected:
     SettingsStore store;
     FakeDesktop desktop;
     FakeTiming timing;
-    int screensMade = 0;
-    int viewsMade = 0;
-    int terminations = 0;
-    QWidget* content = nullptr;
-    std::optional<EditingHooks> hooks;
-    std::optional<Behind> behind;
-    std::function<void()> showNow;
-    std::function<void()> edit;
+    QTemporaryDir folder;
+    BGStore photos{store, folder.path(), folder.path()};
+    Services services{.store = store,
+                      .fonts = shippedFonts(),
+                      .photos = photos,
+                      .loader = [](const QString&, const auto&) {},
+                      .platform = desktop.platform,
+                      .timing = timing};
     std::unique_ptr<AppDelegate> delegate;
 };
 

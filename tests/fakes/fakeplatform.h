@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/null/nullplatform.h"
+#include "tests/fakes/fakefilechooser.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -33,6 +34,9 @@ public:
         platform.mainScreen = std::make_unique<Screens>(*this);
         platform.overlays = std::make_unique<Overlays>(*this);
         platform.desktopPicture = std::make_unique<Picture>(*this);
+        auto chooser = std::make_unique<FakeFileChooser>();
+        files = chooser.get();
+        platform.fileChooser = std::move(chooser);
         auto tray = std::make_unique<Tray>();
         trayHost = tray.get();
         platform.trayHost = std::move(tray);
@@ -50,6 +54,7 @@ public:
     int captures = 0;
     quint32 frontTime = 0;
     Tray* trayHost = nullptr;
+    FakeFileChooser* files = nullptr;
     std::vector<std::shared_ptr<OverlayRecord>> overlays;
 
 private:

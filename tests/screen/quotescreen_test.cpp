@@ -4,6 +4,7 @@
 #include "screen/quotescreen.h"
 
 #include "photos/bgstore.h"
+#include "quotes/quotebox.h"
 #include "screen/quoteview.h"
 #include "screen/renderframe.h"
 #include "settings/settingskeys.h"
@@ -48,20 +49,26 @@ protected:
         store.set(K::palette, 0);
     }
 
-    ScreenSurroundings surroundings() {
-        return {store,
-                shippedFonts(),
-                photos,
-                [] { return plainState().moment; },
-                [](qsizetype) -> qsizetype { return 0; },
-                [this](const QString&, std::function<void(std::optional<Quote>)> done) {
-                    loaded = std::move(done);
-                },
-                [this] { return time; }};
+    std::unique_ptr<CountingScreen> make(const Monotonic& monotonic, QWidget* parent = nullptr) {
+        const Clock clock = [] { return plainState().moment; };
+        auto box = std::make_unique<QuoteBox>(
+            store,
+            [this](const QString&, std::function<void(std::optional<Quote>)> done) {
+                loaded = std::move(done);
+            },
+            clock, [](qsizetype) -> qsizetype { return 0; });
+        return std::make_unique<CountingScreen>(store, shippedFonts(), photos, std::move(box),
+                                                clock, monotonic, parent);
+    }
+    std::unique_ptr<CountingScreen> make(QWidget* parent = nullptr) {
+        return make([this] { return time; }, parent);
     }
 
-    std::unique_ptr<CountingScreen> shown(std::optional<QuoteScreen::Editing> editing = {}) {
-        auto screen = std::make_unique<CountingScreen>(surroundings(), std::move(editing));
+    std::unique_ptr<CountingScreen> shown(QWidget* inspector = nullptr) {
+        auto screen = make();
+        if (inspector != nullptr) {
+            screen->setInspector(inspector);
+        }
         screen->resize(640, 480);
         screen->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(screen.get()));
@@ -221,16 +228,10 @@ TEST_F(QuoteScreens, LetsALoadEndAfterItIsGone) {
 }
 
 TEST_F(QuoteScreens, SlidesTheEditorInBesideAColumnThatStandsStill) {
-    QWidget* panel = nullptr;
-    bool done = false;
-    const auto screen =
-        shown(QuoteScreen::Editing{[&](QWidget* parent, const std::function<void()>& onDone) {
-                                       panel = new QWidget(parent);
-                                       onDone();
-                                       return panel;
-                                   },
-                                   [&] { done = true; }});
-    EXPECT_TRUE(done);
+    auto* panel = new QWidget;
+    const auto screen = shown(panel);
+    EXPECT_EQ(panel->parentWidget(), screen.get());
+    EXPECT_TRUE(panel->isVisible());
     const QRectF mark = screen->view()->rect(QuoteView::Element::Mark);
     EXPECT_NEAR(mark.center().x(), (640 - 320) / 2.0, 1);
     EXPECT_EQ(panel->x(), 640);
@@ -326,11 +327,10 @@ TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
 
 TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
     store.set(K::screenAnim, "aurora");
-    ScreenSurroundings real = surroundings();
     const Monotonic steady = steadySeconds();
     double ahead = 0;
-    real.monotonic = [&] { return steady() + ahead; };
-    CountingScreen screen(real);
+    const auto made = make([&] { return steady() + ahead; });
+    CountingScreen& screen = *made;
     screen.resize(320, 240);
     screen.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&screen));
@@ -348,7 +348,7 @@ TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
 TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {
     QWidget window;
     window.resize(700, 560);
-    auto* screen = new CountingScreen(surroundings(), std::nullopt, &window);
+    CountingScreen* screen = make(&window).release();
     screen->setGeometry(30, 40, 640, 480);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));

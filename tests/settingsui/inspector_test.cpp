@@ -136,7 +136,7 @@ TEST_F(InspectorTest, RemovingTheChosenPhotoDeletesItAndTheChoice) {
 TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
     press(panel().findChild<AddTile*>());
     press(panel().findChild<AddTile*>());
-    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(files.asked, 1);
     pick(picture(QStringLiteral("new.png")));
     ASSERT_TRUE(await([&] { return !Prefs::bgImage(store).isEmpty(); }));
     EXPECT_EQ(Prefs::customBGs(store), QStringList{Prefs::bgImage(store)});
@@ -174,14 +174,28 @@ TEST_F(InspectorTest, ManyStoredPhotosAreAllListed) {
 
 TEST_F(InspectorTest, ACancelledOrRefusedPhotoChangesNothing) {
     press(panel().findChild<AddTile*>());
-    pick(std::nullopt);
+    files.answer({.kind = FileAnswer::Kind::Cancelled, .path = {}});
     press(panel().findChild<AddTile*>());
-    EXPECT_EQ(dialogs, 2);
+    EXPECT_EQ(files.asked, 2);
     QSignalSpy changes(&store, &SettingsStore::changed);
     pick(QStringLiteral("/etc/passwd"));
     press(panel().findChild<AddTile*>());
     QTest::qWait(50);
     EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(InspectorTest, AnnouncesADialogBeforeItOpensAndAfterItHasGone) {
+    QStringList order;
+    QObject::connect(&panel(), &Inspector::dialogOpening, &panel(), [&] {
+        EXPECT_EQ(files.asked, 0);
+        order.append(QStringLiteral("opening"));
+    });
+    QObject::connect(&panel(), &Inspector::dialogClosed, &panel(),
+                     [&] { order.append(QStringLiteral("closed")); });
+    press(panel().findChild<AddTile*>());
+    EXPECT_EQ(order, QStringList{QStringLiteral("opening")});
+    pick(QStringLiteral("/etc/passwd"));
+    EXPECT_EQ(order, QStringList({QStringLiteral("opening"), QStringLiteral("closed")}));
 }
 
 TEST_F(InspectorTest, KnobsGoBothWays) {
@@ -288,7 +302,7 @@ TEST_F(InspectorTest, PickersListTheirEntriesAndGoBothWays) {
 TEST_F(InspectorTest, WithoutDefaultsTheTypefaceIsSerif) {
     SettingsStore bare;
     BGStore none(bare, QString(), folder.filePath(QStringLiteral("own")));
-    const Inspector inspector({.store = bare, .photos = none, .choosePhoto = {}, .screen = {}});
+    const Inspector inspector(bare, none, files);
     EXPECT_EQ(inspector.findChildren<MenuPicker*>().first()->currentText(),
               QStringLiteral("Serif (New York)"));
 }

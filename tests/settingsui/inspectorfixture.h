@@ -17,6 +17,7 @@
 #include "settingsui/pickermenu.h"
 #include "settingsui/swatch.h"
 #include "settingsui/switch.h"
+#include "tests/fakes/fakefilechooser.h"
 #include "tools/sourcepath.h"
 
 #include <QAccessible>
@@ -41,17 +42,8 @@ protected:
         if (!window_) {
             window_ = std::make_unique<QWidget>();
             window_->resize(700, 900);
-            panel_ = new Inspector(
-                {.store = store,
-                 .photos = photos,
-                 .choosePhoto =
-                     [this](QWidget*, auto picked) {
-                         ++dialogs;
-                         pick = std::move(picked);
-                     },
-                 .glassCanBeDrawn = glass,
-                 .screen = {}},
-                [this] { ++done; }, window_.get());
+            panel_ = new Inspector(store, photos, files, {.glassCanBeDrawn = glass}, window_.get());
+            QObject::connect(panel_, &Inspector::done, panel_, [this] { ++done; });
             panel_->setGeometry(380, 0, 320, 900);
             window_->show();
             QApplication::setActiveWindow(window_.get());
@@ -94,6 +86,9 @@ protected:
         image.save(folder.filePath(name), "png");
         return folder.filePath(name);
     }
+    void pick(const QString& path) {
+        files.answer({.kind = FileAnswer::Kind::Chosen, .path = path});
+    }
     template <typename Condition>
     bool await(Condition condition) {
         QElapsedTimer since;
@@ -118,8 +113,7 @@ protected:
                    folder.filePath(QStringLiteral("own"))};
     bool glass = true;
     int done = 0;
-    int dialogs = 0;
-    std::function<void(std::optional<QString>)> pick;
+    FakeFileChooser files;
 
 private:
     std::unique_ptr<QWidget> window_;

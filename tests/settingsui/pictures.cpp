@@ -6,11 +6,12 @@
 
 #include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
-#include "platform/loginitem.h"
+#include "platform/null/nullplatform.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/inspector.h"
+#include "settingsui/menuactions.h"
 #include "settingsui/menupicker.h"
 #include "settingsui/settingsview.h"
 #include "textanim/fonts.h"
@@ -30,13 +31,6 @@
 using namespace morrowleaf;
 
 namespace {
-
-class NoLogin : public LoginItem {
-public:
-    Status status() const override { return Status::Enabled; }
-    std::optional<QString> registerItem() override { return std::nullopt; }
-    std::optional<QString> unregisterItem() override { return std::nullopt; }
-};
 
 // A still backdrop, whatever lies in front.
 class Ground : public QWidget {
@@ -65,15 +59,16 @@ void settle(int milliseconds) {
 }
 
 void drawSettings(const QString& folder, SettingsStore& store, const QString& name) {
-    NoLogin login;
-    SettingsView view({.store = store,
-                       .loader =
-                           [](const QString&, const auto& done) {
-                               done(Quote{QStringLiteral("What we know is a drop, what we do not "
-                                                         "know is an ocean, and the ocean is deep"),
-                                          QStringLiteral("Isaac Newton")});
-                           },
-                       .loginItem = login});
+    const Platform platform = makeNullPlatform();
+    MenuActions actions;
+    SettingsView view(
+        store,
+        [](const QString&, const auto& done) {
+            done(Quote{QStringLiteral("What we know is a drop, what we do not know is an ocean, "
+                                      "and the ocean is deep"),
+                       QStringLiteral("Isaac Newton")});
+        },
+        *platform.loginItem, actions);
     view.show();
     settle(100);
     view.grab().save(folder + QStringLiteral("/settings-%1.png").arg(name));
@@ -102,6 +97,7 @@ int main(int argc, char** argv) {
     QApplication::setPalette(hostPalette(ColorPreference::Dark));
     drawSettings(folder, store, QStringLiteral("dark"));
 
+    const Platform platform = makeNullPlatform();
     BGStore photos(store, sourcePath("resources/Backgrounds"), folder + QStringLiteral("/own"));
     store.set(K::customBGs, QJsonArray{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
     const auto draw = [&](const QString& name, const BackdropState& state, QSize size) {
@@ -109,13 +105,11 @@ int main(int argc, char** argv) {
         ground.state = state;
         ground.resize(size);
         auto* inspector = new Inspector(
-            {.store = store,
-             .photos = photos,
-             .choosePhoto = {},
-             .glassCanBeDrawn = true,
+            store, photos, *platform.fileChooser,
+            {.glassCanBeDrawn = true,
              .face = face,
              .screen = ScreenFrames{QRect(QPoint(), size), QRect(QPoint(0, 28), size)}},
-            [] {}, &ground);
+            &ground);
         inspector->setGeometry(size.width() - Inspector::width, 0, Inspector::width, size.height());
         ground.show();
         settle(400);

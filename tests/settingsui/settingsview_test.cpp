@@ -5,8 +5,9 @@
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/formcard.h"
-#include "settingsui/loginswitch.h"
+#include "settingsui/menuactions.h"
 #include "settingsui/settingsview.h"
+#include "settingsui/switch.h"
 #include "sources/sourcepresets.h"
 
 #include <QAccessible>
@@ -52,17 +53,12 @@ protected:
     SettingsView& view() {
         if (!view_) {
             view_ = std::make_unique<SettingsView>(
-                SettingsSurroundings{.store = store,
-                                     .loader =
-                                         [this](const QString& source, auto done) {
-                                             asked.append(source);
-                                             answer = std::move(done);
-                                         },
-                                     .loginItem = login,
-                                     .beep = [this] { ++beeps; },
-                                     .onShowNow = [this] { ++shows; },
-                                     .onEditAppearance = [this] { ++edits; },
-                                     .quit = [this] { ++quits; }});
+                store,
+                [this](const QString& source, auto done) {
+                    asked.append(source);
+                    answer = std::move(done);
+                },
+                login, actions);
             view_->show();
         }
         return *view_;
@@ -103,10 +99,7 @@ protected:
     FakeLogin login;
     QStringList asked;
     std::function<void(std::optional<Quote>)> answer;
-    int beeps = 0;
-    int shows = 0;
-    int edits = 0;
-    int quits = 0;
+    MenuActions actions;
 
 private:
     std::unique_ptr<SettingsView> view_;
@@ -134,13 +127,16 @@ TEST_F(SettingsViewTest, NothingIsCutOff) {
     }
 }
 
-TEST_F(SettingsViewTest, ButtonsCallBack) {
+TEST_F(SettingsViewTest, ButtonsTriggerTheActionsOfTheMenu) {
+    const QSignalSpy edits(&actions.editAppearance, &QAction::triggered);
+    const QSignalSpy shows(&actions.showQuote, &QAction::triggered);
+    const QSignalSpy quits(&actions.quit, &QAction::triggered);
     click(button(QStringLiteral("Edit Appearance…")));
     click(button(QStringLiteral("Show Today's Quote")));
     click(button(QStringLiteral("Quit")));
-    EXPECT_EQ(edits, 1);
-    EXPECT_EQ(shows, 1);
-    EXPECT_EQ(quits, 1);
+    EXPECT_EQ(edits.count(), 1);
+    EXPECT_EQ(shows.count(), 1);
+    EXPECT_EQ(quits.count(), 1);
 }
 
 TEST_F(SettingsViewTest, WakeSwitchGoesBothWays) {
@@ -306,8 +302,9 @@ TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
     test->setFocus(Qt::TabFocusReason);
     QTest::keyClick(view().windowHandle(), Qt::Key_Space);
     EXPECT_EQ(asked.size(), 1);
+    const QSignalSpy shows(&actions.showQuote, &QAction::triggered);
     QTest::keyClick(view().windowHandle(), Qt::Key_Space);
-    EXPECT_EQ(shows, 0);
+    EXPECT_EQ(shows.count(), 0);
     answer(std::nullopt);
     EXPECT_TRUE(test->hasFocus());
     EXPECT_EQ(QAccessible::queryAccessibleInterface(test)->text(QAccessible::Description),
@@ -343,20 +340,22 @@ TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
     Switch* control = switchNamed(QStringLiteral("Open at login"));
     EXPECT_TRUE(control->isChecked());
     EXPECT_EQ(login.calls, 0);
+    const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
     click(control);
     EXPECT_EQ(login.current, LoginItem::Status::NotRegistered);
     EXPECT_EQ(login.calls, 1);
-    EXPECT_EQ(beeps, 0);
+    EXPECT_EQ(refusals.count(), 0);
 }
 
-TEST_F(SettingsViewTest, RefusedLoginFlipsBackWithOneBeep) {
+TEST_F(SettingsViewTest, RefusedLoginFlipsBackAndIsAnnouncedOnce) {
     login.refuses = true;
     Switch* control = switchNamed(QStringLiteral("Open at login"));
     EXPECT_FALSE(control->isChecked());
+    const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
     click(control);
     EXPECT_FALSE(control->isChecked());
     EXPECT_EQ(login.calls, 1);
-    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(refusals.count(), 1);
 }
 
 TEST_F(SettingsViewTest, ApprovalThatIsMissingCountsAsOff) {

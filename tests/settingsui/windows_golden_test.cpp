@@ -8,8 +8,10 @@
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/inspector.h"
+#include "settingsui/menuactions.h"
 #include "settingsui/settingsview.h"
 #include "settingsui/swatch.h"
+#include "tests/fakes/fakefilechooser.h"
 #include "tests/screen/goldenpictures.h"
 #include "tests/screen/sceneforscreens.h"
 #include "tools/sourcepath.h"
@@ -76,14 +78,8 @@ class EditorGolden : public testing::Test {
 protected:
     EditorGolden() {
         registerAppDefaults(store_);
-        auto* inspector = new Inspector(
-            {.store = store_,
-             .photos = photos_,
-             .choosePhoto = {},
-             .glassCanBeDrawn = true,
-             .face = bundledFace(),
-             .screen = {}},
-            [] {}, &ground_);
+        auto* inspector = new Inspector(store_, photos_, files_,
+                                        {.glassCanBeDrawn = true, .face = bundledFace()}, &ground_);
         inspector->setGeometry(80, 0, Inspector::width, ground_.height());
         ground_.QWidget::show();
         const auto swatches = inspector->findChildren<PhotoSwatch*>();
@@ -102,6 +98,7 @@ protected:
 
 private:
     SettingsStore store_;
+    FakeFileChooser files_;
     BGStore photos_{store_, sourcePath("resources/Backgrounds"), QStringLiteral("/nowhere")};
     Ground ground_;
 };
@@ -112,9 +109,10 @@ QImage settingsIn(ColorPreference preference) {
     SettingsStore store;
     registerAppDefaults(store);
     const Platform platform = makeNullPlatform();
-    SettingsView view({.store = store,
-                       .loader = [](const QString&, const auto& done) { done(std::nullopt); },
-                       .loginItem = *platform.loginItem});
+    MenuActions actions;
+    SettingsView view(
+        store, [](const QString&, const auto& done) { done(std::nullopt); }, *platform.loginItem,
+        actions);
     view.show();
     view.test();
     QCoreApplication::processEvents();

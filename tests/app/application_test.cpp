@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "app/launch.h"
+#include "app/application.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ private:
     std::optional<QString> error_;
 };
 
-TEST(Launch, SelfTestGoesBeforeTheLoginItem) {
+TEST(Application, SelfTestGoesBeforeTheLoginItem) {
     EXPECT_EQ(modeFor({"morrowleaf"}), Mode::Desktop);
     EXPECT_EQ(modeFor({"morrowleaf", "--settings", "-x"}), Mode::Desktop);
     EXPECT_EQ(modeFor({"morrowleaf", "--register-login", "--selftest"}), Mode::SelfTest);
@@ -30,12 +30,12 @@ TEST(Launch, SelfTestGoesBeforeTheLoginItem) {
     EXPECT_EQ(modeFor({"--selftest"}), Mode::SelfTest);
 }
 
-TEST(Launch, ArgumentsAreMatchedWholeAndInTheirCase) {
+TEST(Application, ArgumentsAreMatchedWholeAndInTheirCase) {
     EXPECT_EQ(modeFor({"morrowleaf", "--Selftest", "--selftest=1", "selftest", "--register"}),
               Mode::Desktop);
 }
 
-TEST(Launch, LinesOfTheLoginItem) {
+TEST(Application, LinesOfTheLoginItem) {
     using Status = LoginItem::Status;
     ItemThat enabled(Status::Enabled, std::nullopt);
     EXPECT_EQ(registerLogin(enabled), "login item: enabled");

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/moment.h"
+#include "base/randomindex.h"
+#include "quotes/quote.h"
+
+namespace morrowleaf {
+
+class BGStore;
+class FontBook;
+struct Platform;
+class SettingsStore;
+class Timing;
+
+// What lives as long as the program. It is made once, at the start, and passed
+// by reference within this room; the rooms below take from it what they need.
+struct Services {
+    SettingsStore& store;
+    const FontBook& fonts;
+    BGStore& photos;
+    QuoteLoader loader; // loads one source, as the user typed it
+    Platform& platform;
+    Timing& timing;
+    Clock clock = [] { return Moment::now(); };
+    RandomIndex random = secureRandomIndex();
+};
+
+} // namespace morrowleaf
