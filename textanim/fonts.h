@@ -5,6 +5,7 @@
 
 #include "settings/prefs.h"
 
+#include <QByteArray>
 #include <QFont>
 #include <QHash>
 #include <QString>
@@ -47,5 +48,18 @@ TextFont nsFont(const FontBook& book, double size, FontDesign design,
 // The quotation's font for a stored typeface name: the Fraunces face for
 // "fraunces" (the serif design where it is missing), else nsFont of its design.
 TextFont quoteFont(const FontBook& book, const QString& fontName, double size);
+
+// What a typeface calls itself; empty where it does not say.
+struct FontNames {
+    QString postScript;
+    QString family; // the typographic family where there is one
+    QString style;
+
+    bool operator==(const FontNames&) const = default;
+};
+
+// Reads an OpenType `name` table. Nothing when it is no such table or names no
+// PostScript name; never reads outside the bytes.
+std::optional<FontNames> readNameTable(const QByteArray& table);
 
 } // namespace morrowleaf

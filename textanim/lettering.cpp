@@ -4,7 +4,7 @@
 #include "textanim/lettering.h"
 
 #include "textanim/blurredlayer.h"
-#include "textanim/paintoutline.h"
+#include "textanim/textoutline.h"
 
 #include <QPainter>
 

@@ -3,7 +3,6 @@
 
 #include "textanim/shapedtext.h"
 
-#include "textanim/paintoutline.h"
 #include "textanim/textlayout.h"
 #include "textanim/textoutline.h"
 
@@ -37,6 +36,31 @@ void ShapedText::paint(QPainter& painter, QPointF topLeft, const QColor& color) 
     painter.save();
     painter.translate(topLeft);
     paintOutline(painter, *outline_, color);
+    painter.restore();
+}
+
+void KeptText::paint(QPainter& painter, const ShapedText& text, const QColor& color) {
+    const Look look{painter.deviceTransform(), color};
+    if (last_ != look) {
+        last_ = look;
+        picture_ = {};
+        text.paint(painter, {}, color);
+        return;
+    }
+    if (picture_.isNull()) {
+        const QRect rect =
+            look.device.mapRect(text.outline().ink).toAlignedRect().adjusted(-1, -1, 1, 1);
+        corner_ = rect.topLeft();
+        picture_ = QImage(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        picture_.fill(Qt::transparent);
+        QPainter aside(&picture_);
+        aside.setTransform(look.device * QTransform::fromTranslate(-corner_.x(), -corner_.y()));
+        text.paint(aside, {}, color);
+    }
+    painter.save();
+    painter.resetTransform();
+    painter.setTransform(painter.deviceTransform().inverted());
+    painter.drawImage(corner_, picture_);
     painter.restore();
 }
 

@@ -3,13 +3,17 @@
 
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QPainterPath>
 #include <QRectF>
 #include <QSizeF>
+#include <QtGlobal>
 
 #include <cstddef>
 #include <vector>
+
+class QPainter;
 
 namespace morrowleaf {
 
@@ -63,5 +67,13 @@ TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit);
 
 // All outlines in the order of the text.
 QPainterPath wholePath(const TextOutline& text);
+
+struct TextOutline;
+
+// All draw with the origin of the text at the painter's origin.
+void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color);
+// The first characters only, each where it stands in the whole text.
+void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
+                const QColor& color);
 
 } // namespace morrowleaf

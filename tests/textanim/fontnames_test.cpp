@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "textanim/fontnames.h"
+#include "textanim/fonts.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "textanim/fontnames.h"
 #include "textanim/fonts.h"
 #include "tools/sourcepath.h"
 

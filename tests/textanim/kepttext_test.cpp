@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "textanim/kepttext.h"
+#include "textanim/shapedtext.h"
 
 #include "tests/fakes/shippedfonts.h"
 
