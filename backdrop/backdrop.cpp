@@ -5,10 +5,10 @@
 
 #include "backdrop/glass.h"
 #include "backdrop/kernel.h"
-#include "backdrop/layers.h"
+#include "backdrop/mesh.h"
 #include "backdrop/meshlattice.h"
-#include "backdrop/meshsurface.h"
 #include "backdrop/photoground.h"
+#include "backdrop/vignette.h"
 #include "look/grain.h"
 
 #include <algorithm>
@@ -36,6 +36,25 @@ void clear(QImage& target, const QRect& clip) {
 
 } // namespace
 
+Layers layersOf(const BackdropState& state, bool hasPicture, bool hasGlass) {
+    const Behind::Kind kind = state.behind.kind;
+    const double t = clampToUnit(state.transparency);
+    if (kind == Behind::Kind::Nothing || (kind == Behind::Kind::Captured && !hasPicture) ||
+        t <= 0) {
+        return {};
+    }
+    const double glass = glassOpacity(t);
+    const double tint = glassTint(t);
+    Layers layers{.ground = 1 - t, .tint = t * glass * tint};
+    if (hasPicture) {
+        const double ready = hasGlass ? clampToUnit(state.behind.glassOpacity) : 0;
+        layers.glass = t * glass * (1 - tint) * ready;
+        layers.sharp = t * (1 - glass * tint) - layers.glass;
+        layers.rim = state.liquidGlass ? t * glass * ready : 0;
+    }
+    return layers;
+}
+
 struct BackdropPainter::Private {
     FittedPicture photo;
     FittedPicture desktop;
@@ -61,11 +80,7 @@ struct BackdropPainter::Private {
     std::optional<Shaded> shaded;
 
     void buildMesh(const MeshPoints& points, const std::array<QColor, 9>& colors) {
-        const auto same = [](const MeshPoint& a, const MeshPoint& b) {
-            return a.x == b.x && a.y == b.y;
-        };
-        if (meshBuilt && colors == meshColors &&
-            std::equal(points.begin(), points.end(), meshPoints.begin(), same)) {
+        if (meshBuilt && colors == meshColors && points == meshPoints) {
             return;
         }
         meshPoints = points;
@@ -124,7 +139,8 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         return;
     }
 
-    const double shown = state.hasPhoto && !state.photo.isNull() ? unitOf(state.photoOpacity) : 0.0;
+    const double shown =
+        state.hasPhoto && !state.photo.isNull() ? clampToUnit(state.photoOpacity) : 0.0;
     const double strength = vignetteStrength(state);
     KernelInput input;
     if (shown > 0) {

@@ -11,19 +11,21 @@
 
 namespace morrowleaf {
 
-// Draws backdrops; keeps between calls what is costly to make. One per screen.
+// Draws backdrops and keeps what is costly to make between calls. Use one for
+// each screen, on one thread.
 class BackdropPainter {
 public:
     BackdropPainter();
     ~BackdropPainter();
 
     // Draws the part `clip` (device pixels) of the backdrop of `state` into
-    // `target`, a premultiplied 32-bit image of the whole window with
-    // `devicePixelRatio` set, replacing what was there.
-    // `since2001`: seconds since 2001-01-01 00:00:00 UTC.
+    // `target`, replacing what was there. `target` is an image of the whole
+    // window, Format_ARGB32_Premultiplied or Format_RGB32 (any other is a fatal
+    // error), with its device pixel ratio set.
+    // `since2001`: seconds since 2001-01-01 00:00:00 UTC by the wall clock.
     void paint(QImage& target, const QRect& clip, const BackdropState& state, double since2001);
 
-    // Whether another instant gives another picture.
+    // Whether the picture changes with time.
     static bool moves(const BackdropState& state);
 
 private:
@@ -31,7 +33,23 @@ private:
     std::unique_ptr<Private> d_;
 };
 
-// Frames of a moving backdrop are at least this far apart.
-inline constexpr double backdropInterval = 1.0 / 30.0; // seconds
+// Seconds from 1970-01-01 to 2001-01-01, both at 00:00:00 UTC.
+inline constexpr double unixToReference = 978307200;
+
+// The shortest time between two frames of a moving backdrop, seconds.
+inline constexpr double backdropInterval = 1.0 / 30.0;
+
+// How much each layer contributes to the finished pixel, 0...1, front to back.
+struct Layers {
+    double ground = 1;
+    double tint = 0;  // the palette's centre colour
+    double glass = 0; // the picture behind, under glass
+    double sharp = 0; // the picture behind as it is
+    double rim = 0;   // the light on the edges of the glass
+};
+
+// `hasPicture`: the pixels behind are known. `hasGlass`: their glass is made.
+// A window that cannot be seen through has an opaque ground.
+Layers layersOf(const BackdropState& state, bool hasPicture, bool hasGlass);
 
 } // namespace morrowleaf

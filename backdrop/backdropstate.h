@@ -8,36 +8,37 @@
 
 #include <QImage>
 
+#include <algorithm>
 #include <memory>
 
 namespace morrowleaf {
 
 struct Glass; // glass.h
 
-// What lies behind the window, as far as the desktop lets us know.
+// What lies behind the window, as far as the desktop tells us.
 struct Behind {
     enum class Kind {
-        Nothing,  // cannot be seen through: the ground is drawn opaque
-        Plain,    // seen through the window's alpha, unblurred
+        Nothing,  // the window cannot be seen through: the ground is drawn opaque
+        Plain,    // shows through the window's alpha, unblurred
         LiveBlur, // the same, blurred by the compositor
         Captured, // `picture` holds it, and the window is opaque
     };
     Kind kind = Kind::Nothing;
-    QImage picture; // device pixels of the whole window, for Captured
-    // For Captured: the picture under glass, by makeGlass() in a worker. Until
-    // it is there the picture shows unblurred under the tint.
+    QImage picture; // for Captured: device pixels of the whole window
+    // For Captured: the picture under glass, made by makeGlass() in a worker.
+    // While it is null the picture shows unblurred under the tint.
     std::shared_ptr<const Glass> glass;
     double glassOpacity = 1; // 0...1 while the glass fades in over the sharp picture
 };
 
-// Everything behind the text, as a value. Its picture depends on this, the
-// size and the wall clock alone.
+// Everything behind the text, as a value. Its picture depends only on this, the
+// size and the wall clock.
 struct BackdropState {
     Palette palette;
-    bool animated = true;
+    bool animated = true; // false pauses the mesh
     bool grainOn = true;
-    double vignette = 0.55;
-    double transparency = 0;
+    double vignette = 0.55;  // strength as stored; used within 0...1
+    double transparency = 0; // as stored; used within 0...1
     bool liquidGlass = true;
     ScreenAnim screenAnim = ScreenAnim::Drift;
     bool hasPhoto = false;   // a photo is chosen and readable
@@ -46,9 +47,14 @@ struct BackdropState {
     Behind behind;
 };
 
-// The glass material can be had: the pixels behind are at hand.
+// Whether the glass material can be drawn: the pixels behind are known.
 inline bool glassAvailable(const Behind& behind) {
     return behind.kind == Behind::Kind::Captured;
+}
+
+// `value` clamped to 0...1; NaN gives 0.
+inline double clampToUnit(double value) {
+    return value > 0 ? std::min(value, 1.0) : 0;
 }
 
 } // namespace morrowleaf

@@ -14,29 +14,34 @@
 
 namespace morrowleaf {
 
-inline constexpr double frostSigma = 30; // points: the frosting's standard deviation
-inline constexpr double frostSaturation = 1.2;
-inline constexpr double clearSigma = 3;  // points
-inline constexpr double clearFrom = 0.6; // a transparency above it takes the clear glass
+// There is no glass up to this transparency (0...1).
+inline constexpr double leastTransparency = 0.01;
+// The opacity of the glass: min(4 (1 - t), 1) for a transparency t of 0...1.
+double glassOpacity(double transparency);
+// The share of the palette's centre colour in the glass.
+double glassTint(double transparency);
 
 enum class GlassStyle { Regular, Clear };
+// Above this transparency liquid glass is clear instead of frosted.
+inline constexpr double clearFrom = 0.6;
 
-// What the picture of a desktop becomes under glass; never changes once made.
+// The captured picture of a desktop under glass; never changes once made.
 struct Glass {
     QSize size; // device pixels
     NodeGrid frosted;
     QImage clear; // lightly blurred, bent towards the edges as by a bevel
 };
 
-// Takes some tens of milliseconds on a large screen, and may run in any
-// thread. Nothing for a null picture.
+// Takes some tens of milliseconds on a large screen and may run on any thread.
+// Null for a null picture. A ratio that is not above 0 counts as 1.
 std::shared_ptr<const Glass> makeGlass(const QImage& picture, double devicePixelRatio);
 
-// Light on the glass's edges, brightest from the top left; worked out once for
-// a size, a style and a strength.
+// The light on the edges of the glass, brightest from the top left; computed
+// once for a size, a style and a strength.
 class GlassRim {
 public:
-    // Added to `target` with `strength` 0...1 within `clip` (device pixels).
+    // Adds the light to the pixels of `clip` (device pixels) in `target`, a
+    // premultiplied 32-bit image of the whole window. `strength`: 0...1.
     void add(QImage& target, const QRect& clip, GlassStyle style, double strength);
 
 private:
@@ -52,8 +57,8 @@ private:
     bool hasWholeRow(int y) const;
 
     std::optional<Look> look_;
-    int reach_ = 0;                 // pixels; between two sides a row has no light
-    std::vector<std::size_t> rows_; // where each begins
+    int reach_ = 0;                 // pixels; rows between both edges have no light inside it
+    std::vector<std::size_t> rows_; // the index at which each row begins
     std::vector<quint8> light_;     // of whole rows, or of both sides alone
 };
 

@@ -3,8 +3,8 @@
 
 #include "backdrop/meshlattice.h"
 
+#include "backdrop/catmullrom.h"
 #include "backdrop/kernelrow.h"
-#include "backdrop/meshsurface.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,31 +27,10 @@ constexpr float safeDeterminant = 0.01F;
 constexpr float closeEnough = 2e-6F; // of the screen
 constexpr int mostSteps = 10;
 
-struct Weights {
-    float near, middle, far;
-};
-
-// The knot weights of knotWeights() and their slopes, without branches.
-[[gnu::always_inline]] inline Weights values(float u) {
-    const bool mirrored = u > 1;
-    const float s = mirrored ? 2 - u : u;
-    const float a = ((0.5F * s - 0.5F) * s - 1) * s + 1;
-    const float b = ((-s + 1) * s + 1) * s;
-    const float c = (0.5F * s - 0.5F) * s * s;
-    return {mirrored ? c : a, b, mirrored ? a : c};
-}
-
-[[gnu::always_inline]] inline Weights slopes(float u) {
-    const bool mirrored = u > 1;
-    const float s = mirrored ? 2 - u : u;
-    const float a = (1.5F * s - 1) * s - 1;
-    const float b = (-3 * s + 2) * s + 1;
-    const float c = (1.5F * s - 1) * s;
-    return {mirrored ? -c : a, mirrored ? -b : b, mirrored ? -a : c};
-}
+using Weights = ThreeKnots<float>;
 
 [[gnu::always_inline]] inline float mix(const Weights& w, float a, float b, float c) {
-    return w.near * a + w.middle * b + w.far * c;
+    return w.first * a + w.middle * b + w.last * c;
 }
 
 struct Front {
@@ -69,10 +48,10 @@ struct Front {
     for (int i = 0; i < length; ++i) {
         const auto n = static_cast<std::size_t>(i);
         const float x = static_cast<float>(i - 1) * cell;
-        const Weights wu = values(at.u[n]);
-        const Weights wv = values(at.v[n]);
-        const Weights du = slopes(at.u[n]);
-        const Weights dv = slopes(at.v[n]);
+        const Weights wu = threeKnotValues(at.u[n]);
+        const Weights wv = threeKnotValues(at.v[n]);
+        const Weights du = threeKnotSlopes(at.u[n]);
+        const Weights dv = threeKnotSlopes(at.v[n]);
         // Row sums first; the mesh's outer points have their place on the edge.
         const float topX = mix(wu, p[0].x, p[1].x, p[2].x);
         const float midX = mix(wu, p[3].x, p[4].x, p[5].x);
@@ -104,8 +83,8 @@ using Knots = std::array<float, 9>;
     const int length = at.length;
     for (int i = 0; i < length; ++i) {
         const auto n = static_cast<std::size_t>(i);
-        const Weights wu = values(at.u[n]);
-        const Weights wv = values(at.v[n]);
+        const Weights wu = threeKnotValues(at.u[n]);
+        const Weights wv = threeKnotValues(at.v[n]);
         const float value =
             mix(wv, mix(wu, knots[0], knots[1], knots[2]), mix(wu, knots[3], knots[4], knots[5]),
                 mix(wu, knots[6], knots[7], knots[8]));

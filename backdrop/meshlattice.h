@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "backdrop/meshdrift.h"
+#include "backdrop/mesh.h"
 
 #include <QColor>
 

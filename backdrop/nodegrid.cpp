@@ -3,6 +3,7 @@
 
 #include "backdrop/nodegrid.h"
 
+#include "backdrop/catmullrom.h"
 #include "backdrop/vignette.h"
 
 #include <algorithm>
@@ -23,9 +24,7 @@ Tap tapAt(double place, int cells, bool meshEndsInside) {
     const double at = inside * cells;
     const int cell = std::min(static_cast<int>(at), cells - 1);
     const auto s = static_cast<float>(at - cell);
-    Tap tap{cell - 1,
-            {((-0.5F * s + 1) * s - 0.5F) * s, (1.5F * s - 2.5F) * s * s + 1,
-             ((-1.5F * s + 2) * s + 0.5F) * s, (0.5F * s - 0.5F) * s * s}};
+    Tap tap{cell - 1, catmullRom(s)};
     // A node beyond the picture serves the pixels before it: follow the slope.
     if (place > inside && !meshEndsInside) {
         const auto beyond = static_cast<float>((place - inside) * cells);

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "screen/renderframe.h"
+#include "backdrop/backdrop.h"
+#include "screen/quoteview.h"
 #include "tests/fakes/shippedfonts.h"
 
 #include <QPainter>

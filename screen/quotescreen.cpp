@@ -4,15 +4,14 @@
 #include "screen/quotescreen.h"
 
 #include "backdrop/backdrop.h"
-#include "backdrop/layers.h"
+#include "backdrop/glass.h"
 #include "photos/bgstore.h"
 #include "quotes/quotebox.h"
 #include "screen/glassshowing.h"
 #include "screen/greeting.h"
+#include "screen/layout.h"
 #include "screen/photoshowing.h"
 #include "screen/quoteview.h"
-#include "screen/renderframe.h"
-#include "screen/textbound.h"
 #include "screen/windowpixels.h"
 #include "settings/settingsstore.h"
 

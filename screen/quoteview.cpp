@@ -5,7 +5,7 @@
 
 #include "base/graphemes.h"
 #include "screen/greeting.h"
-#include "screen/textbound.h"
+#include "screen/layout.h"
 #include "textanim/fonts.h"
 #include "textanim/linebalancing.h"
 

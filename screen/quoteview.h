@@ -7,10 +7,10 @@
 #include "screen/entrances.h"
 #include "screen/layout.h"
 #include "screen/viewsettings.h"
-#include "textanim/kepttext.h"
 #include "textanim/revealline.h"
 #include "textanim/shapedtext.h"
 
+#include <QImage>
 #include <QLocale>
 #include <QRegion>
 
@@ -21,6 +21,7 @@ class QPainter;
 
 namespace morrowleaf {
 
+class BackdropPainter;
 class FontBook;
 
 // All that the content of the quote screen depends on, but for the time.
@@ -113,5 +114,11 @@ private:
     QRectF rule_;
     std::vector<Line> lines_;
 };
+
+// One frame of the quote screen without a window, at the view's size and device
+// pixel ratio; a null image for an empty view. `seconds` since the view
+// appeared, `since2001` as for BackdropPainter::paint().
+QImage renderFrame(BackdropPainter& painter, const BackdropState& backdrop, const QuoteView& view,
+                   double seconds, double since2001);
 
 } // namespace morrowleaf

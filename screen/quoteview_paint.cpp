@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // How the quote view looks at an instant, and what of it moves.
+#include "backdrop/backdrop.h"
 #include "base/parallel.h"
 #include "screen/quoteview.h"
 
@@ -207,6 +208,21 @@ std::optional<double> QuoteView::nextMotion(double seconds) const {
         consider(line.appearedAt + line.line.delay(), line.appearedAt + line.line.settledAfter());
     }
     return next;
+}
+
+QImage renderFrame(BackdropPainter& painter, const BackdropState& backdrop, const QuoteView& view,
+                   double seconds, double since2001) {
+    const QuoteViewState& state = view.state();
+    QImage frame((state.size * state.devicePixelRatio).toSize(),
+                 QImage::Format_ARGB32_Premultiplied);
+    if (frame.isNull()) {
+        return frame;
+    }
+    frame.setDevicePixelRatio(state.devicePixelRatio);
+    painter.paint(frame, frame.rect(), backdrop, since2001);
+    QPainter text(&frame);
+    view.paint(text, seconds, QRectF(QPointF(), state.size));
+    return frame;
 }
 
 } // namespace morrowleaf

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Draws frames of the quote screen off-screen, for looking at and comparing.
+#include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "quotes/schedule.h"
 #include "screen/quotescreen.h"
-#include "screen/renderframe.h"
+#include "screen/quoteview.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "textanim/fonts.h"

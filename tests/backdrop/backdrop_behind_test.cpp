@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The desktop behind, glass and photos.
-#include "backdrop/layers.h"
+#include "backdrop/backdrop.h"
 #include "tests/backdrop/drawnbackdrop.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "backdrop/layers.h"
+#include "backdrop/backdrop.h"
+#include "backdrop/vignette.h"
 #include "tests/backdrop/backdropreference.h"
 #include "tests/backdrop/drawnbackdrop.h"
 

@@ -4,7 +4,7 @@
 #include "tests/backdrop/backdropreference.h"
 
 #include "backdrop/dither.h"
-#include "backdrop/meshsurface.h"
+#include "backdrop/mesh.h"
 #include "look/grain.h"
 
 #include <algorithm>

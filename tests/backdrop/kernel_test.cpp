@@ -3,7 +3,7 @@
 
 #include "backdrop/kernel.h"
 
-#include "backdrop/meshsurface.h"
+#include "backdrop/mesh.h"
 #include "look/grain.h"
 #include "look/palettes.h"
 #include "tests/backdrop/backdropreference.h"

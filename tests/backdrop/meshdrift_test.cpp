@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "backdrop/meshdrift.h"
-
-#include "backdrop/meshsurface.h"
+#include "backdrop/mesh.h"
 
 #include <gtest/gtest.h>
 

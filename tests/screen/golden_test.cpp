@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "backdrop/backdrop.h"
 #include "screen/quoteview.h"
-#include "screen/renderframe.h"
 #include "tests/screen/goldenpictures.h"
 #include "tests/screen/sceneforscreens.h"
 

@@ -3,10 +3,10 @@
 
 #include "screen/quotescreen.h"
 
+#include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "quotes/quotebox.h"
 #include "screen/quoteview.h"
-#include "screen/renderframe.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "tests/screen/sceneforscreens.h"

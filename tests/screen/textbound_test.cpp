@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "screen/textbound.h"
+#include "screen/layout.h"
 
 #include "base/graphemes.h"
 #include "tests/screen/sceneforscreens.h"

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "backdrop/meshsurface.h"
+#include "backdrop/mesh.h"
+
+#include "backdrop/catmullrom.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace morrowleaf {
 
@@ -23,21 +26,18 @@ MeshPoints drawnBack(const MeshPoints& points, float swing) {
     return drawn;
 }
 
+// Narrowed before the half is added: the sine needs the double's precision at
+// phases around 1e8, a place on the mesh does not.
+float swing(double phase, double amplitude) {
+    return 0.5F + static_cast<float>(std::sin(phase) * amplitude);
+}
+
 } // namespace
 
 KnotWeights knotWeights(double u) {
-    const bool mirrored = u > 1;
-    const double s = mirrored ? 2 - u : u;
-    const double near = ((0.5 * s - 0.5) * s - 1) * s + 1;
-    const double middle = ((-s + 1) * s + 1) * s;
-    const double far = (0.5 * s - 0.5) * s * s;
-    const double nearSlope = (1.5 * s - 1) * s - 1;
-    const double middleSlope = (-3 * s + 2) * s + 1;
-    const double farSlope = (1.5 * s - 1) * s;
-    if (mirrored) {
-        return {{far, middle, near}, {-farSlope, -middleSlope, -nearSlope}};
-    }
-    return {{near, middle, far}, {nearSlope, middleSlope, farSlope}};
+    const ThreeKnots<double> value = threeKnotValues(u);
+    const ThreeKnots<double> slope = threeKnotSlopes(u);
+    return {{value.first, value.middle, value.last}, {slope.first, slope.middle, slope.last}};
 }
 
 SurfacePoint surfaceAt(const MeshPoints& points, double u, double v) {
@@ -101,6 +101,20 @@ MeshPoints unfolded(const MeshPoints& points) {
         (lowestDeterminant(drawnBack(points, swing)) >= leastDeterminant ? whole : folding) = swing;
     }
     return drawnBack(points, whole);
+}
+
+MeshPoints meshDrift(double t, double amplitude) {
+    return {{
+        {0.0F, 0.0F},
+        {swing(t + 1.7, amplitude), 0.0F},
+        {1.0F, 0.0F},
+        {0.0F, swing(0.7 * t + 0.4, amplitude)},
+        {swing(1.3 * t + 2.9, amplitude), swing(0.9 * t + 1.1, amplitude)},
+        {1.0F, swing(1.1 * t + 1.2, amplitude)},
+        {0.0F, 1.0F},
+        {swing(0.8 * t + 2.3, amplitude), 1.0F},
+        {1.0F, 1.0F},
+    }};
 }
 
 } // namespace morrowleaf
