@@ -62,7 +62,7 @@ void AppDelegate::prepare() {
     connect(session, &SessionEvents::screenIsUnlocked, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::willLeave, this, [this] {
         if (window_) {
-            window_->overlay().letGo();
+            window_->overlay().releaseInput();
         }
     });
     TrayHost* tray = services_.platform.trayHost.get();

@@ -10,6 +10,7 @@
 #include "app/timing.h"
 #include "photos/bgstore.h"
 #include "platform/chooser.h"
+#include "platform/system.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
@@ -107,7 +108,7 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
     }
     // exit(), since quit() asks the windows first, which is for documents.
     const auto quit = [] { QCoreApplication::exit(0); };
-    QObject::connect(platform.quitRequests.get(), &QuitRequests::requested, &app, quit);
+    QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, &app, quit);
     followColorScheme(*platform.colorScheme);
     FontBook fonts;
     fonts.registerBundledFonts(fontFolder());
@@ -124,7 +125,7 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
                             .timing = *timing};
     AppDelegate delegate(services);
     QObject::connect(&delegate, &AppDelegate::quitRequested, &app, quit);
-    QObject::connect(&delegate, &AppDelegate::showingEnded, &app, platform.giveMemoryBack,
+    QObject::connect(&delegate, &AppDelegate::showingEnded, &app, &releaseFreeMemory,
                      Qt::QueuedConnection);
     launch(delegate, *platform.instance, arguments);
     return QApplication::exec();

@@ -3,7 +3,7 @@
 
 #include "app/timing.h"
 
-#include "platform/uptime.h"
+#include "platform/system.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

@@ -7,22 +7,22 @@
 
 namespace morrowleaf {
 
-// A way in which a backend brings windows onto the screen. Its cases are the
-// backend's own; everybody else hands the value on.
+// How windows come onto the screen. The values are the backend's own; other
+// rooms only pass them on.
 enum class WindowSystem : int;
 
-// Looks at the session and prepares the environment for it. Call before the
-// application object is made.
+// Inspects the session and prepares the environment for the result. Call
+// before the application object is created.
 WindowSystem chooseWindowSystem();
 
-// Whether the application object can be made: without the server of that window
-// system Qt ends the process. Call before.
+// Whether the display server of `system` can be reached. Call before the
+// application object is created: without a server Qt aborts the process.
 bool isReachable(WindowSystem system);
 
-// Call after the application object was made.
+// Call after the application object was created.
 Platform makePlatform(WindowSystem system);
 
-// The one part that works without an application object.
+// The login item of makePlatform(); unlike the rest it needs no application object.
 std::unique_ptr<LoginItem> makeLoginItem();
 
 } // namespace morrowleaf

@@ -9,12 +9,14 @@ namespace morrowleaf {
 
 enum class ColorPreference { None, Light, Dark };
 
-// Whether the user wants programs to look dark or light.
+// The user's preference for light or dark programs. Main thread.
 class ColorScheme : public QObject {
     Q_OBJECT
 
 public:
-    // None until the desktop has answered, and where it knows no preference.
+    using QObject::QObject;
+
+    // None until the desktop has answered, and where it has no preference.
     virtual ColorPreference preference() const = 0;
 
 signals:

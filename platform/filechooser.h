@@ -3,42 +3,51 @@
 
 #pragma once
 
-#include <QString>
+#include <QObject>
 #include <QStringList>
-
-#include <functional>
 
 class QWidget;
 
 namespace morrowleaf {
 
 struct FileQuestion {
-    QString title;
-    QString kindName; // what the files are, such as "Images"
-    QStringList mimeTypes;
+    QString title;         // of the dialog
+    QString kindName;      // of the files to choose from, such as "Images"
+    QStringList mimeTypes; // of these files
 };
 
 struct FileAnswer {
     enum class Kind {
         Chosen,      // `path` is an absolute local path
-        Cancelled,   // by the user, or by the end of the dialog's program
-        Unavailable, // no dialog was shown; the toolkit's own may be
+        Cancelled,   // by the user, or because the program with the dialog ended
+        Unavailable, // no dialog was shown; show one of Qt's own instead
     };
     Kind kind = Kind::Unavailable;
     QString path;
 };
 
-// Lets the user choose one file in the desktop's own dialog.
+// One question on its way. It deletes itself after it was answered.
+class FileRequest : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+signals:
+    // Emitted once, never from within FileChooser::ask().
+    void answered(const morrowleaf::FileAnswer& answer);
+};
+
+// Lets the user choose one file in the desktop's own dialog. Main thread.
 class FileChooser {
 public:
     virtual ~FileChooser() = default;
     FileChooser(const FileChooser&) = delete;
     FileChooser& operator=(const FileChooser&) = delete;
 
-    // Returns at once; `done` is called once, later, unless `window` goes
-    // first, which closes the dialog.
-    virtual void ask(QWidget& window, const FileQuestion& question,
-                     std::function<void(const FileAnswer&)> done) = 0;
+    // Opens a dialog that belongs to `window` and returns at once. Destroying
+    // `window` closes the dialog without an answer.
+    virtual FileRequest* ask(QWidget& window, const FileQuestion& question) = 0;
 
 protected:
     FileChooser() = default;

@@ -9,13 +9,14 @@
 
 namespace morrowleaf {
 
-// Whether the desktop starts the program when the user logs in.
+// Registers the program to be started when the user logs in. Reads and writes
+// small files at once; needs no application object.
 class LoginItem {
 public:
     enum class Status {
         NotRegistered,
         Enabled,
-        RequiresApproval, // registered, yet something keeps it from being started
+        RequiresApproval, // registered, but something keeps it from being started
     };
 
     virtual ~LoginItem() = default;
@@ -23,9 +24,9 @@ public:
     LoginItem& operator=(const LoginItem&) = delete;
 
     virtual Status status() const = 0;
-    // Both give nothing on success, else the system's own words.
-    virtual std::optional<QString> registerItem() = 0;
-    virtual std::optional<QString> unregisterItem() = 0;
+    // Both return std::nullopt on success, otherwise the system's error message.
+    [[nodiscard]] virtual std::optional<QString> registerItem() = 0;
+    [[nodiscard]] virtual std::optional<QString> unregisterItem() = 0;
 
 protected:
     LoginItem() = default;

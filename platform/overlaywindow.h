@@ -30,41 +30,43 @@ struct OverlaySetup {
     InputHold hold = InputHold::KeyboardAndMouse;
 };
 
-// What can be seen where the window's pixels are not opaque.
+// What shows through pixels of the window that are not opaque.
 enum class SeeThrough {
-    No,      // nothing: the window must paint every pixel opaque
-    Plain,   // what lies behind
+    No,      // nothing: paint every pixel opaque
+    Plain,   // the desktop behind
     Blurred, // the same, blurred by the compositor
 };
 
-// Turns one top-level widget into a window that covers its screen. It follows
-// the screen's size, is seen on every workspace and stands in no task list or
-// window switcher. The widget outlives it.
+// Turns one top-level widget into a window that covers its screen: borderless,
+// on every workspace, in no task list or window switcher. It follows the size
+// of the screen. Main thread.
 //
-// Order of a life: made (nothing on screen yet), orderFront(), orderOut(),
-// destroyed. Destroying it orders out what still stands.
+// Life: made (nothing is on screen yet), orderFront(), orderOut(), destroyed.
+// Destroying it orders the window out; the widget outlives it.
 class OverlayWindow : public QObject {
     Q_OBJECT
 
 public:
+    using QObject::QObject;
+
+    // Constant during the life of the window.
     virtual SeeThrough seeThrough() const = 0;
-    // Maps the window, raises it and takes focus and input as asked.
+    // Maps the window, raises it and takes focus and input as set up.
     virtual void orderFront() = 0;
-    // Unmaps it and gives focus and input back.
+    // Unmaps the window and returns the focus to the window that had it before.
     virtual void orderOut() = 0;
-    // Below ScreenSaver the window makes way for a dialog of the program and
-    // lets go of the input; back at ScreenSaver it takes both again.
+    // At Normal the window moves below a dialog of this program and releases
+    // its grabs; back at ScreenSaver it returns to the front with them.
     virtual void setLevel(WindowLevel level) = 0;
-    // The window stays where it is and lets go of all input that it holds from
-    // others, until the next orderFront().
-    virtual void letGo() = 0;
-    // The instant of the last orderFront() in the clock of input events'
-    // time stamps (milliseconds, wraps at 32 bits); nothing known: 0.
+    // Releases all grabs until the next orderFront(); the window stays mapped.
+    virtual void releaseInput() = 0;
+    // When orderFront() was last called, on the clock of input events' time
+    // stamps: milliseconds that wrap at 32 bits. 0 where that is not known.
     virtual quint32 orderedFrontAt() const = 0;
 
 signals:
-    // The screen or the surface is gone for good. May be emitted more than once,
-    // and from within orderFront().
+    // The screen or the surface is gone for good. Possibly emitted from within
+    // orderFront(), so destroy the window later, not in the slot.
     void lost();
 };
 
@@ -74,7 +76,8 @@ public:
     OverlayMaker(const OverlayMaker&) = delete;
     OverlayMaker& operator=(const OverlayMaker&) = delete;
 
-    // `window` is a top-level widget that was never shown.
+    // `window` is a top-level widget that was never shown; it gets its flags,
+    // attributes, screen and geometry here.
     virtual std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
                                                 const OverlaySetup& setup) = 0;
 

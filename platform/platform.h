@@ -4,22 +4,20 @@
 #pragma once
 
 #include "platform/colorscheme.h"
-#include "platform/desktoppicture.h"
 #include "platform/filechooser.h"
 #include "platform/loginitem.h"
-#include "platform/mainscreen.h"
 #include "platform/overlaywindow.h"
-#include "platform/quitrequests.h"
+#include "platform/screens.h"
 #include "platform/sessionevents.h"
 #include "platform/singleinstance.h"
 #include "platform/trayhost.h"
 
-#include <functional>
 #include <memory>
 
 namespace morrowleaf {
 
-// Everything the program needs of the desktop; no member is null.
+// Everything that the program needs of the desktop. No member is null; all are
+// used on the main thread and destroyed before the application object.
 struct Platform {
     std::unique_ptr<MainScreen> mainScreen;
     std::unique_ptr<OverlayMaker> overlays;
@@ -30,9 +28,6 @@ struct Platform {
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<SingleInstance> instance;
-    std::unique_ptr<QuitRequests> quitRequests;
-    // Hands memory that was freed back to the system.
-    std::function<void()> giveMemoryBack;
 };
 
 } // namespace morrowleaf

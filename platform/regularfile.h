@@ -8,9 +8,10 @@ class QString;
 
 namespace morrowleaf {
 
-// Opens the regular file at `path` for reading, without a buffer; false if
-// there is none or it may not be read. Pipes, devices, sockets and folders are
-// refused at once: merely opening one of them could wait for ever.
-bool openRegularFile(QFile& file, const QString& path);
+// Opens the regular file at `path` for reading into `file`, unbuffered.
+// Returns false where no such file exists or it may not be read. Pipes, devices,
+// sockets and folders are rejected without blocking, which QFile::open() does
+// not guarantee. Any thread.
+[[nodiscard]] bool openRegularFile(QFile& file, const QString& path);
 
 } // namespace morrowleaf

@@ -7,9 +7,10 @@
 
 namespace morrowleaf {
 
-// The moments at which the user comes back to the machine, or leaves it. No
-// coming back is announced while the session is locked or no screen exists:
-// what happened meanwhile is announced once that ends.
+// Tells when the user returns to the machine and when they leave it. While the
+// session is locked or inactive, or no monitor is on, the signals of a return
+// are held back; each kind that occurred meanwhile is emitted once when that
+// ends. Main thread.
 class SessionEvents : public QObject {
     Q_OBJECT
 
@@ -17,12 +18,17 @@ public:
     using QObject::QObject;
 
 signals:
+    // A return:
     void didWake();                // the machine woke from sleep
-    void sessionDidBecomeActive(); // the user's session is in front again
+    void sessionDidBecomeActive(); // the user switched back to this session
     void screenIsUnlocked();
-    // It is about to be locked, put to sleep or switched away: whoever holds
-    // the input from everybody else shall let go, for the lock's sake.
+
+    // The session is about to be locked, suspended or switched away. Release
+    // every input grab, or the screen locker cannot take the input.
     void willLeave();
+
+    // The system asks the program to end.
+    void quitRequested();
 };
 
 } // namespace morrowleaf

@@ -8,24 +8,24 @@
 
 namespace morrowleaf {
 
-// What a launch asks of the instance that runs.
+// What a launch asks of the running instance.
 struct LaunchRequest {
     QString action;          // "show", "settings", "edit-appearance" or "quit"
     QString activationToken; // lets a window come to the front; may be empty
 };
 
-// Sees to it that the program runs once in a session.
+// Ensures that the program runs once in a session. Main thread.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    // True: this process is the one from now on. False: another one is it and
-    // has got the request, or is there and does not answer; this one should
-    // end. Where neither can be found out it is true. Waits for the other one,
-    // for a bounded time.
-    virtual bool claim(const LaunchRequest& request) = 0;
+    // True: this process is the instance from now on. False: another one is; it
+    // has received `request`, or it does not answer, and this process should
+    // end. True as well where neither can be found out. Call once, at launch:
+    // it blocks for some seconds where the other instance is slow to answer.
+    [[nodiscard]] virtual bool claim(const LaunchRequest& request) = 0;
 
 signals:
     void requested(const morrowleaf::LaunchRequest& request);

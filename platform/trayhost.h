@@ -7,7 +7,8 @@
 
 namespace morrowleaf {
 
-// Whether a panel is there that shows status items.
+// Tells whether a panel shows status items. Qt decides once whether a tray
+// exists, so create a status item only after this says so. Main thread.
 class TrayHost : public QObject {
     Q_OBJECT
 
@@ -17,7 +18,8 @@ public:
     virtual bool isPresent() const = 0;
 
 signals:
-    void appeared(); // present from now on, with no item of ours
+    // A host came up that does not know any item of this program: create it anew.
+    void appeared();
 };
 
 } // namespace morrowleaf

@@ -9,7 +9,6 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QKeyEvent>
-#include <QPointer>
 #include <QStandardPaths>
 
 namespace morrowleaf {
@@ -84,17 +83,15 @@ void PhotoChooser::choose() {
     emit opening();
     const FileQuestion question{.title = title, .kindName = u"Images"_s, .mimeTypes = mimeTypes()};
     QWidget& window = *static_cast<QWidget*>(parent())->window();
-    desktop_.ask(window, question, [self = QPointer(this)](const FileAnswer& answer) {
-        if (!self) {
-            return;
-        }
+    const FileRequest* request = desktop_.ask(window, question);
+    connect(request, &FileRequest::answered, this, [this](const FileAnswer& answer) {
         switch (answer.kind) {
         case FileAnswer::Kind::Chosen:
-            return self->finish(answer.path);
+            return finish(answer.path);
         case FileAnswer::Kind::Cancelled:
-            return self->finish(std::nullopt);
+            return finish(std::nullopt);
         case FileAnswer::Kind::Unavailable:
-            return self->chooseWithQt();
+            return chooseWithQt();
         }
     });
 }

@@ -4,8 +4,7 @@
 #include "sources/webload.h"
 
 #include "base/job.h"
-#include "platform/floodguard.h"
-#include "platform/hostaddress.h"
+#include "platform/network.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>

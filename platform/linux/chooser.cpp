@@ -6,19 +6,11 @@
 #include "platform/linux/autostart.h"
 #include "platform/linux/dbus/portalcolorscheme.h"
 #include "platform/linux/dbus/portalfilechooser.h"
-#include "platform/linux/desktopinstance.h"
-#include "platform/linux/desktopsession.h"
-#include "platform/linux/desktoptray.h"
-#include "platform/linux/unixsignals.h"
-#include "platform/linux/wayland/layeroverlay.h"
-#include "platform/linux/wayland/screencopy.h"
-#include "platform/linux/wayland/waylandnative.h"
-#include "platform/linux/wayland/waylandoverlay.h"
-#include "platform/linux/wayland/waylandprobe.h"
+#include "platform/linux/desktopparts.h"
+#include "platform/linux/wayland/waylandconnection.h"
+#include "platform/linux/wayland/waylandparts.h"
 #include "platform/linux/x11/x11connection.h"
-#include "platform/linux/x11/x11mainscreen.h"
-#include "platform/linux/x11/x11overlay.h"
-#include "platform/linux/x11/x11picture.h"
+#include "platform/linux/x11/x11parts.h"
 #include "platform/null/nullplatform.h"
 
 #include <QByteArray>
@@ -61,11 +53,11 @@ std::optional<WindowSystem> forced() {
 
 // What the session offers, best first.
 WindowSystem offered() {
-    const WaylandSession wayland = probeWayland();
-    if (!wayland.reachable) {
+    const wayland::Session session = wayland::probeSession();
+    if (!session.isReachable) {
         return WindowSystem::X11;
     }
-    if (wayland.hasLayerShell) {
+    if (session.hasLayerShell) {
         return WindowSystem::Layer;
     }
     return qEnvironmentVariableIsEmpty("DISPLAY") ? WindowSystem::Wayland : WindowSystem::Xwayland;
@@ -131,7 +123,7 @@ bool isReachable(WindowSystem system) {
         return x11::serverAnswers();
     case WindowSystem::Layer:
     case WindowSystem::Wayland:
-        return probeWayland().reachable;
+        return wayland::probeSession().isReachable;
     case WindowSystem::Null:
         break;
     }
@@ -151,14 +143,12 @@ Platform makePlatform(WindowSystem system) {
     platform.trayHost = makeDesktopTray(x11);
     platform.loginItem = makeLoginItem();
     platform.instance = makeDesktopInstance();
-    platform.quitRequests = makeUnixSignals();
-    platform.giveMemoryBack = [] { malloc_trim(0); };
     if (x11) {
         platform.mainScreen = makeX11MainScreen();
         platform.overlays = makeX11Overlays(system == WindowSystem::Xwayland);
         platform.desktopPicture = makeX11Picture();
     } else if (system == WindowSystem::Layer) {
-        platform.overlays = makeLayerOverlays(bindGlobals(wayland::display(), nullptr));
+        platform.overlays = makeLayerOverlays();
         platform.desktopPicture = makeScreencopy();
     } else {
         platform.overlays = makeWaylandOverlays();

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/desktopsession.h"
+#include "platform/linux/desktopparts.h"
 
 #include "platform/linux/dbus/logind.h"
 #include "platform/linux/dbus/screensavers.h"
+#include "platform/linux/unixsignals.h"
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11monitors.h"
 #include "platform/shared/sessiongate.h"
@@ -19,12 +20,12 @@ namespace morrowleaf {
 
 namespace {
 
-// Monitors that come on arrive, move and change their size one after another.
+// Monitors that are switched on appear, move and resize one after another.
 constexpr int settleTime = 500; // milliseconds
 
-// Without any monitor a screen without an area may remain, or one made up.
+// Without any monitor a screen with an empty geometry may remain, or a made-up one.
 bool hasScreen() {
-    if (x11::connection() != nullptr && !X11Monitors::anyIsOn()) {
+    if (x11::connection() != nullptr && !X11Monitors::isAnyOn()) {
         return false;
     }
     const auto screens = QGuiApplication::screens();
@@ -35,10 +36,11 @@ bool hasScreen() {
 class DesktopSession final : public SessionEvents {
 public:
     DesktopSession()
-        : gate_([this](SessionGate::Event event) { announce(event); })
-        , logind_(gate_)
+        : logind_(gate_)
         , screenSavers_(gate_) {
-        gate_.onLeave = [this] { emit willLeave(); };
+        connect(&gate_, &SessionGate::delivered, this, &DesktopSession::announce);
+        connect(&gate_, &SessionGate::leaving, this, &SessionEvents::willLeave);
+        connect(&signals_, &UnixSignals::quitRequested, this, &SessionEvents::quitRequested);
         settle_.setSingleShot(true);
         settle_.setInterval(settleTime);
         connect(&settle_, &QTimer::timeout, this, &DesktopSession::lookForScreens);
@@ -68,7 +70,7 @@ private:
             lookForScreens();
         }
     }
-    void lookForScreens() { gate_.setBarred("no screen", !hasScreen()); }
+    void lookForScreens() { gate_.setInhibited("no screen", !hasScreen()); }
 
     void announce(SessionGate::Event event) {
         switch (event) {
@@ -88,7 +90,8 @@ private:
     QTimer settle_;
     Logind logind_;
     ScreenSavers screenSavers_;
-    std::unique_ptr<X11Monitors> monitors_; // none but on X11
+    UnixSignals signals_;
+    std::unique_ptr<X11Monitors> monitors_; // null except on X11
 };
 
 } // namespace

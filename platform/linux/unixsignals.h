@@ -3,13 +3,26 @@
 
 #pragma once
 
-#include "platform/quitrequests.h"
+#include <QObject>
+#include <QSocketNotifier>
 
 #include <memory>
 
 namespace morrowleaf {
 
-// SIGTERM, SIGINT and SIGHUP as quit requests on the main thread.
-std::unique_ptr<QuitRequests> makeUnixSignals();
+// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal. The handlers stay
+// installed for the life of the process; use one object at a time.
+class UnixSignals : public QObject {
+    Q_OBJECT
+
+public:
+    UnixSignals();
+
+signals:
+    void quitRequested();
+
+private:
+    std::unique_ptr<QSocketNotifier> notifier_; // null where there is no pipe
+};
 
 } // namespace morrowleaf

@@ -3,8 +3,6 @@
 
 #include "platform/null/nullplatform.h"
 
-#include "platform/null/nullcolorscheme.h"
-
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
@@ -32,7 +30,7 @@ public:
     }
     void orderOut() override { window_.hide(); }
     void setLevel(WindowLevel /*level*/) override {}
-    void letGo() override {}
+    void releaseInput() override {}
     quint32 orderedFrontAt() const override { return 0; }
 
 private:
@@ -63,9 +61,13 @@ public:
 
 class NoChooser final : public FileChooser {
 public:
-    void ask(QWidget& window, const FileQuestion& /*question*/,
-             std::function<void(const FileAnswer&)> done) override {
-        QTimer::singleShot(0, &window, [done = std::move(done)] { done({}); });
+    FileRequest* ask(QWidget& window, const FileQuestion& /*question*/) override {
+        auto* request = new FileRequest(&window);
+        QTimer::singleShot(0, request, [request] {
+            request->deleteLater();
+            emit request->answered({.kind = FileAnswer::Kind::Unavailable, .path = {}});
+        });
+        return request;
     }
 };
 
@@ -90,6 +92,11 @@ private:
     Status status_ = Status::NotRegistered;
 };
 
+class NullColorScheme final : public ColorScheme {
+public:
+    ColorPreference preference() const override { return ColorPreference::None; }
+};
+
 class OnlyInstance final : public SingleInstance {
 public:
     bool claim(const LaunchRequest& /*request*/) override { return true; }
@@ -97,22 +104,16 @@ public:
 
 } // namespace
 
-std::unique_ptr<OverlayMaker> makeNullOverlays() {
-    return std::make_unique<NullOverlays>();
-}
-
 Platform makeNullPlatform() {
     return {.mainScreen = std::make_unique<PrimaryScreen>(),
-            .overlays = makeNullOverlays(),
+            .overlays = std::make_unique<NullOverlays>(),
             .desktopPicture = std::make_unique<NoPicture>(),
             .fileChooser = std::make_unique<NoChooser>(),
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<NoTrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
             .colorScheme = std::make_unique<NullColorScheme>(),
-            .instance = std::make_unique<OnlyInstance>(),
-            .quitRequests = std::make_unique<QuitRequests>(),
-            .giveMemoryBack = [] {}};
+            .instance = std::make_unique<OnlyInstance>()};
 }
 
 } // namespace morrowleaf

@@ -7,10 +7,9 @@
 
 namespace morrowleaf {
 
-// A platform that leaves the desktop alone: windows are plain ones on the
-// primary screen, nothing ever happens to the session, and the login item is
-// remembered in memory.
+// A platform that leaves the desktop alone: overlays are ordinary windows on the
+// primary screen, session events never occur, and the login item is kept in
+// memory only.
 Platform makeNullPlatform();
-std::unique_ptr<OverlayMaker> makeNullOverlays();
 
 } // namespace morrowleaf

@@ -4,24 +4,34 @@
 #include "platform/shared/screenfollower.h"
 
 #include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <utility>
 
 namespace morrowleaf {
 
 ScreenFollower::ScreenFollower(QWidget& window, QScreen& screen) {
     connect(&screen, &QScreen::geometryChanged, this, [this, &window](const QRect& geometry) {
-        // The last monitor that goes leaves a screen without an area.
+        // Without any monitor a screen with an empty geometry remains.
         if (geometry.isEmpty()) {
-            emit lost();
+            loseScreen();
         } else {
             window.setGeometry(geometry);
         }
     });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this,
-            [this, gone = &screen](const QScreen* removed) {
-                if (removed == gone) {
-                    emit lost();
+            [this, followed = &screen](const QScreen* removed) {
+                if (removed == followed) {
+                    loseScreen();
                 }
             });
+}
+
+void ScreenFollower::loseScreen() {
+    if (!std::exchange(lost_, true)) {
+        emit lost();
+    }
 }
 
 } // namespace morrowleaf

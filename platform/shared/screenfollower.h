@@ -4,12 +4,14 @@
 #pragma once
 
 #include <QObject>
-#include <QScreen>
-#include <QWidget>
+
+class QScreen;
+class QWidget;
 
 namespace morrowleaf {
 
-// Keeps a window as large as its screen for as long as both exist.
+// Keeps a window as large as its screen, and tells when that screen is gone.
+// `window` and `screen` must outlive it; a screen that Qt removes may not.
 class ScreenFollower : public QObject {
     Q_OBJECT
 
@@ -17,7 +19,12 @@ public:
     ScreenFollower(QWidget& window, QScreen& screen);
 
 signals:
-    void lost(); // the screen was removed or has no area any more
+    void lost(); // once
+
+private:
+    void loseScreen();
+
+    bool lost_ = false;
 };
 
 } // namespace morrowleaf

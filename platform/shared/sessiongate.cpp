@@ -7,37 +7,32 @@
 
 namespace morrowleaf {
 
-SessionGate::SessionGate(std::function<void(Event)> announce)
-    : announce_(std::move(announce)) {}
-
-void SessionGate::happened(Event event) {
-    if (isOpen()) {
-        announce_(event);
+void SessionGate::report(Event event) {
+    if (inhibitors_.isEmpty()) {
+        emit delivered(event);
     } else {
-        kept_.insert(event);
+        queued_.insert(event);
     }
 }
 
-void SessionGate::setBarred(const QString& by, bool barred) {
-    if (barred) {
-        if (!bars_.contains(by)) {
-            bars_.insert(by);
-            leaving();
+void SessionGate::setInhibited(const QString& inhibitor, bool active) {
+    if (active) {
+        if (!inhibitors_.contains(inhibitor)) {
+            inhibitors_.insert(inhibitor);
+            reportLeaving();
         }
         return;
     }
-    bars_.remove(by);
-    if (isOpen()) {
-        for (const Event event : std::exchange(kept_, {})) {
-            announce_(event);
+    inhibitors_.remove(inhibitor);
+    if (inhibitors_.isEmpty()) {
+        for (const Event event : std::exchange(queued_, {})) {
+            emit delivered(event);
         }
     }
 }
 
-void SessionGate::leaving() const {
-    if (onLeave) {
-        onLeave();
-    }
+void SessionGate::reportLeaving() {
+    emit leaving();
 }
 
 } // namespace morrowleaf

@@ -3,36 +3,38 @@
 
 #pragma once
 
+#include <QObject>
 #include <QSet>
 #include <QString>
 
-#include <functional>
 #include <set>
 
 namespace morrowleaf {
 
-// Lets events pass while nothing bars the way, and keeps them while something
-// does. Several kinds that were kept are announced together.
-class SessionGate {
+// Delivers events at once, or queues one per kind while an inhibitor is active
+// and delivers them, in the order of Event, when the last inhibitor ends.
+class SessionGate : public QObject {
+    Q_OBJECT
+
 public:
     enum class Event { Wake, Active, Unlocked };
 
-    explicit SessionGate(std::function<void(Event)> announce);
+    using QObject::QObject;
 
-    void happened(Event event);
-    // `by` names who bars the way; each lifts its own bar only.
-    void setBarred(const QString& by, bool barred);
-    bool isOpen() const { return bars_.isEmpty(); }
-    // The user is about to leave, whether or not a bar will follow.
-    void leaving() const;
+    void report(Event event);
+    // Starts and ends an inhibitor, such as a locked screen, by its name. Does
+    // nothing where it is in that state already.
+    void setInhibited(const QString& inhibitor, bool active);
+    // The user is about to leave, whether or not an inhibitor will follow.
+    void reportLeaving();
 
-    // Called when the user is leaving and when a bar is put up; may be empty.
-    std::function<void()> onLeave;
+signals:
+    void delivered(morrowleaf::SessionGate::Event event);
+    void leaving(); // reported, or an inhibitor started
 
 private:
-    std::function<void(Event)> announce_;
-    QSet<QString> bars_;
-    std::set<Event> kept_;
+    QSet<QString> inhibitors_;
+    std::set<Event> queued_;
 };
 
 } // namespace morrowleaf

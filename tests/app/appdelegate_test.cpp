@@ -283,12 +283,12 @@ TEST_F(AppDelegateTest, TheEditorLowersTheWindowForDialogs) {
 TEST_F(AppDelegateTest, WhoeverLeavesIsNotHeld) {
     launch();
     emit desktop.platform.sessionEvents->willLeave();
-    EXPECT_EQ(top().letGos, 1);
+    EXPECT_EQ(top().inputReleases, 1);
     EXPECT_TRUE(isShown());
     press(Qt::Key_A);
     EXPECT_FALSE(isShown());
     emit desktop.platform.sessionEvents->willLeave();
-    EXPECT_EQ(top().letGos, 1);
+    EXPECT_EQ(top().inputReleases, 1);
 }
 
 TEST_F(AppDelegateTest, PreviewHasNeitherMonitorNorTimer) {

@@ -5,19 +5,32 @@
 
 #include "platform/filechooser.h"
 
+#include <QPointer>
+#include <QWidget>
+
 namespace morrowleaf {
 
 // Counts the questions, and answers the last one when told to.
 class FakeFileChooser final : public FileChooser {
 public:
-    void ask(QWidget& /*window*/, const FileQuestion& /*question*/,
-             std::function<void(const FileAnswer&)> done) override {
+    FileRequest* ask(QWidget& window, const FileQuestion& /*question*/) override {
         ++asked;
-        answer = std::move(done);
+        request_ = new FileRequest(&window);
+        return request_;
+    }
+
+    // Does nothing after the window of the question has gone.
+    void answer(const FileAnswer& answer) {
+        if (request_) {
+            request_->deleteLater();
+            emit request_->answered(answer);
+        }
     }
 
     int asked = 0;
-    std::function<void(const FileAnswer&)> answer;
+
+private:
+    QPointer<FileRequest> request_;
 };
 
 } // namespace morrowleaf

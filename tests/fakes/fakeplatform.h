@@ -21,7 +21,7 @@ struct OverlayRecord {
     OverlayWindow* overlay = nullptr; // null once destroyed
     int fronts = 0;
     int outs = 0;
-    int letGos = 0;
+    int inputReleases = 0;
     std::vector<WindowLevel> levels;
     double alphaAtFront = -1;
 };
@@ -82,7 +82,7 @@ private:
             record->window->hide();
         }
         void setLevel(WindowLevel level) override { record->levels.push_back(level); }
-        void letGo() override { ++record->letGos; }
+        void releaseInput() override { ++record->inputReleases; }
         quint32 orderedFrontAt() const override { return desktop.frontTime; }
         FakeDesktop& desktop;
         std::shared_ptr<OverlayRecord> record;

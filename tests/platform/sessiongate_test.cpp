@@ -14,58 +14,63 @@ using Event = SessionGate::Event;
 
 class SessionGateTest : public testing::Test {
 protected:
-    std::vector<Event> announced;
-    SessionGate gate{[this](Event e) { announced.push_back(e); }};
+    SessionGateTest() {
+        QObject::connect(&gate, &SessionGate::delivered, &gate,
+                         [this](Event event) { delivered.push_back(event); });
+        QObject::connect(&gate, &SessionGate::leaving, &gate, [this] { ++leavings; });
+    }
+
+    SessionGate gate;
+    std::vector<Event> delivered;
+    int leavings = 0;
 };
 
-TEST_F(SessionGateTest, PassesWhatHappens) {
-    gate.happened(Event::Wake);
-    gate.happened(Event::Wake);
-    gate.happened(Event::Active);
-    EXPECT_EQ(announced, (std::vector{Event::Wake, Event::Wake, Event::Active}));
+TEST_F(SessionGateTest, DeliversAtOnceWithoutAnInhibitor) {
+    gate.report(Event::Wake);
+    gate.report(Event::Wake);
+    gate.report(Event::Active);
+    EXPECT_EQ(delivered, (std::vector{Event::Wake, Event::Wake, Event::Active}));
 }
 
-TEST_F(SessionGateTest, KeepsEachKindOnceWhileBarred) {
-    gate.setBarred("locked", true);
-    gate.happened(Event::Wake);
-    gate.happened(Event::Wake);
-    gate.happened(Event::Unlocked);
-    EXPECT_TRUE(announced.empty());
-    gate.setBarred("locked", false);
-    EXPECT_EQ(announced, (std::vector{Event::Wake, Event::Unlocked}));
-    gate.setBarred("locked", false);
-    EXPECT_EQ(announced.size(), 2U);
+TEST_F(SessionGateTest, QueuesEachKindOnceWhileInhibited) {
+    gate.setInhibited("locked", true);
+    gate.report(Event::Wake);
+    gate.report(Event::Wake);
+    gate.report(Event::Unlocked);
+    EXPECT_TRUE(delivered.empty());
+    gate.setInhibited("locked", false);
+    EXPECT_EQ(delivered, (std::vector{Event::Wake, Event::Unlocked}));
+    gate.setInhibited("locked", false);
+    EXPECT_EQ(delivered.size(), 2U);
 }
 
-TEST_F(SessionGateTest, OpensWhenTheLastBarIsLifted) {
-    gate.setBarred("locked", true);
-    gate.setBarred("locked", true);
-    gate.setBarred("no screen", true);
-    gate.happened(Event::Wake);
-    gate.setBarred("locked", false);
-    EXPECT_TRUE(announced.empty());
-    gate.setBarred("no screen", false);
-    EXPECT_EQ(announced, std::vector{Event::Wake});
+TEST_F(SessionGateTest, DeliversWhenTheLastInhibitorEnds) {
+    gate.setInhibited("locked", true);
+    gate.setInhibited("locked", true);
+    gate.setInhibited("no screen", true);
+    gate.report(Event::Wake);
+    gate.setInhibited("locked", false);
+    EXPECT_TRUE(delivered.empty());
+    gate.setInhibited("no screen", false);
+    EXPECT_EQ(delivered, std::vector{Event::Wake});
 }
 
-TEST_F(SessionGateTest, NothingHappenedNothingIsAnnounced) {
-    gate.setBarred("locked", true);
-    gate.setBarred("locked", false);
-    gate.setBarred("never set", false);
-    EXPECT_TRUE(announced.empty());
+TEST_F(SessionGateTest, DeliversNothingWhereNothingWasReported) {
+    gate.setInhibited("locked", true);
+    gate.setInhibited("locked", false);
+    gate.setInhibited("never active", false);
+    EXPECT_TRUE(delivered.empty());
 }
 
-TEST_F(SessionGateTest, TellsThatTheUserLeavesOncePerBar) {
-    int told = 0;
-    gate.onLeave = [&told] { ++told; };
-    gate.setBarred("locked", true);
-    gate.setBarred("locked", true);
-    EXPECT_EQ(told, 1);
-    gate.setBarred("locked", false);
-    EXPECT_EQ(told, 1);
-    gate.leaving();
-    gate.setBarred("locked", true);
-    EXPECT_EQ(told, 3);
+TEST_F(SessionGateTest, TellsOncePerInhibitorThatTheUserLeaves) {
+    gate.setInhibited("locked", true);
+    gate.setInhibited("locked", true);
+    EXPECT_EQ(leavings, 1);
+    gate.setInhibited("locked", false);
+    EXPECT_EQ(leavings, 1);
+    gate.reportLeaving();
+    gate.setInhibited("locked", true);
+    EXPECT_EQ(leavings, 3);
 }
 
 } // namespace

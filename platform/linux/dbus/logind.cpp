@@ -22,8 +22,8 @@ const QString managerInterface = "org.freedesktop.login1.Manager";
 const QString sessionInterface = "org.freedesktop.login1.Session";
 const QString userInterface = "org.freedesktop.login1.User";
 const QString propertiesInterface = "org.freedesktop.DBus.Properties";
-const QString lockedBar = "locked";
-const QString inactiveBar = "inactive";
+const QString lockedInhibitor = "locked";
+const QString inactiveInhibitor = "inactive";
 
 template <typename Answer>
 void whenAnswered(QObject* owner, const QDBusPendingCall& call, Answer answer) {
@@ -70,8 +70,8 @@ Logind::Logind(SessionGate& gate, QObject* parent)
     connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &Logind::findSession);
     connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
         // Nobody would lift what a vanished manager has said.
-        gate_.setBarred(lockedBar, false);
-        gate_.setBarred(inactiveBar, false);
+        gate_.setInhibited(lockedInhibitor, false);
+        gate_.setInhibited(inactiveInhibitor, false);
     });
     link_.open();
 }
@@ -154,22 +154,22 @@ void Logind::readState() {
 
 void Logind::prepareForSleep(bool begins) {
     if (begins) {
-        gate_.leaving();
+        gate_.reportLeaving();
     } else {
-        gate_.happened(SessionGate::Event::Wake);
+        gate_.report(SessionGate::Event::Wake);
     }
 }
 
 void Logind::lockAsked(const QDBusMessage& message) {
     if (message.path() == session_) {
-        gate_.leaving();
+        gate_.reportLeaving();
     }
 }
 
 void Logind::unlockAsked(const QDBusMessage& message) {
     if (message.path() == session_) {
-        gate_.happened(SessionGate::Event::Unlocked);
-        gate_.setBarred(lockedBar, false);
+        gate_.report(SessionGate::Event::Unlocked);
+        gate_.setInhibited(lockedInhibitor, false);
     }
 }
 
@@ -195,22 +195,22 @@ void Logind::apply(const QVariantMap& properties, bool isChange) {
     const auto active = told("Active");
     // What bars comes first: both may be told at once.
     if (lockedHint == true) {
-        gate_.setBarred(lockedBar, true);
+        gate_.setInhibited(lockedInhibitor, true);
     }
     if (active == false) {
-        gate_.setBarred(inactiveBar, true);
+        gate_.setInhibited(inactiveInhibitor, true);
     }
     if (lockedHint == false) {
         if (isChange) {
-            gate_.happened(SessionGate::Event::Unlocked);
+            gate_.report(SessionGate::Event::Unlocked);
         }
-        gate_.setBarred(lockedBar, false);
+        gate_.setInhibited(lockedInhibitor, false);
     }
     if (active == true) {
         if (isChange) {
-            gate_.happened(SessionGate::Event::Active);
+            gate_.report(SessionGate::Event::Active);
         }
-        gate_.setBarred(inactiveBar, false);
+        gate_.setInhibited(inactiveInhibitor, false);
     }
 }
 

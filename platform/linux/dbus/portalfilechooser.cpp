@@ -3,15 +3,22 @@
 
 #include "platform/linux/dbus/portalfilechooser.h"
 
-#include "platform/linux/dbus/portalrequest.h"
-
 #include <QDBusArgument>
+#include <QDBusMessage>
 #include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QTimer>
+#include <QUrl>
+#include <QUuid>
 #include <QVariantMap>
 #include <QWidget>
 #include <QWindow>
+
+#include <utility>
 
 namespace morrowleaf {
 
@@ -52,6 +59,11 @@ const QDBusArgument& operator>>(const QDBusArgument& from, FileFilter& filter) {
 
 namespace {
 
+constexpr QLatin1StringView service{"org.freedesktop.portal.Desktop"};
+constexpr QLatin1StringView objectPath{"/org/freedesktop/portal/desktop"};
+constexpr QLatin1StringView chooserInterface{"org.freedesktop.portal.FileChooser"};
+constexpr QLatin1StringView requestInterface{"org.freedesktop.portal.Request"};
+constexpr int patience = 8000; // milliseconds for the portal to start and open its dialog
 constexpr uint mimeRule = 1;
 
 // How the portal is told which window the dialog belongs to; nothing for one
@@ -64,6 +76,94 @@ QString handleOf(const QWidget& window) {
                : QString();
 }
 
+// One question to the portal. It deletes itself once answered, and closes the
+// dialog when its parent, the window, goes.
+class PortalRequest : public FileRequest {
+    Q_OBJECT
+
+public:
+    PortalRequest(const QDBusConnection& bus, QWidget& window);
+    ~PortalRequest() override;
+
+    void openFile(const QString& window, const QString& title, QVariantMap options);
+
+private slots:
+    void response(uint code, const QVariantMap& results);
+
+private:
+    void listenAt(const QString& path);
+    void finish(const FileAnswer& answer);
+    void closeDialog();
+
+    QDBusConnection bus_;
+    QString token_;
+    QString path_;
+    bool finished_ = false;
+};
+
+PortalRequest::PortalRequest(const QDBusConnection& bus, QWidget& window)
+    : FileRequest(&window)
+    , bus_(bus)
+    , token_(QStringLiteral("morrowleaf") + QUuid::createUuid().toString(QUuid::Id128)) {
+    auto* watcher =
+        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { finish({.kind = FileAnswer::Kind::Cancelled, .path = {}}); });
+}
+
+PortalRequest::~PortalRequest() {
+    if (!finished_) {
+        closeDialog();
+    }
+}
+
+void PortalRequest::openFile(const QString& window, const QString& title, QVariantMap options) {
+    options.insert(QStringLiteral("handle_token"), token_);
+    // The answer may be faster than the call's own return.
+    const QString sender = bus_.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+    listenAt(objectPath + QStringLiteral("/request/%1/%2").arg(sender, token_));
+    QDBusMessage call = QDBusMessage::createMethodCall(service, objectPath, chooserInterface,
+                                                       QStringLiteral("OpenFile"));
+    call << window << title << options;
+    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, patience), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
+        if (reply.isError()) {
+            closeDialog();
+            finish({});
+        } else if (reply.value().path() != path_) {
+            listenAt(reply.value().path());
+        }
+    });
+}
+
+void PortalRequest::listenAt(const QString& path) {
+    path_ = path;
+    bus_.connect(service, path_, requestInterface, QStringLiteral("Response"), this,
+                 SLOT(response(uint, QVariantMap)));
+}
+
+void PortalRequest::response(uint code, const QVariantMap& results) {
+    const QStringList addresses = results.value(QStringLiteral("uris")).toStringList();
+    const QString path = code == 0 && !addresses.isEmpty()
+                             ? QUrl(addresses.first(), QUrl::StrictMode).toLocalFile()
+                             : QString();
+    finish({.kind = path.isEmpty() ? FileAnswer::Kind::Cancelled : FileAnswer::Kind::Chosen,
+            .path = path});
+}
+
+void PortalRequest::finish(const FileAnswer& answer) {
+    if (!std::exchange(finished_, true)) {
+        deleteLater();
+        emit answered(answer);
+    }
+}
+
+void PortalRequest::closeDialog() {
+    bus_.asyncCall(
+        QDBusMessage::createMethodCall(service, path_, requestInterface, QStringLiteral("Close")));
+}
+
 } // namespace
 
 PortalFileChooser::PortalFileChooser(QDBusConnection bus)
@@ -74,23 +174,22 @@ PortalFileChooser::PortalFileChooser(QDBusConnection bus)
     qDBusRegisterMetaType<QList<FileFilter>>();
 }
 
-void PortalFileChooser::ask(QWidget& window, const FileQuestion& question,
-                            std::function<void(const FileAnswer&)> done) {
-    if (!bus_.isConnected()) {
-        QTimer::singleShot(0, &window, [done = std::move(done)] { done({}); });
-        return;
-    }
+FileRequest* PortalFileChooser::ask(QWidget& window, const FileQuestion& question) {
+    auto* request = new PortalRequest(bus_, window);
     FileFilter filter{.name = question.kindName, .rules = {}};
     for (const QString& type : question.mimeTypes) {
         filter.rules.append({.kind = mimeRule, .pattern = type});
     }
-    const QVariantMap options{
-        {QStringLiteral("multiple"), false},
-        {QStringLiteral("modal"), true},
-        {QStringLiteral("filters"), QVariant::fromValue(QList<FileFilter>{filter})},
-    };
-    auto* request = new PortalRequest(bus_, &window, std::move(done));
-    request->openFile(handleOf(window), question.title, options);
+    request->openFile(
+        handleOf(window), question.title,
+        {
+            {QStringLiteral("multiple"), false},
+            {QStringLiteral("modal"), true},
+            {QStringLiteral("filters"), QVariant::fromValue(QList<FileFilter>{filter})},
+        });
+    return request;
 }
 
 } // namespace morrowleaf
+
+#include "portalfilechooser.moc"

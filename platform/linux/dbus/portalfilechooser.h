@@ -14,8 +14,7 @@ class PortalFileChooser : public FileChooser {
 public:
     explicit PortalFileChooser(QDBusConnection bus = QDBusConnection::sessionBus());
 
-    void ask(QWidget& window, const FileQuestion& question,
-             std::function<void(const FileAnswer&)> done) override;
+    FileRequest* ask(QWidget& window, const FileQuestion& question) override;
 
 private:
     QDBusConnection bus_;

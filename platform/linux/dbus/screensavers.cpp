@@ -31,7 +31,7 @@ ScreenSavers::ScreenSavers(SessionGate& gate, QObject* parent)
     connect(&link_, &BusLink::up, this, &ScreenSavers::subscribe);
     // A screen saver that is gone covers nothing.
     connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this](const QString& service) { gate_.setBarred(service, false); });
+            [this](const QString& service) { gate_.setInhibited(service, false); });
     link_.open();
 }
 
@@ -50,9 +50,9 @@ void ScreenSavers::subscribe() {
 
 void ScreenSavers::activeChanged(bool active, const QDBusMessage& message) {
     if (!active) {
-        gate_.happened(SessionGate::Event::Unlocked);
+        gate_.report(SessionGate::Event::Unlocked);
     }
-    gate_.setBarred(message.interface(), active);
+    gate_.setInhibited(message.interface(), active);
 }
 
 } // namespace morrowleaf

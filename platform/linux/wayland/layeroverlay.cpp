@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/wayland/layeroverlay.h"
+#include "platform/linux/wayland/waylandparts.h"
 
-#include "platform/linux/wayland/waylandnative.h"
+#include "platform/linux/wayland/waylandconnection.h"
 
 #include <QElapsedTimer>
 #include <QScreen>
@@ -18,15 +18,14 @@ namespace {
 constexpr std::uint32_t allEdges =
     ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_BOTTOM |
     ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
-constexpr std::int32_t overPanels = -1;
-constexpr std::uint32_t exclusive = 1;
-// Milliseconds until the compositor has told other windows what it has to.
-constexpr int focusPatience = 150;
+constexpr std::int32_t overPanels = -1;    // exclusive zone
+constexpr std::uint32_t exclusive = 1;     // keyboard interactivity
+constexpr int focusPatience = 150;         // milliseconds in which Qt may activate another window
 constexpr qint64 configurePatience = 2000; // milliseconds
 
 class LayerOverlay final : public OverlayWindow {
 public:
-    LayerOverlay(QWidget& window, QScreen& screen, const WaylandGlobals& globals)
+    LayerOverlay(QWidget& window, QScreen& screen, const wayland::Globals& globals)
         : window_(window)
         , globals_(globals) {
         window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
@@ -35,7 +34,7 @@ public:
         window.setGeometry(screen.geometry());
         focus_.setSingleShot(true);
         focus_.setInterval(focusPatience);
-        QObject::connect(&focus_, &QTimer::timeout, &focus_, [this] {
+        connect(&focus_, &QTimer::timeout, this, [this] {
             if (window_.isVisible() && layer_ != nullptr) {
                 wayland::takeFocus(*window_.windowHandle());
             }
@@ -54,7 +53,7 @@ public:
             createSurface();
         }
         if (!configured_) {
-            // A surface that is given a picture too early ends the connection.
+            // Attaching a buffer to an unconfigured surface is a protocol error.
             emit lost();
             return;
         }
@@ -69,7 +68,7 @@ public:
         destroySurface();
         window_.hide();
         if (auto* handle = window_.windowHandle()) {
-            // Its surface has had a role and cannot get another.
+            // A surface keeps its role for life, so the next one needs a new surface.
             handle->destroy();
         }
     }
@@ -87,10 +86,10 @@ public:
         wl_display_flush(wayland::display());
     }
 
-    // A lock screen stands above all layers and has the keyboard.
-    void letGo() override {}
+    // A lock screen is above all layers and gets the keyboard anyway.
+    void releaseInput() override {}
 
-    // The compositor sends a window nothing that happened before it was there.
+    // A window never gets input from before it was mapped.
     quint32 orderedFrontAt() const override { return 0; }
 
 private:
@@ -106,10 +105,10 @@ private:
         if (surface == nullptr) {
             return;
         }
-        // No output named: the compositor takes the one that has the focus.
+        // Without an output the compositor chooses the focused one.
         layer_ = zwlr_layer_shell_v1_get_layer_surface(
             globals_.layerShell, surface, nullptr, ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "morrowleaf");
-        // Configured on the toolkit's own queue, after its work is done.
+        // Events are dispatched on the default queue, as Qt's own are.
         wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(layer_), nullptr);
         static constexpr zwlr_layer_surface_v1_listener listener{onConfigure, onClosed};
         zwlr_layer_surface_v1_add_listener(layer_, &listener, this);
@@ -123,8 +122,8 @@ private:
             org_kde_kwin_blur_commit(blur_);
         }
         wl_surface_commit(surface);
-        // The size is known before anything is drawn. Without an output the
-        // surface is closed instead, or nothing comes.
+        // Wait for the size before anything is drawn. Without any output the
+        // compositor closes the surface or sends nothing.
         QElapsedTimer waiting;
         waiting.start();
         while (!configured_ && !closed_ && waiting.elapsed() < configurePatience &&
@@ -167,7 +166,7 @@ private:
     }
 
     QWidget& window_;
-    WaylandGlobals globals_;
+    wayland::Globals globals_;
     zwlr_layer_surface_v1* layer_ = nullptr;
     org_kde_kwin_blur* blur_ = nullptr;
     bool configured_ = false;
@@ -177,8 +176,8 @@ private:
 
 class LayerOverlays final : public OverlayMaker {
 public:
-    explicit LayerOverlays(const WaylandGlobals& globals)
-        : globals_(globals) {}
+    LayerOverlays()
+        : globals_(wayland::bindGlobals(wayland::display(), nullptr)) {}
 
     std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
                                         const OverlaySetup& /*setup*/) override {
@@ -186,13 +185,13 @@ public:
     }
 
 private:
-    WaylandGlobals globals_;
+    wayland::Globals globals_;
 };
 
 } // namespace
 
-std::unique_ptr<OverlayMaker> makeLayerOverlays(const WaylandGlobals& globals) {
-    return std::make_unique<LayerOverlays>(globals);
+std::unique_ptr<OverlayMaker> makeLayerOverlays() {
+    return std::make_unique<LayerOverlays>();
 }
 
 } // namespace morrowleaf

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/wayland/screencopy.h"
+#include "platform/linux/wayland/waylandparts.h"
 
-#include "platform/linux/wayland/waylandnative.h"
+#include "platform/linux/wayland/waylandconnection.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -130,12 +130,12 @@ public:
     Screencopy()
         : display_(wayland::display())
         , queue_(wl_display_create_queue(display_))
-        , globals_(bindGlobals(display_, queue_)) {}
+        , globals_(wayland::bindGlobals(display_, queue_)) {}
 
     QImage capture(QScreen& screen) override {
         wl_output* output = wayland::outputOf(screen);
-        // With several screens it is the compositor that chooses one for the
-        // window, later than this.
+        // With several screens the compositor chooses one for the window, and
+        // only later than this.
         if (globals_.screencopy == nullptr || globals_.shm == nullptr || output == nullptr ||
             QGuiApplication::screens().size() != 1) {
             return {};
@@ -153,7 +153,7 @@ public:
 private:
     wl_display* display_;
     wl_event_queue* queue_;
-    WaylandGlobals globals_;
+    wayland::Globals globals_;
 };
 
 } // namespace

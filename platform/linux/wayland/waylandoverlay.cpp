@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/wayland/waylandoverlay.h"
+#include "platform/linux/wayland/waylandparts.h"
 
 #include "platform/shared/screenfollower.h"
 
+#include <QScreen>
 #include <QWidget>
 
 namespace morrowleaf {
@@ -17,10 +18,10 @@ public:
         : window_(window)
         , fullScreen_(setup.level == WindowLevel::ScreenSaver)
         , follower_(window, screen) {
+        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
         window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         window.setScreen(&screen);
         window.setGeometry(screen.geometry());
-        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
     }
     ~WaylandOverlay() override { window_.hide(); }
 
@@ -45,7 +46,7 @@ public:
             window_.showNormal();
         }
     }
-    void letGo() override {} // it holds nothing
+    void releaseInput() override {} // it grabs nothing
     quint32 orderedFrontAt() const override { return 0; }
 
 private:

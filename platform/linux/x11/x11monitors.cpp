@@ -12,8 +12,8 @@ namespace morrowleaf {
 
 namespace {
 
-// The number of the extension's first event; 0 where there is no extension.
-// The toolkit has asked for these events already.
+// The number of the RandR extension's first event; 0 without the extension. Qt
+// has asked the server for these events already.
 std::uint8_t firstEvent() {
     const auto* extension = xcb_get_extension_data(x11::connection(), &xcb_randr_id);
     return extension != nullptr && extension->present != 0 ? extension->first_event : 0;
@@ -29,7 +29,7 @@ X11Monitors::~X11Monitors() {
     QCoreApplication::instance()->removeNativeEventFilter(this);
 }
 
-bool X11Monitors::anyIsOn() {
+bool X11Monitors::isAnyOn() {
     if (firstEvent() == 0) {
         return true;
     }

@@ -8,8 +8,8 @@
 
 namespace morrowleaf {
 
-// Tells when monitors were switched on or off. The toolkit puts a screen of
-// its own in the place of the last one that goes, and says nothing.
+// Tells when monitors were switched on or off. When the last one goes, Qt
+// replaces it with a screen of its own and emits no signal.
 class X11Monitors : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
 
@@ -17,13 +17,13 @@ public:
     X11Monitors();
     ~X11Monitors() override;
 
-    // Whether one is on; true where the server cannot be asked.
-    static bool anyIsOn();
+    // Whether at least one monitor is on; true where the server does not tell.
+    static bool isAnyOn();
 
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
 signals:
-    void changed(); // the toolkit knows by then
+    void changed(); // Qt has updated its screens by then
 };
 
 } // namespace morrowleaf

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/x11/x11overlay.h"
+#include "platform/linux/x11/x11parts.h"
 
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11hold.h"
@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 
@@ -40,6 +41,7 @@ public:
         , composited_(x11::hasCompositor())
         , hold_(std::move(hold))
         , follower_(window, screen) {
+        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
         Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
         if (!managed_) {
             flags |= Qt::X11BypassWindowManagerHint;
@@ -54,9 +56,8 @@ public:
         window.winId();
         describe();
         listen();
-        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
         connect(&monitors_, &X11Monitors::changed, this, [this] {
-            if (!X11Monitors::anyIsOn()) {
+            if (!X11Monitors::isAnyOn()) {
                 emit lost();
             }
         });
@@ -75,14 +76,14 @@ public:
     }
 
     void orderFront() override {
-        letGo_ = false;
+        inputReleased_ = false;
         orderedFrontAt_ = x11::serverTime();
         if (managed_ && setup_.level == WindowLevel::ScreenSaver) {
             window_.showFullScreen();
         } else {
             window_.show();
         }
-        comeForward();
+        moveToFront();
     }
 
     void orderOut() override {
@@ -103,12 +104,12 @@ public:
             stack(XCB_STACK_MODE_BELOW, XCB_WINDOW_NONE);
             standBelowActive();
         } else {
-            comeForward();
+            moveToFront();
         }
     }
 
-    void letGo() override {
-        letGo_ = true;
+    void releaseInput() override {
+        inputReleased_ = true;
         watch_.stop();
         hold_->release(*window_.windowHandle());
     }
@@ -165,20 +166,20 @@ private:
         if (setup_.hold == InputHold::KeyboardIfNeeded) {
             watch_.setSingleShot(true);
             watch_.setInterval(focusPatience);
-            QObject::connect(&watch_, &QTimer::timeout, &watch_, [this] { insist(); });
-            QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &watch_, [this] {
-                if (window_.isVisible() && !lowered_ && !letGo_) {
+            connect(&watch_, &QTimer::timeout, this, [this] { insist(); });
+            connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
+                if (window_.isVisible() && !lowered_ && !inputReleased_) {
                     watch_.start();
                 }
             });
         }
     }
 
-    void comeForward() {
-        if (letGo_) {
+    void moveToFront() {
+        if (inputReleased_) {
             return;
         }
-        cameForward_.start();
+        movedToFront_.start();
         window_.raise();
         hold_->take(*window_.windowHandle(),
                     managed_ ? X11Hold::What::Focus : initialHold(setup_.hold));
@@ -192,8 +193,9 @@ private:
     void insist() {
         const QWindow* focused = QGuiApplication::focusWindow();
         const bool strayed =
-            focused != window_.windowHandle() && cameForward_.elapsed() < settlingTime;
-        if (window_.isVisible() && !lowered_ && !letGo_ && (focused == nullptr || strayed)) {
+            focused != window_.windowHandle() && movedToFront_.elapsed() < settlingTime;
+        if (window_.isVisible() && !lowered_ && !inputReleased_ &&
+            (focused == nullptr || strayed)) {
             hold_->take(*window_.windowHandle(), focused == nullptr
                                                      ? X11Hold::What::FocusAndKeyboard
                                                      : X11Hold::What::Focus);
@@ -237,7 +239,7 @@ private:
         const bool ownPopup = std::any_of(windows.begin(), windows.end(), [](const QWindow* w) {
             return w->isVisible() && (w->type() == Qt::Popup || w->type() == Qt::ToolTip);
         });
-        if (!lowered_ && !letGo_ && !ownPopup && window_.isVisible() &&
+        if (!lowered_ && !inputReleased_ && !ownPopup && window_.isVisible() &&
             hold_->isHolder(*window_.windowHandle()) && raises_ < mostRaises) {
             ++raises_;
             stack(XCB_STACK_MODE_ABOVE, XCB_WINDOW_NONE);
@@ -250,7 +252,7 @@ private:
     bool composited_;
     bool lowered_ = false;
     xcb_window_t dialog_ = XCB_WINDOW_NONE; // what it was lowered for
-    bool letGo_ = false;
+    bool inputReleased_ = false;
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;
     xcb_atom_t activeWindowAtom_ = XCB_ATOM_NONE;
@@ -258,7 +260,7 @@ private:
     ScreenFollower follower_;
     X11Monitors monitors_;
     QTimer watch_;
-    QElapsedTimer cameForward_;
+    QElapsedTimer movedToFront_;
 };
 
 class X11Overlays final : public OverlayMaker {

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/x11/x11mainscreen.h"
+#include "platform/linux/x11/x11parts.h"
 
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11monitors.h"
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QPixmap>
 #include <QScreen>
 
 namespace morrowleaf {
@@ -67,7 +68,7 @@ QScreen* largestOverlap(const QRect& window) {
 class X11MainScreen final : public MainScreen {
 public:
     QScreen* current() const override {
-        if (!X11Monitors::anyIsOn()) {
+        if (!X11Monitors::isAnyOn()) {
             return nullptr;
         }
         QScreen* screen = nullptr;
@@ -80,12 +81,27 @@ public:
         if (screen == nullptr) {
             screen = QGuiApplication::primaryScreen();
         }
-        // No monitor at all shows up as a screen without an area.
+        // Without any monitor Qt has a screen with an empty geometry.
         return screen != nullptr && !screen->geometry().isEmpty() ? screen : nullptr;
     }
 };
 
+class X11Picture final : public DesktopPicture {
+public:
+    QImage capture(QScreen& screen) override {
+        QImage picture = screen.grabWindow(0).toImage();
+        if (!picture.isNull() && picture.format() != QImage::Format_RGB32) {
+            picture.convertTo(QImage::Format_RGB32);
+        }
+        return picture;
+    }
+};
+
 } // namespace
+
+std::unique_ptr<DesktopPicture> makeX11Picture() {
+    return std::make_unique<X11Picture>();
+}
 
 std::unique_ptr<MainScreen> makeX11MainScreen() {
     return std::make_unique<X11MainScreen>();

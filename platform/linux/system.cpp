@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/uptime.h"
+#include "platform/system.h"
 
 #include <ctime>
+#include <malloc.h>
 
 namespace morrowleaf {
 
@@ -11,6 +12,10 @@ double uptime() {
     timespec time{};
     clock_gettime(CLOCK_BOOTTIME, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+void releaseFreeMemory() {
+    malloc_trim(0);
 }
 
 } // namespace morrowleaf

@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/wayland/waylandglobals.h"
+#include "platform/linux/wayland/waylandconnection.h"
+
+#include <QGuiApplication>
+#include <qpa/qplatformnativeinterface.h>
+#include <qpa/qwindowsysteminterface.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 
-namespace morrowleaf {
+namespace morrowleaf::wayland {
 
 namespace {
 
@@ -21,8 +25,8 @@ void bindIf(T*& object, wl_registry* registry, std::uint32_t name, const char* o
 
 void onGlobal(void* data, wl_registry* registry, std::uint32_t name, const char* offered,
               std::uint32_t version) {
-    auto& globals = *static_cast<WaylandGlobals*>(data);
-    // From version 2 on a surface can change its layer.
+    auto& globals = *static_cast<Globals*>(data);
+    // A surface can change its layer since version 2.
     constexpr std::uint32_t layerVersion = 4;
     bindIf(globals.layerShell, registry, name, offered, zwlr_layer_shell_v1_interface,
            std::min(version, layerVersion));
@@ -37,8 +41,8 @@ constexpr wl_registry_listener listener{onGlobal, onGlobalRemoved};
 
 } // namespace
 
-WaylandGlobals bindGlobals(wl_display* display, wl_event_queue* queue) {
-    WaylandGlobals globals;
+Globals bindGlobals(wl_display* display, wl_event_queue* queue) {
+    Globals globals;
     auto* wrapper = static_cast<wl_display*>(wl_proxy_create_wrapper(display));
     if (queue != nullptr) {
         wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), queue);
@@ -55,4 +59,36 @@ WaylandGlobals bindGlobals(wl_display* display, wl_event_queue* queue) {
     return globals;
 }
 
-} // namespace morrowleaf
+Session probeSession() {
+    wl_display* display = wl_display_connect(nullptr);
+    if (display == nullptr) {
+        return {};
+    }
+    const Session session{.isReachable = true,
+                          .hasLayerShell = bindGlobals(display, nullptr).layerShell != nullptr};
+    wl_display_disconnect(display);
+    return session;
+}
+
+wl_display* display() {
+    auto* native = QGuiApplication::platformNativeInterface();
+    return native == nullptr
+               ? nullptr
+               : static_cast<wl_display*>(native->nativeResourceForIntegration("wl_display"));
+}
+
+wl_surface* surfaceOf(QWindow& window) {
+    auto* native = QGuiApplication::platformNativeInterface();
+    return static_cast<wl_surface*>(native->nativeResourceForWindow("surface", &window));
+}
+
+wl_output* outputOf(QScreen& screen) {
+    auto* native = QGuiApplication::platformNativeInterface();
+    return static_cast<wl_output*>(native->nativeResourceForScreen("output", &screen));
+}
+
+void takeFocus(QWindow& window) {
+    QWindowSystemInterface::handleWindowActivated(&window, Qt::ActiveWindowFocusReason);
+}
+
+} // namespace morrowleaf::wayland

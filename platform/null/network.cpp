@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/floodguard.h"
+#include "platform/network.h"
 
 namespace morrowleaf {
 
-// Nothing is known of the connections, so none is ended.
+// This backend cannot ask how much a connection has received, so it ends none.
 FloodGuard::FloodGuard() = default;
 
-bool FloodGuard::end(std::uint64_t /*bytes*/) const {
+bool FloodGuard::end(std::uint64_t /*limit*/) const {
     return false;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/uptime.h"
+#include "platform/system.h"
 
 #include <chrono>
 
@@ -11,5 +11,7 @@ double uptime() {
     const std::chrono::duration<double> since = std::chrono::steady_clock::now().time_since_epoch();
     return since.count();
 }
+
+void releaseFreeMemory() {}
 
 } // namespace morrowleaf

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/floodguard.h"
+#include "platform/network.h"
 
 #include <QDir>
 #include <QScopeGuard>
@@ -28,7 +28,7 @@ std::optional<std::uint64_t> socketIdentity(int fd) {
     return info.st_ino;
 }
 
-// Each socket as a descriptor of its own, since the other thread may close it.
+// Passes duplicates of the descriptors, since another thread may close the originals.
 void forEachSocket(const std::function<void(int, std::uint64_t)>& visit) {
     const QStringList names = QDir("/proc/self/fd").entryList(QDir::System | QDir::Files);
     for (const QString& name : names) {
@@ -53,13 +53,13 @@ std::uint64_t bytesReceived(int fd) {
 } // namespace
 
 FloodGuard::FloodGuard() {
-    forEachSocket([this](int, std::uint64_t identity) { others_.insert(identity); });
+    forEachSocket([this](int, std::uint64_t identity) { exempt_.insert(identity); });
 }
 
-bool FloodGuard::end(std::uint64_t bytes) const {
+bool FloodGuard::end(std::uint64_t limit) const {
     bool flood = false;
     forEachSocket([&](int fd, std::uint64_t identity) {
-        if (!others_.contains(identity) && bytesReceived(fd) > bytes) {
+        if (!exempt_.contains(identity) && bytesReceived(fd) > limit) {
             ::shutdown(fd, SHUT_RDWR);
             flood = true;
         }

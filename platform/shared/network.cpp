@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/hostaddress.h"
+#include "platform/network.h"
 
 #include <QByteArray>
 
