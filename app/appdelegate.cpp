@@ -9,8 +9,8 @@
 #include "quotes/quotebox.h"
 #include "screen/quotescreen.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "settingsui/inspector.h"
 #include "settingsui/settingsview.h"
 #include "textanim/fonts.h"
@@ -174,7 +174,7 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
 // where its picture is needed: for the glass, or to fade over it.
 Behind AppDelegate::captureBehind(QuoteWindow& window, QScreen& screen, bool editing) {
     const SeeThrough through = window.overlay().seeThrough();
-    const bool looksThrough = editing || services_.store.real(K::transparency) > 0;
+    const bool looksThrough = editing || services_.store.get(K::transparency) > 0;
     Behind behind;
     if (looksThrough || through == SeeThrough::No) {
         const QImage picture = services_.platform.desktopPicture->capture(screen);

@@ -8,8 +8,8 @@
 #include "quotes/collection.h"
 #include "quotes/schedule.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "textanim/linebalancing.h"
 
 #include <QSet>

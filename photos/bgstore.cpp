@@ -5,12 +5,11 @@
 
 #include "photos/photoimport.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QStandardPaths>
 #include <QUuid>
 
@@ -81,7 +80,7 @@ bool BGStore::list(const QString& copy) {
         return false;
     }
     own.append(copy);
-    store_.set(K::customBGs, QJsonArray::fromStringList(own));
+    store_.set(K::customBGs, own);
     return true;
 }
 
@@ -93,7 +92,7 @@ void BGStore::remove(const QString& path) {
     unreadable_.remove(path);
     QStringList own = Prefs::customBGs(store_);
     own.removeAll(path);
-    store_.set(K::customBGs, QJsonArray::fromStringList(own));
+    store_.set(K::customBGs, own);
     if (Prefs::bgImage(store_) == path) {
         store_.set(K::bgImage, QString());
     }

@@ -5,8 +5,8 @@
 
 #include "quotes/schedule.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QPointer>
 
@@ -16,9 +16,9 @@ namespace {
 
 Quote firstQuote(const SettingsStore& store, const Clock& clock, const RandomIndex& random) {
     if (!Prefs::source(store).isEmpty()) {
-        const QString text = store.text(K::cachedText).value_or(QString());
+        const QString text = store.get(K::cachedText);
         if (!text.isEmpty()) {
-            return {text, store.text(K::cachedAuthor).value_or(QStringLiteral("Unknown"))};
+            return {text, store.get(K::cachedAuthor)};
         }
     }
     return scheduledQuote(clock(), Prefs::frequency(store), random);

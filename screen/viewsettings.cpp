@@ -3,8 +3,8 @@
 
 #include "screen/viewsettings.h"
 
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,30 +12,18 @@
 namespace morrowleaf {
 
 ViewSettings readViewSettings(const SettingsStore& store) {
-    ViewSettings settings;
-    const auto present = [&](QLatin1StringView key) { return store.value(key).has_value(); };
-    const auto text = [&](QLatin1StringView key, QString& into) {
-        into = store.text(key).value_or(into);
+    return {
+        .paletteIndex = store.get(K::palette),
+        .fontName = store.get(K::font),
+        .sizeScale = store.get(K::textScale),
+        .textAnimRaw = store.get(K::textAnim),
+        .bgImagePath = store.get(K::bgImage),
+        .grainOn = store.get(K::grain),
+        .vignette = store.get(K::vignette),
+        .transparency = store.get(K::transparency),
+        .liquidGlass = store.get(K::liquidGlass),
+        .screenAnimRaw = store.get(K::screenAnim),
     };
-    const auto real = [&](QLatin1StringView key, double& into) {
-        into = present(key) ? store.real(key) : into;
-    };
-    const auto flag = [&](QLatin1StringView key, bool& into) {
-        into = present(key) ? store.flag(key) : into;
-    };
-    if (present(K::palette)) {
-        settings.paletteIndex = store.integer(K::palette);
-    }
-    text(K::font, settings.fontName);
-    real(K::textScale, settings.sizeScale);
-    text(K::textAnim, settings.textAnimRaw);
-    text(K::bgImage, settings.bgImagePath);
-    flag(K::grain, settings.grainOn);
-    real(K::vignette, settings.vignette);
-    real(K::transparency, settings.transparency);
-    flag(K::liquidGlass, settings.liquidGlass);
-    text(K::screenAnim, settings.screenAnimRaw);
-    return settings;
 }
 
 double usableSizeScale(double sizeScale) {

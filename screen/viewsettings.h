@@ -6,6 +6,7 @@
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
 #include "look/palettes.h"
+#include "settings/settingstable.h"
 
 #include <QString>
 
@@ -16,18 +17,18 @@ class SettingsStore;
 // The appearance as the settings hold it at one instant, unchecked. The
 // initial values stand where a key has no value, not even a registered one.
 struct ViewSettings {
-    qint64 paletteIndex = -1;
-    QString fontName = QStringLiteral("serif");
-    double sizeScale = 1;
-    QString textAnimRaw = QStringLiteral("fade");
-    QString bgImagePath;
+    qint64 paletteIndex = K::palette.initial;
+    QString fontName = K::font.fallback;
+    double sizeScale = K::textScale.initial;
+    QString textAnimRaw = K::textAnim.fallback;
+    QString bgImagePath = K::bgImage.fallback;
 
     // The backdrop's own.
-    bool grainOn = true;
-    double vignette = 0.55;
-    double transparency = 0;
-    bool liquidGlass = true;
-    QString screenAnimRaw = QStringLiteral("drift");
+    bool grainOn = K::grain.initial;
+    double vignette = K::vignette.initial;
+    double transparency = K::transparency.initial;
+    bool liquidGlass = K::liquidGlass.initial;
+    QString screenAnimRaw = K::screenAnim.fallback;
 
     bool operator==(const ViewSettings&) const = default;
 };

@@ -3,19 +3,60 @@
 
 #include "settings/prefs.h"
 
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 
 namespace morrowleaf {
 
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+// Undefined for a setting that has none.
+struct FactoryValue {
+    QJsonValue operator()(const TextSetting* setting) const {
+        return setting->initial ? QJsonValue(*setting->initial) : QJsonValue::Undefined;
+    }
+    QJsonValue operator()(const TextListSetting* /*setting*/) const {
+        return QJsonValue::Undefined;
+    }
+    QJsonValue operator()(const auto* setting) const { return setting->initial; }
+};
+
+QJsonValue factoryValue(const AnySetting& setting) {
+    return std::visit(FactoryValue(), setting);
+}
+
+QString keyOf(const AnySetting& setting) {
+    return std::visit([](const auto* row) { return QString(row->key); }, setting);
+}
+
+} // namespace
+
+void registerAppDefaults(SettingsStore& store) {
+    QJsonObject defaults;
+    for (const AnySetting& setting : allSettings) {
+        const QJsonValue value = factoryValue(setting);
+        if (!value.isUndefined()) {
+            defaults.insert(keyOf(setting), value);
+        }
+    }
+    store.registerDefaults(defaults);
+}
+
+void resetAppearance(SettingsStore& store) {
+    for (const AnySetting& setting : settingsOfReset) {
+        store.set(keyOf(setting), factoryValue(setting));
+    }
+}
+
 FontDesign fontDesignNamed(const QString& name) {
-    if (name == QLatin1StringView("sans")) {
+    if (name == "sans"_L1) {
         return FontDesign::Default;
     }
-    if (name == QLatin1StringView("rounded")) {
+    if (name == "rounded"_L1) {
         return FontDesign::Rounded;
     }
-    if (name == QLatin1StringView("mono")) {
+    if (name == "mono"_L1) {
         return FontDesign::Monospaced;
     }
     return FontDesign::Serif;
@@ -48,23 +89,23 @@ bool showOnWake(const SettingsStore& store) {
 }
 
 QString source(const SettingsStore& store) {
-    return store.text(K::source).value_or(QString());
+    return store.get(K::source);
 }
 
 QString frequency(const SettingsStore& store) {
-    return store.text(K::frequency).value_or(QStringLiteral("24h"));
+    return store.get(K::frequency);
 }
 
 QString bgImage(const SettingsStore& store) {
-    return store.text(K::bgImage).value_or(QString());
+    return store.get(K::bgImage);
 }
 
 QStringList customBGs(const SettingsStore& store) {
-    return store.textList(K::customBGs).value_or(QStringList());
+    return store.get(K::customBGs);
 }
 
 FontDesign fontDesign(const SettingsStore& store) {
-    return fontDesignNamed(store.text(K::font).value_or(QString()));
+    return fontDesignNamed(store.get(K::font));
 }
 
 } // namespace Prefs

@@ -10,6 +10,13 @@ namespace morrowleaf {
 
 class SettingsStore;
 
+// Registers the factory values of the table for the life of the process.
+void registerAppDefaults(SettingsStore& store);
+
+// Stores the factory value of every setting of the look, in the order that the
+// table gives.
+void resetAppearance(SettingsStore& store);
+
 // The generic category of a typeface, where no concrete face is wanted.
 enum class FontDesign { Default, Serif, Rounded, Monospaced };
 
@@ -17,20 +24,21 @@ enum class FontDesign { Default, Serif, Rounded, Monospaced };
 // every other name is serif.
 FontDesign fontDesignNamed(const QString& name);
 
-// Typed getters over the store; 0 and false when absent. Each reads afresh, none
-// checks a range (the usual one is named): a value's reader tolerates what it gets.
+// Typed getters. Each reads the store afresh and none checks the range that the
+// table gives. Without a value, not even a registered one, numbers are zero,
+// flags are false and texts are their fallback in the table.
 namespace Prefs {
-qint64 paletteIndex(const SettingsStore& store); // of Palette::all(); -1: of the day
-double textScale(const SettingsStore& store);    // 0.7...1.6
+qint64 paletteIndex(const SettingsStore& store);
+double textScale(const SettingsStore& store);
 bool grain(const SettingsStore& store);
-double vignette(const SettingsStore& store);       // strength, 0...0.85
-double dismissSeconds(const SettingsStore& store); // 5...60
+double vignette(const SettingsStore& store);
+double dismissSeconds(const SettingsStore& store);
 bool showOnWake(const SettingsStore& store);
-QString source(const SettingsStore& store);        // "" when absent
-QString frequency(const SettingsStore& store);     // "24h" when absent
-QString bgImage(const SettingsStore& store);       // "" when absent
+QString source(const SettingsStore& store);
+QString frequency(const SettingsStore& store);
+QString bgImage(const SettingsStore& store);
 QStringList customBGs(const SettingsStore& store); // empty unless a list of texts
-FontDesign fontDesign(const SettingsStore& store); // serif when absent
+FontDesign fontDesign(const SettingsStore& store);
 } // namespace Prefs
 
 } // namespace morrowleaf

@@ -39,33 +39,17 @@ void Binding::bringInLine() {
     show_();
 }
 
-double realOr(const SettingsStore& store, const QString& key, double fallback) {
-    return store.value(key) ? store.real(key) : fallback;
-}
-
-bool flagOr(const SettingsStore& store, const QString& key, bool fallback) {
-    return store.value(key) ? store.flag(key) : fallback;
-}
-
-qint64 integerOr(const SettingsStore& store, const QString& key, qint64 fallback) {
-    return store.value(key) ? store.integer(key) : fallback;
-}
-
-QString textOr(const SettingsStore& store, const QString& key, const QString& fallback) {
-    return store.text(key).value_or(fallback);
-}
-
-void bindSwitch(QAbstractButton& button, SettingsStore& store, const QString& key, bool fallback) {
-    auto* binding = new Binding(store, key, &button, [&button, &store, key, fallback] {
-        button.setChecked(flagOr(store, key, fallback));
+void bindSwitch(QAbstractButton& button, SettingsStore& store, const FlagSetting& setting) {
+    auto* binding = new Binding(store, setting, &button, [&button, &store, setting] {
+        button.setChecked(store.get(setting));
     });
     QObject::connect(&button, &QAbstractButton::toggled, binding,
                      [binding](bool on) { binding->set(on); });
 }
 
-void bindText(QLineEdit& field, SettingsStore& store, const QString& key, const QString& fallback) {
-    auto* binding = new Binding(store, key, &field, [&field, &store, key, fallback] {
-        const QString text = textOr(store, key, fallback);
+void bindText(QLineEdit& field, SettingsStore& store, const TextSetting& setting) {
+    auto* binding = new Binding(store, setting, &field, [&field, &store, setting] {
+        const QString text = store.get(setting);
         if (field.text() != text) {
             field.setText(text);
         }
@@ -74,9 +58,9 @@ void bindText(QLineEdit& field, SettingsStore& store, const QString& key, const 
                      [binding](const QString& text) { binding->set(text); });
 }
 
-void bindChoice(QComboBox& box, SettingsStore& store, const QString& key, const QString& fallback) {
-    auto* binding = new Binding(store, key, &box, [&box, &store, key, fallback] {
-        box.setCurrentIndex(box.findData(textOr(store, key, fallback), Qt::UserRole,
+void bindChoice(QComboBox& box, SettingsStore& store, const TextSetting& setting) {
+    auto* binding = new Binding(store, setting, &box, [&box, &store, setting] {
+        box.setCurrentIndex(box.findData(store.get(setting), Qt::UserRole,
                                          Qt::MatchExactly | Qt::MatchCaseSensitive));
     });
     QObject::connect(&box, &QComboBox::activated, binding,

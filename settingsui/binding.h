@@ -39,16 +39,10 @@ private:
     bool busy_ = false;
 };
 
-// The value of a key, or the fallback where the key has no value at all.
-double realOr(const SettingsStore& store, const QString& key, double fallback);
-bool flagOr(const SettingsStore& store, const QString& key, bool fallback);
-qint64 integerOr(const SettingsStore& store, const QString& key, qint64 fallback);
-QString textOr(const SettingsStore& store, const QString& key, const QString& fallback);
-
-void bindSwitch(QAbstractButton& button, SettingsStore& store, const QString& key, bool fallback);
-void bindText(QLineEdit& field, SettingsStore& store, const QString& key, const QString& fallback);
+void bindSwitch(QAbstractButton& button, SettingsStore& store, const FlagSetting& setting);
+void bindText(QLineEdit& field, SettingsStore& store, const TextSetting& setting);
 // The items' data are the stored texts; a stored text that none of them has
-// selects nothing.
-void bindChoice(QComboBox& box, SettingsStore& store, const QString& key, const QString& fallback);
+// selects no item.
+void bindChoice(QComboBox& box, SettingsStore& store, const TextSetting& setting);
 
 } // namespace morrowleaf

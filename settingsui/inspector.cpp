@@ -4,7 +4,8 @@
 #include "settingsui/inspector.h"
 
 #include "look/animationkinds.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
+#include "settings/settingstable.h"
 #include "settingsui/binding.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
@@ -28,12 +29,6 @@ namespace morrowleaf {
 namespace {
 
 constexpr double leastGlass = 0.01; // transparency below which no glass is seen
-
-// A setting and the value it leaves the factory with.
-struct Factory {
-    QLatin1StringView key;
-    QJsonValue value;
-};
 
 template <typename Kinds>
 std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
@@ -120,7 +115,7 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
     column.addLayout(group);
 }
 
-QWidget* Inspector::makePicker(const QString& name, const QString& key, const QString& fallback,
+QWidget* Inspector::makePicker(const QString& name, const TextSetting& setting,
                                const std::vector<std::pair<QString, QString>>& entries) {
     std::vector<MenuPicker::Entry> list;
     list.reserve(entries.size());
@@ -129,8 +124,8 @@ QWidget* Inspector::makePicker(const QString& name, const QString& key, const QS
     }
     auto* picker = new MenuPicker(name, std::move(list), setup_.face, this);
     SettingsStore& store = store_;
-    auto* binding = new Binding(store, key, picker, [picker, &store, key, fallback] {
-        picker->showValue(textOr(store, key, fallback));
+    auto* binding = new Binding(store, setting, picker, [picker, &store, setting] {
+        picker->showValue(store.get(setting));
     });
     connect(picker, &MenuPicker::chosen, binding,
             [binding](const QString& value) { binding->set(value); });
@@ -147,14 +142,14 @@ QWidget* Inspector::makeGroups() {
         PanelStyle::margin - PanelStyle::focusRoom - PanelScrollBar::thickness, 22);
     column->setSpacing(PanelStyle::groupSpacing);
 
-    const auto knob = [&](const char* name, QLatin1StringView key, Knob::Range range,
+    const auto knob = [&](const char* name, const RealSetting& setting,
                           const Knob::Readout& readout) {
-        return new Knob(QLatin1String(name), store, key, range, readout, face, this);
+        return new Knob(QLatin1String(name), store, setting, readout, face, this);
     };
-    const auto smallSwitch = [&](const char* name, QLatin1StringView key) {
+    const auto smallSwitch = [&](const char* name, const FlagSetting& setting) {
         auto* control = new Switch(QLatin1String(name), Switch::Size::Small, this);
         control->setFont(panelFont(face, 12));
-        bindSwitch(*control, store, key, true);
+        bindSwitch(*control, store, setting);
         return control;
     };
 
@@ -162,32 +157,29 @@ QWidget* Inspector::makeGroups() {
     addGroup(*column, QStringLiteral("Your photo"),
              {new PhotoGroup(store, photos_, *photoChooser_, face, this)});
     addGroup(*column, QStringLiteral("Typeface"),
-             {makePicker(QStringLiteral("Typeface"), K::font, QStringLiteral("serif"),
+             {makePicker(QStringLiteral("Typeface"), K::font,
                          {{QStringLiteral("fraunces"), QStringLiteral("Fraunces")},
                           {QStringLiteral("serif"), QStringLiteral("Serif (New York)")},
                           {QStringLiteral("sans"), QStringLiteral("Sans (SF Pro)")},
                           {QStringLiteral("rounded"), QStringLiteral("Rounded")},
                           {QStringLiteral("mono"), QStringLiteral("Mono")}})});
-    addGroup(*column, QStringLiteral("Size"),
-             {knob("Size", K::textScale, {0.7, 1.6, 1.0}, percentReadout)});
-    addGroup(*column, QStringLiteral("Vignette"),
-             {knob("Vignette", K::vignette, {0, 0.85, 0.55}, plainReadout)});
-    Knob* transparency = knob("Transparency", K::transparency, {0, 1, 0}, percentReadout);
+    addGroup(*column, QStringLiteral("Size"), {knob("Size", K::textScale, percentReadout)});
+    addGroup(*column, QStringLiteral("Vignette"), {knob("Vignette", K::vignette, plainReadout)});
+    Knob* transparency = knob("Transparency", K::transparency, percentReadout);
     if (setup_.glassCanBeDrawn) {
         Switch* glass = smallSwitch("Liquid Glass", K::liquidGlass);
         new Binding(store, K::transparency, glass, [glass, &store] {
-            glass->setEnabled(realOr(store, K::transparency, 0) >= leastGlass);
+            glass->setEnabled(store.get(K::transparency) >= leastGlass);
         });
         addGroup(*column, QStringLiteral("Transparency"), {transparency, glass});
     } else {
         addGroup(*column, QStringLiteral("Transparency"), {transparency});
     }
     addGroup(*column, QStringLiteral("Text reveal"),
-             {makePicker(QStringLiteral("Text reveal"), K::textAnim, QStringLiteral("fade"),
-                         entriesOf(allTextAnims))});
-    addGroup(*column, QStringLiteral("Screen motion"),
-             {makePicker(QStringLiteral("Screen motion"), K::screenAnim, QStringLiteral("drift"),
-                         entriesOf(allScreenAnims))});
+             {makePicker(QStringLiteral("Text reveal"), K::textAnim, entriesOf(allTextAnims))});
+    addGroup(
+        *column, QStringLiteral("Screen motion"),
+        {makePicker(QStringLiteral("Screen motion"), K::screenAnim, entriesOf(allScreenAnims))});
     addGroup(*column, QStringLiteral("Grain"), {smallSwitch("Film grain", K::grain)});
     column->addStretch(1);
     return groups;
@@ -203,30 +195,12 @@ QWidget* Inspector::makeFooter() {
     auto* doneButton = new PanelButton(QStringLiteral("Done"), PanelButton::Kind::Default, footer);
     resetButton->setFont(font);
     doneButton->setFont(panelFont(setup_.face, 12, QFont::DemiBold));
-    connect(resetButton, &QAbstractButton::clicked, this, &Inspector::reset);
+    connect(resetButton, &QAbstractButton::clicked, this, [this] { resetAppearance(store_); });
     connect(doneButton, &QAbstractButton::clicked, this, &Inspector::done);
     row->addWidget(resetButton);
     row->addStretch(1);
     row->addWidget(doneButton);
     return footer;
-}
-
-void Inspector::reset() {
-    const std::initializer_list<Factory> factory{
-        {K::bgImage, QString()},
-        {K::palette, -1},
-        {K::font, QStringLiteral("fraunces")},
-        {K::textScale, 1.0},
-        {K::vignette, 0.55},
-        {K::transparency, 0.0},
-        {K::liquidGlass, true},
-        {K::textAnim, QStringLiteral("fade")},
-        {K::screenAnim, QStringLiteral("drift")},
-        {K::grain, true},
-    };
-    for (const Factory& setting : factory) {
-        store_.set(setting.key, setting.value);
-    }
 }
 
 void Inspector::paintEvent(QPaintEvent* /*event*/) {

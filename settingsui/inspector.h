@@ -18,6 +18,7 @@ class BGStore;
 class FileChooser;
 class PhotoChooser;
 class SettingsStore;
+struct TextSetting;
 
 // Where a screen is and which part of it panels leave free; points, y down.
 struct ScreenFrames {
@@ -69,9 +70,8 @@ private:
     QWidget* makeGroups();
     QWidget* makeFooter();
     void addGroup(QVBoxLayout& column, const QString& title, std::initializer_list<QWidget*> rows);
-    QWidget* makePicker(const QString& name, const QString& key, const QString& fallback,
+    QWidget* makePicker(const QString& name, const TextSetting& setting,
                         const std::vector<std::pair<QString, QString>>& entries);
-    void reset();
 
     SettingsStore& store_;
     BGStore& photos_;

@@ -16,10 +16,10 @@ constexpr int readoutWidth = 46; // points
 
 } // namespace
 
-Knob::Knob(const QString& name, SettingsStore& store, const QString& key, Range range,
+Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting,
            const Readout& readout, const QFont& face, QWidget* parent)
     : QWidget(parent)
-    , slider_(new PanelSlider(range.lowest, range.highest, this))
+    , slider_(new PanelSlider(setting.lowest, setting.highest, this))
     , readout_(panelLabel({}, panelFont(face, 11), 0.6, this)) {
     slider_->setAccessibleName(name);
     readout_->setFixedWidth(readoutWidth);
@@ -30,8 +30,8 @@ Knob::Knob(const QString& name, SettingsStore& store, const QString& key, Range 
     row->addWidget(slider_);
     row->addWidget(readout_);
 
-    auto* binding = new Binding(store, key, this, [this, &store, key, range, readout] {
-        const double value = realOr(store, key, range.fallback);
+    auto* binding = new Binding(store, setting, this, [this, &store, setting, readout] {
+        const double value = store.get(setting);
         slider_->showValue(value);
         tell(value, readout);
     });

@@ -13,20 +13,16 @@ namespace morrowleaf {
 
 class PanelSlider;
 class SettingsStore;
+struct RealSetting;
 
-// A slider and the readout of its value, in one row, bound to a key.
+// A slider and the readout of its value, in one row, bound to a setting over its range.
 class Knob : public QWidget {
     Q_OBJECT
 
 public:
-    struct Range {
-        double lowest;
-        double highest;
-        double fallback; // shown while the key has no value
-    };
     using Readout = std::function<QString(double)>;
 
-    Knob(const QString& name, SettingsStore& store, const QString& key, Range range,
+    Knob(const QString& name, SettingsStore& store, const RealSetting& setting,
          const Readout& readout, const QFont& face, QWidget* parent = nullptr);
 
     PanelSlider* slider() const { return slider_; }

@@ -4,7 +4,7 @@
 #include "settingsui/palettegroup.h"
 
 #include "look/palettes.h"
-#include "settings/settingskeys.h"
+#include "settings/settingstable.h"
 #include "settingsui/binding.h"
 #include "settingsui/panelaccessible.h"
 #include "settingsui/panelstyle.h"
@@ -48,8 +48,8 @@ void PaletteGroup::add(qint64 index, PaletteSwatch* swatch) {
 }
 
 void PaletteGroup::mark() {
-    const bool photo = !textOr(store_, K::bgImage, {}).isEmpty();
-    const qint64 index = integerOr(store_, K::palette, -1);
+    const bool photo = !store_.get(K::bgImage).isEmpty();
+    const qint64 index = store_.get(K::palette);
     for (qsizetype i = 0; i < swatches_.size(); ++i) {
         swatches_[i]->setMarked(!photo && i - 1 == index);
     }

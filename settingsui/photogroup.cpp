@@ -5,7 +5,7 @@
 
 #include "photos/bgstore.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
+#include "settings/settingstable.h"
 #include "settingsui/binding.h"
 #include "settingsui/panelaccessible.h"
 #include "settingsui/panelstyle.h"
@@ -135,7 +135,7 @@ void PhotoGroup::place() {
 }
 
 void PhotoGroup::mark() {
-    const QString chosen = textOr(store_, K::bgImage, {});
+    const QString chosen = store_.get(K::bgImage);
     for (PhotoSwatch* swatch : std::as_const(swatches_)) {
         swatch->setMarked(swatch->path() == chosen);
     }

@@ -5,7 +5,7 @@
 
 #include "platform/loginitem.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
+#include "settings/settingstable.h"
 #include "settingsui/binding.h"
 #include "settingsui/formcard.h"
 #include "settingsui/formpicker.h"
@@ -36,8 +36,6 @@ constexpr int sectionSpacing = 15;
 constexpr int barPadding = 12;
 constexpr int presetsWidth = 120;
 constexpr int secondsWidth = 46;
-constexpr double shortest = 5; // seconds
-constexpr double longest = 60;
 
 QString inSeconds(double value) {
     return QString::asprintf("%.0fs", std::trunc(value));
@@ -154,7 +152,7 @@ void SettingsView::addBehaviour(FormCard& card) {
     SettingsStore& store = store_;
     auto* wake =
         new Switch(QStringLiteral("Show on wake and unlock"), Switch::Size::Regular, &card);
-    bindSwitch(*wake, store, K::showOnWake, true);
+    bindSwitch(*wake, store, K::showOnWake);
     card.addRow(wake);
 
     auto* frequency = new FormPicker(&card);
@@ -162,7 +160,7 @@ void SettingsView::addBehaviour(FormCard& card) {
     frequency->addItem(QStringLiteral("Every 12 hours"), QStringLiteral("12h"));
     frequency->addItem(QStringLiteral("Every 24 hours"), QStringLiteral("24h"));
     frequency->addItem(QStringLiteral("Every time it shows"), QStringLiteral("every"));
-    bindChoice(*frequency, store, K::frequency, QStringLiteral("24h"));
+    bindChoice(*frequency, store, K::frequency);
     card.addRow(QStringLiteral("New quote"), frequency);
 
     card.addRow(makeCloseAfter());
@@ -189,7 +187,7 @@ QWidget* SettingsView::makeCloseAfter() {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* label = new QLabel(QStringLiteral("Close after"), row);
     auto* slider = new FormSlider(row);
-    slider->setRange(int(shortest), int(longest));
+    slider->setRange(int(K::dismiss.lowest), int(K::dismiss.highest)); // seconds
     slider->setSingleStep(1);
     slider->setPageStep(5);
     slider->setFixedWidth(200);
@@ -206,8 +204,8 @@ QWidget* SettingsView::makeCloseAfter() {
 
     SettingsStore& store = store_;
     auto* binding = new Binding(store, K::dismiss, slider, [slider, readout, &store] {
-        const double seconds = realOr(store, K::dismiss, 15);
-        slider->setValue(qRound(std::clamp(seconds, shortest, longest)));
+        const double seconds = store.get(K::dismiss);
+        slider->setValue(qRound(std::clamp(seconds, K::dismiss.lowest, K::dismiss.highest)));
         readout->setText(inSeconds(seconds));
     });
     connect(slider, &QSlider::valueChanged, binding, [binding, readout](int seconds) {
@@ -238,7 +236,7 @@ void SettingsView::addQuotes(FormCard& card) {
     source->setPlaceholderText(QStringLiteral("Leave empty for the built-in 124 quotes"));
     source->setMinimumWidth(330);
     source->setTextMargins(4, 0, 4, 0);
-    bindText(*source, store_, K::source, {});
+    bindText(*source, store_, K::source);
     card.addRow(QStringLiteral("Source URL"), source);
 
     auto* row = new QWidget(&card);

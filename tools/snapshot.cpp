@@ -7,7 +7,7 @@
 #include "quotes/schedule.h"
 #include "screen/quotescreen.h"
 #include "screen/quoteview.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
 #include "settings/settingsstore.h"
 #include "textanim/fonts.h"
 #include "tools/contactsheet.h"

@@ -103,7 +103,7 @@ TEST_F(AppDelegateTest, ClosesAfterTheSecondsAskedForButNeverBelowFive) {
                                                            {"soon", 5}, {"20", 20}, {1e300, 1e300}};
     launch();
     for (const auto& [stored, seconds] : cases) {
-        store.set(K::dismiss, stored);
+        store.set(K::dismiss.key, stored);
         delegate->show();
         EXPECT_EQ(timing.delays.back(), seconds);
     }

@@ -9,7 +9,6 @@
 #include "base/curves.h"
 #include "photos/bgstore.h"
 #include "screen/quotescreen.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 #include "settingsui/inspector.h"
 #include "settingsui/settingsview.h"

@@ -4,8 +4,8 @@
 #include "app/selftest.h"
 
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

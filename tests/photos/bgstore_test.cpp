@@ -3,8 +3,8 @@
 
 #include "photos/bgstore.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -72,7 +72,7 @@ protected:
     }
     QStringList listed() const { return Prefs::customBGs(store); }
     void list(const QStringList& paths) {
-        store.set(K::customBGs, QJsonArray::fromStringList(paths));
+        store.set(K::customBGs, paths);
     }
 
     QTemporaryDir folder;

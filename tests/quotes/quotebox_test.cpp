@@ -3,8 +3,8 @@
 
 #include "quotes/quotebox.h"
 #include "quotes/schedule.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,9 @@ protected:
             },
             [this] { return moment; }, [](qsizetype) { return qsizetype{0}; });
     }
-    void set(QLatin1StringView key, const char* text) { store.set(key, QString::fromUtf8(text)); }
+    void set(const TextSetting& setting, const char* text) {
+        store.set(setting, QString::fromUtf8(text));
+    }
     std::string cache() const {
         return (store.text(K::cachedText).value_or("-") + u'|' +
                 store.text(K::cachedAuthor).value_or("-"))

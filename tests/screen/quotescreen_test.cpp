@@ -7,8 +7,9 @@
 #include "photos/bgstore.h"
 #include "quotes/quotebox.h"
 #include "screen/quoteview.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "tests/screen/sceneforscreens.h"
 #include "tools/sourcepath.h"
 

@@ -4,8 +4,9 @@
 #include "screen/viewsettings.h"
 
 #include "screen/greeting.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QJsonArray>
 #include <gtest/gtest.h>
@@ -41,11 +42,11 @@ TEST(ViewSettings, ShowsTheRegisteredDefaults) {
 TEST(ViewSettings, TakesWhatIsStored) {
     SettingsStore store;
     store.set(K::palette, 7);
-    store.set(K::textScale, "1.5");
+    store.set(K::textScale.key, "1.5");
     store.set(K::textAnim, "Handwrite");
     store.set(K::grain, false);
     store.set(K::transparency, 0.3);
-    store.set(K::font, 12); // no text
+    store.set(K::font.key, 12); // no text
     const ViewSettings settings = readViewSettings(store);
     EXPECT_EQ(settings.paletteIndex, 7);
     EXPECT_EQ(settings.sizeScale, 1.5);
@@ -53,7 +54,7 @@ TEST(ViewSettings, TakesWhatIsStored) {
     EXPECT_FALSE(settings.grainOn);
     EXPECT_EQ(settings.transparency, 0.3);
     EXPECT_EQ(settings.fontName, "serif");
-    store.set(K::palette, QJsonArray{1});
+    store.set(K::palette.key, QJsonArray{1});
     EXPECT_EQ(readViewSettings(store).paletteIndex, 0); // stored, though no number
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 
 #include <QJsonArray>
 
@@ -51,18 +51,18 @@ TEST(Prefs, ReadsAfreshWithoutRangeChecks) {
     EXPECT_EQ(Prefs::paletteIndex(store), 99);
     EXPECT_EQ(Prefs::textScale(store), -2.5);
     EXPECT_EQ(Prefs::vignette(store), 7.0);
-    store.set(K::palette, "4 or so");
+    store.set(K::palette.key, "4 or so");
     EXPECT_EQ(Prefs::paletteIndex(store), 4);
-    store.set(K::palette, QJsonObject{{"a", 1}});
+    store.set(K::palette.key, QJsonObject{{"a", 1}});
     EXPECT_EQ(Prefs::paletteIndex(store), 0);
 }
 
 TEST(Prefs, FallsBackWhereNoTextIsStored) {
     SettingsStore store;
     registerAppDefaults(store);
-    store.set(K::frequency, 6);
-    store.set(K::source, true);
-    store.set(K::font, QJsonArray{"sans"});
+    store.set(K::frequency.key, 6);
+    store.set(K::source.key, true);
+    store.set(K::font.key, QJsonArray{"sans"});
     EXPECT_EQ(Prefs::frequency(store), "24h");
     EXPECT_EQ(Prefs::source(store), "");
     EXPECT_EQ(Prefs::fontDesign(store), FontDesign::Serif);
@@ -72,11 +72,11 @@ TEST(Prefs, FallsBackWhereNoTextIsStored) {
 
 TEST(Prefs, TakesOwnBackgroundsFromAListOfTextsOnly) {
     SettingsStore store;
-    store.set(K::customBGs, "/a.jpg");
+    store.set(K::customBGs.key, "/a.jpg");
     EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
-    store.set(K::customBGs, QJsonArray{"/a.jpg"});
+    store.set(K::customBGs.key, QJsonArray{"/a.jpg"});
     EXPECT_EQ(Prefs::customBGs(store), QStringList{"/a.jpg"});
-    store.set(K::customBGs, QJsonArray{"/a.jpg", 2});
+    store.set(K::customBGs.key, QJsonArray{"/a.jpg", 2});
     EXPECT_TRUE(Prefs::customBGs(store).isEmpty());
 }
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "platform/filelock.h"
+#include "settings/prefs.h"
 #include "settings/settingsfile.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
 
 #include <QJsonArray>
@@ -216,19 +215,32 @@ TEST(SettingsStore, ToleratesASlotThatWritesBack) {
     EXPECT_EQ(store.integer(key), 5);
 }
 
-TEST(SettingsKeys, HasFourteenDefaultsOfTheRightTypes) {
-    const QJsonObject expected{
-        {"paletteIndex", -1},      {"fontDesign", "fraunces"}, {"textScale", 1.0},
-        {"grainEnabled", true},    {"vignetteStrength", 0.55}, {"backdropTransparency", 0.0},
-        {"useLiquidGlass", true},  {"textAnimation", "fade"},  {"screenAnimation", "drift"},
-        {"dismissSeconds", 15.0},  {"showOnWake", true},       {"quoteSourceURL", ""},
-        {"quoteFrequency", "24h"}, {"backgroundImagePath", ""}};
-    EXPECT_EQ(expected.size(), 14);
-    EXPECT_EQ(appDefaults(), expected);
-    for (const QLatin1StringView name : {K::customBGs, K::cachedText, K::cachedAuthor}) {
-        EXPECT_FALSE(appDefaults().contains(name));
-    }
-    EXPECT_EQ(K::customBGs, QLatin1StringView("customBackgrounds"));
-    EXPECT_EQ(K::cachedText, QLatin1StringView("cachedQuoteText"));
-    EXPECT_EQ(K::cachedAuthor, QLatin1StringView("cachedQuoteAuthor"));
+TEST(SettingsStore, ReadsASettingWithItsFallbackOnlyWithoutAnyValue) {
+    SettingsStore store;
+    EXPECT_EQ(store.get(K::palette), -1);
+    EXPECT_EQ(store.get(K::vignette), 0.55);
+    EXPECT_TRUE(store.get(K::grain));
+    EXPECT_EQ(store.get(K::frequency), "24h");
+    EXPECT_EQ(store.get(K::font), "serif");
+    EXPECT_EQ(store.get(K::cachedAuthor), "Unknown");
+    EXPECT_EQ(store.get(K::customBGs), QStringList());
+    store.replaceStored({{K::palette, "4 or so"},
+                         {K::vignette, true},
+                         {K::grain, QJsonArray{true}},
+                         {K::frequency, 6},
+                         {K::customBGs, "/a.jpg"}});
+    EXPECT_EQ(store.get(K::palette), 4);
+    EXPECT_EQ(store.get(K::vignette), 1.0);
+    EXPECT_FALSE(store.get(K::grain));
+    EXPECT_EQ(store.get(K::frequency), "24h");
+    EXPECT_EQ(store.get(K::customBGs), QStringList());
+}
+
+TEST(SettingsStore, StoresASettingInItsType) {
+    SettingsStore store;
+    store.set(K::vignette, 1);
+    store.set(K::customBGs, QStringList{"/a", "/b"});
+    EXPECT_EQ(store.value(K::vignette), QJsonValue(1.0));
+    EXPECT_EQ(store.value(K::customBGs), QJsonValue(QJsonArray{"/a", "/b"}));
+    EXPECT_EQ(store.get(K::customBGs), QStringList({"/a", "/b"}));
 }

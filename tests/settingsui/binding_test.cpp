@@ -13,7 +13,11 @@
 namespace morrowleaf {
 namespace {
 
-const QString key = QStringLiteral("key");
+using namespace Qt::Literals::StringLiterals;
+
+const QString key = u"key"_s;
+constexpr FlagSetting flagSetting{.key = "key"_L1, .initial = true};
+constexpr TextSetting textSetting{.key = "key"_L1, .initial = {}, .fallback = "none"_L1};
 
 TEST(Binding, ShowsAtOnceAndOnEveryChangeOfItsKey) {
     SettingsStore store;
@@ -23,7 +27,7 @@ TEST(Binding, ShowsAtOnceAndOnEveryChangeOfItsKey) {
     EXPECT_EQ(shown, 1);
     store.set(key, 1);
     EXPECT_EQ(shown, 2);
-    store.set(QStringLiteral("other"), 1);
+    store.set(u"other"_s, 1);
     EXPECT_EQ(shown, 2);
 }
 
@@ -44,12 +48,12 @@ TEST(Binding, StoresNothingWhileItShows) {
     bool stored = true;
     binding = new Binding(store, key, &control, [&] {
         if (binding != nullptr) {
-            stored = binding->set(QStringLiteral("back"));
+            stored = binding->set(u"back"_s);
         }
     });
-    store.set(key, QStringLiteral("from elsewhere"));
+    store.set(key, u"from elsewhere"_s);
     EXPECT_FALSE(stored);
-    EXPECT_EQ(store.text(key), QStringLiteral("from elsewhere"));
+    EXPECT_EQ(store.text(key), u"from elsewhere"_s);
 }
 
 TEST(Binding, EndsWithItsControl) {
@@ -66,7 +70,7 @@ TEST(Binding, TiesASwitch) {
     SettingsStore store;
     QPushButton button;
     button.setCheckable(true);
-    bindSwitch(button, store, key, true);
+    bindSwitch(button, store, flagSetting);
     EXPECT_TRUE(button.isChecked());
     EXPECT_FALSE(store.value(key).has_value());
     button.click();
@@ -80,42 +84,30 @@ TEST(Binding, TiesASwitch) {
 TEST(Binding, TiesATextAndLeavesTheCursorWhileTyping) {
     SettingsStore store;
     QLineEdit field;
-    bindText(field, store, key, QStringLiteral("none"));
-    EXPECT_EQ(field.text(), QStringLiteral("none"));
-    store.set(key, QStringLiteral("abc"));
-    EXPECT_EQ(field.text(), QStringLiteral("abc"));
+    bindText(field, store, textSetting);
+    EXPECT_EQ(field.text(), u"none"_s);
+    store.set(key, u"abc"_s);
+    EXPECT_EQ(field.text(), u"abc"_s);
     field.setCursorPosition(1);
-    QTest::keyClicks(&field, QStringLiteral("X"));
-    EXPECT_EQ(store.text(key), QStringLiteral("aXbc"));
+    QTest::keyClicks(&field, u"X"_s);
+    EXPECT_EQ(store.text(key), u"aXbc"_s);
     EXPECT_EQ(field.cursorPosition(), 2);
 }
 
 TEST(Binding, TiesAChoiceAndLeavesUnknownValuesAlone) {
     SettingsStore store;
     QComboBox box;
-    box.addItem(QStringLiteral("One"), QStringLiteral("1"));
-    box.addItem(QStringLiteral("Two"), QStringLiteral("2"));
-    store.set(key, QStringLiteral("7"));
+    box.addItem(u"One"_s, u"1"_s);
+    box.addItem(u"Two"_s, u"2"_s);
+    store.set(key, u"7"_s);
     QSignalSpy changes(&store, &SettingsStore::changed);
-    bindChoice(box, store, key, QStringLiteral("1"));
+    bindChoice(box, store, textSetting);
     EXPECT_EQ(box.currentIndex(), -1);
     EXPECT_EQ(changes.count(), 0);
-    store.set(key, QStringLiteral("2"));
+    store.set(key, u"2"_s);
     EXPECT_EQ(box.currentIndex(), 1);
     QTest::keyClick(&box, Qt::Key_Up);
-    EXPECT_EQ(store.text(key), QStringLiteral("1"));
-}
-
-TEST(Binding, ReadsTheFallbackOnlyWithoutAnyValue) {
-    SettingsStore store;
-    EXPECT_EQ(realOr(store, key, 0.5), 0.5);
-    EXPECT_TRUE(flagOr(store, key, true));
-    EXPECT_EQ(integerOr(store, key, -1), -1);
-    EXPECT_EQ(textOr(store, key, QStringLiteral("f")), QStringLiteral("f"));
-    store.set(key, 0);
-    EXPECT_EQ(realOr(store, key, 0.5), 0);
-    EXPECT_FALSE(flagOr(store, key, true));
-    EXPECT_EQ(integerOr(store, key, -1), 0);
+    EXPECT_EQ(store.text(key), u"1"_s);
 }
 
 } // namespace

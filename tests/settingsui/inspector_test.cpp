@@ -299,6 +299,20 @@ TEST_F(InspectorTest, PickersListTheirEntriesAndGoBothWays) {
     EXPECT_EQ(store.text(K::screenAnim), rawValue(ScreenAnim::Zoom));
 }
 
+TEST_F(InspectorTest, PickersOfferWhatTheTableOfSettingsLists) {
+    panel();
+    const std::pair<const char*, const TextSetting*> pickers[] = {
+        {"Typeface", &K::font}, {"Text reveal", &K::textAnim}, {"Screen motion", &K::screenAnim}};
+    for (const auto& [name, setting] : pickers) {
+        auto* picker = named<MenuPicker>(QString::fromLatin1(name));
+        for (size_t i = 0; i < setting->choices.size(); ++i) {
+            picker->choose(int(i));
+            EXPECT_EQ(store.get(*setting), setting->choices[i]);
+        }
+    }
+    EXPECT_EQ(K::palette.highest, qint64(Palette::all().size()) - 1);
+}
+
 TEST_F(InspectorTest, WithoutDefaultsTheTypefaceIsSerif) {
     SettingsStore bare;
     BGStore none(bare, QString(), folder.filePath(QStringLiteral("own")));

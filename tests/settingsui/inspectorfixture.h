@@ -7,8 +7,8 @@
 #include "look/palettes.h"
 #include "photos/bgstore.h"
 #include "settings/prefs.h"
-#include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "settingsui/inspector.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
@@ -99,7 +99,7 @@ protected:
         return condition();
     }
     void listOwn(const QStringList& paths) {
-        store.set(K::customBGs, QJsonArray::fromStringList(paths));
+        store.set(K::customBGs, paths);
     }
     bool readoutIs(const QString& name, const QString& text) {
         auto* slider = named<PanelSlider>(name);

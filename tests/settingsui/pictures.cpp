@@ -7,8 +7,9 @@
 #include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "platform/null/nullplatform.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "settingsui/hostpalette.h"
 #include "settingsui/inspector.h"
 #include "settingsui/menuactions.h"
@@ -21,7 +22,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFontDatabase>
-#include <QJsonArray>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -99,7 +99,8 @@ int main(int argc, char** argv) {
 
     const Platform platform = makeNullPlatform();
     BGStore photos(store, sourcePath("resources/Backgrounds"), folder + QStringLiteral("/own"));
-    store.set(K::customBGs, QJsonArray{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
+    store.set(K::customBGs,
+              QStringList{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
     const auto draw = [&](const QString& name, const BackdropState& state, QSize size) {
         Ground ground;
         ground.state = state;

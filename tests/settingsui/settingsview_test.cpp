@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/loginitem.h"
-#include "settings/settingskeys.h"
+#include "settings/prefs.h"
 #include "settings/settingsstore.h"
+#include "settings/settingstable.h"
 #include "settingsui/formcard.h"
 #include "settingsui/menuactions.h"
 #include "settingsui/settingsview.h"
