@@ -21,6 +21,7 @@
 // of a second (the median of the runs), and a second of the entrance.
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -42,17 +43,17 @@ Screen screenOf(std::int64_t which) {
 
 QuoteViewState quoted(TextAnim style, const Screen& screen) {
     QuoteViewState state;
-    state.settings.fontName = QStringLiteral("fraunces");
+    state.settings.fontName = u"fraunces"_s;
     state.settings.textAnimRaw = rawValue(style);
     state.palette = Palette::all()[0];
     state.size = QSizeF(screen.pixels) / screen.ratio;
     state.mainScreen = state.size;
     state.devicePixelRatio = screen.ratio;
     state.locale = QLocale::c();
-    state.quote = {"The impediment to action advances action, and what stands in the way becomes "
+    state.quote = {u"The impediment to action advances action, and what stands in the way becomes "
                    "the way; so begin the morning by saying to yourself that you shall meet with "
-                   "the busybody and the ungrateful.",
-                   "Marcus Aurelius"};
+                   "the busybody and the ungrateful."_s,
+                   u"Marcus Aurelius"_s};
     return state;
 }
 

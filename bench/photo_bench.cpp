@@ -3,27 +3,59 @@
 
 // Time and peak memory of showing a 48-megapixel JPEG at 1920 x 1080.
 
-#include "bench/processmemory.h"
 #include "photos/photo.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 #include <cmath>
+#include <malloc.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr QSize photoSize(8000, 6000);
 constexpr QSize shownSize(1920, 1080);
 
+// A line of the process's status in kilobytes; 0 where the system has none.
+qint64 statusKilobytes(const QByteArray& name) {
+    QFile status(u"/proc/self/status"_s);
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith(name + ':')) {
+                return line.mid(name.size() + 1).simplified().split(' ').value(0).toLongLong();
+            }
+        }
+    }
+    return 0;
+}
+
+qint64 residentKilobytes() {
+    return statusKilobytes("VmRSS");
+}
+
+qint64 peakKilobytes() {
+    return statusKilobytes("VmHWM");
+}
+
+// Returns freed memory to the system and resets the peak.
+void forgetPeak() {
+    malloc_trim(0);
+    QFile refs(u"/proc/self/clear_refs"_s);
+    if (refs.open(QIODevice::WriteOnly)) {
+        refs.write("5");
+    }
+}
+
 const QString& largePhoto() {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        QString file = folder.filePath(QStringLiteral("large.jpg"));
+        QString file = folder.filePath(u"large.jpg"_s);
         QImage image(photoSize, QImage::Format_RGB888);
         for (int y = 0; y < image.height(); ++y) {
             uchar* row = image.scanLine(y);

@@ -19,6 +19,7 @@
 // copying that frame in the same run ("per_copy").
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -32,13 +33,13 @@ Screen screenOf(std::int64_t which) {
 }
 
 RevealLine::Parts parts(TextAnim style) {
-    const TextFont font = quoteFont(shippedFonts(), "fraunces", 44);
-    return {"The impediment to action advances action",
+    const TextFont font = quoteFont(shippedFonts(), u"fraunces"_s, 44);
+    return {u"The impediment to action advances action"_s,
             0,
             style,
             font,
             font,
-            QColor("#f3ece0"),
+            QColor(0xf3ece0),
             {0.35, 24, {0, 6}},
             1000};
 }
@@ -64,7 +65,7 @@ double copySeconds(const QImage& frame) {
 void paintFrames(benchmark::State& state, TextAnim style, double from, double to) {
     const Screen screen = screenOf(state.range(0));
     QImage frame(screen.size, QImage::Format_RGB32);
-    frame.fill(QColor("#1c2a3a"));
+    frame.fill(QColor(0x1c2a3a));
     frame.setDevicePixelRatio(screen.ratio);
     const RevealLine line(parts(style));
     const double length = line.settledAfter() - line.delay();
@@ -144,8 +145,8 @@ void tracing(benchmark::State& state, const Frame& frameAt) {
 }
 
 void pen(benchmark::State& state) {
-    const HandwrittenLine line = handwrittenLine("The impediment to action advances action",
-                                                 quoteFont(shippedFonts(), "fraunces", 44));
+    const HandwrittenLine line = handwrittenLine(u"The impediment to action advances action"_s,
+                                                 quoteFont(shippedFonts(), u"fraunces"_s, 44));
     const PenTrace trace = penTrace(wholePath(line.text), 33);
     PenDrawing drawing(1, line.penWidth, {-2, -2, 1000, 70}, 0);
     tracing(state, [&](double share) {
@@ -155,7 +156,7 @@ void pen(benchmark::State& state) {
 
 void handwriting(benchmark::State& state) {
     QImage target(1512, 982, QImage::Format_RGB32);
-    target.fill(QColor("#1c2a3a"));
+    target.fill(QColor(0x1c2a3a));
     QPainter painter(&target);
     const RevealLine line(parts(TextAnim::Handwrite));
     tracing(state, [&](double share) {

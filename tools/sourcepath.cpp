@@ -6,7 +6,7 @@
 namespace morrowleaf {
 
 QString sourcePath(const QString& relative) {
-    return QStringLiteral(MORROWLEAF_SOURCE_DIR "/") + relative;
+    return QLatin1StringView(MORROWLEAF_SOURCE_DIR "/") + relative;
 }
 
 } // namespace morrowleaf

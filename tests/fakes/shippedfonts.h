@@ -11,8 +11,9 @@ namespace morrowleaf {
 // The faces of the resources, registered once.
 inline const FontBook& shippedFonts() {
     static const FontBook filled = [] {
+        using namespace Qt::Literals::StringLiterals;
         FontBook shipped;
-        shipped.registerBundledFonts(sourcePath("resources/Fonts"));
+        shipped.registerBundledFonts(sourcePath(u"resources/Fonts"_s));
         return shipped;
     }();
     return filled;

@@ -68,7 +68,7 @@ SOUND = {
     "screen/view.h": '#include "quotes/quote.h"\n#include "platform/platform.h"\n',
     "app/main.cpp": '#include "screen/view.h"\n#include "platform/chooser.h"\n',
     "bench/a.cpp": "#include <benchmark/benchmark.h>\n",
-    "bench/processmemory.cpp": "#include <malloc.h>\n",
+    "bench/photo_bench.cpp": "#include <malloc.h>\n",
     "bench/CMakeLists.txt": "target_link_libraries(b PRIVATE morrowleaf_app benchmark::benchmark)\n",
     "tests/platform/x11_test.cpp": '#include "platform/linux/x11/x11.h"\n#include <unistd.h>\n',
     "build/generated.cc": "#include <unistd.h>\n",
