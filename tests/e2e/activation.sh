@@ -36,7 +36,7 @@ quit() {
 check "nothing runs" not runs
 application Activate '{"activation-token": <"abc">}'
 must "activating starts it and shows the quotation" opened_since 0
-sleep 1
+settle
 check "once" mapped_times 1
 check "it is the installed program" [ "$(program)" = "$installed/bin/morrowleaf" ]
 quit
@@ -47,10 +47,11 @@ exec_line=$(sed -n '/^\[Desktop Action edit-appearance\]/,/^\[/s/^Exec=//p' \
     "$installed/share/applications/$id.desktop")
 $exec_line
 must "an action starts it as well" opened_since "$n"
-sleep 1
+settle
 check "the quotation is not shown before the editor" mapped_times $((n + 1))
+must "which has the keyboard" focus_is Morrowleaf
 xdotool key a
-sleep 0.8
+outlast_fade
 check "in the editor other keys leave it open" is_shown
 xdotool key Escape
 must "and Escape closes it" is_gone

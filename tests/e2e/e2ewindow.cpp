@@ -13,6 +13,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class Window final : public QWidget {
@@ -42,7 +44,7 @@ protected:
 
 private:
     static void say(const char* what, const QString& text = {}) {
-        std::printf("%s%s\n", what, qPrintable(text.isEmpty() ? text : ' ' + text));
+        std::printf("%s%s\n", what, qPrintable(text.isEmpty() ? text : u' ' + text));
         std::fflush(stdout);
     }
 };
@@ -62,22 +64,24 @@ int main(int argc, char** argv) {
     window.setGeometry(arguments[3].toInt(), arguments[4].toInt(), arguments[5].toInt(),
                        arguments[6].toInt());
     const QString kind = arguments.value(needed);
-    if (kind == "above") {
+    if (kind == "above"_L1) {
         window.setWindowFlag(Qt::WindowStaysOnTopHint);
     }
-    if (kind == "dock") {
+    if (kind == "dock"_L1) {
         window.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
     }
     window.show();
-    if (kind == "grabbing") {
+    if (kind == "grabbing"_L1) {
         auto* handle = window.windowHandle();
         QTimer grab;
         QObject::connect(&grab, &QTimer::timeout, handle, [&grab, handle] {
             if (handle->setKeyboardGrabEnabled(true) && handle->setMouseGrabEnabled(true)) {
                 grab.stop();
                 std::puts("grabbed");
-                std::fflush(stdout);
+            } else {
+                std::puts("refused");
             }
+            std::fflush(stdout);
         });
         grab.start(50);
         return QApplication::exec();

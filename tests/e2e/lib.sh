@@ -26,7 +26,7 @@ cleanup() {
     local i
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[i]}" 2>/dev/null; done
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
-        for _ in $(seq 40); do kill -0 "${pids[i]}" 2>/dev/null || break; sleep 0.05; done
+        until_true 2 not kill -0 "${pids[i]}"
         kill -9 "${pids[i]}" 2>/dev/null
     done
     wait 2>/dev/null
@@ -45,7 +45,13 @@ start() {
     pids+=("$last")
 }
 
-# until_true SECONDS COMMAND...
+# stop PID: ends what was started, and waits for its end
+stop() {
+    kill "$1"
+    wait "$1"
+}
+
+# until_true SECONDS COMMAND...: tries again until the command succeeds
 until_true() {
     local end=$((${EPOCHREALTIME/./} + ${1%.*} * 1000000))
     shift
@@ -81,9 +87,38 @@ finish() {
     exit 0
 }
 
+settings_file=$XDG_CONFIG_HOME/morrowleaf/settings.json
 settings() {
     mkdir -p "$XDG_CONFIG_HOME/morrowleaf"
-    printf '%s' "$1" >"$XDG_CONFIG_HOME/morrowleaf/settings.json"
+    printf '%s' "$1" >"$settings_file"
+}
+# change_settings JSON: while the program runs on a session bus, until it has
+# read them. Where the file system notes no time of access, a second is given.
+change_settings() {
+    settings "$1"
+    until_true 1 settings_are_read
+    settle
+}
+settings_are_read() { [ "$(stat -c %.9X "$settings_file")" \> "$(stat -c %.9Y "$settings_file")" ]; }
+
+# settle: until the program has handled all that the buses have for it, and its
+# windows are what follows from that. Whatever has not happened by then did not
+# follow from what was done before.
+settle() {
+    /usr/bin/python3 "$here/marker.py" || fail "the program answers on the bus"
+    if [ -s "$work/mapwatch.log" ]; then mark_display; fi
+}
+# A window that is closed leaves the screen only at the end of a fade of 0.45 s.
+outlast_fade() {
+    settle
+    sleep 0.6
+    settle
+}
+milliseconds() { echo $((${EPOCHREALTIME/./} / 1000)); }
+# outlast_throttle INSTANT: until eight seconds after it, given in milliseconds
+outlast_throttle() {
+    local left=$(($1 + 8100 - $(milliseconds)))
+    [ "$left" -le 0 ] || sleep "$((left / 1000)).$(printf %03d $((left % 1000)))"
 }
 
 start_session_bus() {

@@ -5,7 +5,9 @@
 // screen of an X server ("map") or leaves it ("unmap"). For a moment after each
 // "map" the middle of the screen is watched: "painted" when it begins to
 // change, "flash" when it is wholly white or black. "at" gives milliseconds, of
-// a map and an unmap on a line before.
+// a map and an unmap on a line before. "mark" is printed when the property
+// E2E_MARK of the root window is set: what follows from an earlier request to
+// the server has been printed by then.
 //   e2e_mapwatch NAME
 #include <xcb/xcb.h>
 
@@ -31,6 +33,14 @@ std::string nameOf(xcb_connection_t* c, xcb_window_t window) {
     }
     std::free(reply); // NOLINT: xcb allocates with malloc
     return name;
+}
+
+xcb_atom_t atomOf(xcb_connection_t* c, const char* name) {
+    auto* reply = xcb_intern_atom_reply(
+        c, xcb_intern_atom(c, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr);
+    const xcb_atom_t atom = reply != nullptr ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    std::free(reply); // NOLINT: xcb allocates with malloc
+    return atom;
 }
 
 std::uint32_t middlePixel(xcb_connection_t* c, const xcb_screen_t& screen) {
@@ -114,7 +124,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(c)).data;
-    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
+    const xcb_atom_t mark = atomOf(c, "E2E_MARK");
     xcb_change_window_attributes(c, screen.root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(c);
     std::set<xcb_window_t> known;
@@ -144,6 +155,9 @@ int main(int argc, char** argv) {
                 say("unmap");
                 frames.end();
             }
+        } else if (type == XCB_PROPERTY_NOTIFY &&
+                   reinterpret_cast<const xcb_property_notify_event_t*>(event)->atom == mark) {
+            say("mark");
         }
         std::free(event); // NOLINT: xcb allocates with malloc
     }

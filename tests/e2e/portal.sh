@@ -39,21 +39,26 @@ must "and the toolkit's own without a preference" not tone "$dark"
 window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$' | head -1; }
 xdotool mousemove --window "$(window)" 430 59 click 1
 must "the editor opens" is_shown
-sleep 0.8
+must "and has the keyboard" focus_is Morrowleaf
+# tabs COUNT
+tabs() {
+    local keys
+    mapfile -t keys < <(yes Tab | head -n "$1")
+    xdotool key --delay 20 "${keys[@]}"
+}
 # The add tile stands after ten palettes and six photos.
 add() {
-    local i
-    for ((i = 0; i < 17; i++)); do xdotool key Tab; sleep 0.02; done
+    tabs 17
     xdotool key space
 }
 add
 must "the desktop's dialog is asked for" asked open 1
 check "for one picture" grep -q "multiple=False png=True text=False" "$work/portal.log"
 check "with no parent, since no manager knows the window" grep -q "parent=''" "$work/portal.log"
-sleep 0.3
+settle
 check "no dialog of the toolkit is there" not xdotool search --onlyvisible --name '^Add a Photo$'
 portal answer 1
-sleep 0.5
+settle
 check "a cancelled dialog changes nothing" not grep -q backgrounds "$file"
 check "and the editor is still there" is_shown
 xdotool key space
@@ -68,20 +73,20 @@ xdotool key Escape
 must "Escape ends the editing" is_gone
 xdotool mousemove --window "$(window)" 430 59 click 1
 must "the editor opens once more" is_shown
-sleep 0.8
-for ((i = 0; i < 2; i++)); do xdotool key Tab; sleep 0.02; done
+must "and has the keyboard" focus_is Morrowleaf
+tabs 2
 add
 must "and asks again" asked open 3
 xdotool key Escape
 must "editing that ends" is_gone
 must "takes the dialog back" asked closed 1
 
-kill "$portal_pid"
-sleep 0.3
+stop "$portal_pid"
+settle
 xdotool mousemove --window "$(window)" 430 59 click 1
 must "the editor opens without a portal" is_shown
-sleep 0.8
-for ((i = 0; i < 2; i++)); do xdotool key Tab; sleep 0.02; done
+must "and has the keyboard" focus_is Morrowleaf
+tabs 2
 add
 must "the toolkit's dialog stands in" xdotool search --onlyvisible --name '^Add a Photo$'
 xdotool key Escape

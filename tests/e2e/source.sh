@@ -40,34 +40,41 @@ differing() {
     n=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
     printf '%.0f' "$n"
 }
+# column_at_rest NAME: once eight pictures in a row are the same
+column_at_rest() { until_true 60 has_come_to_rest "$1" || fail "the picture comes to rest"; }
+has_come_to_rest() {
+    local i
+    column "$1"
+    for ((i = 0; i < 8; i++)); do
+        column next
+        same "$1" next || return 1
+    done
+}
+# column_becomes NAME OTHER
+column_becomes() { column "$1" && same "$1" "$2"; }
 same() { [ "$(differing "$1" "$2")" -eq 0 ]; }
 cached() { grep -q '"cachedQuoteText": *"The lamp that is lit' "$store"; }
 
 settings "{$look}"
 launch
-sleep 3
-column scheduled
+column_at_rest scheduled
 leave
 
 settings "{$look, \"quoteSourceURL\": \"$address\"}"
 launch
-sleep 3
-column waiting
-check "while the source is silent the scheduled quotation stands" same scheduled waiting
+must "while the source is silent the scheduled quotation stands" column_becomes waiting scheduled
 check "the source was asked once" test "$(grep -c 'asked for /quote' "$work/server.log")" -eq 1
 check "for JSON" grep -q 'accepting application/json$' "$work/server.log"
 touch "$work/release"
 must "the loaded quotation is cached" cached
 must "with its author" grep -q '"cachedQuoteAuthor": *"A Neighbour"' "$store"
-sleep 3
-column loaded
-check "and shown" not same scheduled loaded
+must "and shown" not column_becomes loaded scheduled
+column_at_rest loaded
+check "to stay" not same scheduled loaded
 leave
 
 kill "$server"
 launch
-sleep 3
-column offline
-check "without the server the cached quotation stands" same loaded offline
+must "without the server the cached quotation stands" column_becomes offline loaded
 leave
 finish

@@ -23,6 +23,8 @@ CONF
     until_true 30 swaymsg -t get_version || die "no compositor"
 }
 
+has_window() { swaymsg -t get_tree -r | jq -e ".. | objects | select(.name? == \"$1\" and .visible)"; }
+
 shot() { grim "$work/$1.png"; }
 share() {
     convert "$work/$1.png" -fill black +opaque "$2" -fill white -opaque "$2" \

@@ -23,7 +23,7 @@ settings '{"dismissSeconds": 60}'
 start app "$MORROWLEAF" --settings
 app=$last
 must "it runs without a tray" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
-sleep 0.5
+settle
 start_host
 must "an item comes with a late host" has_item
 host props >"$work/props.log" 2>&1
@@ -39,8 +39,8 @@ EOF
 cat "$work/menu.log"
 check "the menu has its four entries" diff -i "$work/wanted.log" "$work/menu.log"
 
-kill "$host_pid"
-sleep 0.3
+stop "$host_pid"
+settle
 start_host
 must "a restarted host gets the item again" has_item
 
@@ -50,9 +50,9 @@ xdotool key Escape
 must "which Escape closes" is_gone
 host click "Edit Appearance…"
 must "the second opens the editor" opened_since 1
-sleep 0.7
+must "which has the keyboard" focus_is Morrowleaf
 xdotool key a
-sleep 0.7
+outlast_fade
 check "which other keys leave open" is_shown
 shot editor
 xdotool key Escape
@@ -65,7 +65,7 @@ must "the settings window can be closed" \
 check "and the program stays" kill -0 "$app"
 host click "Settings…"
 must "the third opens the settings" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
-sleep 0.3
+settle
 shot settings
 # The menu is a window of the program besides the one of the settings.
 windows() { xdotool search --onlyvisible --class morrowleaf | wc -l; }
@@ -89,8 +89,7 @@ until_true 30 grep -q serving "$work/portal.log" || die "no portal"
 portal scheme 1
 must "and light when it turns dark" symbol_is '2[0-9][0-9]'
 
-kill "$bus_pid"
-until_true 30 not kill -0 "$bus_pid"
+stop "$bus_pid"
 check "the program outlives the bus" kill -0 "$app"
 rm -f "$work/run/bus"
 start_session_bus
@@ -109,8 +108,7 @@ must "the last ends it" not kill -0 "$app"
 wait "$app"
 check "with status 0" test $? -eq 0
 
-kill "$host_pid"
-until_true 30 not kill -0 "$host_pid"
+stop "$host_pid"
 start_host
 n=$(maps)
 start app "$MORROWLEAF"

@@ -37,9 +37,9 @@ settings '{"dismissSeconds": 60}'
 start app "$MORROWLEAF"
 app=$last
 must "a launch shows the quotation" opened_since 0
-sleep 0.5
+settle
 
-throttle_over() { sleep 8.2; }
+throttle_over() { outlast_throttle "$(last_map)"; }
 close_it() {
     xdotool key Escape
     until_true 30 is_gone || fail "it could not be closed"
@@ -53,11 +53,11 @@ order() {
     n=$(maps)
     "$@"
     must "$name: shows" opened_since "$n"
-    sleep 0.7
+    settle
     check "$name: shows once" mapped_times $((n + 1))
 }
 
-wake_then_unlock() { wake; sleep 0.2; unlock; }
+wake_then_unlock() { wake; settle; unlock; }
 unlock_then_wake() { unlock; wake; }
 everything_at_once() {
     wake
@@ -71,10 +71,11 @@ wake_while_locked() {
     set_hint true
     n=$(maps)
     wake
-    sleep "${LOCKED_SECONDS:-30}"
+    sleep "${LOCKED_SECONDS:-9}" # longer than the throttle
+    settle
     check "nothing while locked" mapped_times "$n"
     unlock
-    sleep 0.2
+    settle
     set_hint false
 }
 # Nothing has said before that the session was locked.
@@ -82,7 +83,7 @@ hint_alone() { session_call c1 "$mock.UpdateProperties" "$login.Session" '{"Lock
 hint_goes() { set_hint true; set_hint false; }
 saver_ends() { saver_active true; saver_active false; }
 active_alone() { set_active true; }
-wake_twice() { wake; sleep 3; wake; }
+wake_twice() { wake; settle; wake; }
 
 orders() {
     order "wake, then unlock" wake_then_unlock
@@ -98,7 +99,7 @@ signals() {
     order "the end of a screen saver alone" saver_ends
     session_call c1 "$mock.UpdateProperties" "$login.Session" '{"Active": <false>}'
     order "becoming active alone" active_alone
-    order "two wakes, three seconds apart" wake_twice
+    order "two wakes in a row" wake_twice
 }
 
 services() {
@@ -107,18 +108,16 @@ services() {
     throttle_over
     n=$(maps)
     unlock c2
-    sleep 0.7
+    settle
     check "another user's unlock shows nothing" mapped_times "$n"
-    settings '{"dismissSeconds": 60, "showOnWake": false}'
-    sleep 0.5
+    change_settings '{"dismissSeconds": 60, "showOnWake": false}'
     wake
-    sleep 0.7
+    settle
     check "nor a wake when the user wants none" mapped_times "$n"
-    settings '{"dismissSeconds": 60}'
-    sleep 0.5
+    change_settings '{"dismissSeconds": 60}'
 
-    kill "$logind_pid"
-    sleep 0.3
+    stop "$logind_pid"
+    settle
     start_logind
     # The program looks its session up again before it hears of it.
     woken() { wake && until_true 2 opened_since "$1"; }
@@ -128,15 +127,15 @@ services() {
     n=$(maps)
     set_hint true
     wake
-    sleep 0.7
+    settle
     check "nothing while locked" mapped_times "$n"
-    kill "$logind_pid"
+    stop "$logind_pid"
     must "a login manager that goes leaves nobody locked out" opened_since "$n"
     close_it
     throttle_over
     n=$(maps)
-    kill "$system_bus_pid"
-    sleep 0.5
+    stop "$system_bus_pid"
+    settle
     check "the program outlives the bus" kill -0 "$app"
     start_system_bus
     start_logind

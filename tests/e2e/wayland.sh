@@ -28,14 +28,11 @@ must "it goes by itself" uncovered
 waited=$(((${EPOCHREALTIME/./} - opened) / 100000))
 check "after its five seconds" test "$waited" -ge 50
 
-settings '{"dismissSeconds": 60}'
-sleep 0.5
+change_settings '{"dismissSeconds": 60}'
 "$MORROWLEAF" || fail "a second launch ends with status 0"
 must "a second launch shows it again" covered
-sleep 2
-shot shown
 QT_QPA_PLATFORM=wayland start late "$E2E_WINDOW" late '#00ffff' 500 500 200 200
-sleep 1
+must "a later window opens" has_window late
 shot late
 check "a later window stays below" [ "$(share late '#00ffff')" = 0 ]
 wtype -s 200 -k q
@@ -44,23 +41,20 @@ check "and goes nowhere else" not grep -q '^key q' "$work/window.log" "$work/lat
 wtype -s 200 x
 must "the window has the keyboard again" grep -q '^key x' "$work/window.log" "$work/late.log"
 
-settings '{"dismissSeconds": 60, "backdropTransparency": 0.7}'
-sleep 0.5
+change_settings '{"dismissSeconds": 60, "backdropTransparency": 0.7}'
 "$MORROWLEAF"
 must "it shows over a picture of the desktop" covered
-sleep 2
-shot transparent
 wtype -s 200 -k Escape
 must "and closes" uncovered
 
 gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
     -m org.freedesktop.Application.ActivateAction edit-appearance '[]' '{}' >/dev/null
 must "the editor opens" covered
-sleep 1.5
-shot editor
+settle
 wtype -s 200 -k a
-sleep 0.7
+outlast_fade
 check "other keys leave it open" covered
+check "and go nowhere else" not grep -q '^key a' "$work/window.log" "$work/late.log"
 wtype -s 200 -k Escape
 must "Escape closes it" uncovered
 kill -TERM "$app"

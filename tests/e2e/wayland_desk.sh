@@ -40,18 +40,19 @@ close_it() {
 
 WAYLAND_DEBUG=1 start app "$MORROWLEAF"
 app=$last
+launched=$(milliseconds)
 host() { /usr/bin/python3 "$here/notifierhost.py" "$@"; }
 start host /usr/bin/python3 "$here/notifierhost.py" serve
 must "it runs without any output, with a symbol in the tray" grep -q '^item' "$work/host.log"
 check "and shows nothing" opened_times 0
-sleep 8.2 # the launch counts as a showing
+outlast_throttle "$launched" # it counts as a showing
 wake
 unlock c1
-sleep 1
+settle
 check "nor at a wake" opened_times 0
 swaymsg create_output
 must "an output that comes has the quotation on it" covered
-sleep 1
+settle
 check "once" opened_times 1
 
 swaymsg output HEADLESS-1 scale 2

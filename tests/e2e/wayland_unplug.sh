@@ -50,15 +50,15 @@ WAYLAND_DEBUG=1 start app "$MORROWLEAF"
 app=$last
 must "a launch shows the quotation" opened 1
 must "and draws it" drawn
-sleep 1
+settle
 must "its output goes" unplug
 must "the showing goes with it" gone 1
-sleep 1
+settle
 check "and does not come up elsewhere" opened 1
 check "the program stays" kill -0 "$app"
 "$MORROWLEAF"
 must "the other output gets the next" opened 2
-sleep 1
+outlast_fade
 check "for good" gone 1
 check "the other one is still there" focused X11-1
 kill -TERM "$app"

@@ -49,20 +49,16 @@ start app "$MORROWLEAF"
 app=$last
 must "a launch covers both" covered
 must "it goes by itself" uncovered
-settings '{"dismissSeconds": 60}'
+change_settings '{"dismissSeconds": 60}'
 again() {
     "$MORROWLEAF"
     must "a second launch shows it" covered
-    sleep 0.8
+    settle
 }
-sleep 0.5
 again
 if [ "${1:-}" = xwayland ]; then
     check "in a window of Xwayland" xdotool search --onlyvisible --name '^Morrowleaf$'
 fi
-sleep 1.5
-look
-cp "$work/now.png" "$work/shown.png"
 outside xdotool key q
 must "a key closes it" uncovered
 again

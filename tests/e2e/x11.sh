@@ -44,10 +44,21 @@ put_window() {
 maps() { grep -c '^map$' "$work/mapwatch.log"; }
 unmaps() { grep -c '^unmap$' "$work/mapwatch.log"; }
 mapped_times() { [ "$(maps)" -eq "$1" ]; }
+last_map() { awk '$1 == "at" && $3 == "map" { at = $2 } END { printf "%.0f", at }' "$work/mapwatch.log"; }
 is_shown() { [ "$(maps)" -gt "$(unmaps)" ]; }
 is_gone() { [ "$(maps)" -eq "$(unmaps)" ]; }
 # opened_since N: the N+1st showing has come
 opened_since() { [ "$(maps)" -gt "$1" ]; }
+
+# mark_display: until the watcher has seen all that the X server did before
+mark_display() {
+    local n
+    n=$(marks)
+    DISPLAY=${outside:-$DISPLAY} xprop -root -f E2E_MARK 8s -set E2E_MARK "$n"
+    until_true 30 marked_since "$n" || die "the watcher sees no mark"
+}
+marks() { grep -c '^mark$' "$work/mapwatch.log"; }
+marked_since() { [ "$(marks)" -gt "$1" ]; }
 
 shot() { import -window root "$work/$1.png"; }
 # share NAME COLOUR: the part of the picture's pixels that have exactly this colour

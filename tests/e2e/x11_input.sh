@@ -24,8 +24,7 @@ show_again() {
     "$MORROWLEAF"
     must "it shows again" opened_since "$n"
 }
-# Longer than a fade takes.
-stays() { sleep 0.8 && is_shown; }
+stays() { outlast_fade && is_shown; }
 
 xdotool key Shift_L key Control_L key Alt_L key Super_L key Hyper_L key Meta_L \
     key Caps_Lock key Caps_Lock key Num_Lock key Num_Lock key Scroll_Lock
@@ -54,12 +53,10 @@ show_again
 xdotool key w
 must "a key goes to whom holds the keyboard" grep -q '^key w' "$work/window-game.log"
 check "and leaves the quotation" stays
-kill "$game"
-until_true 30 not kill -0 "$game"
+stop "$game"
 held_again() {
     xdotool key w
-    sleep 0.8
-    is_gone
+    until_true 2 is_gone
 }
 must "let go of, it closes it" held_again
 check "and no window below has had the key" not grep -q '^key w' "$work/window-typing.log"
@@ -70,13 +67,14 @@ sleeps() {
         '[<true>]' >/dev/null
 }
 lock() { session_call c1 "$mock.EmitSignal" "$login.Session" Lock '' '[]'; }
+refused() { [ "$(grep -c refused "$work/window-$name.log")" -ge "$1" ]; }
 for leaving in lock sleeps "set_hint true"; do
     show_again
-    sleep 0.5
+    settle
     name=locker-${leaving%% *}
     put_window "$name" '#00ff00' 0 0 640 480 grabbing
     locker=$last
-    sleep 0.5
+    must "a locker asks for the keyboard in vain" refused 3
     check "while it is shown nobody else holds the keyboard" \
         not grep -q grabbed "$work/window-$name.log"
     $leaving
@@ -84,8 +82,7 @@ for leaving in lock sleeps "set_hint true"; do
     check "with the quotation still there" is_shown
     xdotool key w
     must "it gets the keys" grep -q '^key w' "$work/window-$name.log"
-    kill "$locker"
-    until_true 30 not kill -0 "$locker"
+    stop "$locker"
     xdotool mousemove 300 300 click 1
     must "a click closes it" is_gone
 done

@@ -51,7 +51,7 @@ must "that has it by then" geometry_is "0 0 800 600"
 n=$(maps)
 xrandr --delmonitor left
 must "a monitor that goes takes the showing with it" is_gone
-sleep 1
+settle
 check "which does not come up elsewhere" mapped_times "$n"
 check "nor ends the program" kill -0 "$app"
 xdotool key x
@@ -81,17 +81,18 @@ off
 must "the last monitor's end is that of the showing" is_gone
 check "not that of the program" kill -0 "$app"
 "$MORROWLEAF"
-sleep 1
+launched=$(milliseconds)
+settle
 check "a launch without a monitor shows nothing" mapped_times "$n"
-sleep 8.2 # it counts as a showing
+outlast_throttle "$launched" # it counts as a showing
 wake
 unlock c1
-sleep 1
+settle
 check "nor does a wake" mapped_times "$n"
 on
 must "but a monitor that comes back has the quotation on it" opened_since "$n"
 must "all over" geometry_is "0 0 1600 600"
-sleep 1.5
+outlast_fade
 check "once" mapped_times $((n + 1))
 check "and for good" is_shown
 kill -TERM "$app"

@@ -34,14 +34,13 @@ echo "closed after $waited tenths of a second"
 check "after five seconds, not two" test "$waited" -ge 49
 check "after five seconds, not fifteen" test "$waited" -le 130
 
-settings '{"dismissSeconds": 60}'
-sleep 0.5
+change_settings '{"dismissSeconds": 60}'
 show_again() {
     local n
     n=$(maps)
     "$MORROWLEAF" || fail "a second launch ends with status 0"
     must "a second launch shows it again" opened_since "$n"
-    sleep 0.8
+    settle
 }
 
 show_again
@@ -49,12 +48,11 @@ for colour in '#ff0000' '#ff00ff' '#ffff00' '#206040'; do
     must "it covers $colour" now_shows_none_of shown "$colour"
 done
 xdotool key shift mousemove 300 300 click 2 click 4
-sleep 0.2
+outlast_fade
 check "modifiers, the middle button and the wheel leave it" is_shown
 put_window late '#00ffff' 500 500 200 200 above
-sleep 0.7
-shot late
-check "a later window stays below" shows_none_of late '#00ffff'
+settle
+must "a later window stays below" now_shows_none_of late '#00ffff'
 xdotool key Escape
 must "a key closes it" is_gone
 
@@ -89,7 +87,6 @@ n=$(maps)
 start app "$MORROWLEAF"
 app=$last
 must "and starts again" opened_since "$n"
-sleep 0.3
 kill -TERM "$app"
 wait "$app"
 check "SIGTERM ends it with status 0, in the middle of a fade" test $? -eq 0
