@@ -3,9 +3,11 @@
 
 #include "backdrop/glass.h"
 
-#include "backdrop/dither.h"
+#include "look/dither.h"
+#include "look/gaussian.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace morrowleaf {
@@ -38,24 +40,28 @@ public:
 
 private:
     void shrink(const QImage& picture);
-    void blur(double sigma);
 
     int step_;
     int columns_;
     int rows_;
-    std::vector<float> cells_; // three for each square
+    std::array<Plane, 3> channels_; // blue, green, red
 };
 
 BlurredGrid::BlurredGrid(const QImage& picture, int step, double sigma)
     : step_(step)
     , columns_((picture.width() + step - 1) / step)
-    , rows_((picture.height() + step - 1) / step)
-    , cells_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_) * 3) {
+    , rows_((picture.height() + step - 1) / step) {
+    channels_.fill(Plane(columns_, rows_));
     shrink(picture);
     // Averaging over a square has blurred already.
     const double variance = sigma * sigma - (step * step - 1) / 12.0;
     if (variance > 0) {
-        blur(std::sqrt(variance) / step);
+        const double inSquares = std::sqrt(variance) / step;
+        const std::vector<float> kernel =
+            gaussianKernel(inSquares, static_cast<int>(std::ceil(3 * inSquares)));
+        for (Plane& channel : channels_) {
+            convolve(channel, kernel, Edges::Extended);
+        }
     }
 }
 
@@ -79,55 +85,9 @@ void BlurredGrid::shrink(const QImage& picture) {
         for (int column = 0; column < columns_; ++column) {
             const int width = std::min(step_, picture.width() - column * step_);
             for (std::size_t n = 0; n < 3; ++n) {
-                cells_[static_cast<std::size_t>(row * columns_ + column) * 3 + n] =
+                channels_[n].row(row)[column] =
                     static_cast<float>(sums[static_cast<std::size_t>(column) * 3 + n]) /
                     static_cast<float>(width * height);
-            }
-        }
-    }
-}
-
-void BlurredGrid::blur(double sigma) {
-    const int reach = static_cast<int>(std::ceil(3 * sigma));
-    std::vector<float> kernel(static_cast<std::size_t>(2 * reach + 1));
-    float whole = 0;
-    for (int i = -reach; i <= reach; ++i) {
-        const auto weight = static_cast<float>(std::exp(-i * i / (2 * sigma * sigma)));
-        kernel[static_cast<std::size_t>(i + reach)] = weight;
-        whole += weight;
-    }
-    for (float& weight : kernel) {
-        weight /= whole;
-    }
-
-    // Down, whole rows at a time, then across in a row with lengthened ends.
-    const auto length = static_cast<std::size_t>(columns_) * 3;
-    std::vector<float> down(cells_.size());
-    for (int row = 0; row < rows_; ++row) {
-        float* to = &down[static_cast<std::size_t>(row) * length];
-        for (int i = -reach; i <= reach; ++i) {
-            const float weight = kernel[static_cast<std::size_t>(i + reach)];
-            const float* from =
-                &cells_[static_cast<std::size_t>(std::clamp(row + i, 0, rows_ - 1)) * length];
-            for (std::size_t n = 0; n < length; ++n) {
-                to[n] += weight * from[n];
-            }
-        }
-    }
-    std::vector<float> longer(length + static_cast<std::size_t>(reach) * 6);
-    for (int row = 0; row < rows_; ++row) {
-        const float* from = &down[static_cast<std::size_t>(row) * length];
-        for (int i = -reach; i < columns_ + reach; ++i) {
-            std::copy_n(from + std::clamp(i, 0, columns_ - 1) * 3, 3,
-                        longer.begin() + std::ptrdiff_t(i + reach) * 3);
-        }
-        float* to = &cells_[static_cast<std::size_t>(row) * length];
-        std::fill_n(to, length, 0.0F);
-        for (std::size_t i = 0; i < kernel.size(); ++i) {
-            const float weight = kernel[i];
-            const float* shifted = longer.data() + i * 3;
-            for (std::size_t n = 0; n < length; ++n) {
-                to[n] += weight * shifted[n];
             }
         }
     }
@@ -137,13 +97,14 @@ void BlurredGrid::interpolateRow(double y, std::vector<float>& row) const {
     const double place = std::clamp(y / step_ - 0.5, 0.0, rows_ - 1.0);
     const int top = static_cast<int>(place);
     const auto share = static_cast<float>(place - top);
-    const auto length = static_cast<std::size_t>(columns_) * 3;
-    const float* above = &cells_[static_cast<std::size_t>(top) * length];
-    const float* below = top + 1 < rows_ ? above + length : above;
-    row.resize(length);
-    float* to = row.data();
-    for (std::size_t n = 0; n < length; ++n) {
-        to[n] = above[n] + (below[n] - above[n]) * share;
+    row.resize(static_cast<std::size_t>(columns_) * 3);
+    for (std::size_t n = 0; n < 3; ++n) {
+        const float* above = channels_[n].row(top);
+        const float* below = channels_[n].row(std::min(top + 1, rows_ - 1));
+        float* to = row.data() + n;
+        for (int column = 0; column < columns_; ++column, to += 3) {
+            *to = above[column] + (below[column] - above[column]) * share;
+        }
     }
 }
 
@@ -203,15 +164,16 @@ QImage clearPicture(const QImage& picture, double ratio) {
     for (int x = 0; x < clear.width(); ++x) {
         columns[static_cast<std::size_t>(x)] = grid.placeOf(bent(x + 0.5, clear.width(), ratio));
     }
-    const DitherMask& mask = ditherMask();
     std::vector<float> row;
     for (int y = 0; y < clear.height(); ++y) {
         grid.interpolateRow(bent(y + 0.5, clear.height(), ratio), row);
-        const quint8* dithers = mask.data() + std::ptrdiff_t(y % ditherSize) * ditherSize;
+        const DitherRow thresholds = ditherRow(y);
         auto* line = reinterpret_cast<QRgb*>(clear.scanLine(y));
         for (int x = 0; x < clear.width(); ++x) {
             const std::array<float, 3> c = colourAt(row, columns[static_cast<std::size_t>(x)]);
-            const float dither = static_cast<float>(dithers[x % ditherSize]) * (1.0F / 64);
+            const float dither =
+                static_cast<float>(thresholds[static_cast<std::size_t>(x) % ditherSize]) *
+                (1.0F / 64);
             // Between 0 and 255 already; the dither's 63/64 cannot reach 256.
             const auto level = [dither](float value) {
                 return static_cast<QRgb>(static_cast<int>(std::min(value, 255.0F) + dither));
@@ -291,19 +253,18 @@ void GlassRim::light(const Look& look) {
     const std::vector<float> down = rimAlong(height, look.ratio, look.style);
     reach_ = static_cast<int>(std::ceil(rimReach * look.ratio));
     const auto most = static_cast<float>(255 * look.strength);
-    const auto& mask = ditherMask();
     rows_.clear();
     light_.clear();
     for (int y = 0; y < height; ++y) {
         rows_.push_back(light_.size());
         const float fromDown = down[static_cast<std::size_t>(y)];
+        const DitherRow thresholds = ditherRow(y);
         const auto lighten = [&](int first, int last) {
             for (int x = first; x < last; ++x) {
                 const float fromAcross = across[static_cast<std::size_t>(x)];
                 const float light = fromAcross + fromDown - fromAcross * fromDown;
-                const auto dither = static_cast<float>(mask[static_cast<std::size_t>(
-                                        y % ditherSize * ditherSize + x % ditherSize)]) /
-                                    64;
+                const auto dither =
+                    static_cast<float>(thresholds[static_cast<std::size_t>(x) % ditherSize]) / 64;
                 light_.push_back(static_cast<quint8>(std::min(light * most + dither, 255.0F)));
             }
         };

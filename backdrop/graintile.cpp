@@ -3,21 +3,13 @@
 
 #include "backdrop/graintile.h"
 
-#include "backdrop/dither.h"
+#include "look/dither.h"
 #include "look/grain.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace morrowleaf {
-
-namespace {
-
-int ditherAt(int x, int y) {
-    return ditherMask()[static_cast<std::size_t>((y % ditherSize) * ditherSize + x % ditherSize)];
-}
-
-} // namespace
 
 void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) {
     const int size = std::max(1, static_cast<int>(std::lround(grainSize * devicePixelRatio)));
@@ -43,11 +35,12 @@ void GrainTile::build(double devicePixelRatio, double grainWeight, bool opaque) 
     }
     for (int y = 0; y < size; ++y) {
         qint16* line = lanes_.data() + start_ + stride() * static_cast<std::size_t>(y);
+        const DitherRow thresholds = ditherRow(y);
         const quint8* noise =
             grain().data() +
             static_cast<std::size_t>((2 * y + 1) * grainSize / (2 * size)) * grainSize * 4;
         for (int x = 0; x < size; ++x) {
-            const int dither = ditherAt(x, y);
+            const int dither = thresholds[static_cast<std::size_t>(x) % ditherSize];
             const auto value = static_cast<qint16>(
                 grainLevels[noise[columns[static_cast<std::size_t>(x)]]] + dither);
             line[x * 4] = line[x * 4 + 1] = line[x * 4 + 2] = value;

@@ -3,6 +3,8 @@
 
 #include "textanim/blurredlayer.h"
 
+#include "look/dither.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -72,25 +74,26 @@ void slopes(const std::vector<float>& cells, float* to) {
 
 // Turns values into bytes of a channel that is still 0. The same threshold in
 // all channels keeps each below its alpha.
-void writeChannel(const float* values, float factor, const std::vector<float>& dither, int shift,
-                  QRgb* pixels) {
-    const auto count = static_cast<int>(dither.size());
-    const float* threshold = dither.data();
+void writeChannel(const float* values, float factor, const std::vector<float>& thresholds,
+                  int shift, QRgb* pixels) {
+    const auto count = static_cast<int>(thresholds.size());
+    const float* threshold = thresholds.data();
     for (int x = 0; x < count; ++x) {
         const float value = std::min(values[x] * factor + threshold[x], 255.0F);
         pixels[x] |= static_cast<QRgb>(static_cast<int>(value)) << shift;
     }
 }
 
-// The thresholds of eight rows, after which they repeat.
-std::array<std::vector<float>, 8> ditherRows(int left, int width) {
-    std::array<std::vector<float>, 8> rows;
-    for (int y = 0; y < 8; ++y) {
-        for (int x = 0; x < width; ++x) {
-            rows[static_cast<std::size_t>(y)].push_back(ditherAt(left + x, y));
-        }
+// The thresholds within 0...1 of `width` pixels from `left` on in row `y`.
+std::vector<float> thresholdsFrom(int left, int y, int width) {
+    const DitherRow row = ditherRow(y);
+    std::vector<float> thresholds;
+    thresholds.reserve(static_cast<std::size_t>(width));
+    for (int x = left; x < left + width; ++x) {
+        const quint8 threshold = row[static_cast<std::size_t>(x) % ditherSize];
+        thresholds.push_back((static_cast<float>(threshold) + 0.5F) / 64);
     }
-    return rows;
+    return thresholds;
 }
 
 } // namespace
@@ -169,15 +172,19 @@ void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) cons
 void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint origin) const {
     const bool colored = planes_.size() > 1;
     const QRect shown = rect_ & QRect(origin, to.size());
-    const std::array<std::vector<float>, 8> dither = ditherRows(shown.left(), shown.width());
     const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
     const auto skipped = static_cast<std::size_t>(shown.left() - rect_.left());
     std::vector<float> values;
+    std::array<std::vector<float>, ditherSize> dither; // its rows repeat
     for (int y = origin.y(); y < origin.y() + to.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
         std::fill_n(line, to.width(), 0U);
         if (y < shown.top() || y > shown.bottom()) {
             continue;
+        }
+        std::vector<float>& thresholds = dither[static_cast<std::size_t>(y) % ditherSize];
+        if (thresholds.empty()) {
+            thresholds = thresholdsFrom(shown.left(), y, shown.width());
         }
         QRgb* pixels = line + (shown.left() - origin.x());
         if (!colored) {
@@ -189,8 +196,7 @@ void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint
             }
             const float factor = static_cast<float>(opacity) * (colored ? 1.0F : parts[i]);
             if (factor > 0) {
-                writeChannel(values.data() + skipped, factor,
-                             dither[static_cast<std::size_t>(y & 7)], 8 * static_cast<int>(i),
+                writeChannel(values.data() + skipped, factor, thresholds, 8 * static_cast<int>(i),
                              pixels);
             }
         }
@@ -218,21 +224,6 @@ Plane reducedAlpha(const QImage& premultiplied, int cell) {
         }
     }
     return plane;
-}
-
-float ditherAt(int x, int y) {
-    static constexpr std::array<std::array<quint8, 8>, 8> bayer{{{0, 32, 8, 40, 2, 34, 10, 42},
-                                                                 {48, 16, 56, 24, 50, 18, 58, 26},
-                                                                 {12, 44, 4, 36, 14, 46, 6, 38},
-                                                                 {60, 28, 52, 20, 62, 30, 54, 22},
-                                                                 {3, 35, 11, 43, 1, 33, 9, 41},
-                                                                 {51, 19, 59, 27, 49, 17, 57, 25},
-                                                                 {15, 47, 7, 39, 13, 45, 5, 37},
-                                                                 {63, 31, 55, 23, 61, 29, 53, 21}}};
-    return (static_cast<float>(
-                bayer[static_cast<std::size_t>(y & 7)][static_cast<std::size_t>(x & 7)]) +
-            0.5F) /
-           64;
 }
 
 } // namespace morrowleaf

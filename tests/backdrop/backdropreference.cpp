@@ -3,8 +3,8 @@
 
 #include "tests/backdrop/backdropreference.h"
 
-#include "backdrop/dither.h"
 #include "backdrop/mesh.h"
+#include "look/dither.h"
 #include "look/grain.h"
 
 #include <algorithm>
@@ -74,9 +74,7 @@ std::vector<QRgb> Reference::draw() const {
             };
             const double noise = grain()[static_cast<std::size_t>(in(y)*grainSize + in(x)) * 4];
             const double dither =
-                ditherMask()[static_cast<std::size_t>(y % period % ditherSize * ditherSize +
-                                                      x % period % ditherSize)] /
-                64.0;
+                ditherRow(y % period)[static_cast<std::size_t>(x % period) % ditherSize] / 64.0;
             const auto level = [&](double value, double under) {
                 const double over =
                     (std::clamp(value, 0.0, 1.0) * (1 - dark) * (1 - noiseOpacity) * 255 +

@@ -1,15 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "backdrop/dither.h"
+#include "look/dither.h"
+
+#include "look/gaussian.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 #include <vector>
 
 namespace morrowleaf {
 
 namespace {
+
+using DitherMask = std::array<quint8, std::size_t{ditherSize} * ditherSize>;
 
 constexpr int side = ditherSize;
 constexpr int count = side * side;
@@ -23,8 +27,7 @@ public:
             for (int x = 0; x < side; ++x) {
                 const int dx = std::min(x, side - x);
                 const int dy = std::min(y, side - y);
-                spread_[index(x, y)] =
-                    static_cast<float>(std::exp(-(dx * dx + dy * dy) / (2 * sigma * sigma)));
+                spread_[index(x, y)] = static_cast<float>(gaussian(dx * dx + dy * dy, sigma));
             }
         }
     }
@@ -114,9 +117,10 @@ DitherMask build() {
 
 } // namespace
 
-const DitherMask& ditherMask() {
+DitherRow ditherRow(int y) {
     static const DitherMask mask = build();
-    return mask;
+    const auto row = static_cast<std::size_t>(y) % ditherSize;
+    return DitherRow(mask.data() + row * ditherSize, ditherSize);
 }
 
 } // namespace morrowleaf

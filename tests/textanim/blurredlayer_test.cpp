@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "textanim/blurredlayer.h"
-#include "textanim/gaussian.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -55,35 +54,6 @@ QImage someLetters() {
         painter.fillRect(QRectF(x, 4, 5.5, 40), Qt::black);
     }
     return picture;
-}
-
-TEST(GaussianBlur, KeepsTheSumAndTheVariance) {
-    for (const double sigma : {0.6, 0.8, 1.7, 2.5, 2.6, 3.3, 4.99, 9.0, 26.0}) {
-        const int size = 2 * static_cast<int>(std::ceil(5 * sigma)) + 5;
-        Plane plane(size, size);
-        plane.row(size / 2)[size / 2] = 1000;
-        gaussianBlur(plane, sigma);
-        double sum = 0;
-        double moment = 0;
-        for (int y = 0; y < size; ++y) {
-            for (int x = 0; x < size; ++x) {
-                sum += plane.row(y)[x];
-                moment += plane.row(y)[x] * std::pow(x - size / 2, 2);
-            }
-        }
-        EXPECT_NEAR(sum, 1000, 2) << sigma;
-        EXPECT_NEAR(std::sqrt(moment / sum), sigma, 0.05 * sigma + 0.12) << sigma;
-    }
-}
-
-TEST(GaussianBlur, NothingHappensWithoutASigmaOrAPlane) {
-    Plane plane(3, 1);
-    plane.values = {1, 2, 3};
-    gaussianBlur(plane, 0);
-    EXPECT_EQ(plane.values, (std::vector<float>{1, 2, 3}));
-    Plane nothing;
-    gaussianBlur(nothing, 4);
-    EXPECT_TRUE(nothing.values.empty());
 }
 
 TEST(BlurredLayer, LooksLikeTheGaussianAtEveryStrength) {

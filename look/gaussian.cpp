@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "textanim/gaussian.h"
+#include "look/gaussian.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 #include <utility>
 
@@ -16,7 +17,7 @@ constexpr double directUpTo = 2.5;
 // So few cells that the kernel itself costs next to nothing.
 constexpr std::size_t fewCells = 16384;
 
-// All passes run down the columns, where the compiler can take several at once.
+// All passes run down the columns, which the compiler can vectorise.
 Plane transposed(const Plane& plane) {
     constexpr int block = 16;
     Plane result(plane.height, plane.width);
@@ -46,27 +47,16 @@ void addRow(std::vector<float>& sum, const Plane& plane, int y, float weight) {
     }
 }
 
-std::vector<float> kernelFor(double sigma) {
-    const int reach = std::max(static_cast<int>(std::ceil(3.5 * sigma)), 1);
-    std::vector<double> weights;
-    for (int i = -reach; i <= reach; ++i) {
-        weights.push_back(std::exp(-i * i / (2 * sigma * sigma)));
-    }
-    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
-    std::vector<float> kernel;
-    std::ranges::transform(weights, std::back_inserter(kernel),
-                           [sum](double weight) { return static_cast<float>(weight / sum); });
-    return kernel;
-}
-
-Plane convolvedDown(const Plane& plane, const std::vector<float>& kernel) {
+Plane convolvedDown(const Plane& plane, const std::vector<float>& kernel, Edges edges) {
     Plane result(plane.width, plane.height);
     const int reach = static_cast<int>(kernel.size() / 2);
     std::vector<float> sum(static_cast<std::size_t>(plane.width));
     for (int y = 0; y < plane.height; ++y) {
         std::ranges::fill(sum, 0.0F);
         for (int i = -reach; i <= reach; ++i) {
-            addRow(sum, plane, y + i, kernel[static_cast<std::size_t>(i + reach)]);
+            const int from =
+                edges == Edges::Extended ? std::clamp(y + i, 0, plane.height - 1) : y + i;
+            addRow(sum, plane, from, kernel[static_cast<std::size_t>(i + reach)]);
         }
         std::ranges::copy(sum, result.row(y));
     }
@@ -94,13 +84,13 @@ Plane boxedDown(const Plane& plane, const Box& box) {
     for (int y = 0; y < box.reach; ++y) {
         addRow(sum, plane, y, 1);
     }
-    const std::vector<float> nothing(sum.size());
+    const std::vector<float> zeros(sum.size());
     for (int y = 0; y < plane.height; ++y) {
         addRow(sum, plane, y + box.reach, 1);
         const int aboveAt = y - box.reach - 1;
         const int belowAt = y + box.reach + 1;
-        const float* above = aboveAt >= 0 ? plane.row(aboveAt) : nothing.data();
-        const float* below = belowAt < plane.height ? plane.row(belowAt) : nothing.data();
+        const float* above = aboveAt >= 0 ? plane.row(aboveAt) : zeros.data();
+        const float* below = belowAt < plane.height ? plane.row(belowAt) : zeros.data();
         float* to = result.row(y);
         for (int x = 0; x < plane.width; ++x) {
             to[x] =
@@ -113,7 +103,8 @@ Plane boxedDown(const Plane& plane, const Box& box) {
 
 Plane blurredDown(Plane plane, double sigma) {
     if (sigma <= directUpTo || (sigma <= 2 * directUpTo && plane.values.size() < fewCells)) {
-        return convolvedDown(plane, kernelFor(sigma));
+        const int reach = std::max(static_cast<int>(std::ceil(3.5 * sigma)), 1);
+        return convolvedDown(plane, gaussianKernel(sigma, reach), Edges::Zero);
     }
     const Box box = boxFor(sigma);
     for (int pass = 0; pass < 3; ++pass) {
@@ -123,6 +114,23 @@ Plane blurredDown(Plane plane, double sigma) {
 }
 
 } // namespace
+
+std::vector<float> gaussianKernel(double sigma, int reach) {
+    std::vector<double> weights;
+    for (int i = -reach; i <= reach; ++i) {
+        weights.push_back(gaussian(i * i, sigma));
+    }
+    const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
+    std::vector<float> kernel;
+    std::ranges::transform(weights, std::back_inserter(kernel),
+                           [sum](double weight) { return static_cast<float>(weight / sum); });
+    return kernel;
+}
+
+void convolve(Plane& plane, const std::vector<float>& kernel, Edges edges) {
+    plane = transposed(convolvedDown(plane, kernel, edges));
+    plane = transposed(convolvedDown(plane, kernel, edges));
+}
 
 void gaussianBlur(Plane& plane, double sigma) {
     if (!(sigma > 0) || plane.values.empty()) {
