@@ -6,18 +6,22 @@
 
 namespace morrowleaf {
 
+namespace {
+
+constexpr double duration = 1.4; // seconds
+
+LineEffects effectsAt(double seconds) {
+    const double progress = easeOut(sinceStart(seconds) / duration);
+    return {.opacity = progress,
+            .blurRadius = between(26, 0, progress),
+            .scale = between(1.06, 1, progress)};
+}
+
+} // namespace
+
 // The line comes into focus, a little too large at first.
 Motion blur() {
-    constexpr double duration = 1.4;
-    const auto valuesAt = [](double seconds) {
-        const double progress = easeOut(sinceStart(seconds) / duration);
-        RevealValues values;
-        values.opacity = progress;
-        values.blurRadius = between(26, 0, progress);
-        values.scale = between(1.06, 1, progress);
-        return values;
-    };
-    return {valuesAt, duration};
+    return {effectsAt, duration};
 }
 
 } // namespace morrowleaf

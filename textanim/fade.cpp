@@ -6,18 +6,22 @@
 
 namespace morrowleaf {
 
+namespace {
+
+constexpr double duration = 1.15; // seconds
+
+LineEffects effectsAt(double seconds) {
+    const double progress = easeOut(sinceStart(seconds) / duration);
+    return {.opacity = progress,
+            .blurRadius = between(9, 0, progress),
+            .offset = between(22, 0, progress)};
+}
+
+} // namespace
+
 // The line fades in and sharpens while it rises a little.
 Motion fade() {
-    constexpr double duration = 1.15;
-    const auto valuesAt = [](double seconds) {
-        const double progress = easeOut(sinceStart(seconds) / duration);
-        RevealValues values;
-        values.opacity = progress;
-        values.blurRadius = between(9, 0, progress);
-        values.offset = between(22, 0, progress);
-        return values;
-    };
-    return {valuesAt, duration};
+    return {effectsAt, duration};
 }
 
 } // namespace morrowleaf

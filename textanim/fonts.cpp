@@ -15,13 +15,15 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-constexpr QLatin1StringView serifName{"EBGaramond-Regular"};
-constexpr QLatin1StringView sansName{"InterDisplay-Regular"};
-constexpr QLatin1StringView roundedName{"Nunito-Regular"};
-constexpr QLatin1StringView monoName{"IBMPlexMono-Regular"};
-constexpr QLatin1StringView monoMediumName{"IBMPlexMono-Medium"};
+constexpr QLatin1StringView serifName = "EBGaramond-Regular"_L1;
+constexpr QLatin1StringView sansName = "InterDisplay-Regular"_L1;
+constexpr QLatin1StringView roundedName = "Nunito-Regular"_L1;
+constexpr QLatin1StringView monoName = "IBMPlexMono-Regular"_L1;
+constexpr QLatin1StringView monoMediumName = "IBMPlexMono-Medium"_L1;
 
 QLatin1StringView bundledName(FontDesign design) {
     switch (design) {
@@ -48,11 +50,11 @@ QFont systemFace(FontDesign design, FontWeight weight) {
     switch (design) {
     case FontDesign::Serif:
         face.setStyleHint(QFont::Serif);
-        face.setFamilies({QStringLiteral("serif"), face.family()});
+        face.setFamilies({u"serif"_s, face.family()});
         break;
     case FontDesign::Monospaced:
         face.setStyleHint(QFont::Monospace);
-        face.setFamilies({QStringLiteral("monospace"), face.family()});
+        face.setFamilies({u"monospace"_s, face.family()});
         break;
     case FontDesign::Default:
     case FontDesign::Rounded:
@@ -73,8 +75,8 @@ QByteArray wholeFile(const QString& path) {
     return file.readAll();
 }
 
-// Lets another face draw the characters that this one lacks, ahead of the
-// faces that the system would choose.
+// Characters that `font` lacks are drawn in the fallback, before the faces that
+// the system would choose.
 void appendFallback(TextFont& font, const std::optional<TextFont>& fallback) {
     if (fallback && fallback->face.family() != font.face.family()) {
         font.face.setFamilies(font.face.families() + fallback->face.families());
@@ -112,7 +114,7 @@ std::optional<Record> recordAt(const QByteArray& table, qsizetype at) {
     return Record{field[0], field[1], field[2], field[3], field[4], field[5]};
 }
 
-// English names first, then any language; 0 is of no use.
+// English names first, then any other language; 0 is unusable.
 int preference(const Record& record) {
     constexpr quint16 macintosh = 1;
     constexpr quint16 windows = 3;
@@ -170,7 +172,7 @@ void FontBook::registerBundledFonts(const QString& folder) {
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Readable);
     for (const QFileInfo& file : files) {
         const QString suffix = file.suffix().toLower();
-        if (suffix != QLatin1StringView("ttf") && suffix != QLatin1StringView("otf")) {
+        if (suffix != "ttf"_L1 && suffix != "otf"_L1) {
             continue;
         }
         const QString path = file.absoluteFilePath();
@@ -217,7 +219,7 @@ TextFont nsFont(const FontBook& book, double size, FontDesign design, FontWeight
 }
 
 TextFont quoteFont(const FontBook& book, const QString& fontName, double size) {
-    if (fontName == QLatin1StringView("fraunces")) {
+    if (fontName == "fraunces"_L1) {
         if (auto font = book.named(frauncesName, size)) {
             appendFallback(*font, book.named(serifName, size));
             return *font;

@@ -18,20 +18,22 @@ inline constexpr QLatin1StringView frauncesName{"Fraunces72pt-Light"};
 
 // A face at a size in points (device-independent pixels), fraction kept.
 struct TextFont {
-    QFont face;      // family and style; its own size is of no meaning
+    QFont face;      // family and style; its own size is not used
     double size = 0; // points
 
     bool operator==(const TextFont&) const = default;
 };
 
-// The faces that the program brought along, found by PostScript name.
+// The faces shipped with the program, found by PostScript name. For the main
+// thread.
 class FontBook {
 public:
     // Registers every .ttf and .otf file of the folder, in any case of the
-    // extension; unreadable files and a missing folder are passed over.
+    // extension; unreadable files and a missing folder are skipped.
     void registerBundledFonts(const QString& folder);
 
-    // Nothing when no registered face has that PostScript name.
+    // std::nullopt when no registered face has that PostScript name. `size` is in
+    // points.
     std::optional<TextFont> named(const QString& postScriptName, double size) const;
 
 private:
@@ -40,8 +42,8 @@ private:
 
 enum class FontWeight { Regular, Medium };
 
-// The face that stands for the system font of a design: the bundled one, else
-// the system's own of that kind, else the plain system font.
+// The face used as the system font of a design: the bundled one, else the
+// system's own of that kind, else the plain system font. `size` is in points.
 TextFont nsFont(const FontBook& book, double size, FontDesign design,
                 FontWeight weight = FontWeight::Regular);
 
@@ -49,7 +51,7 @@ TextFont nsFont(const FontBook& book, double size, FontDesign design,
 // "fraunces" (the serif design where it is missing), else nsFont of its design.
 TextFont quoteFont(const FontBook& book, const QString& fontName, double size);
 
-// What a typeface calls itself; empty where it does not say.
+// The names that a typeface gives itself; empty where it has none.
 struct FontNames {
     QString postScript;
     QString family; // the typographic family where there is one
@@ -58,8 +60,8 @@ struct FontNames {
     bool operator==(const FontNames&) const = default;
 };
 
-// Reads an OpenType `name` table. Nothing when it is no such table or names no
-// PostScript name; never reads outside the bytes.
+// Reads an OpenType `name` table; std::nullopt when it holds no PostScript name.
+// The bytes may be hostile.
 std::optional<FontNames> readNameTable(const QByteArray& table);
 
 } // namespace morrowleaf

@@ -4,6 +4,7 @@
 #include "textanim/handwriting.h"
 
 #include "base/curves.h"
+#include "textanim/letters.h"
 #include "textanim/pentrace.h"
 #include "textanim/textlayout.h"
 
@@ -18,7 +19,12 @@ namespace morrowleaf {
 
 namespace {
 
-// Forgives what the layout's fixed-point numbers add to a whole width.
+// Near the end of the tracing the letters fill with ink.
+constexpr double traceDuration = 1.25; // seconds
+constexpr double inkStart = 0.7 * traceDuration;
+constexpr double inkDuration = 0.45 * traceDuration;
+
+// Rounds up, except for what the layout's fixed-point arithmetic adds to a whole width.
 double ceiling(double length) {
     return std::ceil(length - 1e-3);
 }
@@ -37,8 +43,8 @@ TextOutline outlineAt(const TextLayout& layout, const TextFont& font, double siz
 // Length at which a contour is cut for the pen, as a share of the size.
 constexpr double stretchShare = 0.75;
 
-// Raises what the pen drew over the ink, both in one colour.
-void drawPen(QImage& letters, const QImage& pen, const QColor& color) {
+// Adds the coverage of the pen to the ink, both in one colour.
+void addPen(QImage& letters, const QImage& pen, const QColor& color) {
     const QRgb ink = qPremultiply(color.rgba());
     for (int y = 0; y < pen.height(); ++y) {
         const uchar* coverage = pen.constScanLine(y);
@@ -58,51 +64,59 @@ void drawPen(QImage& letters, const QImage& pen, const QColor& color) {
     }
 }
 
-class PenLettering final : public Lettering {
+class HandwritingPainter final : public LinePainter {
 public:
-    PenLettering(HandwrittenLine line, double size)
+    HandwritingPainter(HandwrittenLine line, double size)
         : trace_(penTrace(wholePath(line.text), stretchShare * size))
         , penWidth_(line.penWidth)
-        , type_(std::move(line.text), line.penWidth / 2 + 1) {}
+        , letters_(std::move(line.text), line.penWidth / 2 + 1) {}
 
-    const TextOutline& text() const override { return type_.text(); }
-    QRectF rect(const RevealValues& values) const override { return type_.rect(values); }
+    const TextOutline& text() const override { return letters_.text(); }
+    double duration() const override { return handwritingDuration(); }
+    bool looksSame(double one, double other) const override {
+        return one == other || penProgress(one) == penProgress(other);
+    }
+    QRectF rect(double seconds) const override {
+        const PenProgress progress = penProgress(seconds);
+        return progress.traced > 0 || progress.ink > 0 ? letters_.rect({}) : QRectF();
+    }
 
-    PlacedPicture draw(const RevealValues& values, double scale, const QColor& color) override {
+    PlacedPicture draw(double seconds, double scale, const QColor& color) override {
         if (trace_.stretches.empty()) {
-            return type_.draw(values, scale, color);
+            return letters_.draw({}, scale, color);
         }
-        const QRect area = deviceRect(rect(values), scale);
+        const PenProgress progress = penProgress(seconds);
+        const QRect area = deviceRect(letters_.rect({}), scale);
         if (!pen_ || pen_->scale() != scale || pen_->rect() != area) {
             pen_.emplace(scale, penWidth_, area, baselineShift(text(), scale));
             ink_ = {};
         }
         PlacedPicture result{transparentPicture(area.size(), memory_), area.topLeft()};
-        if (values.ink > 0) {
+        if (progress.ink > 0) {
             if (ink_.isNull()) {
-                ink_ = type_.draw({}, scale, color).picture;
+                ink_ = letters_.draw({}, scale, color).picture;
             }
             QPainter painter(&result.picture);
-            painter.setOpacity(values.ink);
+            painter.setOpacity(progress.ink);
             painter.drawImage(0, 0, ink_);
         }
-        drawPen(result.picture, pen_->at(trace_, trace_.length * values.traced), color);
+        addPen(result.picture, pen_->at(trace_, trace_.length * progress.traced), color);
         return result;
     }
 
-    void letGo() override {
+    void releaseMemory() override {
         pen_.reset();
         ink_ = {};
         memory_ = {};
-        type_.letGo();
+        letters_.releaseMemory();
     }
 
 private:
     PenTrace trace_;
     double penWidth_;
-    TypeLettering type_;
+    Letters letters_;
     std::optional<PenDrawing> pen_;
-    QImage ink_; // in the memory of type_, at the scale of the pen
+    QImage ink_; // in the memory of letters_, at the scale of the pen
     std::vector<QRgb> memory_;
 };
 
@@ -137,24 +151,19 @@ GlyphPath glyphPath(const QString& text, const TextFont& font) {
     return result;
 }
 
-std::unique_ptr<Lettering> penLettering(const QString& text, const TextFont& font,
-                                        double maxWidth) {
-    return std::make_unique<PenLettering>(handwrittenLine(text, font, maxWidth), font.size);
+PenProgress penProgress(double seconds) {
+    const double since = seconds > 0 ? seconds : 0;
+    return {.traced = easeInEaseOut(since / traceDuration),
+            .ink = std::clamp((since - inkStart) / inkDuration, 0.0, 1.0)};
 }
 
-// The pen traces the outlines; near its end the letters fill with ink.
-Motion handwriting() {
-    constexpr double traceDuration = 1.25;
-    constexpr double inkStart = 0.7 * traceDuration;
-    constexpr double inkDuration = 0.45 * traceDuration;
-    const auto valuesAt = [](double seconds) {
-        const double since = sinceStart(seconds);
-        RevealValues values;
-        values.traced = easeInEaseOut(since / traceDuration);
-        values.ink = std::clamp((since - inkStart) / inkDuration, 0.0, 1.0);
-        return values;
-    };
-    return {valuesAt, inkStart + inkDuration};
+double handwritingDuration() {
+    return inkStart + inkDuration;
+}
+
+std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
+                                                double maxWidth) {
+    return std::make_unique<HandwritingPainter>(handwrittenLine(text, font, maxWidth), font.size);
 }
 
 } // namespace morrowleaf

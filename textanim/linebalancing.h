@@ -8,8 +8,9 @@
 
 namespace morrowleaf {
 
-// Cuts a text into lines of nearly equal length, at U+0020 only; `target` is
-// the preferred number of characters in a line and not 0.
+// Cuts a text into lines of nearly equal length, at spaces (U+0020) only; words
+// are joined by single spaces. `target` is the preferred number of user-perceived
+// characters in a line; 0 is a fatal error. A text without words gives no lines.
 QStringList balancedLines(const QString& text, int target = 32);
 
 } // namespace morrowleaf

@@ -12,16 +12,16 @@
 
 namespace morrowleaf {
 
-// A stretch of a contour as straight pieces, cut where a piece runs straight
-// on, so that neighbours meet without gap or overlap.
+// A stretch of a contour as straight pieces. Contours are cut in the middle of a
+// piece, so that neighbours meet without gap or overlap.
 struct PenStretch {
     QPolygonF points;
-    double begin = 0; // length of the whole trace before it, points
+    double begin = 0; // the length of the trace before it, points
     double length = 0;
     bool opensContour = false;
 };
 
-// The way of a pen along all contours of an outline, one after another.
+// The path of a pen along all contours of an outline, one after another.
 struct PenTrace {
     std::vector<PenStretch> stretches;
     double length = 0;
@@ -30,8 +30,8 @@ struct PenTrace {
 // `stretchLength` is the length, in points, at which a contour is cut.
 PenTrace penTrace(const QPainterPath& outline, double stretchLength);
 
-// What the pen has drawn, at a device scale. Going forward it adds only what is
-// new; going back it begins again. The picture depends on the length alone.
+// What the pen has drawn, at a device scale. A longer trace adds only what is
+// new; a shorter one starts over. The picture depends on the length alone.
 class PenDrawing {
 public:
     // `rect` in device pixels relative to the origin of the outline, which

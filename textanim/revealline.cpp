@@ -5,10 +5,11 @@
 
 #include "textanim/blurredlayer.h"
 #include "textanim/handwriting.h"
-#include "textanim/lettering.h"
+#include "textanim/letters.h"
 #include "textanim/motion.h"
 #include "textanim/shapedtext.h"
 #include "textanim/stagger.h"
+#include "textanim/typewriter.h"
 
 #include <QPainter>
 
@@ -23,28 +24,23 @@ double scaleOf(const QTransform& device) {
     return std::sqrt(std::abs(device.determinant()));
 }
 
-std::unique_ptr<Lettering> letteringOf(const RevealLine::Parts& parts) {
-    if (parts.style == TextAnim::Handwrite) {
-        return penLettering(parts.text, parts.strokeFont, parts.maxWidth);
-    }
-    return std::make_unique<TypeLettering>(
-        ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline());
-}
-
-Motion motionOf(TextAnim style, qint64 characters) {
-    switch (style) {
+std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts) {
+    const auto inType = [&parts] {
+        return ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline();
+    };
+    switch (parts.style) {
     case TextAnim::Fade:
         break;
     case TextAnim::Handwrite:
-        return handwriting();
+        return handwritingPainter(parts.text, parts.strokeFont, parts.maxWidth);
     case TextAnim::Typewriter:
-        return typewriter(characters);
+        return typewriterPainter(inType());
     case TextAnim::Rise:
-        return rise();
+        return motionPainter(inType(), rise());
     case TextAnim::Blur:
-        return blur();
+        return motionPainter(inType(), blur());
     }
-    return fade();
+    return motionPainter(inType(), fade());
 }
 
 } // namespace
@@ -52,38 +48,35 @@ Motion motionOf(TextAnim style, qint64 characters) {
 struct RevealLine::Private {
     explicit Private(const Parts& p)
         : parts(p)
-        , letters(letteringOf(p))
-        , motion(motionOf(p.style, letters->text().characterCount))
+        , painter(painterFor(p))
         , delay(lineDelay(p.style, p.index)) {}
 
     Parts parts;
-    std::unique_ptr<Lettering> letters;
-    Motion motion;
+    std::unique_ptr<LinePainter> painter;
     double delay;
 
-    // The last picture, for repaints while nothing changed.
+    // The last picture, for repaints while nothing changes.
     struct Kept {
-        RevealValues values;
+        double since = 0; // the end of the delay
         double scale = 0;
         PlacedPicture frame;
     };
     mutable std::optional<Kept> kept;
     mutable std::vector<QRgb> memory; // of a picture with its shadow
 
-    RevealValues valuesAt(double seconds) const { return motion.valuesAt(seconds - delay); }
+    // The functions below take the seconds since the end of the delay.
 
-    bool visible(const RevealValues& values) const {
-        return !letters->text().ink.isEmpty() && values.opacity > 0 && values.typed > 0 &&
-               (values.ink > 0 || values.traced > 0);
-    }
+    bool isVisible(double since) const { return !painter->rect(since).isEmpty(); }
 
-    bool hasFrame(const RevealValues& values, double scale) const {
-        return kept && kept->scale == scale && kept->values == values;
+    bool isAtRest(double since) const { return painter->looksSame(since, painter->duration() + 1); }
+
+    bool hasFrame(double since, double scale) const {
+        return kept && kept->scale == scale && painter->looksSame(kept->since, since);
     }
 
     // What letters and shadow touch, in points from the top left of the place.
-    QRectF rect(const RevealValues& values) const {
-        const QRectF own = letters->rect(values);
+    QRectF rect(double since) const {
+        const QRectF own = painter->rect(since);
         if (own.isEmpty() || parts.shadow.opacity <= 0) {
             return own;
         }
@@ -91,31 +84,31 @@ struct RevealLine::Private {
         return own | own.translated(parts.shadow.offset).adjusted(-halo, -halo, halo, halo);
     }
 
-    PlacedPicture draw(const RevealValues& values, double scale) const {
+    PlacedPicture draw(double since, double scale) const {
         const LineShadow& shadow = parts.shadow;
-        PlacedPicture own = letters->draw(values, scale, parts.color);
+        PlacedPicture own = painter->draw(since, scale, parts.color);
         if (shadow.opacity <= 0) {
             return own;
         }
-        const QRect area = deviceRect(rect(values), scale);
-        PlacedPicture result{unpaintedPicture(area.size(), memory), area.topLeft()};
+        const QRect area = deviceRect(rect(since), scale);
+        PlacedPicture result{uninitialisedPicture(area.size(), memory), area.topLeft()};
         const double sigma = shadow.radius * scale;
         const int cell = BlurredLayer::cellSize(sigma);
         const QPoint offset = (shadow.offset * scale).toPoint();
         const BlurredLayer layer(reducedAlpha(own.picture, cell), own.origin + offset, cell, sigma);
         layer.paint(Qt::black, shadow.opacity, result.picture, result.origin);
-        QPainter painter(&result.picture);
-        painter.drawImage(own.origin - result.origin, own.picture);
-        painter.end();
+        QPainter letters(&result.picture);
+        letters.drawImage(own.origin - result.origin, own.picture);
+        letters.end();
         return result;
     }
 
-    const PlacedPicture& frameAt(const RevealValues& values, double scale) const {
-        if (!hasFrame(values, scale)) {
-            kept = Kept{values, scale, draw(values, scale)};
+    const PlacedPicture& frameAt(double since, double scale) const {
+        if (!hasFrame(since, scale)) {
+            kept = Kept{since, scale, draw(since, scale)};
         }
-        if (values == RevealValues{} && parts.shadow.opacity > 0) {
-            letters->letGo(); // at rest only the finished picture is needed
+        if (parts.shadow.opacity > 0 && isAtRest(since)) {
+            painter->releaseMemory(); // at rest only the finished picture is needed
         }
         return kept->frame;
     }
@@ -135,12 +128,22 @@ double RevealLine::delay() const {
     return d_->delay;
 }
 QSizeF RevealLine::size() const {
-    return d_->letters->text().size;
+    return d_->painter->text().size;
+}
+
+void RevealLine::setColors(const QColor& color, const LineShadow& shadow) {
+    if (color == d_->parts.color && shadow == d_->parts.shadow) {
+        return;
+    }
+    d_->parts.color = color;
+    d_->parts.shadow = shadow;
+    d_->kept.reset();
+    d_->painter->releaseMemory();
 }
 
 void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const {
-    const RevealValues values = d_->valuesAt(seconds);
-    if (!d_->visible(values)) {
+    const double since = seconds - d_->delay;
+    if (!d_->isVisible(since)) {
         return;
     }
     const QTransform device = painter.deviceTransform();
@@ -148,7 +151,7 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
     if (!(scale > 0)) {
         return;
     }
-    const PlacedPicture& frame = d_->frameAt(values, scale);
+    const PlacedPicture& frame = d_->frameAt(since, scale);
     painter.save();
     if (device.type() <= QTransform::TxScale && device.m11() > 0 && device.m22() > 0) {
         // Pixel on pixel. The resting place is on whole pixels, so that the
@@ -168,38 +171,36 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
 
 void RevealLine::prepare(const QTransform& device, double seconds) const {
     if (!isPrepared(device, seconds)) {
-        d_->frameAt(d_->valuesAt(seconds), scaleOf(device));
+        d_->frameAt(seconds - d_->delay, scaleOf(device));
     }
 }
 
 bool RevealLine::isPrepared(const QTransform& device, double seconds) const {
-    const RevealValues values = d_->valuesAt(seconds);
+    const double since = seconds - d_->delay;
     const double scale = scaleOf(device);
-    return !d_->visible(values) || !(scale > 0) || d_->hasFrame(values, scale);
+    return !d_->isVisible(since) || !(scale > 0) || d_->hasFrame(since, scale);
 }
 
 QRectF RevealLine::paintedRect(double seconds) const {
-    const RevealValues values = d_->valuesAt(seconds);
-    if (!d_->visible(values)) {
-        return {};
-    }
+    const QRectF touched = d_->rect(seconds - d_->delay);
     // Room for whole pixels, also where the screen has fewer than points.
-    return d_->rect(values).adjusted(-3, -3, 3, 3);
+    return touched.isEmpty() ? QRectF() : touched.adjusted(-3, -3, 3, 3);
 }
 
 bool RevealLine::changesBetween(double from, double to) const {
-    const RevealValues before = d_->valuesAt(from);
-    const RevealValues after = d_->valuesAt(to);
-    return before != after && (d_->visible(before) || d_->visible(after));
+    const double before = from - d_->delay;
+    const double after = to - d_->delay;
+    return !d_->painter->looksSame(before, after) &&
+           (d_->isVisible(before) || d_->isVisible(after));
 }
 
 double RevealLine::settledAfter() const {
-    if (d_->letters->text().ink.isEmpty()) {
+    if (d_->painter->text().ink.isEmpty()) {
         return 0;
     }
-    double seconds = d_->delay + d_->motion.duration;
+    double seconds = d_->delay + d_->painter->duration();
     // The sum may be rounded down to an instant just before the rest.
-    while (d_->valuesAt(seconds) != RevealValues{}) {
+    while (!d_->isAtRest(seconds - d_->delay)) {
         seconds = std::nextafter(seconds, seconds + 1);
     }
     return seconds;

@@ -18,31 +18,33 @@ class QTransform;
 
 namespace morrowleaf {
 
-// The shadow of what a line shows at an instant. Radius is the standard
-// deviation of the Gaussian, in points.
+// The shadow of what a line shows at an instant.
 struct LineShadow {
-    double opacity = 0; // of black
-    double radius = 24;
-    QPointF offset{0, 6};
+    double opacity = 0;   // of black, 0...1
+    double radius = 24;   // standard deviation of the Gaussian, points
+    QPointF offset{0, 6}; // points
+
+    bool operator==(const LineShadow&) const = default;
 };
 
 // One line of the quotation and the way it comes in. The drawing is a pure
 // function of the line and the seconds since it appeared; what is costly is
-// kept between calls. Seconds are finite; to a typed line others are a fatal
-// error. For a line that is there at once, use `settledAfter`.
+// kept between calls. Seconds must be finite (for a typed line others are a
+// fatal error); to draw a line at rest, use `settledAfter`.
 class RevealLine {
 public:
     struct Parts {
         QString text;     // without line breaks
         qint64 index = 0; // 0 for the first line
         TextAnim style = TextAnim::Fade;
-        TextFont font;       // fade, typewriter, rise, blur
-        TextFont strokeFont; // handwrite
+        TextFont font;       // for all styles but handwriting
+        TextFont strokeFont; // for handwriting
         QColor color;
         LineShadow shadow;
         double maxWidth = 0; // of the column, points; 0 is unbounded
     };
 
+    // Lays out the text, which is the costly part.
     explicit RevealLine(const Parts& parts);
     ~RevealLine();
     RevealLine(RevealLine&&) noexcept;
@@ -51,6 +53,9 @@ public:
     const Parts& parts() const;
     double delay() const; // seconds from appearance to the start
     QSizeF size() const;  // the place reserved from the start, points
+
+    // Changes what needs no new layout.
+    void setColors(const QColor& color, const LineShadow& shadow);
 
     // Draws the line with the top left corner of its place at `topLeft`, as it
     // stands `seconds` after it appeared. The painter is in points; a scale on
@@ -63,8 +68,9 @@ public:
     void prepare(const QTransform& device, double seconds) const;
     bool isPrepared(const QTransform& device, double seconds) const;
 
-    // All that paint touches at that instant (offset, halo and shadow too),
-    // relative to the top left corner; empty when nothing is visible.
+    // All that paint() touches at that instant (offset, halo and shadow
+    // included), in points relative to the top left corner; empty when nothing
+    // is visible.
     QRectF paintedRect(double seconds) const;
     // Whether the picture at `to` differs from that at `from`.
     bool changesBetween(double from, double to) const;

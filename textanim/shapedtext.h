@@ -20,13 +20,14 @@ namespace morrowleaf {
 
 struct TextOutline;
 
-// A text laid out once: its glyph outlines, its place, its colour glyphs.
-// A cheap, shared, immutable value. Drawn from outlines, so that it is the
-// same at every device pixel ratio and moves smoothly at any fraction.
+// A text laid out once: its glyph outlines, its size and its colour glyphs. An
+// immutable value that is cheap to copy. It is drawn from outlines, so that it
+// looks the same at every device pixel ratio and moves smoothly by fractions of
+// a pixel.
 class ShapedText {
 public:
     ShapedText();
-    // `tracking` in points is added after every character (also the last).
+    // `tracking` in points is added after every character, the last one too.
     // With a `maxWidth` above 0 the text wraps at word boundaries into
     // leading-aligned rows; one word wider than that is scaled down as a whole.
     ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
@@ -41,11 +42,11 @@ private:
     std::shared_ptr<const TextOutline> outline_;
 };
 
-// What is kept of one text between its frames: once it rests, its picture. The
-// pixels are those of ShapedText::paint() either way.
+// Keeps the picture of one text that is drawn in the same way again. The pixels
+// are always those of ShapedText::paint().
 class KeptText {
 public:
-    // Draws `text`, always the same, at the painter's origin.
+    // Draws `text`, which must be the same each time, at the painter's origin.
     void paint(QPainter& painter, const ShapedText& text, const QColor& color);
 
 private:

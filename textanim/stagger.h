@@ -9,10 +9,18 @@
 
 namespace morrowleaf {
 
-// Seconds from appearance to the start of the line with this index.
-double lineDelay(TextAnim kind, qint64 index);
+// Seconds from the appearance of the view to the start of the line `index`,
+// counted from 0.
+inline double lineDelay(TextAnim kind, qint64 index) {
+    const auto i = static_cast<double>(index);
+    return kind == TextAnim::Handwrite ? 1.05 * i + 0.4 : 0.16 * i + 0.55;
+}
 
-// Seconds from appearance until the whole quotation counts as revealed.
-double revealDone(TextAnim kind, qsizetype lines);
+// Seconds from the appearance until a quotation of that many lines counts as
+// revealed: a line after the last one would start, and handwriting pauses.
+inline double revealDone(TextAnim kind, qsizetype lines) {
+    const double afterLast = lineDelay(kind, lines);
+    return kind == TextAnim::Handwrite ? afterLast + 0.5 : afterLast;
+}
 
 } // namespace morrowleaf

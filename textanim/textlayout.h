@@ -13,8 +13,8 @@
 
 namespace morrowleaf {
 
-// Faces are shaped once at this size and everything is scaled from there: a
-// size that is no whole number keeps its fraction, and all sizes look alike.
+// Faces are shaped at this size, in pixels, and everything is scaled from there,
+// so that fractional sizes are exact and all sizes look alike.
 inline constexpr int shapingSize = 512;
 
 struct PlacedGlyph {
@@ -33,7 +33,7 @@ struct GlyphCluster {
     std::vector<PlacedGlyph> glyphs;
 };
 
-// Lengths in units of which shapingSize make up the font's size.
+// Lengths are in units of 1 / shapingSize of the font's size.
 struct TextRow {
     std::vector<GlyphCluster> clusters; // in the order of the text
     double width = 0;
@@ -44,18 +44,19 @@ struct TextRow {
 struct TextLayout {
     std::vector<TextRow> rows;
     qsizetype characterCount = 0;
-    bool rightToLeft = false; // as a whole, from its first letter with a direction
+    bool rightToLeft = false; // by its first letter with a direction
 };
 
-// Ascent and descent of a face at shapingSize as its font file gives them.
+// Ascent and descent of a face at shapingSize, as its font file gives them.
 double ascentOf(const QRawFont& face);
 double descentOf(const QRawFont& face);
 QRawFont rawFace(const QFont& face);
 
 enum class LineBreaks { Kept, Ignored };
 
-// `tracking` and `maxWidth` in the same units as the result; a `maxWidth` of 0
-// gives one row for each line of the text. There is always at least one row.
+// Shapes a text and breaks it into rows at word boundaries. `tracking` and
+// `maxWidth` are in the units of the result; a `maxWidth` of 0 gives one row for
+// each line of the text. There is always at least one row.
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks);
 

@@ -26,12 +26,13 @@ struct GlyphPicture {
     QRectF place;   // points
 };
 
-// What appears at one stroke of the typewriter's keys, or over several when
-// characters share a glyph: then the share of it on the side where it begins.
+// What appears at one stroke of the typewriter, or at several when characters
+// share a glyph: then the glyph appears in as many pieces, from the side where the
+// text begins.
 struct OutlinePart {
     qsizetype firstCharacter = 0;
     qsizetype characterCount = 0;
-    double left = 0; // of the place that it takes on its row
+    double left = 0; // of its place on the row, points
     double right = 0;
     bool rightToLeft = false;
     QPainterPath outline; // fill rule winding
@@ -45,7 +46,8 @@ struct OutlineGroup {
     QPainterPath outline;
 };
 
-// A text as shapes. Points, y downwards, origin at the top left of its place.
+// A text as shapes, in points; y runs downwards, and the origin is at the top left
+// of the text's place.
 struct TextOutline {
     std::vector<OutlinePart> parts; // in the order of the text
     std::vector<OutlineGroup> groups;
@@ -68,11 +70,9 @@ TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit);
 // All outlines in the order of the text.
 QPainterPath wholePath(const TextOutline& text);
 
-struct TextOutline;
-
-// All draw with the origin of the text at the painter's origin.
+// Both draw with the origin of the text at the painter's origin.
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color);
-// The first characters only, each where it stands in the whole text.
+// Draws the first characters only, each where it stands in the whole text.
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
                 const QColor& color);
 

@@ -3,13 +3,39 @@
 
 #include "textanim/typewriter.h"
 
-#include "textanim/motion.h"
+#include "textanim/letters.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace morrowleaf {
+
+namespace {
+
+class TypewriterPainter final : public LinePainter {
+public:
+    explicit TypewriterPainter(TextOutline text)
+        : letters_(std::move(text)) {}
+
+    const TextOutline& text() const override { return letters_.text(); }
+    double duration() const override { return typingDuration(text().characterCount); }
+    bool looksSame(double one, double other) const override { return typed(one) == typed(other); }
+    QRectF rect(double seconds) const override {
+        return typed(seconds) > 0 ? letters_.rect({}) : QRectF();
+    }
+    PlacedPicture draw(double seconds, double scale, const QColor& color) override {
+        return letters_.drawBeginning(typed(seconds), scale, color);
+    }
+    void releaseMemory() override { letters_.releaseMemory(); }
+
+private:
+    qint64 typed(double seconds) const { return typedCharacters(seconds, text().characterCount); }
+
+    Letters letters_;
+};
+
+} // namespace
 
 qint64 typedCharacters(double seconds, qint64 length) {
     const double count = std::max(seconds, 0.0) * charsPerSecond;
@@ -27,17 +53,8 @@ double typingDuration(qint64 length) {
     return seconds;
 }
 
-// The characters stand one after another, each in its place at once.
-Motion typewriter(qint64 characters) {
-    const auto valuesAt = [characters](double seconds) {
-        const qint64 typed = typedCharacters(seconds, characters);
-        RevealValues values;
-        if (typed < characters) {
-            values.typed = typed;
-        }
-        return values;
-    };
-    return {valuesAt, typingDuration(characters)};
+std::unique_ptr<LinePainter> typewriterPainter(TextOutline text) {
+    return std::make_unique<TypewriterPainter>(std::move(text));
 }
 
 } // namespace morrowleaf

@@ -3,17 +3,26 @@
 
 #pragma once
 
+#include "textanim/linepainter.h"
+
 #include <QtGlobal>
+
+#include <memory>
 
 namespace morrowleaf {
 
 inline constexpr double charsPerSecond = 26;
 
-// Characters of a line of `length` that stand `seconds` after its delay; a time
-// that is not finite or beyond 64-bit counting is a fatal error.
+// The number of characters of a line of `length` characters that are shown
+// `seconds` after its delay: elapsed × 26, truncated. Seconds that are not
+// finite, or too large to count in 64 bits, are a fatal error.
 qint64 typedCharacters(double seconds, qint64 length);
 
-// The first instant, in seconds after the delay, at which the whole line stands.
+// The first instant, in seconds after the delay, at which the whole line is shown.
 double typingDuration(qint64 length);
+
+// Shows the characters one after another, each in its place at once. Seconds
+// are as for typedCharacters().
+std::unique_ptr<LinePainter> typewriterPainter(TextOutline text);
 
 } // namespace morrowleaf

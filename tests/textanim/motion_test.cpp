@@ -4,6 +4,7 @@
 #include "textanim/motion.h"
 
 #include "base/curves.h"
+#include "textanim/handwriting.h"
 #include "textanim/typewriter.h"
 
 #include <gtest/gtest.h>
@@ -14,53 +15,53 @@ using namespace morrowleaf;
 
 namespace {
 
-TEST(RevealValues, FadeAtItsInstants) {
-    const RevealValues before = fade().valuesAt(-1);
+TEST(Motion, FadeAtItsInstants) {
+    const LineEffects before = fade().effectsAt(-1);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 9);
     EXPECT_EQ(before.offset, 22);
-    const RevealValues half = fade().valuesAt(0.575);
+    const LineEffects half = fade().effectsAt(0.575);
     EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
     EXPECT_NEAR(half.blurRadius, 9 * 0.3154, 1e-3);
     EXPECT_NEAR(half.offset, 22 * 0.3154, 3e-3);
     EXPECT_EQ(half.scale, 1);
-    EXPECT_EQ(fade().valuesAt(1.15), RevealValues{});
-    EXPECT_NE(fade().valuesAt(1.14), RevealValues{});
+    EXPECT_EQ(fade().effectsAt(1.15), LineEffects{});
+    EXPECT_NE(fade().effectsAt(1.14), LineEffects{});
 }
 
-TEST(RevealValues, BlurAtItsInstants) {
-    const RevealValues before = blur().valuesAt(0);
+TEST(Motion, BlurAtItsInstants) {
+    const LineEffects before = blur().effectsAt(0);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 26);
     EXPECT_DOUBLE_EQ(before.scale, 1.06);
     EXPECT_EQ(before.offset, 0);
-    const RevealValues half = blur().valuesAt(0.7);
+    const LineEffects half = blur().effectsAt(0.7);
     EXPECT_NEAR(half.opacity, 0.6846, 1e-4);
     EXPECT_NEAR(half.blurRadius, 26 * 0.3154, 3e-3);
     EXPECT_NEAR(half.scale, 1 + 0.06 * 0.3154, 1e-4);
-    EXPECT_EQ(blur().valuesAt(1.4), RevealValues{});
+    EXPECT_EQ(blur().effectsAt(1.4), LineEffects{});
 }
 
-TEST(RevealValues, RiseOvershootsItsPlaceButNotItsOpacity) {
-    const RevealValues before = rise().valuesAt(0);
+TEST(Motion, RiseOvershootsItsPlaceButNotItsOpacity) {
+    const LineEffects before = rise().effectsAt(0);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.offset, 46);
     double highest = 0;
     for (int tick = 0; tick * 0.001 < 3; ++tick) {
         const double t = tick * 0.001;
-        const RevealValues values = rise().valuesAt(t);
+        const LineEffects values = rise().effectsAt(t);
         highest = std::min(highest, values.offset);
         EXPECT_LE(values.opacity, 1);
         EXPECT_NEAR(values.offset, 46 * (1 - spring(t, 0.9, 0.72)), 0.03);
         EXPECT_EQ(values.blurRadius, 0);
     }
     EXPECT_NEAR(highest, -1.77, 0.05);
-    EXPECT_EQ(rise().valuesAt(rise().duration), RevealValues{});
+    EXPECT_EQ(rise().effectsAt(rise().duration), LineEffects{});
     EXPECT_LT(rise().duration, 2);
 }
 
-TEST(RevealValues, HandwritingTracesThenInks) {
-    const auto at = [](double t) { return handwriting().valuesAt(t); };
+TEST(PenProgress, TracesThenInks) {
+    const auto at = [](double t) { return penProgress(t); };
     EXPECT_EQ(at(-0.1).traced, 0);
     EXPECT_EQ(at(0).ink, 0);
     EXPECT_NEAR(at(0.625).traced, 0.5, 1e-9);
@@ -70,15 +71,15 @@ TEST(RevealValues, HandwritingTracesThenInks) {
     EXPECT_EQ(at(1.25).traced, 1);
     EXPECT_NEAR(at(1.25).ink, 0.375 / 0.5625, 1e-9);
     EXPECT_EQ(at(1.4375).ink, 1);
-    EXPECT_DOUBLE_EQ(handwriting().duration, 1.4375);
-    EXPECT_EQ(at(0.5).opacity, 1);
+    EXPECT_DOUBLE_EQ(handwritingDuration(), 1.4375);
 }
 
-TEST(RevealValues, ANumberThatIsNoneHasNotBegun) {
-    const double nothing = std::numeric_limits<double>::quiet_NaN();
-    for (const Motion& motion : {fade(), rise(), blur(), handwriting()}) {
-        EXPECT_EQ(motion.valuesAt(nothing), motion.valuesAt(0));
+TEST(Motion, NaNHasNotBegun) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const Motion& motion : {fade(), rise(), blur()}) {
+        EXPECT_EQ(motion.effectsAt(nan), motion.effectsAt(0));
     }
+    EXPECT_EQ(penProgress(nan), penProgress(0));
 }
 
 TEST(TypedCharacters, AreTwentySixASecondTruncated) {

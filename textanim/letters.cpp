@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "textanim/letters.h"
+
+#include "textanim/blurredlayer.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace morrowleaf {
+
+namespace {
+
+// Blur that no eye sees, in pixels.
+constexpr double sharpBelow = 0.05;
+
+// From points of the line to points on the screen.
+QTransform placing(const TextOutline& text, const LineEffects& effects) {
+    const QPointF center(text.size.width() / 2, text.size.height() / 2);
+    return QTransform::fromTranslate(-center.x(), -center.y()) *
+           QTransform::fromScale(effects.scale, effects.scale) *
+           QTransform::fromTranslate(center.x(), center.y() + effects.offset);
+}
+
+// From points of the line to cells of `cell` device pixels.
+QTransform onDevice(const TextOutline& text, const LineEffects& effects, double scale, int cell) {
+    return placing(text, effects) * QTransform::fromScale(scale, scale) *
+           QTransform::fromTranslate(0, baselineShift(text, scale)) *
+           QTransform::fromScale(1.0 / cell, 1.0 / cell);
+}
+
+class MotionPainter final : public LinePainter {
+public:
+    MotionPainter(TextOutline text, const Motion& motion)
+        : letters_(std::move(text))
+        , motion_(motion) {}
+
+    const TextOutline& text() const override { return letters_.text(); }
+    double duration() const override { return motion_.duration; }
+    bool looksSame(double one, double other) const override {
+        return one == other || motion_.effectsAt(one) == motion_.effectsAt(other);
+    }
+    QRectF rect(double seconds) const override {
+        const LineEffects effects = motion_.effectsAt(seconds);
+        return effects.opacity > 0 ? letters_.rect(effects) : QRectF();
+    }
+    PlacedPicture draw(double seconds, double scale, const QColor& color) override {
+        return letters_.draw(motion_.effectsAt(seconds), scale, color);
+    }
+    void releaseMemory() override { letters_.releaseMemory(); }
+
+private:
+    Letters letters_;
+    Motion motion_;
+};
+
+} // namespace
+
+std::unique_ptr<LinePainter> motionPainter(TextOutline text, const Motion& motion) {
+    return std::make_unique<MotionPainter>(std::move(text), motion);
+}
+
+double baselineShift(const TextOutline& text, double scale) {
+    const double baseline = text.baseline * scale;
+    return std::round(baseline) - baseline;
+}
+
+QRect deviceRect(const QRectF& points, double scale) {
+    return QRectF(points.topLeft() * scale, points.size() * scale).toAlignedRect();
+}
+
+QImage uninitialisedPicture(QSize size, std::vector<QRgb>& memory) {
+    memory.resize(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()));
+    return {reinterpret_cast<uchar*>(memory.data()), size.width(), size.height(),
+            qsizetype{4} * size.width(), QImage::Format_ARGB32_Premultiplied};
+}
+
+QImage transparentPicture(QSize size, std::vector<QRgb>& memory) {
+    QImage picture = uninitialisedPicture(size, memory);
+    std::ranges::fill(memory, 0);
+    return picture;
+}
+
+Letters::Letters(TextOutline text, double margin)
+    : text_(std::move(text))
+    , margin_(margin) {}
+
+QRectF Letters::rect(const LineEffects& effects) const {
+    if (text_.ink.isEmpty()) {
+        return {};
+    }
+    const QRectF ink =
+        placing(text_, effects).mapRect(text_.ink.adjusted(-margin_, -margin_, margin_, margin_));
+    const double halo = 3 * effects.blurRadius * effects.scale;
+    return ink.adjusted(-halo, -halo, halo, halo);
+}
+
+PlacedPicture Letters::draw(const LineEffects& effects, double scale, const QColor& color) {
+    const double sigma = effects.blurRadius * effects.scale * scale;
+    if (sigma > sharpBelow) {
+        return drawBlurred(effects, scale, sigma, color);
+    }
+    const QRect area = deviceRect(rect(effects), scale);
+    PlacedPicture result{paint(effects, text_.characterCount, scale, 1, area, color),
+                         area.topLeft()};
+    if (effects.opacity < 1) {
+        QPainter painter(&result.picture);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(result.picture.rect(),
+                         QColor::fromRgbF(0, 0, 0, static_cast<float>(effects.opacity)));
+    }
+    return result;
+}
+
+PlacedPicture Letters::drawBeginning(qint64 characters, double scale, const QColor& color) {
+    const QRect area = deviceRect(rect({}), scale);
+    return {paint({}, characters, scale, 1, area, color), area.topLeft()};
+}
+
+QImage Letters::paint(const LineEffects& effects, qint64 characters, double scale, int cell,
+                      QRect rect, const QColor& color) {
+    QImage picture = transparentPicture(rect.size(), memory_);
+    QPainter painter(&picture);
+    painter.setTransform(onDevice(text_, effects, scale, cell) *
+                         QTransform::fromTranslate(-rect.x(), -rect.y()));
+    paintTyped(painter, text_, characters, color);
+    return picture;
+}
+
+PlacedPicture Letters::drawBlurred(const LineEffects& effects, double scale, double sigma,
+                                   const QColor& color) {
+    const int cell = BlurredLayer::cellSize(sigma);
+    // The sharp letters, drawn small at once.
+    LineEffects sharp = effects;
+    sharp.blurRadius = 0;
+    const QRect box = deviceRect(rect(sharp), scale);
+    const QPoint corner(static_cast<int>(std::floor(static_cast<double>(box.left()) / cell)),
+                        static_cast<int>(std::floor(static_cast<double>(box.top()) / cell)));
+    const QSize cells(box.right() / cell - corner.x() + 2, box.bottom() / cell - corner.y() + 2);
+    const bool colored = text_.hasPictures;
+    const QImage small = paint(sharp, text_.characterCount, scale, cell, {corner, cells},
+                               colored ? color : QColor(Qt::black));
+    const BlurredLayer layer(
+        small, corner * cell, cell, sigma,
+        colored ? std::vector{Channel::Blue, Channel::Green, Channel::Red, Channel::Alpha}
+                : std::vector{Channel::Alpha});
+    const QRect area = deviceRect(rect(effects), scale);
+    PlacedPicture result{uninitialisedPicture(area.size(), memory_), area.topLeft()};
+    layer.paint(color, effects.opacity * (colored ? 1 : color.alphaF()), result.picture,
+                result.origin);
+    return result;
+}
+
+} // namespace morrowleaf
