@@ -14,6 +14,8 @@ namespace morrowleaf {
 struct Quote {
     QString text; // without quotation marks
     QString author;
+
+    bool operator==(const Quote&) const = default;
 };
 
 // Starts one load of a source as the user typed it; `done` is called at most

@@ -16,6 +16,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr double markOpacity = 0.18;
@@ -28,21 +30,20 @@ double snapped(double points, double devicePixelRatio) {
     return std::round(points * devicePixelRatio) / devicePixelRatio;
 }
 
-bool sameParts(const RevealLine::Parts& a, const RevealLine::Parts& b) {
+// Colour and shadow of a line need no layout.
+bool sameLayout(const RevealLine::Parts& a, const RevealLine::Parts& b) {
     return a.text == b.text && a.index == b.index && a.style == b.style && a.font == b.font &&
-           a.strokeFont == b.strokeFont && a.color == b.color &&
-           a.shadow.opacity == b.shadow.opacity && a.shadow.radius == b.shadow.radius &&
-           a.shadow.offset == b.shadow.offset && a.maxWidth == b.maxWidth;
+           a.strokeFont == b.strokeFont && a.maxWidth == b.maxWidth;
 }
 
 } // namespace
 
 QString lineIdentity(const QString& textAnimRaw, qsizetype index, const QString& line) {
-    return textAnimRaw + QLatin1Char('-') + QString::number(index) + QLatin1Char('-') +
+    return textAnimRaw + u'-' + QString::number(index) + u'-' +
            QString::number(characterCount(line));
 }
 
-// The sizes and faces that a state asks for.
+// The sizes and faces that follow from a state.
 class QuoteView::Setting {
 public:
     Setting(const QuoteViewState& state, const FontBook& fonts)
@@ -81,7 +82,12 @@ private:
 
 QuoteView::QuoteView(const QuoteViewState& state, const FontBook& fonts)
     : fonts_(&fonts)
-    , state_(state) {
+    , state_(state)
+    , greeting_{captionOpacity}
+    , today_{captionOpacity}
+    , mark_{markOpacity}
+    , author_{authorOpacity}
+    , hint_{hintOpacity} {
     compose(0);
 }
 
@@ -92,7 +98,7 @@ void QuoteView::update(const QuoteViewState& state, double seconds) {
 
 void QuoteView::compose(double seconds) {
     const Setting setting(state_, *fonts_);
-    dropUnseen(setting);
+    cutQuotation(setting);
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
@@ -100,30 +106,44 @@ void QuoteView::compose(double seconds) {
     if (!closing_) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
-    mark_ = {ShapedText(QStringLiteral("\u201C"), setting.mark()), {}, 1, markOpacity};
+    layOut(mark_, {u"\u201C"_s, setting.mark()});
     // A name keeps its letters, whatever the language of the desktop.
-    author_ = {
-        ShapedText(state_.quote.author.toUpper(), setting.author(), measure::authorTracking, width),
-        {},
-        1,
-        authorOpacity};
+    layOut(author_,
+           {state_.quote.author.toUpper(), setting.author(), measure::authorTracking, width});
+    layOut(sample_, {u"x"_s, setting.quote()});
     composeOverlays(setting, box);
     placeTexts(setting, box);
 }
 
 // A source may send millions of characters, and all of them as one word.
-void QuoteView::dropUnseen(const Setting& setting) {
-    state_.quote.text = beginningOf(state_.quote.text, setting.seen());
-    state_.quote.author = beginningOf(state_.quote.author, setting.seenInOne());
+void QuoteView::cutQuotation(const Setting& setting) {
+    if (work_.cuts == 0 || cut_.quote != state_.quote || cut_.wrap != setting.wrap() ||
+        cut_.seen != setting.seen()) {
+        cut_ = {state_.quote, setting.wrap(), setting.seen(), {}, {}};
+        cut_.seenQuote = {beginningOf(state_.quote.text, setting.seen()),
+                          beginningOf(state_.quote.author, setting.seenInOne())};
+        cut_.lines = balancedLines(cut_.seenQuote.text, setting.wrap());
+        for (QString& line : cut_.lines) {
+            line = beginningOf(line, setting.seenInOne());
+        }
+        ++work_.cuts;
+    }
+    state_.quote = cut_.seenQuote;
+}
+
+void QuoteView::layOut(Text& text, const Typesetting& typesetting) {
+    if (text.typesetting == typesetting) {
+        return;
+    }
+    text.typesetting = typesetting;
+    text.shape =
+        ShapedText(typesetting.text, typesetting.font, typesetting.tracking, typesetting.maxWidth);
+    text.kept = {};
+    ++work_.layouts;
 }
 
 void QuoteView::composeLines(const Setting& setting, double width, double seconds) {
     const QString& raw = state_.settings.textAnimRaw;
-    QStringList texts = balancedLines(state_.quote.text, setting.wrap());
-    for (QString& text : texts) {
-        text = beginningOf(text, setting.seenInOne());
-    }
-
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);
     parts.font = setting.quote();
@@ -134,18 +154,20 @@ void QuoteView::composeLines(const Setting& setting, double width, double second
     parts.maxWidth = width;
 
     std::vector<Line> lines;
-    lines.reserve(static_cast<size_t>(texts.size()));
-    for (qsizetype i = 0; i < texts.size(); ++i) {
-        parts.text = texts[i];
+    lines.reserve(static_cast<size_t>(cut_.lines.size()));
+    for (qsizetype i = 0; i < cut_.lines.size(); ++i) {
+        parts.text = cut_.lines[i];
         parts.index = i;
-        const QString identity = lineIdentity(raw, i, texts[i]);
+        const QString identity = lineIdentity(raw, i, parts.text);
         Line* old = i < lineCount() ? &lines_[static_cast<size_t>(i)] : nullptr;
         const bool continues = old && old->identity == identity;
         const double appearedAt = continues ? old->appearedAt : seconds;
-        if (old && sameParts(old->line.parts(), parts)) {
+        if (old && sameLayout(old->line.parts(), parts)) {
+            old->line.setColors(parts.color, parts.shadow);
             lines.push_back({identity, appearedAt, std::move(old->line), {}});
         } else {
             lines.push_back({identity, appearedAt, RevealLine(parts), {}});
+            ++work_.layouts;
         }
     }
     lines_ = std::move(lines);
@@ -155,13 +177,9 @@ void QuoteView::composeLines(const Setting& setting, double width, double second
 // room side by side.
 void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
     const TextFont font = setting.overlay();
-    greeting_ = {ShapedText(greeting(state_.moment), font), {}, 1, captionOpacity};
-    today_ = {ShapedText(today(state_.moment, state_.locale), font, measure::dateTracking),
-              {},
-              1,
-              captionOpacity};
-    hint_ = {
-        ShapedText(hintText(state_.sideInset), font, measure::hintTracking), {}, 1, hintOpacity};
+    layOut(greeting_, {greeting(state_.moment), font});
+    layOut(today_, {today(state_.moment, state_.locale), font, measure::dateTracking});
+    layOut(hint_, {hintText(state_.sideInset), font, measure::hintTracking});
 
     const double row = std::max(box.width() - 2 * measure::headerSide, 1.0);
     const double needed = greeting_.shape.size().width() + 2 * measure::leastSpace +
@@ -216,7 +234,7 @@ void QuoteView::placeTexts(const Setting& setting, const QRectF& box) {
     author_.scale = place_.scale;
     author_.topLeft = placed(column.author.topLeft() + QPointF(measure::authorTracking / 2, 0),
                              author_.shape.baseline());
-    const double baseline = ShapedText(QStringLiteral("x"), setting.quote()).baseline();
+    const double baseline = sample_.shape.baseline();
     for (size_t i = 0; i < lines_.size(); ++i) {
         lines_[i].topLeft = placed(column.lines[static_cast<qsizetype>(i)].topLeft(), baseline);
     }

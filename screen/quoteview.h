@@ -29,7 +29,7 @@ struct QuoteViewState {
     Quote quote;
     ViewSettings settings;
     Palette palette;
-    std::optional<QSizeF> mainScreen; // points; nothing without a screen
+    std::optional<QSizeF> mainScreen; // points; null without a screen
     QSizeF size;                      // of the view, points
     double devicePixelRatio = 1;
     double sideInset = 0; // kept free at the right edge, points
@@ -47,20 +47,30 @@ class QuoteView {
 public:
     // The view appears with this state at 0.
     QuoteView(const QuoteViewState& state, const FontBook& fonts);
-    // Another state from `seconds` on. Lines of a new identity start over;
-    // nothing else is replayed.
+    // Takes another state from `seconds` on. Lines of a new identity start over;
+    // nothing else is replayed. Only what depends on the difference is laid out
+    // anew.
     void update(const QuoteViewState& state, double seconds);
 
-    // As handed in, but for what of the quotation lies far beyond the bottom.
+    // As handed in, except that the part of the quotation far beyond the bottom
+    // is cut off.
     const QuoteViewState& state() const { return state_; }
+
+    // How much work the states have made so far: the times that the quotation
+    // was cut into lines, and that a text or a line was laid out.
+    struct Work {
+        int cuts = 0;
+        int layouts = 0;
+    };
+    Work work() const { return work_; }
 
     // Draws what lies in `clip` (points); the painter is in points.
     void paint(QPainter& painter, double seconds, const QRectF& clip) const;
 
-    // What of the view differs between two instants, points.
+    // The part of the view that differs between two instants, points.
     QRegion changedBetween(double from, double to) const;
     // The first instant, not before `seconds`, from which on something moves:
-    // `seconds` itself while it does, nothing when all has come to rest.
+    // `seconds` itself while it does, null when everything is at rest.
     std::optional<double> nextMotion(double seconds) const;
 
     // The places of the elements at rest, points.
@@ -74,14 +84,33 @@ public:
     double columnScale() const { return place_.scale; }
 
 private:
+    // What a text is laid out from.
+    struct Typesetting {
+        QString text;
+        TextFont font;
+        double tracking = 0;
+        double maxWidth = 0;
+
+        bool operator==(const Typesetting&) const = default;
+    };
     struct Text {
-        ShapedText shape;
-        QPointF topLeft;
-        double scale = 1;
         double opacity = 1;
+        Typesetting typesetting{};
+        ShapedText shape{};
+        QPointF topLeft{};
+        double scale = 1;
         mutable KeptText kept{};
+
         QRectF rect() const { return {topLeft, shape.size() * scale}; }
         void paint(QPainter& painter, QColor color, double progress) const;
+    };
+    // The quotation cut into lines, and what that was made from.
+    struct Cut {
+        Quote quote; // as handed in
+        int wrap = 0;
+        qsizetype seen = 0;
+        Quote seenQuote;
+        QStringList lines;
     };
     struct Line {
         QString identity;
@@ -92,7 +121,8 @@ private:
     class Setting;
 
     void compose(double seconds);
-    void dropUnseen(const Setting& setting);
+    void cutQuotation(const Setting& setting);
+    void layOut(Text& text, const Typesetting& typesetting);
     void composeLines(const Setting& setting, double width, double seconds);
     void composeOverlays(const Setting& setting, const QRectF& box);
     void placeTexts(const Setting& setting, const QRectF& box);
@@ -106,11 +136,14 @@ private:
     QuoteViewState state_;
     std::optional<ClosingEntrances> closing_;
     ColumnPlace place_;
+    Work work_;
+    Cut cut_;
     Text greeting_;
     Text today_;
     Text mark_;
     Text author_;
     Text hint_;
+    Text sample_; // in the quotation's font, for its baseline
     QRectF rule_;
     std::vector<Line> lines_;
 };

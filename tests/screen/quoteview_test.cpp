@@ -134,6 +134,65 @@ TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
     EXPECT_EQ(view.closing().rule.delay, ruleAt);
 }
 
+TEST(QuoteView, LaysOutOnlyWhatDependsOnAChange) {
+    QuoteViewState state = plainState();
+    state.quote = {threeLines, QStringLiteral("Anonymous")};
+    QuoteView view(state, shippedFonts());
+    ASSERT_EQ(view.lineCount(), 3);
+    QuoteView::Work before = view.work();
+    const auto expectWork = [&](const char* what, int cuts, int layouts) {
+        view.update(state, 5);
+        EXPECT_EQ(view.work().cuts - before.cuts, cuts) << what;
+        EXPECT_EQ(view.work().layouts - before.layouts, layouts) << what;
+        before = view.work();
+    };
+    expectWork("nothing", 0, 0);
+    state.settings.vignette = 0.9;
+    expectWork("vignette", 0, 0);
+    state.settings.grainOn = false;
+    expectWork("grain", 0, 0);
+    state.settings.transparency = 0.5;
+    expectWork("transparency", 0, 0);
+    state.settings.liquidGlass = false;
+    expectWork("glass", 0, 0);
+    state.settings.screenAnimRaw = QStringLiteral("zoom");
+    expectWork("screen animation", 0, 0);
+    state.settings.paletteIndex = 7;
+    state.palette = Palette::all()[7];
+    expectWork("palette", 0, 0);
+    state.settings.bgImagePath = QStringLiteral("/photo");
+    state.palette = Palette::photo();
+    expectWork("photo", 0, 0);
+    state.settings.textAnimRaw = QStringLiteral("rise");
+    expectWork("text animation: the lines", 0, 3);
+    state.settings.fontName = QStringLiteral("serif");
+    expectWork("font: lines, mark, sample", 0, 5);
+    state.quote.author = QStringLiteral("Somebody");
+    expectWork("author", 1, 1);
+    state.moment.unixSeconds += 3600.0 * 5;
+    expectWork("hour: the greeting", 0, 1);
+    state.settings.sizeScale = 1.01;
+    expectWork("size: everything", 1, 9);
+}
+
+TEST(QuoteView, DrawsAfterAnUpdateWhatAFreshViewDraws) {
+    QuoteViewState state = plainState({1024, 600});
+    state.quote = {threeLines, QStringLiteral("Anonymous")};
+    for (const TextAnim style : allTextAnims) {
+        state.settings.textAnimRaw = rawValue(style);
+        state.palette = Palette::all()[0];
+        QuoteView view(state, shippedFonts());
+        drawn(view, 1.2); // keeps pictures in the colours of before
+        drawn(view, 9);
+        drawn(view, 9);
+        state.palette = Palette::all()[7];
+        view.update(state, 1);
+        const QuoteView fresh(state, shippedFonts());
+        EXPECT_EQ(drawn(view, 1.2), drawn(fresh, 1.2)) << rawValue(style).toStdString();
+        EXPECT_EQ(drawn(view, 9), drawn(fresh, 9)) << rawValue(style).toStdString();
+    }
+}
+
 TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
     QuoteViewState state = plainState();
     state.quote = {"aaaa bbbb", "A"};
