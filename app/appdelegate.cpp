@@ -4,7 +4,6 @@
 #include "app/appdelegate.h"
 
 #include "app/services.h"
-#include "base/curves.h"
 #include "platform/platform.h"
 #include "quotes/quotebox.h"
 #include "screen/quotescreen.h"
@@ -28,9 +27,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr double throttleSeconds = 8.0; // between a showing and a triggered one
-constexpr double fadeInSeconds = 0.55;
-constexpr double fadeOutSeconds = 0.45;
+constexpr double throttleSeconds = 8.0;  // between a showing and a triggered one
 constexpr double shortestShowing = 5.0;  // seconds until the automatic close
 constexpr double inspectorFaceSize = 13; // points; the editor sets its own sizes
 
@@ -127,7 +124,7 @@ void AppDelegate::present(bool preview, bool editing) {
     connect(window.get(), &QuoteWindow::closed, this, handleThisLoss, Qt::QueuedConnection);
     window->orderFront();
     window_ = std::move(window);
-    window_->fade(services_.timing, 1, fadeInSeconds, easeOut, [] {});
+    window_->fadeIn(services_.timing);
     if (preview) {
         return;
     }
@@ -146,7 +143,7 @@ QuoteScreen* AppDelegate::makeQuoteScreen(const Behind& behind) {
     auto box = std::make_unique<QuoteBox>(services_.store, services_.loader, services_.clock,
                                           services_.random);
     auto* screen = new QuoteScreen(services_.store, services_.fonts, services_.photos,
-                                   std::move(box), services_.clock);
+                                   std::move(box), services_.clock, services_.frames);
     screen->setBehind(behind);
     return screen;
 }
@@ -213,8 +210,7 @@ void AppDelegate::dismiss(bool animated) {
     QuoteWindow* leaving = window_.get();
     fadingOut_.push_back(std::move(window_));
     if (animated) {
-        leaving->fade(services_.timing, 0, fadeOutSeconds, easeIn,
-                      [this, leaving] { removeWindow(leaving); });
+        leaving->fadeOut(services_.timing, [this, leaving] { removeWindow(leaving); });
     } else {
         removeWindow(leaving);
     }

@@ -11,6 +11,7 @@
 #include "photos/bgstore.h"
 #include "platform/chooser.h"
 #include "platform/system.h"
+#include "screen/frameclock.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
 #include "settingsui/hostpalette.h"
@@ -116,13 +117,15 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
     SettingsFile file(store, defaultSettingsPath());
     BGStore photos(store, backgroundFolder(), ownPhotoFolder(), workers);
     QuoteFetcher fetcher;
-    const auto timing = makeSystemTiming();
+    FrameClock frames(steadySeconds());
+    const auto timing = makeSystemTiming(frames);
     const Services services{.store = store,
                             .fonts = fonts,
                             .photos = photos,
                             .loader = fetcher.loader(),
                             .platform = platform,
-                            .timing = *timing};
+                            .timing = *timing,
+                            .frames = frames};
     AppDelegate delegate(services);
     QObject::connect(&delegate, &AppDelegate::quitRequested, &app, quit);
     QObject::connect(&delegate, &AppDelegate::showingEnded, &app, &releaseFreeMemory,

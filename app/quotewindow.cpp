@@ -3,13 +3,21 @@
 
 #include "app/quotewindow.h"
 
+#include "base/curves.h"
+
 #include <QAccessibleWidget>
 #include <QCloseEvent>
+#include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -21,10 +29,62 @@ QAccessibleInterface* speakingWindow(const QString& /*className*/, QObject* obje
 
 } // namespace
 
+// Lies over everything in a window and lends the window an alpha, without the
+// help of the window system: all widgets of a window share one backing store,
+// and this one paints last.
+class Veil : public QWidget {
+public:
+    explicit Veil(QWidget* window);
+
+    // With `desktop` (device pixels of the whole window) the window stays
+    // opaque, and the picture shows through instead of what lies behind.
+    void setDesktop(const QImage& desktop);
+    // 0...1; at 1 the veil is out of the way.
+    void setAlpha(double alpha);
+    double alpha() const { return alpha_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage desktop_;
+    double alpha_ = 1;
+};
+
+Veil::Veil(QWidget* window)
+    : QWidget(window) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+}
+
+void Veil::setDesktop(const QImage& desktop) {
+    desktop_ = desktop;
+    update();
+}
+
+void Veil::setAlpha(double alpha) {
+    alpha_ = std::clamp(alpha, 0.0, 1.0);
+    setVisible(alpha_ < 1);
+    update();
+}
+
+void Veil::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    if (desktop_.isNull()) {
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(event->rect(), QColor::fromRgbF(0, 0, 0, static_cast<float>(alpha_)));
+        return;
+    }
+    painter.setOpacity(1 - alpha_);
+    painter.setClipRect(event->rect());
+    painter.drawImage(rect(), desktop_);
+}
+
 QuoteWindow::QuoteWindow(OverlayMaker& overlays, QScreen& screen, const OverlaySetup& setup) {
     QAccessible::installFactory(speakingWindow); // ignores one that it knows
-    setObjectName("QuoteWindow");
-    setWindowTitle("Morrowleaf");
+    setObjectName(u"QuoteWindow"_s);
+    setWindowTitle(u"Morrowleaf"_s);
     overlay_ = overlays.make(*this, screen, setup);
     // Every pixel comes from the content: nothing may be filled in before it.
     setAttribute(Qt::WA_NoSystemBackground);
@@ -57,6 +117,15 @@ double QuoteWindow::alpha() const {
     return veil_->alpha();
 }
 
+void QuoteWindow::fadeIn(Timing& timing) {
+    fade(timing, 1, fadeInSeconds, easeOut, [] {});
+}
+
+void QuoteWindow::fadeOut(Timing& timing, std::function<void()> done) {
+    fade(timing, 0, fadeOutSeconds, easeIn, std::move(done));
+}
+
+// `curve` maps the elapsed fraction 0...1 to the share of the way.
 void QuoteWindow::fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
                        std::function<void()> done) {
     const double from = this->alpha();

@@ -4,12 +4,16 @@
 #pragma once
 
 #include "app/timing.h"
-#include "app/veil.h"
 #include "platform/overlaywindow.h"
 
 #include <QWidget>
 
 namespace morrowleaf {
+
+class Veil;
+
+inline constexpr double fadeInSeconds = 0.55;
+inline constexpr double fadeOutSeconds = 0.45;
 
 // The window of one showing: borderless, with an alpha of its own, its
 // content filling it. Nothing is on screen before orderFront().
@@ -27,14 +31,14 @@ public:
     // What to fade over where the window cannot be seen through.
     void setDesktop(const QImage& desktop); // device pixels of the whole window
 
-    // 0...1, see Veil.
+    // 0...1. The window system is not needed for it: the window's own pixels
+    // become translucent, or those of setDesktop() show through.
     void setAlpha(double alpha);
     double alpha() const;
-    // Moves the alpha from where it stands to `alpha` along `curve`, which maps
-    // the elapsed fraction 0...1 to the share of the way; then calls `done`.
-    // Another fade, or orderOut(), ends it without a call.
-    void fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
-              std::function<void()> done);
+    // Fades from the present alpha to 1, or to 0 and then calls `done`. Another
+    // fade, or orderOut(), ends it without a call.
+    void fadeIn(Timing& timing);
+    void fadeOut(Timing& timing, std::function<void()> done);
 
     void orderFront();
     void orderOut();
@@ -47,6 +51,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
+              std::function<void()> done);
+
     std::unique_ptr<OverlayWindow> overlay_;
     QWidget* content_ = nullptr;
     Veil* veil_ = nullptr;

@@ -11,6 +11,7 @@ namespace morrowleaf {
 
 class BGStore;
 class FontBook;
+class FrameClock;
 struct Platform;
 class SettingsStore;
 class Timing;
@@ -24,6 +25,7 @@ struct Services {
     QuoteLoader loader; // loads one source, as the user typed it
     Platform& platform;
     Timing& timing;
+    FrameClock& frames; // of what moves on the quote screen, and of the timing
     Clock clock = [] { return Moment::now(); };
     RandomIndex random = secureRandomIndex();
 };

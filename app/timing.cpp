@@ -4,46 +4,48 @@
 #include "app/timing.h"
 
 #include "platform/system.h"
+#include "screen/frameclock.h"
 
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace morrowleaf {
 
 namespace {
 
-constexpr int frameInterval = 16; // milliseconds
 // The first frames of a new window may take long; they count as this much at most.
 constexpr double longestFirstFrames = 0.05; // seconds
 constexpr int firstFrames = 3;
 
-class Animation final : public QTimer {
+class Animation final : public FrameTimer {
 public:
-    Animation(double seconds, std::function<void(double)> step, std::function<void()> done)
-        : seconds_(seconds)
+    Animation(FrameClock& frames, double seconds, std::function<void(double)> step,
+              std::function<void()> done)
+        : FrameTimer(frames)
+        , frames_(frames)
+        , seconds_(seconds)
         , step_(std::move(step))
         , done_(std::move(done)) {
-        setTimerType(Qt::PreciseTimer);
-        setInterval(frameInterval);
-        connect(this, &QTimer::timeout, this, [this] { advance(); });
-        start();
+        connect(this, &FrameTimer::tick, this, [this] { advance(); });
+        wakeAt(frames_.now());
     }
 
 private:
     void advance() {
-        double since = static_cast<double>(clock_.isValid() ? clock_.nsecsElapsed() : 0) / 1e9;
-        clock_.start();
+        const double now = frames_.now();
+        double since = last_ ? now - *last_ : 0;
+        last_ = now;
         if (frame_ < firstFrames) {
             ++frame_;
             since = std::min(since, longestFirstFrames);
         }
         elapsed_ += since;
         const double fraction = std::min(elapsed_ / seconds_, 1.0);
-        if (fraction >= 1) {
-            stop();
+        if (fraction < 1) {
+            wakeAt(now);
         }
         step_(fraction);
         if (!signalsBlocked() && fraction >= 1) {
@@ -52,21 +54,20 @@ private:
         }
     }
 
+    FrameClock& frames_;
     double seconds_;
     std::function<void(double)> step_;
     std::function<void()> done_;
-    QElapsedTimer clock_;
+    std::optional<double> last_; // of the clock, at the frame before
     double elapsed_ = 0;
     int frame_ = 0;
 };
 
-template <typename T, typename... Arguments>
-Task makeTask(Arguments&&... arguments) {
-    return Task(new T(std::forward<Arguments>(arguments)...));
-}
-
 class SystemTiming final : public Timing {
 public:
+    explicit SystemTiming(FrameClock& frames)
+        : frames_(frames) {}
+
     double now() const override { return uptime(); }
 
     Task after(double seconds, std::function<void()> what) override {
@@ -74,15 +75,18 @@ public:
         timer->setSingleShot(true);
         timer->setTimerType(Qt::PreciseTimer); // others may be early by a twentieth
         QObject::connect(timer, &QTimer::timeout, timer, std::move(what));
-        constexpr double longest = 2e6; // what a timer's milliseconds can hold
+        constexpr double longest = 2e6; // seconds that a timer's milliseconds can hold
         timer->start(static_cast<int>(std::lround(std::min(seconds, longest) * 1000)));
         return Task(timer);
     }
 
     Task animate(double seconds, std::function<void(double)> step,
                  std::function<void()> done) override {
-        return makeTask<Animation>(seconds, std::move(step), std::move(done));
+        return Task(new Animation(frames_, seconds, std::move(step), std::move(done)));
     }
+
+private:
+    FrameClock& frames_;
 };
 
 } // namespace
@@ -93,8 +97,8 @@ void EndTask::operator()(QObject* task) const {
     task->deleteLater();
 }
 
-std::unique_ptr<Timing> makeSystemTiming() {
-    return std::make_unique<SystemTiming>();
+std::unique_ptr<Timing> makeSystemTiming(FrameClock& frames) {
+    return std::make_unique<SystemTiming>(frames);
 }
 
 } // namespace morrowleaf

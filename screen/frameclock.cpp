@@ -14,8 +14,9 @@ namespace morrowleaf {
 
 namespace {
 
+constexpr double usualRate = 60;      // frames a second
 constexpr double longestSleep = 3600; // seconds; waking too early does no harm
-constexpr double gridSlack = 1e-6;
+constexpr double gridSlack = 1e-6;    // of a frame, or of a tick of the backdrop
 
 } // namespace
 
@@ -27,15 +28,81 @@ Monotonic steadySeconds() {
 
 FrameClock::FrameClock(Monotonic monotonic, QObject* parent)
     : QObject(parent)
-    , monotonic_(std::move(monotonic)) {
+    , monotonic_(std::move(monotonic))
+    , interval_(1 / usualRate) {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this, &FrameClock::tick);
+    connect(&timer_, &QTimer::timeout, this, &FrameClock::serve);
 }
 
-void FrameClock::wakeAt(double instant) {
-    const double wait = std::clamp(instant - now(), 0.0, longestSleep);
+void FrameClock::setRate(double framesPerSecond) {
+    const bool plausible = framesPerSecond >= 24 && framesPerSecond <= 480;
+    interval_ = 1 / (plausible ? framesPerSecond : usualRate);
+}
+
+double FrameClock::frameFor(double instant) const {
+    const double next = std::floor(now() / interval_ + gridSlack) + 1;
+    return std::max(std::ceil(instant / interval_ - gridSlack), next) * interval_;
+}
+
+void FrameClock::schedule() {
+    std::optional<double> first;
+    for (const FrameTimer* timer : timers_) {
+        if (timer->due_) {
+            first = first ? std::min(*first, *timer->due_) : *timer->due_;
+        }
+    }
+    if (!first) {
+        timer_.stop();
+        return;
+    }
+    armedFor_ = *first;
+    const double wait = std::clamp(*first - now(), 0.0, longestSleep);
     timer_.start(static_cast<int>(std::ceil(wait * 1000)));
+}
+
+void FrameClock::serve() {
+    const double reached = std::max(armedFor_, now()) + gridSlack * interval_;
+    std::vector<QPointer<FrameTimer>> due;
+    for (FrameTimer* timer : timers_) {
+        if (timer->due_ && *timer->due_ <= reached) {
+            timer->due_.reset();
+            due.emplace_back(timer);
+        }
+    }
+    for (const QPointer<FrameTimer>& timer : due) {
+        if (timer) { // a tick may destroy another timer
+            emit timer->tick();
+        }
+    }
+    schedule();
+}
+
+FrameTimer::FrameTimer(FrameClock& clock, QObject* parent)
+    : QObject(parent)
+    , clock_(&clock) {
+    clock.timers_.push_back(this);
+}
+
+FrameTimer::~FrameTimer() {
+    if (clock_) {
+        std::erase(clock_->timers_, this);
+        clock_->schedule();
+    }
+}
+
+void FrameTimer::wakeAt(double instant) {
+    if (clock_) {
+        due_ = clock_->frameFor(instant);
+        clock_->schedule();
+    }
+}
+
+void FrameTimer::sleep() {
+    due_.reset();
+    if (clock_) {
+        clock_->schedule();
+    }
 }
 
 qint64 backdropTick(double instant) {

@@ -50,20 +50,20 @@ QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
 
 struct QuoteScreen::Private {
     Private(QuoteScreen& owner, SettingsStore& settings, const FontBook& book, BGStore& bgStore,
-            std::unique_ptr<QuoteBox> quoteBox, Clock wallClock, Monotonic monotonic)
+            std::unique_ptr<QuoteBox> quoteBox, Clock wallClock, FrameClock& clockOfFrames)
         : screen(owner)
         , store(settings)
         , fonts(book)
         , clock(std::move(wallClock))
         , box(std::move(quoteBox))
-        , frames(std::move(monotonic))
+        , frameClock(clockOfFrames)
+        , frames(frameClock)
         , photo(bgStore)
         , glass(bgStore.workers()) {}
 
     double sideInset() const { return inspector ? inspectorWidth : 0; }
-    double sinceAppearance() const { return frames.now() - appearedAt; }
+    double sinceAppearance() const { return frameClock.now() - appearedAt; }
     QuoteViewState viewState(const Moment& moment, const ViewSettings& settings) const;
-    double frameInterval() const;
     bool exposed() const;
 
     void appear();
@@ -85,7 +85,8 @@ struct QuoteScreen::Private {
     const FontBook& fonts;
     Clock clock;
     std::unique_ptr<QuoteBox> box;
-    FrameClock frames;
+    FrameClock& frameClock;
+    FrameTimer frames;
     PhotoShowing photo;
     GlassShowing glass;
     QWidget* inspector = nullptr;
@@ -125,18 +126,16 @@ QuoteViewState QuoteScreen::Private::viewState(const Moment& moment,
     return state;
 }
 
-double QuoteScreen::Private::frameInterval() const {
-    const double rate = screen.screen() ? screen.screen()->refreshRate() : 60;
-    return 1 / (rate >= 24 && rate <= 480 ? rate : 60);
-}
-
 bool QuoteScreen::Private::exposed() const {
     const QWindow* window = screen.window()->windowHandle();
     return screen.isVisible() && window && window->isExposed();
 }
 
 void QuoteScreen::Private::appear() {
-    appearedAt = frames.now();
+    appearedAt = frameClock.now();
+    if (const QScreen* display = screen.screen()) {
+        frameClock.setRate(display->refreshRate());
+    }
     stale = true;
     placeInspector(0);
 }
@@ -242,14 +241,13 @@ void QuoteScreen::Private::tick() {
 std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
     std::optional<double> next;
     const auto consider = [&](double at) { next = next ? std::min(*next, at) : at; };
-    const double interval = frameInterval();
-    const double frame = (std::floor(seconds / interval + 1e-6) + 1) * interval;
     if (const std::optional<double> motion = view->nextMotion(frameSeconds)) {
-        consider(std::max(*motion, frame));
+        consider(*motion);
     }
-    if (photoFades(frameSeconds) || glassFades(frameSeconds) ||
-        (inspector && seconds < inspectorEntrance.end() + interval)) {
-        consider(frame);
+    const bool inspectorSlides =
+        inspector && seconds < inspectorEntrance.end() + frameClock.frameInterval();
+    if (photoFades(frameSeconds) || glassFades(frameSeconds) || inspectorSlides) {
+        consider(seconds);
     }
     if (BackdropPainter::moves(backdrop)) {
         consider(nextBackdropTick(seconds));
@@ -281,11 +279,11 @@ void QuoteScreen::Private::draw(QImage& target, const QRegion& region) {
 }
 
 QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& photos,
-                         std::unique_ptr<QuoteBox> box, Clock clock, Monotonic monotonic,
+                         std::unique_ptr<QuoteBox> box, Clock clock, FrameClock& frames,
                          QWidget* parent)
     : QWidget(parent)
     , d_(std::make_unique<Private>(*this, store, fonts, photos, std::move(box), std::move(clock),
-                                   std::move(monotonic))) {
+                                   frames)) {
     installSpokenTexts();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -293,7 +291,11 @@ QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& p
         d_->stale = true;
         update();
     };
-    connect(&store, &SettingsStore::changed, this, refresh);
+    connect(&store, &SettingsStore::changed, this, [this, refresh] {
+        if (!d_->view || readViewSettings(d_->store) != d_->view->state().settings) {
+            refresh();
+        }
+    });
     connect(d_->box.get(), &QuoteBox::quoteChanged, this, [this, refresh] {
         refresh();
         announceSpokenTexts(*this);
@@ -306,7 +308,7 @@ QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& p
         d_->followGlass();
         refresh();
     });
-    connect(&d_->frames, &FrameClock::tick, this, [this] { d_->tick(); });
+    connect(&d_->frames, &FrameTimer::tick, this, [this] { d_->tick(); });
 }
 
 QuoteScreen::~QuoteScreen() = default;

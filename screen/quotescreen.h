@@ -30,9 +30,10 @@ class QuoteScreen : public QWidget, public SpeakingWidget {
 
 public:
     // Shows the quotation of `box`, with the date and the greeting of `clock`;
-    // `monotonic` times the entrances. The referenced objects outlive the screen.
+    // `frames` times the entrances, and is told the rate of the display. The
+    // referenced objects outlive the screen.
     QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& photos,
-                std::unique_ptr<QuoteBox> box, Clock clock, Monotonic monotonic = steadySeconds(),
+                std::unique_ptr<QuoteBox> box, Clock clock, FrameClock& frames,
                 QWidget* parent = nullptr);
     ~QuoteScreen() override;
 

@@ -76,6 +76,7 @@ protected:
     SettingsStore store;
     FakeDesktop desktop;
     FakeTiming timing;
+    FrameClock frames{steadySeconds()};
     QTemporaryDir folder;
     BGStore photos{store, folder.path(), folder.path()};
     Services services{.store = store,
@@ -83,7 +84,8 @@ protected:
                       .photos = photos,
                       .loader = [](const QString&, const auto&) {},
                       .platform = desktop.platform,
-                      .timing = timing};
+                      .timing = timing,
+                      .frames = frames};
     std::unique_ptr<AppDelegate> delegate;
 };
 

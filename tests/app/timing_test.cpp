@@ -3,6 +3,8 @@
 
 #include "app/timing.h"
 
+#include "screen/frameclock.h"
+
 #include <QElapsedTimer>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -13,7 +15,8 @@
 using namespace morrowleaf;
 
 TEST(SystemTiming, CallsOnceAndNeverEarly) {
-    const auto timing = makeSystemTiming();
+    FrameClock frames(steadySeconds());
+    const auto timing = makeSystemTiming(frames);
     QElapsedTimer clock;
     clock.start();
     constexpr int count = 40;
@@ -34,7 +37,8 @@ TEST(SystemTiming, CallsOnceAndNeverEarly) {
 }
 
 TEST(SystemTiming, WhatIsCancelledIsNeverCalled) {
-    const auto timing = makeSystemTiming();
+    FrameClock frames(steadySeconds());
+    const auto timing = makeSystemTiming(frames);
     int calls = 0;
     Task task = timing->after(0.01, [&calls] { ++calls; });
     const Task later = timing->after(0.05, [&calls] { calls += 10; });
@@ -44,7 +48,8 @@ TEST(SystemTiming, WhatIsCancelledIsNeverCalled) {
 }
 
 TEST(SystemTiming, AnAnimationEndsWithItsWholeFractionOnce) {
-    const auto timing = makeSystemTiming();
+    FrameClock frames(steadySeconds());
+    const auto timing = makeSystemTiming(frames);
     std::vector<double> fractions;
     int ends = 0;
     const Task task = timing->animate(
@@ -56,4 +61,33 @@ TEST(SystemTiming, AnAnimationEndsWithItsWholeFractionOnce) {
     EXPECT_EQ(fractions.front(), 0);
     EXPECT_EQ(fractions.back(), 1);
     EXPECT_TRUE(std::is_sorted(fractions.begin(), fractions.end()));
+}
+
+TEST(SystemTiming, AnAnimationSharesItsFramesWithWhatElseMoves) {
+    FrameClock frames(steadySeconds());
+    const auto timing = makeSystemTiming(frames);
+    FrameTimer picture(frames);
+    // Each step follows a tick of the picture before the event loop turns.
+    int apart = 0;
+    int turns = 0;
+    int turnOfTick = -1;
+    QObject::connect(&picture, &FrameTimer::tick, &picture, [&] {
+        picture.wakeAt(frames.now());
+        turnOfTick = turns;
+        QMetaObject::invokeMethod(
+            &picture, [&] { ++turns; }, Qt::QueuedConnection);
+    });
+    picture.wakeAt(frames.now());
+    int ends = 0;
+    int steps = 0;
+    const Task task = timing->animate(
+        0.2,
+        [&](double) {
+            ++steps;
+            apart += turnOfTick == turns ? 0 : 1;
+        },
+        [&] { ++ends; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ends > 0; }, 20'000));
+    EXPECT_GT(steps, 2);
+    EXPECT_EQ(apart, 0);
 }

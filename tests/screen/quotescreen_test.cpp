@@ -50,7 +50,7 @@ protected:
         store.set(K::palette, 0);
     }
 
-    std::unique_ptr<CountingScreen> make(const Monotonic& monotonic, QWidget* parent = nullptr) {
+    std::unique_ptr<CountingScreen> make(FrameClock& frameClock, QWidget* parent = nullptr) {
         const Clock clock = [] { return plainState().moment; };
         auto box = std::make_unique<QuoteBox>(
             store,
@@ -59,10 +59,10 @@ protected:
             },
             clock, [](qsizetype) -> qsizetype { return 0; });
         return std::make_unique<CountingScreen>(store, shippedFonts(), photos, std::move(box),
-                                                clock, monotonic, parent);
+                                                clock, frameClock, parent);
     }
     std::unique_ptr<CountingScreen> make(QWidget* parent = nullptr) {
-        return make([this] { return time; }, parent);
+        return make(fakeFrames, parent);
     }
 
     std::unique_ptr<CountingScreen> shown(QWidget* inspector = nullptr) {
@@ -108,6 +108,7 @@ protected:
     BGStore photos{store, folder.path(), folder.path()};
     std::function<void(std::optional<Quote>)> loaded;
     double time = 50;
+    FrameClock fakeFrames{[this] { return time; }};
 };
 
 int differing(const QImage& a, const QImage& b) {
@@ -330,7 +331,8 @@ TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
     store.set(K::screenAnim, "aurora");
     const Monotonic steady = steadySeconds();
     double ahead = 0;
-    const auto made = make([&] { return steady() + ahead; });
+    FrameClock realFrames([&] { return steady() + ahead; });
+    const auto made = make(realFrames);
     CountingScreen& screen = *made;
     screen.resize(320, 240);
     screen.show();
