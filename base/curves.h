@@ -5,18 +5,21 @@
 
 namespace morrowleaf {
 
-// Timing curves: elapsed fraction in, progress out, both clamped to 0...1.
-// They are the cubic Béziers (0, 0, 0.58, 1), (0.42, 0, 1, 1) and (0.42, 0, 0.58, 1).
+// Timing curves: the progress at an elapsed fraction, both clamped to 0...1; NaN
+// gives 0. They are the cubic Bézier curves with the inner control points
+// (0, 0) (0.58, 1), (0.42, 0) (1, 1) and (0.42, 0) (0.58, 1), solved by bisection
+// to full precision.
 double easeOut(double fraction);
 double easeIn(double fraction);
 double easeInEaseOut(double fraction);
 
-// Position at `seconds` of a unit mass on a spring of angular frequency
-// 2π / response and the given damping ratio, from rest at 0 towards 1. It
-// overshoots when the ratio is below 1; 0 before the start.
+// The position at `seconds` of a unit mass on a spring, from rest at 0 towards 1.
+// `response` is the period of the undamped spring in seconds (its angular
+// frequency is 2π / response) and `dampingFraction` the damping ratio: below 1 the
+// spring overshoots. 0 before the start and for NaN.
 double spring(double seconds, double response, double dampingFraction);
 
-// Seconds after which a spring stays within `tolerance` of 1.
+// The seconds after which a spring stays within `tolerance` of 1.
 double springSettledAfter(double response, double dampingFraction, double tolerance = 0.0005);
 
 } // namespace morrowleaf

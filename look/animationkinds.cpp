@@ -10,9 +10,9 @@
 
 namespace morrowleaf {
 
-namespace {
+using namespace Qt::Literals::StringLiterals;
 
-using namespace Qt::StringLiterals;
+namespace {
 
 struct TextAnimRow {
     QLatin1StringView raw;

@@ -21,24 +21,26 @@ inline constexpr std::array allScreenAnims{ScreenAnim::Drift, ScreenAnim::Still,
                                            ScreenAnim::Breathe, ScreenAnim::Aurora,
                                            ScreenAnim::Zoom};
 
-// The stored form of a case, and back; compared exactly, nothing when unknown.
+// The stored form of a kind, and back. Comparisons are exact; an unknown text
+// gives std::nullopt.
 QString rawValue(TextAnim kind);
 QString rawValue(ScreenAnim kind);
 std::optional<TextAnim> textAnimFromRawValue(const QString& raw);
 std::optional<ScreenAnim> screenAnimFromRawValue(const QString& raw);
 
-// How a reader of the settings takes a stored text: unknown is the first case.
+// The kind for a stored text; an unknown text gives the first kind.
 TextAnim storedTextAnim(const QString& raw);
 ScreenAnim storedScreenAnim(const QString& raw);
 
+// As the appearance editor shows it.
 QString label(TextAnim kind);
 QString label(ScreenAnim kind);
 
-// Phase units a second of wall-clock time; 0 stands still.
+// Phase units per second of wall-clock time; 0 stands still.
 double speed(ScreenAnim kind);
-// Swing of the mesh points, as a fraction of the backdrop's size.
+// Swing of the mesh points, as a share of the backdrop's size.
 double amplitude(ScreenAnim kind);
-// Factor on the mesh about the backdrop's centre at a phase.
+// The scale of the mesh about the backdrop's centre at a phase.
 double backdropScale(ScreenAnim kind, double phase);
 
 } // namespace morrowleaf

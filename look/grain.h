@@ -9,13 +9,14 @@
 
 namespace morrowleaf {
 
-inline constexpr int grainSize = 160; // points, and pixels at scale 1
+inline constexpr int grainSize = 160; // points, and pixels at a device pixel ratio of 1
 inline constexpr double grainOpacity = 0.045;
 
-// R, G, B, 0xFF, row by row.
+// Four bytes a pixel (red, green, blue, 0xFF), row by row.
 using GrainBytes = std::array<quint8, size_t{grainSize} * grainSize * 4>;
 
-// The film grain: the same greyscale noise on every run, built on first use.
+// The film grain: the same greyscale noise on every run, from a 64-bit xorshift
+// generator. It is made at the first call; any thread may call.
 const GrainBytes& grain();
 
 } // namespace morrowleaf

@@ -5,17 +5,19 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 QString greeting(int hour) {
     if (hour >= 5 && hour <= 11) {
-        return QStringLiteral("Good morning");
+        return u"Good morning"_s;
     }
     if (hour >= 12 && hour <= 16) {
-        return QStringLiteral("Good afternoon");
+        return u"Good afternoon"_s;
     }
     if (hour >= 17 && hour <= 21) {
-        return QStringLiteral("Good evening");
+        return u"Good evening"_s;
     }
-    return QStringLiteral("Still awake");
+    return u"Still awake"_s;
 }
 
 QString greeting(const Moment& moment) {
@@ -23,11 +25,11 @@ QString greeting(const Moment& moment) {
 }
 
 QString today(const Moment& moment, const QLocale& locale) {
-    return locale.toUpper(locale.toString(moment.local().date(), QStringLiteral("dddd, d MMMM")));
+    return locale.toUpper(locale.toString(moment.local().date(), u"dddd, d MMMM"_s));
 }
 
 QString hintText(double sideInset) {
-    return sideInset > 0 ? QStringLiteral("esc to finish") : QStringLiteral("press any key");
+    return sideInset > 0 ? u"esc to finish"_s : u"press any key"_s;
 }
 
 } // namespace morrowleaf

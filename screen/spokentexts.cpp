@@ -13,6 +13,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int spokenCount = 5;
@@ -116,7 +118,7 @@ public:
         }
         const SpokenTexts texts = speaker->spokenTexts();
         return texts.author.isEmpty() ? texts.quotation
-                                      : texts.quotation + QStringLiteral(" \u2014 ") + texts.author;
+                                      : texts.quotation + u" \u2014 "_s + texts.author;
     }
 
 private:
