@@ -25,10 +25,10 @@ struct FileMark {
 
 struct WholeFile {
     enum class Kind {
-        Missing,    // nothing there, or a link to nothing
+        Missing,    // no file, or a link to none
         Bytes,      // a regular file within the limit
         Unusable,   // something else stands in the place: too large, a folder, a pipe
-        Unreadable, // something may be there, but not for us
+        Unreadable, // something may be there, but may not be read
     };
 
     Kind kind = Kind::Missing;
@@ -39,26 +39,28 @@ struct WholeFile {
 // Reads a file of up to `sizeLimit` bytes, through a link too.
 WholeFile readWholeFile(const QString& path, qint64 sizeLimit);
 
-enum class Replaced { Done, Overtaken, Failed };
+enum class Replaced {
+    Done,
+    Overtaken, // the file is no longer the one with the mark
+    Failed,
+};
 
 // Puts `bytes` in the place of the file that had `mark` when it was read:
-// written beside it, flushed to the disk and renamed over it, so that no
-// reader ever sees a part of it. Through a link the file that it names is
-// replaced. Keeps the permissions and the owner of what was there; a new file
-// is for the user alone. `exclusive` says that a lock keeps others away.
-Replaced replaceWholeFile(const QString& path, const QByteArray& bytes, const FileMark& mark,
-                          bool exclusive);
+// written beside it, flushed to the disk and renamed over it, so that no reader
+// ever sees a part of it. Through a link the file that it names is replaced.
+// Keeps the permissions and the owner; a new file is for the user alone. A file
+// whose permissions keep its owner from writing it is left alone.
+[[nodiscard]] Replaced replaceWholeFile(const QString& path, const QByteArray& bytes,
+                                        const FileMark& mark);
 
 // Renames what stands at `path` to a free name beside it and never over
-// anything: the file that a link leads to, or the link itself where it leads to
-// anything but a regular file. False where that is not possible: it still stands there.
-bool setFileAside(const QString& path);
+// anything; of a link the link itself, not what it names. Returns the new path,
+// empty where it still stands there: not possible, or a file whose permissions
+// keep its owner from writing it.
+[[nodiscard]] QString setFileAside(const QString& path);
 
-// Creates the folder that `path` lies in, for the user alone.
+// Creates the folder that `path` lies in, for the user alone. False where there
+// is none afterwards.
 bool makeFolderOf(const QString& path);
-
-// The file that a write to `path` would replace: `path` itself, or the end of
-// a chain of links. Empty where the links form a circle.
-QString linkTarget(const QString& path);
 
 } // namespace morrowleaf

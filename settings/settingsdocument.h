@@ -8,51 +8,36 @@
 #include <QJsonValue>
 #include <QString>
 
+#include <nlohmann/json.hpp>
+
 #include <optional>
-#include <vector>
 
 namespace morrowleaf {
 
-// The text of a settings file, changed key by key: everything that is not
-// changed stays as its author wrote it, to the letter. Order, indentation,
-// numbers too long for any type and keys that no reader knows survive.
+// The content of a settings file. Keys that no reader knows keep their values
+// and their place; integers of 64 bits stay exact, signed or not.
 class SettingsDocument {
 public:
     // An object without members.
     SettingsDocument() = default;
 
-    // Nothing where the text is not valid JSON, holds a number beyond the range
-    // of a double, or its top is not an object.
+    // std::nullopt where the text is not a JSON object in UTF-8, holds a number
+    // beyond the range of a double, or is nested or populated beyond any use.
+    // Of a key written twice the last value counts.
     static std::optional<SettingsDocument> parse(const QByteArray& text);
 
-    // Of a key written twice the last value counts.
     const QJsonObject& values() const { return values_; }
+    // Indented, with a line break at its end.
     QByteArray text() const;
 
-    // Undefined removes the key. Setting the value that is there already
-    // leaves the text as it is.
-    void apply(const QString& key, const QJsonValue& value);
+    // Undefined removes the key; a new key comes last.
+    void set(const QString& key, const QJsonValue& value);
+
+    bool operator==(const SettingsDocument& other) const { return members_ == other.members_; }
 
 private:
-    // One member with the blanks around its parts.
-    struct Member {
-        QString key;
-        QByteArray lead;
-        QByteArray name; // with its quotation marks
-        QByteArray colon;
-        QByteArray value;
-        QByteArray trail;
-    };
-    class Scanner;
-
-    void write(const QString& key, const QJsonValue& value);
-    void erase(const QString& key);
-
-    QByteArray head_;
-    QByteArray inside_; // the braces where there is no member
-    std::vector<Member> members_;
-    QByteArray tail_ = "\n";
-    QJsonObject values_;
+    nlohmann::ordered_json members_ = nlohmann::ordered_json::object();
+    QJsonObject values_; // the same
 };
 
 } // namespace morrowleaf

@@ -3,18 +3,19 @@
 
 #include "settings/settingsfile.h"
 
-#include "settings/settingskeeper.h"
 #include "settings/settingsstore.h"
+#include "settings/settingsworker.h"
 
 #include <QCoreApplication>
-#include <QSemaphore>
 #include <QStandardPaths>
 #include <QThread>
 
-#include <atomic>
+#include <future>
+#include <memory>
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -22,56 +23,52 @@ namespace {
 constexpr auto startLimit = 1000ms;
 constexpr auto endLimit = 500ms;
 
-struct Ticket {
-    QSemaphore done;
-    std::atomic<bool> kept = false;
-
-    bool wait(std::chrono::milliseconds limit) {
-        return done.tryAcquire(1, static_cast<int>(limit.count()));
-    }
-};
+// Calls on the worker's thread; the answer need not be waited for.
+template <typename Call>
+auto ask(SettingsWorker* worker, Call call) {
+    const auto task =
+        std::make_shared<std::packaged_task<std::invoke_result_t<Call>()>>(std::move(call));
+    QMetaObject::invokeMethod(
+        worker, [task] { (*task)(); }, Qt::QueuedConnection);
+    return task->get_future();
+}
 
 } // namespace
 
 QString defaultSettingsPath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/morrowleaf/settings.json");
+           "/morrowleaf/settings.json"_L1;
 }
 
 SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* parent)
     : QObject(parent)
     , store_(store)
-    , mailbox_(std::make_shared<SettingsMailbox>())
     , thread_(new QThread)
-    , keeper_(new SettingsKeeper(path, mailbox_)) {
-    thread_->setObjectName(QStringLiteral("settings"));
-    keeper_->moveToThread(thread_);
-    connect(thread_, &QThread::finished, keeper_, &QObject::deleteLater);
-    connect(keeper_, &SettingsKeeper::found, this, &SettingsFile::adopt);
+    , worker_(new SettingsWorker(path)) {
+    thread_->setObjectName(u"settings"_s);
+    worker_->moveToThread(thread_);
+    connect(thread_, &QThread::finished, worker_, &QObject::deleteLater);
+    connect(worker_, &SettingsWorker::found, this, &SettingsFile::adopt);
     connect(&store_, &SettingsStore::written, this, &SettingsFile::pass);
     if (QCoreApplication* app = QCoreApplication::instance()) {
         connect(app, &QCoreApplication::aboutToQuit, this, [this] { flush(); });
     }
     thread_->start();
 
-    const auto ready = std::make_shared<Ticket>();
-    QMetaObject::invokeMethod(
-        keeper_,
-        [keeper = keeper_, ready] {
-            keeper->start();
-            ready->done.release();
-            keeper->follow();
-        },
-        Qt::QueuedConnection);
+    auto first = ask(worker_, [worker = worker_] { return worker->start(); });
+    ask(worker_, [worker = worker_] { worker->follow(); });
     // A disk that does not answer gives its values later, as a change.
-    ready->wait(startLimit);
-    adopt();
+    if (first.wait_for(startLimit) == std::future_status::ready) {
+        adopt(first.get());
+    }
 }
 
 SettingsFile::~SettingsFile() {
     store_.disconnect(this);
-    flush(hangs_ ? endLimit : std::chrono::milliseconds(3s));
-    keeper_->disconnect(this);
+    if (flushed_ != lastChange_) {
+        flush();
+    }
+    worker_->disconnect(this);
     thread_->quit();
     if (thread_->wait(QDeadlineTimer(endLimit))) {
         delete thread_;
@@ -79,40 +76,26 @@ SettingsFile::~SettingsFile() {
 }
 
 bool SettingsFile::flush(std::chrono::milliseconds limit) {
-    if (mailbox_->kept() == lastChange_) {
+    flushed_ = lastChange_;
+    if (worker_->written() == lastChange_) {
         return true;
     }
-    const auto ticket = std::make_shared<Ticket>();
     const QDeadlineTimer deadline(limit);
-    QMetaObject::invokeMethod(
-        keeper_,
-        [keeper = keeper_, ticket, deadline] {
-            ticket->kept = keeper->flush(deadline);
-            ticket->done.release();
-        },
-        Qt::QueuedConnection);
-    hangs_ = !ticket->wait(limit + 100ms);
-    return !hangs_ && ticket->kept;
+    auto flushed = ask(worker_, [worker = worker_, deadline] { return worker->flush(deadline); });
+    return flushed.wait_for(limit + 100ms) == std::future_status::ready && flushed.get();
 }
 
 void SettingsFile::pass(const QString& key) {
     const quint64 number = ++lastChange_;
     underway_.insert(key, number);
-    QMetaObject::invokeMethod(
-        keeper_,
-        [keeper = keeper_, number, key, value = store_.stored().value(key)] {
-            keeper->change(number, key, value);
-        },
-        Qt::QueuedConnection);
+    ask(worker_, [worker = worker_, number, key, value = store_.stored().value(key)] {
+        worker->change(number, key, value);
+    });
 }
 
-void SettingsFile::adopt() {
-    const std::optional<SettingsSnapshot> snapshot = mailbox_->take();
-    if (!snapshot) {
-        return;
-    }
-    QJsonObject values = snapshot->values;
-    underway_.removeIf([&snapshot](const auto& own) { return own.value() <= snapshot->upTo; });
+void SettingsFile::adopt(const SettingsSnapshot& snapshot) {
+    QJsonObject values = snapshot.values;
+    underway_.removeIf([&snapshot](const auto& own) { return own.value() <= snapshot.upTo; });
     for (auto own = underway_.begin(); own != underway_.end(); ++own) {
         const QJsonValue value = store_.stored().value(own.key());
         if (value.isUndefined()) {
@@ -122,6 +105,7 @@ void SettingsFile::adopt() {
         }
     }
     store_.replaceStored(values);
+    store_.setKeptFileName(snapshot.keptFileName);
 }
 
 } // namespace morrowleaf

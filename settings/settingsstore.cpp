@@ -220,6 +220,13 @@ void SettingsStore::remove(const QString& key) {
     }
 }
 
+void SettingsStore::setKeptFileName(const QString& name) {
+    if (keptFileName_ != name) {
+        keptFileName_ = name;
+        emit keptFileNameChanged();
+    }
+}
+
 void SettingsStore::replaceStored(const QJsonObject& stored) {
     const QJsonObject old = stored_;
     stored_ = stored;

@@ -79,6 +79,11 @@ public:
     // The stored values alone, without the defaults.
     const QJsonObject& stored() const { return stored_; }
 
+    // The present name, without its folder, of a file of settings that could not
+    // be read and is kept; empty without one. The keeper sets it.
+    const QString& keptFileName() const { return keptFileName_; }
+    void setKeptFileName(const QString& name);
+
     // Exchanges all stored values for those that the keeper found. Announced
     // by changed() alone, after all of them are in place.
     void replaceStored(const QJsonObject& stored);
@@ -92,6 +97,8 @@ signals:
     // the news for whoever keeps the values. Emitted before changed().
     void written(const QString& key);
 
+    void keptFileNameChanged();
+
 private:
     static QJsonValue asJson(const QStringList& value) { return QJsonArray::fromStringList(value); }
     static QJsonValue asJson(const auto& value) { return value; }
@@ -101,6 +108,7 @@ private:
 
     QJsonObject stored_;
     QJsonObject defaults_;
+    QString keptFileName_;
 };
 
 } // namespace morrowleaf

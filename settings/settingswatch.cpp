@@ -3,9 +3,6 @@
 
 #include "settings/settingswatch.h"
 
-#include "platform/wholefile.h"
-
-#include <QDir>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -14,6 +11,8 @@
 namespace morrowleaf {
 
 namespace {
+
+constexpr int linkLimit = 40;
 
 QString nearestFolder(const QString& path) {
     QString folder = QFileInfo(path).path();
@@ -48,33 +47,32 @@ SettingsWatch::SettingsWatch(QString path, QObject* parent)
 }
 
 void SettingsWatch::arm() {
-    QStringList wanted{nearestFolder(path_)};
-    const QString target = linkTarget(path_);
-    if (target != path_ && !target.isEmpty()) {
-        wanted.append(nearestFolder(target));
-    }
-    for (const QString& file : {path_, target}) {
-        if (QFileInfo(file).isFile()) {
-            wanted.append(file);
+    QStringList files;
+    QStringList folders;
+    QString path = path_;
+    for (int links = 0; !path.isEmpty() && links < linkLimit; ++links) {
+        folders.append(nearestFolder(path));
+        if (QFileInfo(path).isFile()) {
+            files.append(path);
         }
+        path = QFileInfo(path).symLinkTarget();
     }
-    wanted.removeAll(QString());
-    wanted.removeDuplicates();
+    folders.removeAll(QString());
 
     // A watch on a file that was replaced goes on watching the old one, so
     // files are always taken up anew.
     QStringList gone = watcher_.files();
-    for (const QString& folder : watcher_.directories()) {
-        if (!wanted.contains(folder)) {
+    const QStringList watched = watcher_.directories();
+    for (const QString& folder : watched) {
+        if (folders.removeAll(folder) == 0) {
             gone.append(folder);
         }
     }
     if (!gone.isEmpty()) {
         watcher_.removePaths(gone);
     }
-    for (const QString& folder : watcher_.directories()) {
-        wanted.removeAll(folder);
-    }
+    QStringList wanted = files + folders;
+    wanted.removeDuplicates();
     if (!wanted.isEmpty()) {
         watcher_.addPaths(wanted);
     }

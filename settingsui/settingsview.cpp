@@ -31,6 +31,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr int formMargin = 18; // points
 constexpr int sectionSpacing = 15;
 constexpr int barPadding = 12;
@@ -131,6 +133,7 @@ SettingsView::SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& 
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(scroll, 1);
+    column->addWidget(makeNotice());
     column->addWidget(new Line(this));
     column->addWidget(makeBottomBar());
 }
@@ -264,6 +267,21 @@ void SettingsView::addQuotes(FormCard& card) {
         Emphasis::Tertiary, &card);
     help->setFont(scaled(font(), 0.86));
     card.addRow(help);
+}
+
+// One line, only while a file of settings that could not be read is kept.
+QWidget* SettingsView::makeNotice() {
+    auto* notice = quietLabel({}, Emphasis::Secondary, this);
+    notice->setFont(scaled(font(), 0.95));
+    notice->setContentsMargins(formMargin, 8, formMargin, 8);
+    const auto update = [this, notice] {
+        const QString name = store_.keptFileName();
+        notice->setText(name.isEmpty() ? QString() : u"Unreadable settings are kept in "_s + name);
+        notice->setVisible(!name.isEmpty());
+    };
+    connect(&store_, &SettingsStore::keptFileNameChanged, notice, update);
+    update();
+    return notice;
 }
 
 QWidget* SettingsView::makeBottomBar() {

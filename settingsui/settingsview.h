@@ -45,6 +45,7 @@ private:
     void addQuotes(FormCard& card);
     QWidget* makeCloseAfter();
     QWidget* makeBottomBar();
+    QWidget* makeNotice();
     QPushButton* makePresets();
     QWidget* makeLoginSwitch();
     void showTestResult(const QString& text);

@@ -200,6 +200,15 @@ must "in every control" checked "check box" "Show on wake and unlock"
 must "and an unknown frequency chooses nothing" not there "combo box" "Every"
 check "nor is it overwritten" grep -q weekly "$XDG_CONFIG_HOME/morrowleaf/settings.json"
 
+unreadable() { there label "Unreadable settings are kept in $1"; }
+settings 'not json'
+must "an unreadable file is told of" unreadable settings.json
+check "the settings in effect stay" there label 31s
+shot settings-unreadable
+settings '{"dismissSeconds": 31.9, "showOnWake": true, "quoteFrequency": "weekly",
+           "quoteSourceURL": "/elsewhere"}'
+must "until it is mended" not unreadable settings.json
+
 press alt+F4
 must "the window can be closed" not window
 check "the program goes on" kill -0 "$app"

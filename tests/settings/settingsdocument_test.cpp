@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -17,7 +18,7 @@ QByteArray after(const QByteArray& text, const QString& key, const QJsonValue& v
         ADD_FAILURE() << text.toStdString();
         return {};
     }
-    document->apply(key, value);
+    document->set(key, value);
     QByteArray changed = document->text();
     const auto again = SettingsDocument::parse(changed);
     EXPECT_TRUE(again) << changed.toStdString();
@@ -25,85 +26,110 @@ QByteArray after(const QByteArray& text, const QString& key, const QJsonValue& v
     return changed;
 }
 
+// Without the blanks, where none stands in a text.
+QByteArray packed(QByteArray text) {
+    return text.replace(' ', "").replace('\n', "");
+}
+
 } // namespace
 
 TEST(SettingsDocument, RefusesWhatIsNoObject) {
     for (const char* text : {"", " ", "[1]", "3", "\"a\"", "null", "{", "{\"a\":}", "{\"a\":1",
-                             "{\"a\":1} x", "{'a':1}", "{\"a\":01}", "{\"a\":1,}", "\xff{}"}) {
+                             "{\"a\":1} x", "{'a':1}", "{\"a\":01}", "{\"a\":1,}", "\xff{}",
+                             "{\"a\":\"\xff\"}", "{\"a\":1e400}", "{\"a\":NaN}"}) {
         EXPECT_FALSE(SettingsDocument::parse(text)) << text;
     }
     EXPECT_FALSE(SettingsDocument::parse(QByteArray(5'000'000, '[')));
     EXPECT_FALSE(SettingsDocument::parse("{\"a\":" + QByteArray(100'000, '{')));
 }
 
-TEST(SettingsDocument, GivesBackEveryTextUnchanged) {
-    for (const char* text :
-         {"{}", " { } \n", "{\n}", "{\"a\":1}", "{\"a\" : [1,{\"b\":\"},{\\\"\"}] , \"c\":null}\n",
-          "\xEF\xBB\xBF{\"a\":1}", "{\"a\":1,\"a\":2}", "{\"\\u0061\\\"\":\"\\\\\"}",
-          "{\"n\":123456789012345678901234567890,\"r\":1.0000000000000000000001}"}) {
-        const auto document = SettingsDocument::parse(text);
-        ASSERT_TRUE(document) << text;
-        EXPECT_EQ(document->text(), QByteArray(text));
-    }
+TEST(SettingsDocument, RefusesWhatIsNestedOrPopulatedBeyondUse) {
+    const auto nested = [](int depth) {
+        return "{\"a\":" + QByteArray(depth, '[') + QByteArray(depth, ']') + '}';
+    };
+    EXPECT_TRUE(SettingsDocument::parse(nested(500)));
+    EXPECT_FALSE(SettingsDocument::parse(nested(5000)));
+    const auto populated = [](int keys) {
+        QByteArray text = "{";
+        for (int i = 0; i < keys; ++i) {
+            text += '"' + QByteArray::number(i) + "\":0,";
+        }
+        return text + "\"last\":1}";
+    };
+    EXPECT_TRUE(SettingsDocument::parse(populated(5000)));
+    EXPECT_FALSE(SettingsDocument::parse(populated(1'000'000)));
 }
 
-TEST(SettingsDocument, ChangesOneValueAndNothingElse) {
-    const QByteArray text = "{ \"z\": 1.50,\n\t\"deep\": {\"x\": [1, {\"y\": 1e300}]},\n"
-                            "  \"a\": 12345678901234567890123 }\n\n";
+TEST(SettingsDocument, ReadsAFileWithAByteOrderMark) {
+    EXPECT_EQ(SettingsDocument::parse("\xEF\xBB\xBF{\"a\":1}")->values().value("a"_L1), 1);
+}
+
+TEST(SettingsDocument, KeepsOrderAndValuesOfWhatItDoesNotChange) {
+    const QByteArray text =
+        "{\"z\":1.5,\"deep\":{\"y\":[1,{\"b\":1e+300,\"a\":null}],\"x\":\"},{\"},"
+        "\"max\":9223372036854775807,\"min\":-9223372036854775808,"
+        "\"huge\":18446744073709551615,\"odd\":9007199254740993,\"a\":true}";
     QByteArray expected = text;
-    EXPECT_EQ(after(text, "z", 2), expected.replace("1.50", "2"));
+    EXPECT_EQ(packed(after(text, u"z"_s, 2)), expected.replace("1.5", "2"));
+    EXPECT_EQ(packed(after(text, u"new"_s, u"n"_s)),
+              QByteArray(text).chopped(1) + ",\"new\":\"n\"}");
+    expected = text;
+    EXPECT_EQ(packed(after(text, u"a"_s, QJsonValue::Undefined)),
+              expected.replace(",\"a\":true}", "}"));
 }
 
-TEST(SettingsDocument, LeavesTheTextWhenTheValueIsThere) {
-    EXPECT_EQ(after("{\"a\": 1.50}", "a", 1.5), "{\"a\": 1.50}");
-    EXPECT_EQ(after("{\"a\": 1}", "b", QJsonValue::Undefined), "{\"a\": 1}");
+TEST(SettingsDocument, KeepsNumbersTooLongForAnyTypeAsNearAsTheyCanBe) {
+    const auto document = SettingsDocument::parse("{\"a\":123456789012345678901234567890}");
+    EXPECT_EQ(document->values().value("a"_L1).toDouble(), 123456789012345678901234567890.0);
 }
 
-TEST(SettingsDocument, AddsInTheStyleOfItsAuthor) {
-    EXPECT_EQ(after("{}", "a", "x"), "{\n    \"a\": \"x\"\n}");
-    EXPECT_EQ(after("{\n  \"a\":1\n}\n", "b", true), "{\n  \"a\":1,\n  \"b\":true\n}\n");
-    EXPECT_EQ(after("{\"a\":1}", "b", 2), "{\"a\":1,\"b\":2}");
-    EXPECT_EQ(SettingsDocument().text(), "{}\n");
-    SettingsDocument document;
-    document.apply("list", QJsonArray{"one"});
-    EXPECT_EQ(document.text(), "{\n    \"list\": [\n        \"one\"\n    ]\n}\n");
-}
-
-TEST(SettingsDocument, Removes) {
-    const QByteArray text = "{\n  \"a\":1,\n  \"b\":2,\n  \"c\":3\n}\n";
-    EXPECT_EQ(after(text, "a", QJsonValue::Undefined), "{\n  \"b\":2,\n  \"c\":3\n}\n");
-    EXPECT_EQ(after(text, "c", QJsonValue::Undefined), "{\n  \"a\":1,\n  \"b\":2\n}\n");
-    EXPECT_EQ(after("{\"a\":1}", "a", QJsonValue::Undefined), "{}");
+TEST(SettingsDocument, IsEqualWhenTheValueIsThere) {
+    auto document = SettingsDocument::parse("{\"a\": 1.50}");
+    const SettingsDocument before = *document;
+    document->set(u"a"_s, 1.5);
+    document->set(u"b"_s, QJsonValue::Undefined);
+    EXPECT_EQ(*document, before);
+    document->set(u"a"_s, 2);
+    EXPECT_NE(*document, before);
 }
 
 TEST(SettingsDocument, TakesTheLastOfKeysWrittenTwice) {
-    const QByteArray text = "{\"a\":1,\"a\":2}";
-    EXPECT_EQ(SettingsDocument::parse(text)->values().value("a"), QJsonValue(2));
-    EXPECT_EQ(after(text, "a", 3), "{\"a\":1,\"a\":3}");
-    EXPECT_EQ(after(text, "a", QJsonValue::Undefined), "{}");
+    const QByteArray text = "{\"a\":1,\"b\":0,\"a\":2}";
+    EXPECT_EQ(SettingsDocument::parse(text)->values().value("a"_L1), QJsonValue(2));
+    EXPECT_EQ(packed(after(text, u"a"_s, 3)), "{\"a\":3,\"b\":0}");
+    EXPECT_EQ(packed(after(text, u"a"_s, QJsonValue::Undefined)), "{\"b\":0}");
 }
 
 TEST(SettingsDocument, KnowsAKeyHoweverItIsEscaped) {
-    EXPECT_EQ(after("{\"\\u0061b\":1}", "ab", 2), "{\"\\u0061b\":2}");
-    EXPECT_EQ(after("{}", QString::fromUtf8("ü\"\\"), 1), QByteArray("{\n    \"ü\\\"\\\\\": 1\n}"));
+    EXPECT_EQ(packed(after("{\"\\u0061b\":1}", u"ab"_s, 2)), "{\"ab\":2}");
+    EXPECT_EQ(packed(after("{}", u"ü\"\\"_s, 1)), QByteArray("{\"ü\\\"\\\\\":1}"));
+}
+
+TEST(SettingsDocument, WritesHalvesOfCharactersAsReplacements) {
+    SettingsDocument document;
+    document.set(u"k"_s, QString(QChar(0xD83D)) + u'x');
+    const auto read = SettingsDocument::parse(document.text());
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(read->values().value("k"_L1).toString().endsWith(u'x'));
 }
 
 TEST(SettingsDocument, KeepsTrueTypes) {
     const std::vector<QJsonValue> values = {qint64(9007199254740993),
+                                            std::numeric_limits<qint64>::min(),
                                             0.1,
                                             -1,
                                             true,
                                             false,
-                                            "",
-                                            "1",
-                                            QJsonArray{"one"},
+                                            u""_s,
+                                            u"1"_s,
+                                            QJsonArray{u"one"_s},
                                             QJsonArray(),
-                                            QJsonObject{{"x", QJsonArray{1, "2", 3.5}}},
-                                            QString::fromUtf8("\u2028 “q” \n \U0001F600")};
+                                            QJsonObject{{u"x"_s, QJsonArray{1, u"2"_s, 3.5}}},
+                                            u"\u2028 “q” \n \U0001F600"_s};
     for (const QJsonValue& value : values) {
-        const auto read = SettingsDocument::parse(after("{\"x\":0}", "k", value));
-        EXPECT_EQ(read->values().value("k"), value);
-        EXPECT_EQ(read->values().value("k").type(), value.type());
-        EXPECT_EQ(read->values().value("k").toInteger(), value.toInteger());
+        const auto read = SettingsDocument::parse(after("{\"x\":0}", u"k"_s, value));
+        EXPECT_EQ(read->values().value("k"_L1), value);
+        EXPECT_EQ(read->values().value("k"_L1).type(), value.type());
+        EXPECT_EQ(read->values().value("k"_L1).toInteger(), value.toInteger());
     }
 }

@@ -31,14 +31,121 @@ TEST_F(SettingsFileTest, SetsABrokenFileAsideAndKeepsWhatIsSetMeanwhile) {
     EXPECT_TRUE(file.flush());
 }
 
-TEST_F(SettingsFileTest, FallsBackToDefaultsWhenTheFileBreaksWhileRunning) {
+TEST_F(SettingsFileTest, KeepsTheValuesWhenTheFileBreaksWhileRunning) {
     registerAppDefaults(store);
+    write(R"({"mine": 18446744073709551615, "paletteIndex": 4})");
+    SettingsFile file(store, path);
+    EXPECT_EQ(store.keptFileName(), QString());
+    write("[1, 2]");
+    EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "settings.json"; }));
+    EXPECT_EQ(store.get(K::palette), 4);
+    spend(300ms);
+    EXPECT_EQ(read(), "[1, 2]");
+    EXPECT_EQ(setAside(), QStringList());
+
+    store.set(K::grain, false);
+    EXPECT_TRUE(file.flush(20s));
+    EXPECT_EQ(asideText(), "[1, 2]");
+    EXPECT_TRUE(waitFor([&] { return store.keptFileName() == setAside().value(0); }));
+    EXPECT_EQ(store.get(K::palette), 4);
+    EXPECT_EQ(json(),
+              QJsonObject({{"mine", 18446744073709551615.0}, {K::palette, 4}, {K::grain, false}}));
+    EXPECT_TRUE(read().contains("18446744073709551615"));
+}
+
+TEST_F(SettingsFileTest, KeepsTheValuesEvenWhereTheChangeIsNone) {
+    write(R"({"paletteIndex": 4})");
+    SettingsFile file(store, path);
+    write("broken");
+    EXPECT_TRUE(waitFor([&] { return !store.keptFileName().isEmpty(); }));
+    store.set(K::palette, 4);
+    EXPECT_TRUE(file.flush(20s));
+    EXPECT_EQ(json(), QJsonObject({{K::palette, 4}}));
+    spend(300ms);
+    EXPECT_EQ(store.get(K::palette), 4);
+}
+
+TEST_F(SettingsFileTest, TellsThatABrokenFileHasBeenMended) {
     write(R"({"paletteIndex": 4})");
     const SettingsFile file(store, path);
-    write("[1, 2]");
-    EXPECT_TRUE(waitFor([&] { return store.integer(K::palette) == -1; }));
-    EXPECT_TRUE(waitFor([&] { return asideText() == "[1, 2]"; }));
+    QStringList told;
+    QObject::connect(&store, &SettingsStore::keptFileNameChanged,
+                     [&] { told.append(store.keptFileName()); });
+    write("broken");
+    EXPECT_TRUE(waitFor([&] { return told == QStringList{"settings.json"}; }));
+    write(R"({"paletteIndex": 5})");
+    EXPECT_TRUE(waitFor([&] { return told.size() == 2; }));
+    EXPECT_EQ(told.last(), QString());
+    EXPECT_TRUE(waitFor([&] { return store.get(K::palette) == 5; }));
+    EXPECT_EQ(setAside(), QStringList());
+}
+
+TEST_F(SettingsFileTest, TellsTheNameOfAFileThatWasBrokenAtTheStart) {
+    registerAppDefaults(store);
+    write("broken");
+    const SettingsFile file(store, path);
+    EXPECT_TRUE(waitFor([&] { return !store.keptFileName().isEmpty(); }));
+    EXPECT_EQ(setAside(), QStringList{store.keptFileName()});
+    EXPECT_EQ(asideText(), "broken");
     EXPECT_FALSE(QFileInfo::exists(path));
+    EXPECT_EQ(store.get(K::palette), -1);
+}
+
+TEST_F(SettingsFileTest, SetsALinkToABrokenFileAsideAndNotTheFile) {
+    const QString target = home.filePath("hosts");
+    for (const bool running : {false, true}) {
+        QFile::remove(path);
+        path = home.filePath(running ? "running.json" : "settings.json");
+        QFile foreign(target);
+        ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+        foreign.write(running ? "{}" : "127.0.0.1 localhost");
+        foreign.close();
+        ASSERT_TRUE(QFile::link(target, path));
+        SettingsFile file(store, path);
+        if (running) {
+            ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+            foreign.write("127.0.0.1 localhost");
+            foreign.close();
+            EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "running.json"; }));
+            EXPECT_TRUE(QFileInfo(path).isSymLink());
+        }
+        store.set("x", running);
+        EXPECT_TRUE(file.flush(20s));
+        EXPECT_EQ(read(target), "127.0.0.1 localhost");
+        EXPECT_EQ(json().value("x"), running);
+        EXPECT_FALSE(QFileInfo(path).isSymLink());
+        EXPECT_TRUE(waitFor([&] { return store.keptFileName().contains(".broken-"); }));
+        EXPECT_EQ(QFileInfo(home.filePath(store.keptFileName())).symLinkTarget(), target);
+    }
+}
+
+TEST_F(SettingsFileTest, LeavesAFileAloneThatItsOwnerMayNotWrite) {
+    for (const QByteArray& text : {QByteArray(R"({"x": 1})"), QByteArray("broken")}) {
+        QFile::remove(path);
+        write(text);
+        ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0444), 0);
+        SettingsFile file(store, path);
+        store.set("x", 2);
+        EXPECT_FALSE(file.flush(20s));
+        EXPECT_EQ(read(), text);
+        EXPECT_EQ(mode(), 0444U);
+        EXPECT_EQ(setAside(), QStringList());
+        EXPECT_EQ(store.integer("x"), 2);
+    }
+}
+
+TEST_F(SettingsFileTest, QuitsWithinASecondWhereNothingCanBeWritten) {
+    write("broken");
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0444), 0);
+    QElapsedTimer since;
+    {
+        SettingsFile file(store, path);
+        store.set("x", 2);
+        since.start();
+        EXPECT_FALSE(file.flush()); // as the application does when it quits
+    }
+    EXPECT_LE(since.elapsed(), 1000);
+    EXPECT_EQ(read(), "broken");
 }
 
 TEST_F(SettingsFileTest, OverwritesNoEarlierSetAsideFile) {
@@ -140,6 +247,21 @@ TEST_F(SettingsFileTest, KeepsPermissions) {
     EXPECT_EQ(mode(), 0644U);
 }
 
+TEST_F(SettingsFileTest, KeepsTheOwner) {
+    write("{}");
+    const QByteArray name = QFile::encodeName(path);
+    if (::chown(name.constData(), 1234, 4321) != 0) {
+        GTEST_SKIP() << "only root can give files away";
+    }
+    SettingsFile file(store, path);
+    store.set("x", 1);
+    EXPECT_TRUE(file.flush(20s));
+    struct stat found {};
+    ASSERT_EQ(::stat(name.constData(), &found), 0);
+    EXPECT_EQ(found.st_uid, 1234U);
+    EXPECT_EQ(found.st_gid, 4321U);
+}
+
 TEST_F(SettingsFileTest, WorksInMemoryWhereNoFolderCanBe) {
     write("a regular file");
     registerAppDefaults(store);
@@ -174,13 +296,13 @@ TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     store.set("x", 1);
     QElapsedTimer since;
     since.start();
-    EXPECT_TRUE(file.flush(400ms));
+    EXPECT_TRUE(file.flush(3s));
     EXPECT_GE(since.elapsed(), 200); // it did wait for the lock
     EXPECT_EQ(json().value("x"), 1);
     holder.kill();
     holder.waitForFinished();
-    const FileLock lock(path, 5s); // the dead hold nothing
-    EXPECT_TRUE(lock.held());
+    QLockFile lock(lockPathOf(path));
+    EXPECT_TRUE(lock.tryLock(5s / 1ms)); // the dead hold no lock
 }
 
 TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
@@ -232,19 +354,8 @@ TEST_F(SettingsFileTest, NoReaderSeesHalfAFile) {
     }
     EXPECT_GT(seen, 10);
     EXPECT_EQ(json().size(), 100);
-    EXPECT_EQ(QDir(home.path()).entryList({"*.new"}, QDir::Files | QDir::Hidden), QStringList());
-}
-
-TEST_F(SettingsFileTest, UsesUpWhatACrashLeftBehind) {
-    QFile left(home.filePath(".settings.json.new"));
-    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
-    left.write("half of some");
-    left.close();
-    SettingsFile file(store, path);
-    store.set("x", 1);
-    EXPECT_TRUE(file.flush());
-    EXPECT_EQ(json().value("x"), 1);
-    EXPECT_FALSE(left.exists());
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList{"settings.json"});
 }
 
 TEST(SettingsPath, IsBelowTheConfigurationFolder) {

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "platform/filelock.h"
 #include "settings/prefs.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
+#include "settings/settingsworker.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>

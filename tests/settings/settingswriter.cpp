@@ -4,15 +4,17 @@
 // A second process for the settings tests:
 //   settings_writer FILE selftest          sets and removes "quoteFrequency"
 //   settings_writer FILE count PREFIX N    sets PREFIX0 to PREFIXN-1, one by one
+//   settings_writer FILE confirm PREFIX    sets PREFIX0, PREFIX1, ... and prints each
+//                                          number once it is in the file, for ever
 //   settings_writer FILE hold              takes the lock, says so, waits for its end
 //   settings_writer FILE quit              sets "quit" as the event loop ends
 
-#include "platform/filelock.h"
 #include "settings/settingsfile.h"
 #include "settings/settingsstore.h"
+#include "settings/settingsworker.h"
 
 #include <QCoreApplication>
-#include <QThread>
+#include <QLockFile>
 #include <QTimer>
 
 #include <cstdio>
@@ -25,12 +27,13 @@ int main(int argc, char** argv) {
     const QString& path = arguments.at(1);
     const QString& mode = arguments.at(2);
     if (mode == "hold") {
-        const FileLock lock(path, std::chrono::seconds(5));
-        std::puts(lock.held() ? "held" : "not held");
+        QLockFile lock(lockPathOf(path));
+        std::puts(lock.tryLock(5000) ? "held" : "not held");
         std::fflush(stdout);
         std::getchar();
         return 0;
     }
+    constexpr auto patience = std::chrono::seconds(20);
     SettingsStore store;
     SettingsFile file(store, path);
     if (mode == "selftest") {
@@ -40,10 +43,19 @@ int main(int argc, char** argv) {
         const int count = arguments.at(4).toInt();
         for (int i = 0; i < count; ++i) {
             store.set(arguments.at(3) + QString::number(i), i);
-            if (i % 5 == 4 && !file.flush()) {
+            if (i % 5 == 4 && !file.flush(patience)) {
                 return 2;
             }
             QCoreApplication::processEvents();
+        }
+    } else if (mode == "confirm") {
+        for (int i = 0;; ++i) {
+            store.set(arguments.at(3) + QString::number(i), i);
+            if (!file.flush(patience)) {
+                return 2;
+            }
+            std::printf("%d\n", i);
+            std::fflush(stdout);
         }
     } else if (mode == "quit") {
         QTimer::singleShot(0, &app, [&] {

@@ -26,6 +26,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 class FakeLogin : public LoginItem {
 public:
     Status status() const override { return current; }
@@ -384,6 +386,27 @@ TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
                                   QStringLiteral("Open at login"), QStringLiteral("Source URL"),
                                   QStringLiteral("Presets"), QStringLiteral("Test"),
                                   QStringLiteral("Show Today's Quote"), QStringLiteral("Quit")}));
+}
+
+TEST_F(SettingsViewTest, TellsInOneLineWhereUnreadableSettingsAreKept) {
+    const auto notice = [&]() -> const QLabel* {
+        for (const QLabel* label : view().findChildren<QLabel*>()) {
+            if (label->text().startsWith(u"Unreadable settings"_s)) {
+                return label;
+            }
+        }
+        return nullptr;
+    };
+    EXPECT_EQ(notice(), nullptr);
+    store.setKeptFileName(u"settings.broken-20261121-224501.json"_s);
+    ASSERT_NE(notice(), nullptr);
+    EXPECT_FALSE(notice()->isHidden());
+    EXPECT_EQ(notice()->text(),
+              u"Unreadable settings are kept in settings.broken-20261121-224501.json"_s);
+    const QFontMetrics metrics(notice()->font());
+    EXPECT_LE(metrics.horizontalAdvance(notice()->text()), settingsViewSize.width() - 36);
+    store.setKeptFileName({});
+    EXPECT_EQ(notice(), nullptr);
 }
 
 } // namespace

@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "settings/settingsworker.h"
+
+#include "settings/settingswatch.h"
+
+#include <QFileInfo>
+#include <QLockFile>
+
+#include <algorithm>
+#include <thread>
+
+namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+
+namespace {
+
+// Files above this size are rejected.
+constexpr qint64 sizeLimit = qint64(16) * 1024 * 1024; // bytes
+// A slider dragged for a second makes a dozen writes, not sixty.
+constexpr auto burst = 70ms;
+// Some editors take the old file away before they put the new one there.
+constexpr auto patienceWithMissing = 100ms;
+// Others write in place, and for a moment there is half a file.
+constexpr auto patienceWithBroken = 500ms;
+constexpr milliseconds lockPatience = 5000ms;
+constexpr milliseconds lockPatienceAtEnd = 400ms;
+// A lock whose file was never filled counts as left behind after this time.
+constexpr auto lockIsStale = 3000ms;
+constexpr milliseconds firstRetry = 1000ms;
+constexpr milliseconds lastRetry = 300'000ms;
+constexpr int attempts = 5;
+
+void runOnce(QTimer& timer, milliseconds after) {
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setSingleShot(true);
+    timer.start(after);
+}
+
+// The work goes on without a lock that cannot be had in time: its holder is
+// stopped, or the folder takes no lock.
+void acquire(QLockFile& lock, milliseconds patience) {
+    lock.setStaleLockTime(int(lockIsStale.count()));
+    const QDeadlineTimer deadline(patience);
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError &&
+           !deadline.hasExpired()) {
+        std::this_thread::sleep_for(3ms);
+    }
+}
+
+} // namespace
+
+QString lockPathOf(const QString& path) {
+    const QFileInfo info(path);
+    return info.path() + "/."_L1 + info.fileName() + ".lock"_L1;
+}
+
+SettingsWorker::SettingsWorker(QString path)
+    : path_(std::move(path))
+    , settling_(this)
+    , writing_(this)
+    , retrying_(this)
+    , retryAfter_(firstRetry) {
+    connect(&settling_, &QTimer::timeout, this, &SettingsWorker::look);
+    connect(&writing_, &QTimer::timeout, this, [this] { write(lockPatience); });
+    connect(&retrying_, &QTimer::timeout, this, [this] { write(lockPatience); });
+}
+
+SettingsWorker::~SettingsWorker() = default;
+
+SettingsSnapshot SettingsWorker::start() {
+    examine();
+    tell();
+    return snapshot();
+}
+
+void SettingsWorker::follow() {
+    watch_ = std::make_unique<SettingsWatch>(path_);
+    connect(watch_.get(), &SettingsWatch::touched, this, &SettingsWorker::look);
+    look();
+}
+
+void SettingsWorker::look() {
+    if (watch_) {
+        watch_->arm();
+    }
+    const State state = examine().state;
+    if (state == State::InTheMaking) {
+        return;
+    }
+    if (state == State::Broken) {
+        if (!begun_) {
+            write(lockPatience); // sets it aside, since its values were never in effect
+        } else {
+            keptFileName_ = QFileInfo(path_).fileName();
+        }
+    }
+    begun_ = true;
+    tell();
+    // While a retry is due nothing is hurried: failing leaves its own traces
+    // in the folder, and they bring us here.
+    if (!outstanding_.isEmpty() && !retrying_.isActive()) {
+        writeSoon();
+    }
+}
+
+// Takes over what the file holds when it is good.
+SettingsWorker::Finding SettingsWorker::examine() {
+    const WholeFile file = readWholeFile(path_, sizeLimit);
+    std::optional<SettingsDocument> document;
+    if (file.kind == WholeFile::Kind::Bytes) {
+        document = SettingsDocument::parse(file.bytes);
+    } else if (file.kind == WholeFile::Kind::Missing) {
+        if (!known_.values().isEmpty() && mayBeInTheMaking(patienceWithMissing)) {
+            return {State::InTheMaking, file.mark};
+        }
+        document.emplace();
+    }
+    if (!document && file.kind != WholeFile::Kind::Unreadable) {
+        return {mayBeInTheMaking(patienceWithBroken) ? State::InTheMaking : State::Broken,
+                file.mark};
+    }
+    doubt_.reset();
+    settling_.stop();
+    if (!document) {
+        return {State::Closed, file.mark};
+    }
+    known_ = *document;
+    begun_ = true;
+    if (keptFileName_ == QFileInfo(path_).fileName()) {
+        keptFileName_.clear();
+    }
+    return {State::Good, file.mark};
+}
+
+// True while the patience lasts, so at least at the first call.
+bool SettingsWorker::mayBeInTheMaking(milliseconds patience) {
+    if (!doubt_ || doubt_->patience != patience) {
+        doubt_ = Doubt{patience, QDeadlineTimer(patience, Qt::PreciseTimer)};
+    }
+    if (doubt_->until.hasExpired()) {
+        return false;
+    }
+    runOnce(settling_, milliseconds(doubt_->until.remainingTime() + 1));
+    return true;
+}
+
+SettingsSnapshot SettingsWorker::snapshot() const {
+    QJsonObject values = known_.values();
+    for (auto it = outstanding_.begin(); it != outstanding_.end(); ++it) {
+        if (it.value().isUndefined()) {
+            values.remove(it.key());
+        } else {
+            values.insert(it.key(), it.value());
+        }
+    }
+    return {values, lastChange_, keptFileName_};
+}
+
+void SettingsWorker::tell() {
+    const SettingsSnapshot now = snapshot();
+    if (told_ != now) {
+        told_ = now;
+        emit found(now);
+    }
+}
+
+void SettingsWorker::change(quint64 number, const QString& key, const QJsonValue& value) {
+    const bool upToDate = told_ == snapshot();
+    lastChange_ = number;
+    outstanding_.insert(key, value);
+    if (upToDate) {
+        told_ = snapshot(); // the owner has it already
+    }
+    writeSoon();
+}
+
+void SettingsWorker::writeSoon() {
+    if (!writing_.isActive()) {
+        runOnce(writing_, burst);
+    }
+}
+
+bool SettingsWorker::write(milliseconds patience) {
+    writing_.stop();
+    retrying_.stop();
+    if (!outstanding_.isEmpty()) {
+        makeFolderOf(path_);
+    }
+    QLockFile lock(lockPathOf(path_));
+    acquire(lock, patience);
+    Merged merged = Merged::Again;
+    for (int attempt = 0; merged == Merged::Again && attempt < attempts; ++attempt) {
+        merged = merge();
+    }
+    if (merged == Merged::Later) {
+        return false; // when it has settled, look() comes back to it
+    }
+    tell();
+    if (merged == Merged::Done) {
+        retryAfter_ = firstRetry;
+    } else if (!outstanding_.isEmpty()) {
+        runOnce(retrying_, retryAfter_);
+        retryAfter_ = std::min(retryAfter_ * 2, lastRetry);
+    }
+    return merged == Merged::Done;
+}
+
+// Once, with what stands there now: another process may have come first.
+SettingsWorker::Merged SettingsWorker::merge() {
+    Finding file = examine();
+    if (file.state == State::InTheMaking) {
+        return Merged::Later;
+    }
+    if (file.state == State::Closed) {
+        return Merged::Failed;
+    }
+    if (file.state == State::Broken) {
+        const QString aside = setFileAside(path_);
+        keptFileName_ = QFileInfo(aside.isEmpty() ? path_ : aside).fileName();
+        if (aside.isEmpty()) {
+            return Merged::Failed;
+        }
+        doubt_.reset();
+        file.mark = {};
+    }
+    const bool gone = file.state == State::Broken;
+    SettingsDocument merged = known_;
+    QMap<QString, QJsonValue> tooLarge;
+    for (auto it = outstanding_.begin(); it != outstanding_.end(); ++it) {
+        SettingsDocument with = merged;
+        with.set(it.key(), it.value());
+        if (with.text().size() > sizeLimit) {
+            tooLarge.insert(it.key(), it.value());
+        } else {
+            merged = with;
+        }
+    }
+    if (merged != (gone ? SettingsDocument() : known_)) {
+        const Replaced replaced = replaceWholeFile(path_, merged.text(), file.mark);
+        if (gone && replaced != Replaced::Done) {
+            takeOwnership();
+        }
+        if (replaced != Replaced::Done) {
+            return replaced == Replaced::Overtaken ? Merged::Again : Merged::Failed;
+        }
+    }
+    known_ = merged;
+    outstanding_ = tooLarge;
+    if (!outstanding_.isEmpty()) {
+        return Merged::Failed;
+    }
+    written_ = lastChange_;
+    return Merged::Done;
+}
+
+// No file holds the values in effect any more: they count as the owner's changes,
+// so that they neither vanish nor go unwritten.
+void SettingsWorker::takeOwnership() {
+    const QJsonObject values = known_.values();
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (!outstanding_.contains(it.key())) {
+            outstanding_.insert(it.key(), it.value());
+        }
+    }
+}
+
+bool SettingsWorker::flush(QDeadlineTimer deadline) {
+    while (!outstanding_.isEmpty() &&
+           !write(std::min(lockPatienceAtEnd, milliseconds(deadline.remainingTime() * 2 / 3)))) {
+        if (!doubt_ || doubt_->until.hasExpired() || deadline.hasExpired()) {
+            return false;
+        }
+        const qint64 rest = std::min(doubt_->until.remainingTime(), deadline.remainingTime());
+        std::this_thread::sleep_for(milliseconds(rest + 1));
+    }
+    return true;
+}
+
+} // namespace morrowleaf
