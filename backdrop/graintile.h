@@ -9,16 +9,15 @@
 
 namespace morrowleaf {
 
-// What is added to every pixel before it is cut to 8 bits: the film grain and
-// the dither, in 64ths of a level, four lanes (B, G, R, A) a pixel. The grain
-// is tiled at 160 points; a tile that is no whole number of device pixels is
-// rounded to one.
+// What is added to every pixel before it is rounded down to 8 bits: the film
+// grain and the dither, in 64ths of a level, with four lanes (B, G, R, A) for
+// each pixel. The grain repeats every 160 points, rounded to whole device pixels.
 class GrainTile {
 public:
     static constexpr int overhang = 8; // pixels repeated after each row
 
-    // `grainWeight` 0...1 scales the grain, and 0 leaves the dither alone.
-    // `opaque` lifts the alpha lane beyond any rounding.
+    // Makes the tile, unless it is there. `grainWeight` (0...1) scales the grain.
+    // With `opaque` the alpha lane is large enough to give 255 after rounding.
     void build(double devicePixelRatio, double grainWeight, bool opaque);
 
     int size() const { return size_; }

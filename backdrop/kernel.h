@@ -19,9 +19,9 @@ struct KernelPicture {
     double weight = 0;             // 0...1
 };
 
-// All that makes up the pixels of a frame: the nodes, interpolated, plus the
-// pictures by their weights, plus the tile; or, with `multiply`, the first
-// picture times the nodes (a lane of 16384 is 1) plus the tile.
+// What the pixels of a frame are computed from: the interpolated nodes, plus the
+// weighted pictures, plus the tile; or, with `multiply`, the first picture times
+// the nodes (a lane of 16384 is 1) plus the tile.
 struct KernelInput {
     const NodeGrid* nodes = nullptr;
     const GrainTile* tile = nullptr;
@@ -30,14 +30,14 @@ struct KernelInput {
     bool multiply = false;
 };
 
-// The paths give the same pixels to the last bit; Fastest is chosen when the
-// program runs, by what the processor has.
+// The paths give identical pixels. The fastest one that the processor has is
+// chosen at run time.
 enum class KernelPath { Portable, Avx2 };
 bool kernelPathAvailable(KernelPath path);
 KernelPath fastestKernelPath();
 
-// Writes the pixels of `clip`, which must lie within `target`, a 32-bit image
-// of the size the nodes were made for.
+// Writes the pixels of `clip` (device pixels), which must lie within `target`, a
+// 32-bit image of the size that the nodes were made for.
 void runKernel(QImage& target, const QRect& clip, const KernelInput& input,
                KernelPath path = fastestKernelPath());
 

@@ -28,7 +28,7 @@ struct KernelRow {
 using RowFunction = void (*)(const KernelRow& row, int first, int last);
 void kernelRowPortable(const KernelRow& row, int first, int last);
 void kernelRowAvx2(const KernelRow& row, int first, int last);
-// For the small cells of a small picture, where speed does not matter.
+// For the cells of small pictures, which are below 8 pixels; speed does not matter.
 void kernelRowFine(const KernelRow& row, int first, int last);
 
 // out = above + (below - above) * weight / 32768, for `count` lanes.

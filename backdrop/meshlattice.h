@@ -13,15 +13,15 @@
 
 namespace morrowleaf {
 
-// The colours of a mesh gradient on a regular lattice over its unit square,
-// with one ring of nodes beyond each edge for a spline through them. Depends
-// on points and colours alone, not on an earlier picture.
+// The colours of a mesh gradient on a regular lattice over its unit square, with
+// one ring of nodes beyond each edge for a spline through them. They depend only
+// on points and colours, not on an earlier lattice.
 class MeshLattice {
 public:
-    // The points must not fold, see unfolded().
+    // The surface through the points must not fold, see unfolded().
     void build(const MeshPoints& points, std::span<const QColor, 9> colors);
 
-    // Cells; more of them where the mesh is squeezed.
+    // The number of cells; there are more where the mesh is squeezed.
     int columns() const { return columns_; }
     int rows() const { return rows_; }
 

@@ -15,21 +15,22 @@ namespace morrowleaf {
 // One full level of a lane, in 64ths of an 8-bit level.
 inline constexpr int fullLane = 255 * 64;
 
-// Values that change slowly over the picture, as premultiplied pixels in 64ths
-// of a level (four lanes: B, G, R, A) at the corners of square cells of
-// `cell` device pixels; the last column and row lie on or beyond the edge.
+// A picture that changes slowly from place to place, stored at the corners of
+// square cells of `cell` device pixels: premultiplied, in 64ths of a level, with
+// four lanes (B, G, R, A) for each node. The last column and row are on or beyond
+// the edge.
 struct NodeGrid {
     int cell = 8; // 1, 4, or a multiple of 8; at 1 the nodes lie in the pixels' centres
     int columns = 0;
     int rows = 0;
     std::vector<qint16> lanes;
 
-    // About eight points to a cell, and fewer where a small picture squeezes
-    // the whole mesh into few pixels.
+    // The size of a cell for a picture of `size` device pixels: about eight points,
+    // and fewer where the whole mesh has only a few pixels.
     static int cellFor(const QSize& size, double devicePixelRatio);
     void resize(const QSize& size, double devicePixelRatio);
 
-    // Where node `index` lies in a row or column, in device pixels.
+    // The position of node `index` in a row or column, in device pixels.
     double place(int index) const { return index * cell + (cell == 1 ? 0.5 : 0.0); }
 
     qint16* row(int y) { return lanes.data() + static_cast<std::size_t>(y * columns) * 4; }
@@ -42,7 +43,7 @@ struct NodeGrid {
 // mesh * factor * (1 - vignette) + base + under * underWeight.
 struct Shading {
     double factor = 1;               // 0...1
-    double alpha = 1;                // of the alpha lane, which knows no vignette
+    double alpha = 1;                // of the alpha lane; the vignette does not change it
     double vignette = 0;             // strength, 0...1
     std::array<double, 4> base{};    // B, G, R, A, 0...1
     const NodeGrid* under = nullptr; // of the same size

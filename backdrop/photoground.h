@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// A picture as opaque 32-bit pixels of a wanted size: itself where it fits,
-// else filling the size, cut to it about its centre. Remembers the last one.
+// Makes a picture opaque and fits it to a size in device pixels: scaled to fill
+// it and cropped about its centre. Keeps the last result.
 class FittedPicture {
 public:
     const QImage& fitted(const QImage& picture, const QSize& size);
@@ -21,9 +21,10 @@ private:
     QImage fitted_;
 };
 
-inline constexpr double photoShade = 0.3; // black over a photo
+inline constexpr double photoShade = 0.3; // opacity of the black over a photo
 
-// A photo with its shade, vignette and grain, composed once and remembered.
+// Composes a photo with its shade, vignette (strength 0...1) and grain, and keeps
+// the last result.
 class PhotoGround {
 public:
     const QImage& composed(const QImage& photo, double devicePixelRatio, double vignette,

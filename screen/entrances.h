@@ -7,8 +7,8 @@
 
 namespace morrowleaf {
 
-// Something that comes in by ease-out, once, counted from the appearance of
-// the view. All times are seconds.
+// An element that comes in once, by ease-out. All times are in seconds from the
+// appearance of the view.
 struct Entrance {
     double delay = 0;
     double duration = 1;
@@ -20,28 +20,28 @@ struct Entrance {
 inline constexpr Entrance headerEntrance{0.9, 1.2};
 inline constexpr Entrance hintEntrance{2.6, 1.4};
 
-// Rule and author wait for the lines as they were when the view appeared.
+// Rule and author wait for the lines that there were when the view appeared.
 struct ClosingEntrances {
     Entrance rule;
     Entrance author;
 };
 ClosingEntrances closingEntrances(TextAnim kind, qsizetype lines);
 
-// The opening quotation mark springs in: opacity 0...1, scale from 0.7 over
-// its full size and back to it.
+// The opening quotation mark springs in: its opacity rises from 0 to 1, and its
+// scale from 0.7 past 1 and back to it.
 namespace mark {
 inline constexpr double delay = 0.35;
 inline constexpr double response = 1.1;
 inline constexpr double dampingFraction = 0.75;
 double opacity(double seconds);
 double scale(double seconds);
-double end(); // from here on it stands still
+double end(); // it is at rest from here on
 } // namespace mark
 
 // The appearance editor slides in from the right edge.
 inline constexpr Entrance inspectorEntrance{0, 0.28};
 
-// A photo that let itself be waited for longer than this fades in.
+// A photo, or the glass, that takes longer than this fades in.
 inline constexpr double photoPatience = 0.1;
 inline constexpr double photoFade = 0.3;
 

@@ -10,7 +10,8 @@
 
 namespace morrowleaf {
 
-// The greeting for an hour of the day, 0 to 23.
+// The greeting for an hour of the day, 0...23: morning from 5, afternoon from 12,
+// evening from 17 and "Still awake" from 22.
 QString greeting(int hour);
 // The same for the local hour of a moment.
 QString greeting(const Moment& moment);
@@ -19,7 +20,8 @@ QString greeting(const Moment& moment);
 // the locale.
 QString today(const Moment& moment, const QLocale& locale);
 
-// What ends the showing: a hint that differs while an inset is kept free.
+// The hint at the bottom. While an inset (in points) is kept free for the
+// appearance editor, only Escape ends the showing.
 QString hintText(double sideInset);
 
 } // namespace morrowleaf

@@ -43,7 +43,7 @@ int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale
     const double width = std::min(screenWidth.value_or(1512) - sideInset, measure::contentWidth) -
                          2 * measure::columnPadding;
     const double characters = width / (scale * measure::quoteSize * 0.55);
-    // Written so that no number is the least of them.
+    // The comparison is false for NaN, which gives the smallest value.
     if (!(characters > 16)) {
         return 16;
     }
@@ -111,7 +111,7 @@ qsizetype seenCharacters(double viewHeight, double quoteSize, int perLine) {
     const double size = std::min(quoteSize, measure::leastQuoteSize);
     const double advance = size * (1 + measure::lineSpacing / measure::quoteSize);
     const double characters = std::ceil(viewHeight / advance) * (perLine + slack);
-    // Written so that no number is the least of them.
+    // The comparison is false for NaN, which gives the smallest value.
     return static_cast<qsizetype>(characters > leastSeen ? std::min(characters, mostSeen)
                                                          : leastSeen);
 }

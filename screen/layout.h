@@ -12,9 +12,8 @@
 
 namespace morrowleaf {
 
-// Where things stand on the quote screen, as plain numbers. All of them are
-// points; those that scale are multiplied by the screen's scale s and the
-// user's k.
+// Sizes and distances on the quote screen, in points. Those marked with s k are
+// multiplied by the scale of the screen and that of the user.
 namespace measure {
 inline constexpr double quoteSize = 44;   // s k
 inline constexpr double markSize = 64;    // s k
@@ -41,16 +40,16 @@ inline constexpr double shadowRadius = 24;
 inline constexpr double shadowDrop = 6;
 } // namespace measure
 
-// The factor s on every scaled size: the main screen's height in points over
-// 982, clamped to 0.85...1.55. NaN gives 0.85; without a screen it is 1.
+// The factor s on every scaled size: the main screen's height in points divided
+// by 982, clamped to [0.85, 1.55]. NaN gives 0.85, and no screen gives 1.
 double screenScale(std::optional<double> screenHeight);
 
-// Characters in a line, 16...48, for a scale s × k. The width is that of the
-// main screen, 1512 without one.
+// The characters of a line, clamped to [16, 48], for a scale s × k. `screenWidth`
+// is that of the main screen in points; 1512 is used without one.
 int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale);
 
-// What the column and both overlays lie in: full height, at most 1180 wide,
-// centred in the width left of the inset.
+// The rectangle that contains the column, the header and the hint: full height,
+// at most 1180 points wide, centred in the width to the left of the inset.
 QRectF contentBox(QSizeF view, double sideInset);
 double columnWidth(const QRectF& contentBox);
 
@@ -61,7 +60,7 @@ struct ColumnSizes {
     QSizeF author;
 };
 
-// The column in its own coordinates: y from its top, x from its middle.
+// The column in its own coordinates, in points: y from its top, x from its middle.
 struct Column {
     double height = 0;
     QRectF mark;
@@ -73,28 +72,28 @@ struct Column {
 enum class Leading { Left, Right };
 Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading);
 
-// How a finished column stands in the view: scaled about its top, with its
+// Where a finished column is placed in the view: scaled about its top, with its
 // middle in the middle of the content box.
 struct ColumnPlace {
     double top = 0;
     double scale = 1;
-    bool overflows = false; // below `bottom`, even at its least scale
-    double bottom = 0;      // where the hint begins
+    bool overflows = false; // reaches below `bottom` even at its least scale
+    double bottom = 0;      // the lowest y that the column may reach, above the hint
 };
 // A column that fits between header and hint is centred in the view as it is;
 // a higher one shrinks, until the quotation is set in 12 points.
 ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
                         double quoteSize);
 
-// Characters worth laying out on a view of that height (points), with the
+// The characters worth laying out in a view of that height (points), with the
 // quotation set in `quoteSize` points (above 0) unless it has to shrink, and
-// `perLine` of them in a line. More lie beyond the bottom; 2000...20000.
+// `perLine` characters in a line; any others are below the bottom edge. Clamped to
+// [2000, 20000]; NaN gives 2000.
 qsizetype seenCharacters(double viewHeight, double quoteSize, int perLine);
 
-// The beginning of `text`: all of it if it has no more than `limit` (above 0)
-// user-perceived characters of an ordinary length, else as many whole ones. Of
-// a first character beyond all bounds, only its beginning. Looks no further
-// into the text than it must.
+// The first `limit` (above 0) user-perceived characters of `text`, or all of it
+// when there are no more. Of a first character of extreme length only the
+// beginning is returned. Does not read further into the text than it must.
 QString beginningOf(const QString& text, qsizetype limit);
 
 } // namespace morrowleaf

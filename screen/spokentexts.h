@@ -23,7 +23,7 @@ struct SpokenTexts {
     QStringList all() const { return {greeting, date, quotation, author, hint}; }
 };
 
-// A widget that paints its texts itself, so that Qt cannot tell them to screen
+// A widget that paints its texts itself, so that Qt cannot pass them on to screen
 // readers.
 class SpeakingWidget {
 public:
@@ -35,11 +35,11 @@ protected:
     ~SpeakingWidget() = default;
 };
 
-// Shows the texts of every SpeakingWidget to assistive technology; once is
-// enough, and more does no harm.
+// Makes the texts of every SpeakingWidget available to assistive technology. Call
+// it before the first one is shown; further calls have no effect.
 void installSpokenTexts();
 
-// Tells assistive technology that the texts of `widget` have changed.
+// Notifies assistive technology that the texts of `widget` have changed.
 void announceSpokenTexts(QWidget& widget);
 
 } // namespace morrowleaf

@@ -14,8 +14,8 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// The appearance as the settings hold it at one instant, unchecked. The
-// initial values stand where a key has no value, not even a registered one.
+// The appearance as the settings hold it at one instant, not validated. The
+// initial values apply where a key has no value, not even a registered default.
 struct ViewSettings {
     qint64 paletteIndex = K::palette.initial;
     QString fontName = K::font.fallback;
@@ -35,15 +35,15 @@ struct ViewSettings {
 
 ViewSettings readViewSettings(const SettingsStore& store);
 
-// The factor k on every scaled size: the settings' own where it is one. No
-// positive number counts as 1, and none leaves 0.1...16.
+// The factor k on every scaled size. Zero, negative, infinite and NaN give 1; the
+// result is clamped to [0.1, 16].
 double usableSizeScale(double sizeScale);
 
-// The photo's palette while a photo is readable, else that of the settings.
+// The palette for a photo while one is readable, else that of the settings.
 const Palette& viewPalette(const ViewSettings& settings, bool photoReadable, const Moment& moment);
 
-// The backdrop that the settings call for; photo pixels and what lies behind
-// the window are left to the caller.
+// The backdrop that follows from the settings. The caller adds the pixels of the
+// photo and what lies behind the window.
 BackdropState backdropFor(const ViewSettings& settings, const Palette& palette, bool photoReadable);
 
 } // namespace morrowleaf

@@ -12,9 +12,9 @@ class QWidget;
 
 namespace morrowleaf {
 
-// The pixels of a widget, for the length of one paint event: those of the
-// window's own picture where it is one in memory, so that nothing is copied,
-// else a picture aside that is drawn at the end.
+// The pixels of a widget during one paint event. They are those of the window's
+// backing store where that is an image in memory, so that nothing is copied;
+// otherwise those of a separate image that finish() draws.
 class WindowPixels {
 public:
     // `device` is what the widget is being painted on, null when unknown;
@@ -23,7 +23,7 @@ public:
 
     QImage& image() { return image_; } // premultiplied, device pixel ratio set
     bool direct() const { return direct_; }
-    // Before the paint event ends; `region` in points of the widget.
+    // Call it at the end of the paint event. `region` is in points of the widget.
     void finish(QWidget& widget, const QRegion& region) const;
 
 private:
