@@ -10,6 +10,7 @@
 #include <numbers>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -19,8 +20,9 @@ constexpr int atRest = 20; // seconds
 QuoteViewState quotedState(QSizeF size, int palette) {
     QuoteViewState state = plainState(size);
     state.palette = Palette::all()[static_cast<size_t>(palette)];
-    state.settings.screenAnimRaw = "still";
-    state.quote = {"The mind is not a vessel to be filled, but a fire to be kindled.", "Plutarch"};
+    state.settings.screenAnimRaw = u"still"_s;
+    state.quote = {u"The mind is not a vessel to be filled, but a fire to be kindled."_s,
+                   u"Plutarch"_s};
     return state;
 }
 
@@ -40,7 +42,7 @@ void expectGolden(const QString& name, const QuoteViewState& state, int factor,
         << name.toStdString() << ": same size " << difference.sameSize << ", worst block "
         << difference.worstBlock << ", stray pixels " << difference.strayPixels;
     if (!difference.acceptable()) {
-        const QString kept = QDir::temp().filePath("morrowleaf-golden-" + name);
+        const QString kept = QDir::temp().filePath(u"morrowleaf-golden-"_s + name);
         picture.save(kept);
         ADD_FAILURE() << "the new picture is " << kept.toStdString();
     }
@@ -71,7 +73,7 @@ protected:
 TEST(Golden, Palettes) {
     for (int palette = 0; palette < 9; ++palette) {
         const QString name = Palette::all()[static_cast<size_t>(palette)].name.toLower();
-        expectGolden("palette-" + name + ".png", quotedState({1024, 600}, palette), 2);
+        expectGolden(u"palette-"_s + name + u".png"_s, quotedState({1024, 600}, palette), 2);
     }
 }
 
@@ -80,9 +82,8 @@ TEST(Golden, SizesAndPixelRatios) {
         for (const int ratio : {1, 2}) {
             QuoteViewState state = quotedState(size, 4);
             state.devicePixelRatio = ratio;
-            expectGolden(
-                QString("size-%1x%2@%3.png").arg(size.width()).arg(size.height()).arg(ratio), state,
-                2 * ratio);
+            expectGolden(u"size-%1x%2@%3.png"_s.arg(size.width()).arg(size.height()).arg(ratio),
+                         state, 2 * ratio);
         }
     }
 }
@@ -90,22 +91,21 @@ TEST(Golden, SizesAndPixelRatios) {
 TEST(Golden, EditingPaperHandwritingAndLength) {
     QuoteViewState editing = quotedState({1440, 900}, 2);
     editing.sideInset = 320;
-    editing.settings.fontName = "mono";
-    expectGolden("editing-mono.png", editing, 2);
+    editing.settings.fontName = u"mono"_s;
+    expectGolden(u"editing-mono.png"_s, editing, 2);
 
     QuoteViewState written = quotedState({1024, 600}, 7);
-    written.settings.textAnimRaw = "handwrite";
-    expectGolden("handwriting.png", written, 2, 1.7);
+    written.settings.textAnimRaw = u"handwrite"_s;
+    expectGolden(u"handwriting.png"_s, written, 2, 1.7);
 
     QuoteViewState entering = quotedState({1024, 600}, 3);
-    entering.settings.fontName = "serif";
-    expectGolden("entering.png", entering, 2, 1.05);
+    entering.settings.fontName = u"serif"_s;
+    expectGolden(u"entering.png"_s, entering, 2, 1.05);
 
     QuoteViewState longer = quotedState({1512, 982}, 8);
-    longer.settings.fontName = "rounded";
-    longer.quote.text =
-        QString("All that is gold does not glitter, and the road goes on. ").repeated(14);
-    expectGolden("long.png", longer, 2);
+    longer.settings.fontName = u"rounded"_s;
+    longer.quote.text = u"All that is gold does not glitter, and the road goes on. "_s.repeated(14);
+    expectGolden(u"long.png"_s, longer, 2);
 }
 
 TEST_F(Faults, NoneIsNone) {

@@ -11,6 +11,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int block = 8;
@@ -92,7 +94,7 @@ QImage forRecord(const QImage& frame, int factor) {
 }
 
 QImage goldenPicture(const QString& name, const QImage& fresh) {
-    const QString path = sourcePath("tests/golden/" + name);
+    const QString path = sourcePath(u"tests/golden/"_s + name);
     if (qEnvironmentVariableIsSet("MORROWLEAF_RECORD")) {
         fresh.save(path);
     }

@@ -23,10 +23,11 @@
 #include <gtest/gtest.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString lake = sourcePath("resources/Backgrounds/lake.jpg");
+const QString lake = sourcePath(u"resources/Backgrounds/lake.jpg"_s);
 
 class CountingScreen : public QuoteScreen {
 public:
@@ -46,7 +47,7 @@ class QuoteScreens : public ::testing::Test {
 protected:
     QuoteScreens() {
         registerAppDefaults(store);
-        store.set(K::screenAnim, "still");
+        store.set(K::screenAnim, u"still"_s);
         store.set(K::palette, 0);
     }
 
@@ -173,7 +174,7 @@ TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
 }
 
 TEST_F(QuoteScreens, SleepsWhileHidden) {
-    store.set(K::screenAnim, "aurora");
+    store.set(K::screenAnim, u"aurora"_s);
     const auto screen = shown();
     jumpTo(*screen, 60);
     EXPECT_TRUE(screen->awake());
@@ -201,32 +202,33 @@ TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
         EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
     }
     EXPECT_FALSE(screen->awake());
-    store.set(K::textAnim, "rise");
+    store.set(K::textAnim, u"rise"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->lineAppearedAt(0) > 0; }));
     EXPECT_EQ(screen->view()->lineAppearedAt(0), time - 50);
     EXPECT_TRUE(screen->awake());
 }
 
 TEST_F(QuoteScreens, TakesALateQuotationAndItsAuthor) {
-    store.set(K::source, "https://quotes.example/");
+    store.set(K::source, u"https://quotes.example/"_s);
     const auto screen = shown();
     settle(*screen);
     const double rule = screen->view()->closing().rule.delay;
     ASSERT_TRUE(loaded);
-    loaded(Quote{"Something that came over the wire, rather late in the day", "Source"});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->state().quote.author == "Source"; }));
+    loaded(Quote{u"Something that came over the wire, rather late in the day"_s, u"Source"_s});
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return screen->view()->state().quote.author == u"Source"_s; }));
     EXPECT_EQ(screen->view()->closing().rule.delay, rule);
     EXPECT_EQ(screen->view()->lineAppearedAt(0), time - 50);
-    EXPECT_EQ(screen->spokenTexts().author, "Source");
+    EXPECT_EQ(screen->spokenTexts().author, u"Source"_s);
     settle(*screen);
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
 
 TEST_F(QuoteScreens, LetsALoadEndAfterItIsGone) {
-    store.set(K::source, "https://quotes.example/");
+    store.set(K::source, u"https://quotes.example/"_s);
     { const auto screen = shown(); }
-    loaded(Quote{"Too late to be seen", "Source"});
-    EXPECT_EQ(store.text(K::cachedText), "Too late to be seen");
+    loaded(Quote{u"Too late to be seen"_s, u"Source"_s});
+    EXPECT_EQ(store.text(K::cachedText), u"Too late to be seen"_s);
 }
 
 TEST_F(QuoteScreens, SlidesTheEditorInBesideAColumnThatStandsStill) {
@@ -246,13 +248,13 @@ TEST_F(QuoteScreens, SlidesTheEditorInBesideAColumnThatStandsStill) {
     EXPECT_EQ(panel->x(), 320);
     screen->resize(700, 500);
     EXPECT_EQ(panel->geometry(), QRect(380, 0, 320, 500));
-    EXPECT_EQ(screen->spokenTexts().hint, "esc to finish");
+    EXPECT_EQ(screen->spokenTexts().hint, u"esc to finish"_s);
 }
 
 TEST_F(QuoteScreens, ShowsThePhotosPaletteBeforeItsPixels) {
     store.set(K::bgImage, lake);
     const auto screen = shown();
-    EXPECT_EQ(screen->view()->state().palette.name, "Photo");
+    EXPECT_EQ(screen->view()->state().palette.name, u"Photo"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] {
         time += 1;
         return screen->grab().toImage().pixelColor(320, 60) != QColor(15, 15, 19);
@@ -260,9 +262,9 @@ TEST_F(QuoteScreens, ShowsThePhotosPaletteBeforeItsPixels) {
     settle(*screen);
     const QImage picture = screen->grab().toImage();
     EXPECT_NE(picture.pixel(100, 100), picture.pixel(100, 400));
-    store.set(K::bgImage, "");
+    store.set(K::bgImage, u""_s);
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return screen->view()->state().palette.name == "Midnight"; }));
+        QTest::qWaitFor([&] { return screen->view()->state().palette.name == u"Midnight"_s; }));
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
 
@@ -270,14 +272,14 @@ TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
     // A header that promises a picture, and nothing after it.
     QFile whole(lake);
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    const QString broken = folder.filePath("broken.png");
+    const QString broken = folder.filePath(u"broken.png"_s);
     QImage(64, 64, QImage::Format_RGB32).save(broken);
     QFile file(broken);
     ASSERT_TRUE(file.resize(40));
     store.set(K::bgImage, broken);
     const auto screen = shown();
     ASSERT_TRUE(
-        QTest::qWaitFor([&] { return screen->view()->state().palette.name == "Midnight"; }));
+        QTest::qWaitFor([&] { return screen->view()->state().palette.name == u"Midnight"_s; }));
     settle(*screen);
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
@@ -285,12 +287,12 @@ TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
 TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
     QImage first(1280, 960, QImage::Format_RGB32);
     first.fill(QColor(200, 40, 40));
-    ASSERT_TRUE(first.save(folder.filePath("first.png")));
+    ASSERT_TRUE(first.save(folder.filePath(u"first.png"_s)));
     first.fill(QColor(40, 200, 40));
-    ASSERT_TRUE(first.save(folder.filePath("second.png")));
+    ASSERT_TRUE(first.save(folder.filePath(u"second.png"_s)));
     store.set(K::vignette, 0);
     store.set(K::grain, false);
-    store.set(K::bgImage, folder.filePath("first.png"));
+    store.set(K::bgImage, folder.filePath(u"first.png"_s));
     const auto screen = shown();
     // Well above the text.
     const auto ground = [&] { return screen->grab().toImage().pixelColor(20, 100); };
@@ -301,7 +303,7 @@ TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
     settle(*screen);
 
     const int frames = screen->frames;
-    store.set(K::bgImage, folder.filePath("second.png"));
+    store.set(K::bgImage, folder.filePath(u"second.png"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames; }));
     time += 5; // the decoder took its time
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->awake(); }));
@@ -319,16 +321,16 @@ TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
     for (int i = 0; i < 8; ++i) {
         store.set(K::bgImage, lake);
         const auto screen = shown();
-        store.set(K::bgImage, "");
+        store.set(K::bgImage, u""_s);
         QTest::qWait(5);
     }
     const auto screen = shown();
     QTest::qWait(300);
-    EXPECT_EQ(screen->view()->state().palette.name, "Midnight");
+    EXPECT_EQ(screen->view()->state().palette.name, u"Midnight"_s);
 }
 
 TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
-    store.set(K::screenAnim, "aurora");
+    store.set(K::screenAnim, u"aurora"_s);
     const Monotonic steady = steadySeconds();
     double ahead = 0;
     FrameClock realFrames([&] { return steady() + ahead; });
@@ -372,8 +374,7 @@ TEST_F(QuoteScreens, SpeaksToThoseWhoDoNotSeeIt) {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(screen.get());
     ASSERT_TRUE(spoken);
     const SpokenTexts texts = screen->spokenTexts();
-    EXPECT_EQ(spoken->text(QAccessible::Name),
-              texts.quotation + QString::fromUtf8(" — ") + texts.author);
+    EXPECT_EQ(spoken->text(QAccessible::Name), texts.quotation + u" — "_s + texts.author);
     ASSERT_EQ(spoken->childCount(), 5);
     QStringList heard;
     for (int i = 0; i < 5; ++i) {
@@ -387,7 +388,7 @@ TEST_F(QuoteScreens, SpeaksToThoseWhoDoNotSeeIt) {
         heard += child->text(QAccessible::Name);
     }
     EXPECT_EQ(heard, texts.all());
-    EXPECT_EQ(heard.first(), "Good morning");
+    EXPECT_EQ(heard.first(), u"Good morning"_s);
     EXPECT_FALSE(spoken->child(5));
     EXPECT_FALSE(spoken->child(-1));
     const QPoint middle = spoken->child(2)->rect().center();

@@ -13,12 +13,13 @@
 #include <cmath>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 using Element = QuoteView::Element;
 
 namespace {
 
 const QString threeLines =
-    "It is not the mountain we conquer but ourselves, and the path is where we learn to walk.";
+    u"It is not the mountain we conquer but ourselves, and the path is where we learn to walk."_s;
 
 QImage drawn(const QuoteView& view, double seconds) {
     const QSizeF pixels = view.state().size * view.state().devicePixelRatio;
@@ -47,14 +48,14 @@ QRect inkWithin(const QImage& image, const QRect& part, int least = 24) {
 } // namespace
 
 TEST(LineIdentity, IsMadeOfAnimationIndexAndLength) {
-    EXPECT_EQ(lineIdentity("fade", 2, "abc"), "fade-2-3");
-    EXPECT_EQ(lineIdentity("", 0, ""), "-0-0");
-    EXPECT_EQ(lineIdentity("x", 11, QString::fromUtf8("e\u0301👨‍👩‍👧")), "x-11-2");
+    EXPECT_EQ(lineIdentity(u"fade"_s, 2, u"abc"_s), u"fade-2-3"_s);
+    EXPECT_EQ(lineIdentity(u""_s, 0, u""_s), u"-0-0"_s);
+    EXPECT_EQ(lineIdentity(u"x"_s, 11, u"e\u0301👨‍👩‍👧"_s), u"x-11-2"_s);
 }
 
 TEST(QuoteView, PlacesEverythingByTheNumbers) {
     QuoteViewState state = plainState();
-    state.quote = {threeLines, "Anonymous"};
+    state.quote = {threeLines, u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
     ASSERT_EQ(view.lineCount(), 3);
 
@@ -85,7 +86,7 @@ TEST(QuoteView, PlacesEverythingByTheNumbers) {
 
 TEST(QuoteView, KeepsClearOfTheInspector) {
     QuoteViewState state = plainState({1440, 900});
-    state.quote = {threeLines, "Anonymous"};
+    state.quote = {threeLines, u"Anonymous"_s};
     state.sideInset = 320;
     const QuoteView view(state, shippedFonts());
     EXPECT_LE(view.rect(Element::Today).right(), 1440 - 320 - 46 + 3);
@@ -98,7 +99,7 @@ TEST(QuoteView, KeepsClearOfTheInspector) {
 
 TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
     QuoteViewState state = plainState();
-    state.quote = {"One", "Two"};
+    state.quote = {u"One"_s, u"Two"_s};
     const double base = QuoteView(state, shippedFonts()).lineRect(0).height();
     const auto heightWith = [&](std::optional<QSizeF> screen, double sizeScale) {
         state.mainScreen = screen;
@@ -113,22 +114,22 @@ TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
 
 TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
     QuoteViewState state = plainState();
-    state.quote = {threeLines, "Anonymous"};
+    state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
     const double ruleAt = view.closing().rule.delay;
 
     state.palette = Palette::all()[7];
-    state.settings.fontName = "mono";
+    state.settings.fontName = u"mono"_s;
     view.update(state, 5);
     EXPECT_EQ(view.lineAppearedAt(0), 0);
     EXPECT_EQ(view.lineAppearedAt(2), 0);
 
-    state.settings.textAnimRaw = "rise";
+    state.settings.textAnimRaw = u"rise"_s;
     view.update(state, 7);
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(view.lineAppearedAt(i), 7);
     }
-    state.settings.textAnimRaw = "no such thing"; // drawn as fade, yet another identity
+    state.settings.textAnimRaw = u"no such thing"_s; // drawn as fade, yet another identity
     view.update(state, 8);
     EXPECT_EQ(view.lineAppearedAt(0), 8);
     EXPECT_EQ(view.closing().rule.delay, ruleAt);
@@ -136,7 +137,7 @@ TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
 
 TEST(QuoteView, LaysOutOnlyWhatDependsOnAChange) {
     QuoteViewState state = plainState();
-    state.quote = {threeLines, QStringLiteral("Anonymous")};
+    state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
     ASSERT_EQ(view.lineCount(), 3);
     QuoteView::Work before = view.work();
@@ -155,19 +156,19 @@ TEST(QuoteView, LaysOutOnlyWhatDependsOnAChange) {
     expectWork("transparency", 0, 0);
     state.settings.liquidGlass = false;
     expectWork("glass", 0, 0);
-    state.settings.screenAnimRaw = QStringLiteral("zoom");
+    state.settings.screenAnimRaw = u"zoom"_s;
     expectWork("screen animation", 0, 0);
     state.settings.paletteIndex = 7;
     state.palette = Palette::all()[7];
     expectWork("palette", 0, 0);
-    state.settings.bgImagePath = QStringLiteral("/photo");
+    state.settings.bgImagePath = u"/photo"_s;
     state.palette = Palette::photo();
     expectWork("photo", 0, 0);
-    state.settings.textAnimRaw = QStringLiteral("rise");
+    state.settings.textAnimRaw = u"rise"_s;
     expectWork("text animation: the lines", 0, 3);
-    state.settings.fontName = QStringLiteral("serif");
+    state.settings.fontName = u"serif"_s;
     expectWork("font: lines, mark, sample", 0, 5);
-    state.quote.author = QStringLiteral("Somebody");
+    state.quote.author = u"Somebody"_s;
     expectWork("author", 1, 1);
     state.moment.unixSeconds += 3600.0 * 5;
     expectWork("hour: the greeting", 0, 1);
@@ -177,7 +178,7 @@ TEST(QuoteView, LaysOutOnlyWhatDependsOnAChange) {
 
 TEST(QuoteView, DrawsAfterAnUpdateWhatAFreshViewDraws) {
     QuoteViewState state = plainState({1024, 600});
-    state.quote = {threeLines, QStringLiteral("Anonymous")};
+    state.quote = {threeLines, u"Anonymous"_s};
     for (const TextAnim style : allTextAnims) {
         state.settings.textAnimRaw = rawValue(style);
         state.palette = Palette::all()[0];
@@ -195,20 +196,20 @@ TEST(QuoteView, DrawsAfterAnUpdateWhatAFreshViewDraws) {
 
 TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
     QuoteViewState state = plainState();
-    state.quote = {"aaaa bbbb", "A"};
+    state.quote = {u"aaaa bbbb"_s, u"A"_s};
     QuoteView view(state, shippedFonts());
-    state.quote = {"cccc dddd", "B"}; // as many characters
+    state.quote = {u"cccc dddd"_s, u"B"_s}; // as many characters
     view.update(state, 3);
-    EXPECT_EQ(view.lineText(0), "cccc dddd");
+    EXPECT_EQ(view.lineText(0), u"cccc dddd"_s);
     EXPECT_EQ(view.lineAppearedAt(0), 0);
-    state.quote = {"cccc ddddd", "B"};
+    state.quote = {u"cccc ddddd"_s, u"B"_s};
     view.update(state, 4);
     EXPECT_EQ(view.lineAppearedAt(0), 4);
 }
 
 TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
     QuoteViewState state = plainState();
-    state.quote = {threeLines, "Anonymous"};
+    state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
     QSet<QString> kinds; // what becomes of a line
     for (int percent = 80; percent < 160; percent += 2) {
@@ -227,7 +228,7 @@ TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
                 i < before.size() && characterCount(before[i]) == characterCount(view.lineText(i));
             EXPECT_EQ(view.lineAppearedAt(i), same ? appeared[static_cast<size_t>(i)] : now)
                 << "line " << i << " at " << scale;
-            kinds += same ? "kept" : "anew";
+            kinds += same ? u"kept"_s : u"anew"_s;
         }
     }
     EXPECT_EQ(kinds.size(), 2);
@@ -239,14 +240,14 @@ TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
     for (const TextAnim kind : allTextAnims) {
         QuoteViewState state = plainState({1024, 600});
         state.settings.textAnimRaw = rawValue(kind);
-        state.quote = {"aaaa bbbb", "A"};
+        state.quote = {u"aaaa bbbb"_s, u"A"_s};
         QuoteView view(state, shippedFonts());
         const double middle = kind == TextAnim::Handwrite ? 1.0 : 0.8;
         const QImage first = drawn(view, middle);
 
         state.palette = Palette::all()[7];
-        state.settings.fontName = "mono";
-        state.quote.text = "cccc dddd";
+        state.settings.fontName = u"mono"_s;
+        state.quote.text = u"cccc dddd"_s;
         view.update(state, middle);
         EXPECT_EQ(view.lineAppearedAt(0), 0);
         const QImage changed = drawn(view, middle);
@@ -258,11 +259,11 @@ TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
 
 TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
     QuoteViewState state = plainState();
-    state.quote = {"Short", "A"};
+    state.quote = {u"Short"_s, u"A"_s};
     QuoteView view(state, shippedFonts());
     const ClosingEntrances before = view.closing();
-    state.quote = {threeLines + " " + threeLines, "Somebody Else"};
-    state.settings.textAnimRaw = "handwrite";
+    state.quote = {threeLines + u" "_s + threeLines, u"Somebody Else"_s};
+    state.settings.textAnimRaw = u"handwrite"_s;
     view.update(state, 6);
     EXPECT_EQ(view.closing().rule.delay, before.rule.delay);
     EXPECT_EQ(view.closing().author.delay, before.author.delay);
@@ -276,7 +277,7 @@ TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
 
 TEST(QuoteView, BringsEachElementInAtItsTime) {
     QuoteViewState state = plainState({1280, 720});
-    state.quote = {"Now", "Then"};
+    state.quote = {u"Now"_s, u"Then"_s};
     const QuoteView view(state, shippedFonts());
     struct Row {
         Element element;
@@ -297,10 +298,11 @@ TEST(QuoteView, BringsEachElementInAtItsTime) {
 }
 
 TEST(QuoteView, NamesEverythingThatChanges) {
-    for (const char* animation : {"fade", "handwrite", "typewriter", "rise", "blur"}) {
+    for (const QString& animation :
+         {u"fade"_s, u"handwrite"_s, u"typewriter"_s, u"rise"_s, u"blur"_s}) {
         QuoteViewState state = plainState({1024, 600});
         state.settings.textAnimRaw = animation;
-        state.quote = {"The quiet morning asks nothing of anyone", "Nobody"};
+        state.quote = {u"The quiet morning asks nothing of anyone"_s, u"Nobody"_s};
         const QuoteView view(state, shippedFonts());
         double from = 0;
         for (const double to : {0.2, 0.5, 0.62, 0.7, 0.9, 1.3, 1.31, 2.0, 2.7, 3.9, 9.0}) {
@@ -316,7 +318,7 @@ TEST(QuoteView, NamesEverythingThatChanges) {
                             : 0;
                 }
             }
-            EXPECT_EQ(missed, 0) << animation << ' ' << from << " to " << to;
+            EXPECT_EQ(missed, 0) << animation.toStdString() << ' ' << from << " to " << to;
             from = to;
         }
         EXPECT_TRUE(view.changedBetween(20, 30).isEmpty());
@@ -325,7 +327,7 @@ TEST(QuoteView, NamesEverythingThatChanges) {
 
 TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
     QuoteViewState state = plainState({1024, 600});
-    state.quote = {threeLines, "Anonymous"};
+    state.quote = {threeLines, u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
     const QImage whole = drawn(view, 0.95);
     const QRect part(300, 200, 211, 97);
@@ -340,7 +342,7 @@ TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
 
 TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
     QuoteViewState state = plainState();
-    state.quote = {QString("A sentence that goes on and on. ").repeated(30), "Anonymous"};
+    state.quote = {u"A sentence that goes on and on. "_s.repeated(30), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
     EXPECT_LT(view.columnScale(), 1);
     EXPECT_GT(view.columnScale(), 12.0 / 44);
@@ -353,7 +355,7 @@ TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
 
 TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
     QuoteViewState state = plainState();
-    state.quote = {QString("Thousands of characters may arrive here. ").repeated(200), "Anonymous"};
+    state.quote = {u"Thousands of characters may arrive here. "_s.repeated(200), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
     EXPECT_DOUBLE_EQ(view.columnScale(), 12.0 / 44);
     const QImage image = drawn(view, 100);
@@ -365,15 +367,16 @@ TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
 
 TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
     QuoteViewState state = plainState({1024, 600});
-    state.settings.fontName = "mono";
+    state.settings.fontName = u"mono"_s;
     state.settings.sizeScale = 1.6;
-    state.quote = {"Wheresoever you go, go with all your heart and nothing less", "Confucius"};
+    state.quote = {u"Wheresoever you go, go with all your heart and nothing less"_s,
+                   u"Confucius"_s};
     const QuoteView view(state, shippedFonts());
     const double width = columnWidth(contentBox({1024, 600}, 0));
     for (int i = 0; i < view.lineCount(); ++i) {
         EXPECT_LE(view.lineRect(i).width(), width + 0.01);
     }
-    state.quote = {QString(400, 'w'), "One Word"};
+    state.quote = {QString(400, u'w'), u"One Word"_s};
     const QuoteView word(state, shippedFonts());
     ASSERT_EQ(word.lineCount(), 1);
     EXPECT_LE(word.lineRect(0).width(), width + 0.01);
@@ -383,9 +386,9 @@ TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
 
 TEST(QuoteView, AlignsRightToLeftTextAtItsOwnLeadingEdge) {
     QuoteViewState state = plainState();
-    state.quote = {QString::fromUtf8("السلام عليكم ورحمة الله وبركاته وكل يوم هو بداية جديدة لمن "
-                                     "أراد أن يمشي في طريقه بهدوء وصبر"),
-                   "A"};
+    state.quote = {u"السلام عليكم ورحمة الله وبركاته وكل يوم هو بداية جديدة لمن "
+                   "أراد أن يمشي في طريقه بهدوء وصبر"_s,
+                   u"A"_s};
     const QuoteView view(state, shippedFonts());
     ASSERT_GT(view.lineCount(), 1);
     for (int i = 1; i < view.lineCount(); ++i) {
@@ -397,7 +400,7 @@ TEST(QuoteView, StandsOnWholePixels) {
     for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
         QuoteViewState state = plainState();
         state.devicePixelRatio = ratio;
-        state.quote = {threeLines, "Anonymous"};
+        state.quote = {threeLines, u"Anonymous"_s};
         const QuoteView view(state, shippedFonts());
         const QRectF rule = view.rect(Element::Rule);
         EXPECT_NEAR(rule.top() * ratio, std::round(rule.top() * ratio), 1e-6);
@@ -414,10 +417,10 @@ TEST(QuoteView, StandsOnWholePixels) {
 
 TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
     QuoteViewState state = plainState();
-    state.quote = {"Be here", "Virginia Wilde"};
-    state.locale = QLocale("en_US");
+    state.quote = {u"Be here"_s, u"Virginia Wilde"_s};
+    state.locale = QLocale(u"en_US"_s);
     const QuoteView english(state, shippedFonts());
-    state.locale = QLocale("tr_TR");
+    state.locale = QLocale(u"tr_TR"_s);
     const QuoteView turkish(state, shippedFonts());
     const QRect author = english.rect(Element::Author).toAlignedRect();
     ASSERT_EQ(turkish.rect(Element::Author).toAlignedRect(), author);
@@ -428,19 +431,19 @@ TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
 TEST(QuoteView, SurvivesAbsurdStates) {
     for (const double sizeScale : {0.0, -4.0, 1e9, 1e-12, std::nan(""), double(INFINITY)}) {
         for (const QSizeF size : {QSizeF(1024, 600), QSizeF(40, 30), QSizeF(1, 1)}) {
-            for (const char* animation : {"fade", "handwrite", "typewriter"}) {
+            for (const QString& animation : {u"fade"_s, u"handwrite"_s, u"typewriter"_s}) {
                 QuoteViewState state = plainState(size);
                 state.settings.sizeScale = sizeScale;
                 state.settings.textAnimRaw = animation;
                 state.sideInset = 320;
-                state.quote = {"Be here", ""};
+                state.quote = {u"Be here"_s, u""_s};
                 const QuoteView view(state, shippedFonts());
                 EXPECT_FALSE(drawn(view, 3).isNull());
             }
         }
     }
     QuoteViewState state = plainState();
-    state.quote = {"", ""};
+    state.quote = {u""_s, u""_s};
     EXPECT_EQ(QuoteView(state, shippedFonts()).lineCount(), 0);
     EXPECT_FALSE(drawn(QuoteView(state, shippedFonts()), 3).isNull());
 }

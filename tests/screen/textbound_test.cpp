@@ -12,6 +12,7 @@
 #include <cmath>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -23,46 +24,46 @@ struct Hostile {
 };
 
 std::vector<Hostile> hostileTexts() {
-    return {{"words", "mountain "},
-            {"one word", "w"},
-            {"one-letter words", "a "},
+    return {{"words", u"mountain "_s},
+            {"one word", u"w"_s},
+            {"one-letter words", u"a "_s},
             {"combining marks", QString(QChar(0x0301))},
-            {"marked letters", "a" + QString(15, QChar(0x0301))},
+            {"marked letters", u"a"_s + QString(15, QChar(0x0301))},
             {"zero characters", QString(QChar(0))},
             {"line separators", QString(QChar(0x2028))},
-            {"line feeds", "a\n"},
-            {"directions", QString::fromUtf8("\u202Ea\u2066\u05D0 ")},
+            {"line feeds", u"a\n"_s},
+            {"directions", u"\u202Ea\u2066\u05D0 "_s},
             {"joiners", QString(QChar(0x200D))},
             {"half pairs", QString(QChar(0xD83D))},
-            {"emoji", QString::fromUtf8("👩‍👧")}};
+            {"emoji", u"👩‍👧"_s}};
 }
 
 } // namespace
 
 TEST(BeginningOf, KeepsWhatIsOfOrdinaryLength) {
-    const QString family = QString::fromUtf8("👨‍👩‍👧‍👦");
-    EXPECT_EQ(beginningOf("", 5), "");
-    EXPECT_EQ(beginningOf("abcde", 5), "abcde");
-    EXPECT_EQ(beginningOf("abcdef", 5), "abcde");
+    const QString family = u"👨‍👩‍👧‍👦"_s;
+    EXPECT_EQ(beginningOf(u""_s, 5), u""_s);
+    EXPECT_EQ(beginningOf(u"abcde"_s, 5), u"abcde"_s);
+    EXPECT_EQ(beginningOf(u"abcdef"_s, 5), u"abcde"_s);
     EXPECT_EQ(beginningOf(family.repeated(599), 2000), family.repeated(599));
-    EXPECT_EQ(beginningOf(QString("e\u0301").repeated(6), 5), QString("e\u0301").repeated(5));
+    EXPECT_EQ(beginningOf(u"e\u0301"_s.repeated(6), 5), u"e\u0301"_s.repeated(5));
 }
 
 TEST(BeginningOf, CutsNoCharacterThrough) {
-    const QString family = QString::fromUtf8("👨‍👩‍👧‍👦"); // 11 units
+    const QString family = u"👨‍👩‍👧‍👦"_s; // 11 units
     EXPECT_EQ(beginningOf(family.repeated(9), 4), family);
-    EXPECT_EQ(beginningOf("ab" + QString(100, QChar(0x0301)), 5), "a");
+    EXPECT_EQ(beginningOf(u"ab"_s + QString(100, QChar(0x0301)), 5), u"a"_s);
 }
 
 TEST(BeginningOf, CutsACharacterBeyondAllBounds) {
-    const QString start = beginningOf("a" + QString(1000, QChar(0x0301)), 100);
-    EXPECT_EQ(start, "a" + QString(63, QChar(0x0301)));
-    const QString pairs = QString::fromUtf8("\U0001F600") + QString(61, QChar(0x0301)) +
-                          QString::fromUtf8("\U0001D165").repeated(500);
+    const QString start = beginningOf(u"a"_s + QString(1000, QChar(0x0301)), 100);
+    EXPECT_EQ(start, u"a"_s + QString(63, QChar(0x0301)));
+    const QString pairs =
+        u"\U0001F600"_s + QString(61, QChar(0x0301)) + u"\U0001D165"_s.repeated(500);
     const QString whole = beginningOf(pairs, 100);
     EXPECT_EQ(whole.size(), 63);
     EXPECT_FALSE(whole.back().isHighSurrogate());
-    EXPECT_EQ(beginningOf("a" + QString(1000, QChar(0x0301)), 1).size(), 4);
+    EXPECT_EQ(beginningOf(u"a"_s + QString(1000, QChar(0x0301)), 1).size(), 4);
 }
 
 TEST(SeenCharacters, FollowTheViewWithinBounds) {
@@ -98,7 +99,7 @@ TEST(QuoteViewBounds, FillTheViewToItsEnd) {
         for (const double textScale : {0.5, 1.0, 1.6}) {
             QuoteViewState state = plainState(size);
             state.settings.sizeScale = textScale;
-            state.quote = {QString("I will fill it ").repeated(20000), "B"};
+            state.quote = {u"I will fill it "_s.repeated(20000), u"B"_s};
             const QuoteView view(state, shippedFonts());
             EXPECT_GT(view.lineRect(view.lineCount() - 1).top(), size.height() - 60)
                 << size.width() << ' ' << textScale;

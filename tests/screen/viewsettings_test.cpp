@@ -14,6 +14,7 @@
 #include <cmath>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -27,7 +28,7 @@ Moment at(int hour, int minute, const QDate& date = {2025, 11, 14}) {
 TEST(ViewSettings, HasItsOwnFallbacksWithoutRegisteredDefaults) {
     const SettingsStore store;
     EXPECT_EQ(readViewSettings(store), ViewSettings());
-    EXPECT_EQ(readViewSettings(store).fontName, "serif");
+    EXPECT_EQ(readViewSettings(store).fontName, u"serif"_s);
     EXPECT_EQ(readViewSettings(store).paletteIndex, -1);
 }
 
@@ -35,25 +36,25 @@ TEST(ViewSettings, ShowsTheRegisteredDefaults) {
     SettingsStore store;
     registerAppDefaults(store);
     ViewSettings expected;
-    expected.fontName = "fraunces";
+    expected.fontName = u"fraunces"_s;
     EXPECT_EQ(readViewSettings(store), expected);
 }
 
 TEST(ViewSettings, TakesWhatIsStored) {
     SettingsStore store;
     store.set(K::palette, 7);
-    store.set(K::textScale.key, "1.5");
-    store.set(K::textAnim, "Handwrite");
+    store.set(K::textScale.key, u"1.5"_s);
+    store.set(K::textAnim, u"Handwrite"_s);
     store.set(K::grain, false);
     store.set(K::transparency, 0.3);
     store.set(K::font.key, 12); // no text
     const ViewSettings settings = readViewSettings(store);
     EXPECT_EQ(settings.paletteIndex, 7);
     EXPECT_EQ(settings.sizeScale, 1.5);
-    EXPECT_EQ(settings.textAnimRaw, "Handwrite");
+    EXPECT_EQ(settings.textAnimRaw, u"Handwrite"_s);
     EXPECT_FALSE(settings.grainOn);
     EXPECT_EQ(settings.transparency, 0.3);
-    EXPECT_EQ(settings.fontName, "serif");
+    EXPECT_EQ(settings.fontName, u"serif"_s);
     store.set(K::palette.key, QJsonArray{1});
     EXPECT_EQ(readViewSettings(store).paletteIndex, 0); // stored, though no number
 }
@@ -71,41 +72,40 @@ TEST(ViewSettings, ToleratesAnySizeScale) {
 TEST(ViewPalette, IsThePhotosWhileOneIsReadable) {
     ViewSettings settings;
     settings.paletteIndex = 7;
-    EXPECT_EQ(viewPalette(settings, true, at(9, 0)).name, "Photo");
-    EXPECT_EQ(viewPalette(settings, false, at(9, 0)).name, "Paper");
+    EXPECT_EQ(viewPalette(settings, true, at(9, 0)).name, u"Photo"_s);
+    EXPECT_EQ(viewPalette(settings, false, at(9, 0)).name, u"Paper"_s);
     settings.paletteIndex = 9;
     EXPECT_EQ(viewPalette(settings, false, at(9, 0)).name, Palette::ofTheDay(at(9, 0)).name);
 }
 
 TEST(Greeting, FollowsTheHour) {
-    EXPECT_EQ(greeting(at(4, 59)), "Still awake");
-    EXPECT_EQ(greeting(at(5, 0)), "Good morning");
-    EXPECT_EQ(greeting(at(11, 59)), "Good morning");
-    EXPECT_EQ(greeting(at(12, 0)), "Good afternoon");
-    EXPECT_EQ(greeting(at(16, 59)), "Good afternoon");
-    EXPECT_EQ(greeting(at(17, 0)), "Good evening");
-    EXPECT_EQ(greeting(at(21, 59)), "Good evening");
-    EXPECT_EQ(greeting(at(22, 0)), "Still awake");
-    EXPECT_EQ(greeting(at(0, 0)), "Still awake");
+    EXPECT_EQ(greeting(at(4, 59)), u"Still awake"_s);
+    EXPECT_EQ(greeting(at(5, 0)), u"Good morning"_s);
+    EXPECT_EQ(greeting(at(11, 59)), u"Good morning"_s);
+    EXPECT_EQ(greeting(at(12, 0)), u"Good afternoon"_s);
+    EXPECT_EQ(greeting(at(16, 59)), u"Good afternoon"_s);
+    EXPECT_EQ(greeting(at(17, 0)), u"Good evening"_s);
+    EXPECT_EQ(greeting(at(21, 59)), u"Good evening"_s);
+    EXPECT_EQ(greeting(at(22, 0)), u"Still awake"_s);
+    EXPECT_EQ(greeting(at(0, 0)), u"Still awake"_s);
 }
 
 TEST(Greeting, TakesTheLocalHour) {
     Moment moment = at(23, 30);
     moment.zone = QTimeZone("Asia/Tokyo");
-    EXPECT_EQ(greeting(moment), "Good morning");
-    EXPECT_EQ(today(moment, QLocale("en_US")), "SATURDAY, 15 NOVEMBER");
+    EXPECT_EQ(greeting(moment), u"Good morning"_s);
+    EXPECT_EQ(today(moment, QLocale(u"en_US"_s)), u"SATURDAY, 15 NOVEMBER"_s);
 }
 
 TEST(Today, SpeaksTheLocale) {
-    EXPECT_EQ(today(at(9, 0), QLocale("en_US")), "FRIDAY, 14 NOVEMBER");
-    EXPECT_EQ(today(at(9, 0, {2025, 11, 4}), QLocale::c()), "TUESDAY, 4 NOVEMBER");
-    EXPECT_EQ(today(at(9, 0), QLocale("de_DE")), "FREITAG, 14 NOVEMBER");
+    EXPECT_EQ(today(at(9, 0), QLocale(u"en_US"_s)), u"FRIDAY, 14 NOVEMBER"_s);
+    EXPECT_EQ(today(at(9, 0, {2025, 11, 4}), QLocale::c()), u"TUESDAY, 4 NOVEMBER"_s);
+    EXPECT_EQ(today(at(9, 0), QLocale(u"de_DE"_s)), u"FREITAG, 14 NOVEMBER"_s);
     // The upper case is the locale's own too.
-    EXPECT_EQ(today(at(9, 0, {2025, 6, 2}), QLocale("tr_TR")),
-              QString::fromUtf8("PAZARTESİ, 2 HAZİRAN"));
+    EXPECT_EQ(today(at(9, 0, {2025, 6, 2}), QLocale(u"tr_TR"_s)), u"PAZARTESİ, 2 HAZİRAN"_s);
 }
 
 TEST(Hint, TellsHowToEnd) {
-    EXPECT_EQ(hintText(0), "press any key");
-    EXPECT_EQ(hintText(320), "esc to finish");
+    EXPECT_EQ(hintText(0), u"press any key"_s);
+    EXPECT_EQ(hintText(320), u"esc to finish"_s);
 }

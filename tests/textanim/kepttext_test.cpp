@@ -12,13 +12,14 @@
 #include <cstdlib>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 const QColor ink(240, 230, 210, 150);
 
 ShapedText sentence() {
-    return ShapedText("Good morning, Ava", quoteFont(shippedFonts(), "fraunces", 21), 0.4);
+    return ShapedText(u"Good morning, Ava"_s, quoteFont(shippedFonts(), u"fraunces"_s, 21), 0.4);
 }
 
 QImage ground(double ratio) {

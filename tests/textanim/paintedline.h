@@ -14,10 +14,12 @@
 
 namespace morrowleaf {
 
-inline RevealLine::Parts parts(TextAnim style, const QString& text = "A quiet office, fine",
-                               const char* name = "fraunces") {
+using namespace Qt::Literals::StringLiterals;
+
+inline RevealLine::Parts parts(TextAnim style, const QString& text = u"A quiet office, fine"_s,
+                               const QString& name = u"fraunces"_s) {
     const TextFont font = quoteFont(shippedFonts(), name, 28);
-    return {text, 0, style, font, font, QColor("#f3ece0"), {0.35, 12, {0, 6}}, 0};
+    return {text, 0, style, font, font, QColor(u"#f3ece0"_s), {0.35, 12, {0, 6}}, 0};
 }
 
 inline constexpr QPointF place{90.3, 70.6};
