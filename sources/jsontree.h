@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <optional>
@@ -16,24 +16,24 @@
 
 namespace morrowleaf {
 
-// What is kept of a JSON document: containers and strings under a few names
-// that are worth keeping, in the order of the document, in one flat list. So a
+// The part of a JSON document that is worth keeping: containers and strings
+// under a few names, in the order of the document, in one flat list. So a
 // document of 4 MiB never takes more than about 20 MiB, however it is made, and
 // nothing here recurses.
 class JsonTree {
 public:
-    using Node = std::uint32_t; // its place in the list; the root is 0
+    using Node = std::uint32_t; // an index into the list; the root is 0
 
     enum class Kind : std::uint8_t {
         Scalar, // a number, true, false or null
         String,
         Object,
-        ObjectList, // an array of objects and nothing else; maybe empty
-        MixedList,  // any other array; nothing inside is kept
+        ObjectList, // an array of objects and nothing else; may be empty
+        MixedList,  // any other array; its elements are not kept
     };
 
     Kind kind(Node node) const { return entries_[node].kind; }
-    // Of equal names in an object the last one; nothing where there is none.
+    // Of equal names in an object the last one; std::nullopt if there is none.
     std::optional<Node> member(Node object, std::string_view name) const;
     // Of an ObjectList.
     qsizetype count(Node list) const { return entries_[list].text; }
@@ -44,10 +44,10 @@ private:
     friend class JsonTreeBuilder;
 
     struct Entry {
-        std::uint32_t text = 0;   // a string's place in bytes_; a list's count
+        std::uint32_t text = 0;   // a string's offset in bytes_; a list's count
         std::uint32_t extent = 0; // a string's length; a container's end in the list
         Kind kind = Kind::Scalar;
-        std::uint8_t name = 0; // place in names_, noName for elements
+        std::uint8_t name = 0; // index into names_; meaningless for elements
     };
 
     Node after(Node node) const;
@@ -61,13 +61,13 @@ enum class JsonVerdict { Read, NotJson, TooLarge };
 
 struct JsonReading {
     JsonVerdict verdict = JsonVerdict::NotJson;
-    JsonTree tree; // when read
+    JsonTree tree; // only when the verdict is Read
 };
 
 // Reads a strict JSON document whose top level is an array or an object, in
-// UTF-8, UTF-16 or UTF-32, with at most 512 levels. Only members called by one
-// of `names` (fewer than 255, outliving the tree) are kept. Numbers may have
-// any size. TooLarge: it would need more than `entryLimit` entries.
+// UTF-8, UTF-16 or UTF-32, with at most 512 levels. Keeps only members called
+// by one of `names` (fewer than 255, outliving the tree). Numbers may have any
+// size. TooLarge: it would need more than `entryLimit` entries.
 JsonReading readJson(QByteArrayView body, std::span<const std::string_view> names,
                      std::size_t entryLimit = 1'500'000);
 

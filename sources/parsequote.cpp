@@ -5,7 +5,7 @@
 
 #include "base/graphemes.h"
 #include "sources/jsontree.h"
-#include "sources/utf8.h"
+#include "sources/textencoding.h"
 
 #include <algorithm>
 #include <array>
@@ -17,6 +17,7 @@ namespace {
 
 using Kind = JsonTree::Kind;
 using Node = JsonTree::Node;
+using namespace Qt::Literals::StringLiterals;
 using namespace std::string_view_literals;
 
 // In the order in which they are tried. "quote" stands in two lists: around an
@@ -99,7 +100,7 @@ QString authorOf(const JsonTree& tree, Node object) {
     if (author.isEmpty() && nested && tree.kind(*nested) == Kind::Object) {
         author = trimmedString(tree, tree.member(*nested, authorName));
     }
-    return author.isEmpty() ? QStringLiteral("Unknown") : author;
+    return author.isEmpty() ? u"Unknown"_s : author;
 }
 
 std::optional<Quote> quoteIn(const JsonTree& tree, const RandomIndex& random) {
@@ -119,7 +120,7 @@ std::optional<Quote> plainText(QByteArrayView body) {
     if (text.isEmpty() || text.startsWith(u'<') || hasMoreCharacters(text, plainTextLimit)) {
         return std::nullopt;
     }
-    return Quote{text, QStringLiteral("Unknown")};
+    return Quote{text, u"Unknown"_s};
 }
 
 } // namespace

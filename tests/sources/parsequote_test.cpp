@@ -3,7 +3,7 @@
 
 #include "sources/jsontree.h"
 #include "sources/parsequote.h"
-#include "sources/utf8.h"
+#include "sources/textencoding.h"
 
 #include <QStringEncoder>
 
