@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QRandomGenerator>
 
 #include <functional>
 
@@ -12,7 +12,11 @@ namespace morrowleaf {
 // Draws uniformly from 0 to count - 1; count is at least 1.
 using RandomIndex = std::function<qsizetype(qsizetype count)>;
 
-// Draws from the system's secure random source.
-RandomIndex secureRandomIndex();
+// Draws from the system's secure random source. Any thread.
+inline RandomIndex secureRandomIndex() {
+    return [](qsizetype count) -> qsizetype {
+        return QRandomGenerator::system()->bounded(qint64{count});
+    };
+}
 
 } // namespace morrowleaf

@@ -16,18 +16,21 @@
 #include <algorithm>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // What follows the last point of a name that has something before it.
 QString extensionOf(const QString& fileName) {
-    const qsizetype point = fileName.lastIndexOf(QLatin1Char('.'));
+    const qsizetype point = fileName.lastIndexOf(u'.');
     return point > 0 ? fileName.mid(point + 1) : QString();
 }
 
 QString newPhotoName(const QString& source) {
-    const QString extension = extensionOf(source.section(QLatin1Char('/'), -1));
-    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + QLatin1Char('.') +
-           (extension.isEmpty() ? QStringLiteral("png") : extension);
+    const QString extension = extensionOf(source.section(u'/', -1));
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper() + u'.' +
+           (extension.isEmpty() ? u"png"_s : extension);
 }
 
 } // namespace
@@ -37,7 +40,7 @@ QString ownPhotoFolder() {
     if (data.isEmpty()) {
         qFatal("There is no folder for the data of programs.");
     }
-    return data + QStringLiteral("/Morrowleaf/backgrounds");
+    return data + u"/Morrowleaf/backgrounds"_s;
 }
 
 BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
@@ -106,8 +109,7 @@ QStringList BGStore::builtins() const {
     QStringList names;
     for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden, QDir::Unsorted)) {
         const QString extension = extensionOf(name).toLower();
-        if (extension == QLatin1String("jpg") || extension == QLatin1String("jpeg") ||
-            extension == QLatin1String("png")) {
+        if (extension == "jpg"_L1 || extension == "jpeg"_L1 || extension == "png"_L1) {
             names.append(name);
         }
     }

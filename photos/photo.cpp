@@ -3,8 +3,7 @@
 
 #include "photos/photo.h"
 
-#include "photos/photodevice.h"
-#include "photos/photoplan.h"
+#include "photos/photofile.h"
 
 #include <QColorSpace>
 #include <QImageReader>
@@ -16,15 +15,15 @@
 namespace morrowleaf {
 namespace {
 
-// The header of a photo is found long before this; on the main thread nothing
-// may read on and on.
-constexpr PhotoDevice::Bounds headerBounds{std::chrono::seconds(2), Q_INT64_C(64) << 20};
+// A photo's header ends long before this. Photos are inspected on the main
+// thread, which must not read without end.
+constexpr PhotoFile::Bounds headerBounds{std::chrono::seconds(2), Q_INT64_C(64) << 20};
 
-// Where the size that will be shown is not known yet.
+// Pixels, where the size that will be shown is not known yet.
 constexpr QSize largestShown(3840, 2160);
 
-// The decoder's own limit knows nothing of the size wanted and would refuse
-// ordinary photos; decodeBytes() has been asked before any decoding.
+// Qt's limit does not know at what size a photo is decoded and would refuse
+// ordinary ones; decodeBytes() is checked before any decoding instead.
 void liftDecoderLimit() {
     static std::once_flag once;
     std::call_once(once, [] { QImageReader::setAllocationLimit(int(photoMemoryLimit >> 20)); });
@@ -42,7 +41,7 @@ QImage read(QImageReader& reader, const PhotoHeader& header, const QSize& target
     if (whole.isNull()) {
         return {};
     }
-    // The header may have promised another size than there is.
+    // The header may have declared another size.
     const QRect part = fillingCrop(whole.size(), target);
     return whole.copy(part).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
@@ -79,9 +78,9 @@ QImage Photo::decodeFilling(QSize target) const {
         return {};
     }
     liftDecoderLimit();
-    PhotoDevice device(path);
+    PhotoFile file(path);
     QImageReader reader;
-    const auto header = readPhotoHeader(device, reader);
+    const auto header = readPhotoHeader(file, reader);
     if (!header) {
         return {};
     }
@@ -91,7 +90,7 @@ QImage Photo::decodeFilling(QSize target) const {
         return {};
     }
     QImage image = read(reader, *header, stored);
-    if (image.isNull() || device.exhausted()) {
+    if (image.isNull() || file.exhausted()) {
         return {};
     }
     if (image.size() != stored) {
@@ -107,9 +106,9 @@ QImage Photo::decodeFilling(QSize target) const {
 }
 
 std::optional<Photo> inspectPhoto(const QString& path) {
-    PhotoDevice device(path, headerBounds);
+    PhotoFile file(path, headerBounds);
     QImageReader reader;
-    const auto header = readPhotoHeader(device, reader);
+    const auto header = readPhotoHeader(file, reader);
     if (!header || decodeBytes(*header, largestShown) > photoMemoryLimit) {
         return std::nullopt;
     }

@@ -11,20 +11,19 @@
 
 namespace morrowleaf {
 
-// A photo that can be decoded: where it is, how large, and how. Its pixels
-// belong to whoever shows it.
+// A photo that can be decoded. It holds no pixels.
 struct Photo {
     QString path;
     QSize size; // pixels, after orientation
 
-    // Decodes (anywhere, may be slow) so that the picture fills `target`
-    // pixels, cropped about its centre, upright, in sRGB, opaque (RGB32; what
-    // is transparent becomes black); null when that fails.
+    // Decodes the picture so that it fills `target` (pixels), cropped about its
+    // centre, upright, in sRGB, opaque (Format_RGB32, over black); null when
+    // that fails. Any thread; may take seconds.
     QImage decodeFilling(QSize target) const;
 };
 
-// The photo at `path` by its header alone; nothing unless it is a regular file
-// of a known format that can be shown within the bounds on memory.
+// The photo at `path`, judged by its header alone; std::nullopt unless it is a
+// regular file of a known format that can be decoded within the memory limit.
 std::optional<Photo> inspectPhoto(const QString& path);
 
 } // namespace morrowleaf

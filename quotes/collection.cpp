@@ -5,7 +5,7 @@
 
 namespace morrowleaf {
 
-using namespace Qt::StringLiterals;
+using namespace Qt::Literals::StringLiterals;
 
 // clang-format off
 constinit const std::array<BuiltinQuote, quoteCount> quotes{{

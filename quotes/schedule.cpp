@@ -11,7 +11,7 @@ namespace morrowleaf {
 
 namespace {
 
-using namespace Qt::StringLiterals;
+using namespace Qt::Literals::StringLiterals;
 
 constexpr qint64 sixHours = qint64{6} * 60 * 60;
 constexpr qint64 twelveHours = 2 * sixHours;

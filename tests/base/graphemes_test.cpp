@@ -14,7 +14,7 @@ using namespace morrowleaf;
 
 namespace {
 
-using namespace Qt::StringLiterals;
+using namespace Qt::Literals::StringLiterals;
 
 struct Counted {
     const char* what;

@@ -24,6 +24,9 @@
 #include <unistd.h>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class BGStoreTest : public ::testing::Test {
@@ -77,19 +80,19 @@ protected:
 
     QTemporaryDir folder;
     SettingsStore store;
-    QString own = folder.filePath(QStringLiteral("data/Morrowleaf/backgrounds"));
+    QString own = folder.filePath(u"data/Morrowleaf/backgrounds"_s);
     std::unique_ptr<BGStore> photos =
-        std::make_unique<BGStore>(store, folder.filePath(QStringLiteral("Backgrounds")), own);
+        std::make_unique<BGStore>(store, folder.filePath(u"Backgrounds"_s), own);
     QStringList results;
 };
 
 TEST_F(BGStoreTest, AddsACopyUnderANewName) {
-    const QString source = picture(QStringLiteral("photo.JPG"), "jpg");
+    const QString source = picture(u"photo.JPG"_s, "jpg");
     const QString added = add(source);
-    EXPECT_TRUE(QRegularExpression(
-                    QStringLiteral("^%1/[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.JPG$").arg(own))
-                    .match(added)
-                    .hasMatch())
+    EXPECT_TRUE(
+        QRegularExpression(u"^%1/[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.JPG$"_s.arg(own))
+            .match(added)
+            .hasMatch())
         << added.toStdString();
     EXPECT_EQ(contentOf(added), contentOf(source));
     EXPECT_EQ(listed(), QStringList{added});
@@ -97,11 +100,11 @@ TEST_F(BGStoreTest, AddsACopyUnderANewName) {
 }
 
 TEST_F(BGStoreTest, GivesAFileWithoutExtensionTheNameOfAPng) {
-    EXPECT_TRUE(add(picture(QStringLiteral("photo"), "jpg")).endsWith(QStringLiteral(".png")));
+    EXPECT_TRUE(add(picture(u"photo"_s, "jpg")).endsWith(u".png"_s));
 }
 
 TEST_F(BGStoreTest, AddsTheSameFileTwiceUnderTwoNames) {
-    const QString source = picture(QStringLiteral("a.png"));
+    const QString source = picture(u"a.png"_s);
     const QString first = add(source);
     const QString second = add(source);
     EXPECT_NE(first, second);
@@ -110,15 +113,15 @@ TEST_F(BGStoreTest, AddsTheSameFileTwiceUnderTwoNames) {
 }
 
 TEST_F(BGStoreTest, RefusesAFourthPhotoAndCopiesNothing) {
-    list({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
-    EXPECT_EQ(add(picture(QStringLiteral("a.png"))), QString());
+    list({u"/1"_s, u"/2"_s, u"/3"_s});
+    EXPECT_EQ(add(picture(u"a.png"_s)), QString());
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_EQ(listed().size(), 3);
 }
 
 TEST_F(BGStoreTest, CountsTheListAgainAfterTheCopy) {
-    list({QStringLiteral("/1"), QStringLiteral("/2")});
-    const QString source = picture(QStringLiteral("a.png"));
+    list({u"/1"_s, u"/2"_s});
+    const QString source = picture(u"a.png"_s);
     start(source);
     start(source);
     await(2);
@@ -128,42 +131,42 @@ TEST_F(BGStoreTest, CountsTheListAgainAfterTheCopy) {
 }
 
 TEST_F(BGStoreTest, KeepsWhatWasListedWhileItCopied) {
-    start(picture(QStringLiteral("a.png")));
-    list({QStringLiteral("/meanwhile")});
+    start(picture(u"a.png"_s));
+    list({u"/meanwhile"_s});
     await(1);
-    EXPECT_EQ(listed(), QStringList({QStringLiteral("/meanwhile"), results.first()}));
+    EXPECT_EQ(listed(), QStringList({u"/meanwhile"_s, results.first()}));
 }
 
 TEST_F(BGStoreTest, RefusesTextUnderThePictureName) {
-    EXPECT_EQ(add(textFile(QStringLiteral("a.png"))), QString());
-    EXPECT_EQ(add(textFile(QStringLiteral("empty.png"), {})), QString());
+    EXPECT_EQ(add(textFile(u"a.png"_s)), QString());
+    EXPECT_EQ(add(textFile(u"empty.png"_s, {})), QString());
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_FALSE(store.value(K::customBGs).has_value());
 }
 
 TEST_F(BGStoreTest, RefusesADrawingThatIsNoPixels) {
     const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
-    EXPECT_EQ(add(textFile(QStringLiteral("a.svg"), drawing)), QString());
+    EXPECT_EQ(add(textFile(u"a.svg"_s, drawing)), QString());
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
 TEST_F(BGStoreTest, RefusesAPictureWithoutPixelsBehindItsHeader) {
-    const QByteArray whole = contentOf(picture(QStringLiteral("a.png"), "png", {400, 300}));
-    EXPECT_EQ(add(textFile(QStringLiteral("b.png"), whole.left(40))), QString());
+    const QByteArray whole = contentOf(picture(u"a.png"_s, "png", {400, 300}));
+    EXPECT_EQ(add(textFile(u"b.png"_s, whole.left(40))), QString());
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
 TEST_F(BGStoreTest, RefusesWhatIsNoRegularFileAtOnce) {
-    const QString pipe = path(QStringLiteral("pipe.png"));
+    const QString pipe = path(u"pipe.png"_s);
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
-    const QString door = path(QStringLiteral("socket.png"));
+    const QString door = path(u"socket.png"_s);
     const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     qstrncpy(address.sun_path, qPrintable(door), sizeof(address.sun_path));
     ASSERT_EQ(::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof(address)), 0);
-    for (const QString& source : {pipe, door, folder.path(), QStringLiteral("/dev/zero"),
-                                  path(QStringLiteral("missing")), QString()}) {
+    for (const QString& source :
+         {pipe, door, folder.path(), u"/dev/zero"_s, path(u"missing"_s), QString()}) {
         EXPECT_EQ(add(source), QString()) << source.toStdString();
         EXPECT_EQ(photos->image(source), nullptr);
     }
@@ -172,12 +175,12 @@ TEST_F(BGStoreTest, RefusesWhatIsNoRegularFileAtOnce) {
 }
 
 TEST_F(BGStoreTest, AddsNothingWhereTheFolderCannotBeMade) {
-    textFile(QStringLiteral("data"));
-    EXPECT_EQ(add(picture(QStringLiteral("a.png"))), QString());
+    textFile(u"data"_s);
+    EXPECT_EQ(add(picture(u"a.png"_s)), QString());
 }
 
 TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
-    start(picture(QStringLiteral("a.png"), "png", {2000, 1500}));
+    start(picture(u"a.png"_s, "png", {2000, 1500}));
     photos.reset();
     QCoreApplication::processEvents();
     EXPECT_TRUE(results.isEmpty());
@@ -185,7 +188,7 @@ TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
 }
 
 TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
-    const QString source = picture(QStringLiteral("a.png"), "png", {3000, 2000});
+    const QString source = picture(u"a.png"_s, "png", {3000, 2000});
     QThreadPool workers;
     photos = std::make_unique<BGStore>(store, QString(), own, workers);
     QThreadPool::globalInstance()->waitForDone();
@@ -197,7 +200,7 @@ TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
 }
 
 TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
-    const QString source = picture(QStringLiteral("a.png"), "png", {6000, 4000});
+    const QString source = picture(u"a.png"_s, "png", {6000, 4000});
     const qint64 size = QFileInfo(source).size();
     start(source);
     start(source);
@@ -219,8 +222,8 @@ TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
 }
 
 TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
-    const QString chosen = add(picture(QStringLiteral("a.png")));
-    const QString other = add(picture(QStringLiteral("a.png")));
+    const QString chosen = add(picture(u"a.png"_s));
+    const QString other = add(picture(u"a.png"_s));
     store.set(K::bgImage, chosen);
     photos->remove(other);
     EXPECT_EQ(Prefs::bgImage(store), chosen);
@@ -232,7 +235,7 @@ TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
 }
 
 TEST_F(BGStoreTest, RemovesAFileThatIsNotListedAndItsCachedObject) {
-    const QString outside = picture(QStringLiteral("outside.png"));
+    const QString outside = picture(u"outside.png"_s);
     ASSERT_NE(photos->image(outside), nullptr);
     photos->remove(outside);
     EXPECT_FALSE(QFile::exists(outside));
@@ -241,34 +244,34 @@ TEST_F(BGStoreTest, RemovesAFileThatIsNotListedAndItsCachedObject) {
 }
 
 TEST_F(BGStoreTest, RemovesEveryEntryOfAPath) {
-    list({QStringLiteral("/a"), QStringLiteral("/b"), QStringLiteral("/a")});
-    photos->remove(QStringLiteral("/a"));
-    EXPECT_EQ(listed(), QStringList{QStringLiteral("/b")});
+    list({u"/a"_s, u"/b"_s, u"/a"_s});
+    photos->remove(u"/a"_s);
+    EXPECT_EQ(listed(), QStringList{u"/b"_s});
 }
 
 TEST_F(BGStoreTest, RemovesALinkButNeverItsTargetNorAFolder) {
-    const QString target = picture(QStringLiteral("target.png"));
-    const QString link = path(QStringLiteral("link.png"));
+    const QString target = picture(u"target.png"_s);
+    const QString link = path(u"link.png"_s);
     ASSERT_TRUE(QFile::link(target, link));
     photos->remove(link);
     EXPECT_FALSE(QFileInfo(link).isSymLink());
     EXPECT_TRUE(QFile::exists(target));
 
-    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("sub"))));
-    photos->remove(path(QStringLiteral("sub")));
-    EXPECT_TRUE(QDir(path(QStringLiteral("sub"))).exists());
+    ASSERT_TRUE(QDir().mkpath(path(u"sub"_s)));
+    photos->remove(path(u"sub"_s));
+    EXPECT_TRUE(QDir(path(u"sub"_s)).exists());
     photos->remove(QString());
 }
 
 TEST_F(BGStoreTest, ListsBuiltinsByCaseSensitiveName) {
     EXPECT_EQ(photos->builtins(), QStringList());
-    QDir().mkpath(path(QStringLiteral("Backgrounds/folder.jpg")));
-    for (const char* name : {"b.PNG", "a.jpg", "c.gif", "A.jpeg", ".jpg", "png"}) {
-        textFile(QStringLiteral("Backgrounds/") + QLatin1String(name));
+    QDir().mkpath(path(u"Backgrounds/folder.jpg"_s));
+    for (const auto name : {"b.PNG"_L1, "a.jpg"_L1, "c.gif"_L1, "A.jpeg"_L1, ".jpg"_L1, "png"_L1}) {
+        textFile("Backgrounds/"_L1 + name);
     }
-    EXPECT_EQ(photos->builtins(), QStringList({path(QStringLiteral("Backgrounds/A.jpeg")),
-                                               path(QStringLiteral("Backgrounds/a.jpg")),
-                                               path(QStringLiteral("Backgrounds/b.PNG"))}));
+    EXPECT_EQ(photos->builtins(),
+              QStringList({path(u"Backgrounds/A.jpeg"_s), path(u"Backgrounds/a.jpg"_s),
+                           path(u"Backgrounds/b.PNG"_s)}));
 }
 
 TEST_F(BGStoreTest, ListsNoBuiltinsWithoutAFolder) {
@@ -281,7 +284,7 @@ TEST(BGStoreDeathTest, NeedsAFolderForOwnPhotos) {
 }
 
 TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
-    const QString file = picture(QStringLiteral("a.png"));
+    const QString file = picture(u"a.png"_s);
     const auto first = photos->image(file);
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->size, QSize(40, 30));
@@ -290,20 +293,20 @@ TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
 }
 
 TEST_F(BGStoreTest, RemembersNoFailure) {
-    const QString file = textFile(QStringLiteral("a.png"));
+    const QString file = textFile(u"a.png"_s);
     EXPECT_EQ(photos->image(file), nullptr);
-    picture(QStringLiteral("a.png"));
+    picture(u"a.png"_s);
     EXPECT_NE(photos->image(file), nullptr);
     EXPECT_EQ(photos->image(QString()), nullptr);
 }
 
 TEST_F(BGStoreTest, AFailedDecodeMakesThePhotoUnreadableUntilItsFileChanges) {
-    const QString file = picture(QStringLiteral("a.png"));
+    const QString file = picture(u"a.png"_s);
     ASSERT_NE(photos->image(file), nullptr);
     photos->markUnreadable(file);
     EXPECT_EQ(photos->image(file), nullptr);
     EXPECT_EQ(photos->image(file), nullptr);
-    picture(QStringLiteral("a.png"), "png", {50, 60});
+    picture(u"a.png"_s, "png", {50, 60});
     EXPECT_NE(photos->image(file), nullptr);
 }
 

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "photos/jpegscans.h"
 #include "photos/photo.h"
-#include "photos/photodevice.h"
+#include "photos/photofile.h"
 #include "photos/photoimport.h"
-#include "photos/photoplan.h"
 #include "tools/sourcepath.h"
 
 #include <QBuffer>
@@ -25,6 +23,9 @@
 #include <unistd.h>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // Left half red, right half blue; the top left quarter is green.
@@ -172,7 +173,7 @@ TEST_F(PhotoTest, ReadsGreyDeepAndPalettePictures) {
 }
 
 TEST_F(PhotoTest, ReadsPicturesMadeForPrinting) {
-    const auto photo = inspectPhoto(sourcePath("tests/photos/data/cmyk.jpg"));
+    const auto photo = inspectPhoto(sourcePath(u"tests/photos/data/cmyk.jpg"_s));
     ASSERT_TRUE(photo);
     const QImage shown = photo->decodeFilling({16, 16});
     ASSERT_FALSE(shown.isNull());
@@ -261,7 +262,7 @@ TEST_F(PhotoTest, GivesNothingForNonsense) {
     EXPECT_FALSE(inspectPhoto(file({})));
     EXPECT_FALSE(inspectPhoto(file("GIF89a")));
     EXPECT_FALSE(inspectPhoto(file(QByteArray(100'000, '\xff'))));
-    EXPECT_FALSE(inspectPhoto(QStringLiteral("/nowhere")));
+    EXPECT_FALSE(inspectPhoto(u"/nowhere"_s));
     const auto photo = inspectPhoto(file(encoded(quarters({8, 8}), "png")));
     ASSERT_TRUE(photo);
     EXPECT_TRUE(photo->decodeFilling({0, 10}).isNull());
@@ -292,14 +293,14 @@ TEST_F(PhotoTest, CropsFillTheTargetsShape) {
 
 TEST_F(PhotoTest, TheDeviceEndsAfterItsBytes) {
     const QString path = file(QByteArray(100'000, 'x'));
-    PhotoDevice device(path, {.time = std::chrono::hours(1), .bytes = 40'000});
+    PhotoFile device(path, {.time = std::chrono::hours(1), .bytes = 40'000});
     ASSERT_TRUE(device.isOpen());
     EXPECT_EQ(device.readAll().size(), 40'000);
     EXPECT_TRUE(device.exhausted());
 }
 
 TEST_F(PhotoTest, TheDeviceEndsAfterItsTime) {
-    PhotoDevice device(file(QByteArray(100, 'x')), {.time = std::chrono::milliseconds(0)});
+    PhotoFile device(file(QByteArray(100, 'x')), {.time = std::chrono::milliseconds(0)});
     ASSERT_TRUE(device.isOpen());
     char byte = 0;
     EXPECT_LE(device.read(&byte, 1), 0);
@@ -316,21 +317,20 @@ TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
     QFile there(taken);
     ASSERT_TRUE(there.open(QIODevice::ReadOnly));
     EXPECT_EQ(there.readAll(), QByteArray("taken"));
-    const QString fresh = folder.filePath(QStringLiteral("fresh"));
+    const QString fresh = folder.filePath(u"fresh"_s);
     EXPECT_FALSE(copyPhotoFile(source, fresh, stopped.get_token()));
     EXPECT_FALSE(QFile::exists(fresh));
     EXPECT_TRUE(copyPhotoFile(source, fresh, going));
 }
 
 TEST_F(PhotoTest, LeavesNothingOnAFullDisk) {
-    const QString small = folder.filePath(QStringLiteral("small"));
+    const QString small = folder.filePath(u"small"_s);
     ASSERT_TRUE(QDir().mkpath(small));
     if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {
         GTEST_SKIP() << "may not mount a small disk here";
     }
     const std::stop_token going;
-    const bool copied =
-        copyPhotoFile(file(QByteArray(1 << 20, 'x')), small + QStringLiteral("/copy"), going);
+    const bool copied = copyPhotoFile(file(QByteArray(1 << 20, 'x')), small + u"/copy"_s, going);
     const QStringList left = QDir(small).entryList(QDir::Files | QDir::Hidden);
     ::umount(qPrintable(small));
     EXPECT_FALSE(copied);

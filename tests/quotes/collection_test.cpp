@@ -10,6 +10,7 @@
 #include <algorithm>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -24,12 +25,10 @@ TEST(Collection, HoldsEveryTextAndCreditInOrder) {
 
 TEST(Collection, BeginsAndEndsAsItShould) {
     ASSERT_EQ(quotes.size(), 124u);
-    EXPECT_EQ(quotes[0].text,
-              QLatin1StringView("The wound is the place where the light enters you."));
-    EXPECT_EQ(quotes[0].author, QLatin1StringView("Rumi"));
+    EXPECT_EQ(quotes[0].text, "The wound is the place where the light enters you."_L1);
+    EXPECT_EQ(quotes[0].author, "Rumi"_L1);
     EXPECT_EQ(quotes[123].text,
-              QLatin1StringView(
-                  "Knowing is not enough; we must apply. Willing is not enough; we must do."));
+              "Knowing is not enough; we must apply. Willing is not enough; we must do."_L1);
 }
 
 TEST(Collection, CreditsFiftyEightPeopleAndThreeTraditions) {
@@ -37,7 +36,7 @@ TEST(Collection, CreditsFiftyEightPeopleAndThreeTraditions) {
     int credited = 0;
     QStringList traditions;
     for (const Quote quote : quotes) {
-        if (quote.author.endsWith(QStringLiteral(" Proverb"))) {
+        if (quote.author.endsWith(u" Proverb"_s)) {
             traditions.append(quote.author);
         } else {
             people.insert(quote.author);
@@ -47,9 +46,8 @@ TEST(Collection, CreditsFiftyEightPeopleAndThreeTraditions) {
     EXPECT_EQ(credited, 120);
     EXPECT_EQ(people.size(), 58);
     traditions.sort();
-    EXPECT_EQ(traditions,
-              (QStringList{QStringLiteral("Chinese Proverb"), QStringLiteral("Japanese Proverb"),
-                           QStringLiteral("Japanese Proverb"), QStringLiteral("Zen Proverb")}));
+    EXPECT_EQ(traditions, (QStringList{u"Chinese Proverb"_s, u"Japanese Proverb"_s,
+                                       u"Japanese Proverb"_s, u"Zen Proverb"_s}));
 }
 
 TEST(Collection, IsPlainPrintableAscii) {

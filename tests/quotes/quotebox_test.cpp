@@ -11,6 +11,7 @@
 #include <memory>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -29,8 +30,8 @@ protected:
         store.set(setting, QString::fromUtf8(text));
     }
     std::string cache() const {
-        return (store.text(K::cachedText).value_or("-") + u'|' +
-                store.text(K::cachedAuthor).value_or("-"))
+        return (store.text(K::cachedText).value_or(u"-"_s) + u'|' +
+                store.text(K::cachedAuthor).value_or(u"-"_s))
             .toStdString();
     }
 
@@ -52,11 +53,11 @@ TEST_F(QuoteBoxTest, TheCacheStandsFirstWhereASourceIsSet) {
     set(K::cachedText, "");
     EXPECT_EQ(box()->quote().text, quoteOfTheDay(moment).text);
     set(K::cachedText, " ");
-    EXPECT_EQ(box()->quote().text, " ");
-    EXPECT_EQ(box()->quote().author, "Unknown");
+    EXPECT_EQ(box()->quote().text, " "_L1);
+    EXPECT_EQ(box()->quote().author, "Unknown"_L1);
     set(K::cachedAuthor, "");
-    EXPECT_EQ(box()->quote().author, "");
-    EXPECT_EQ(sources, QStringList(5, "  "));
+    EXPECT_EQ(box()->quote().author, QString());
+    EXPECT_EQ(sources, QStringList(5, u"  "_s));
 }
 
 TEST_F(QuoteBoxTest, AnAnswerIsAnnouncedAndThenCached) {
@@ -64,16 +65,17 @@ TEST_F(QuoteBoxTest, AnAnswerIsAnnouncedAndThenCached) {
     const auto holder = box();
     QStringList events;
     QObject::connect(holder.get(), &QuoteBox::quoteWillChange, [&](const Quote& next) {
-        events << "will " + next.text << (holder->quote().text == next.text ? "late" : "old");
+        events << "will "_L1 + next.text
+               << (holder->quote().text == next.text ? u"late"_s : u"old"_s);
     });
     QObject::connect(holder.get(), &QuoteBox::quoteChanged,
-                     [&] { events << "now " + holder->quote().text; });
+                     [&] { events << "now "_L1 + holder->quote().text; });
     QObject::connect(&store, &SettingsStore::changed, [&](const QString& key) { events << key; });
-    answer(Quote{"A", "B"});
-    EXPECT_EQ(events,
-              QStringList({"will A", "old", "now A", "cachedQuoteText", "cachedQuoteAuthor"}));
+    answer(Quote{u"A"_s, u"B"_s});
+    EXPECT_EQ(events, QStringList({u"will A"_s, u"old"_s, u"now A"_s, u"cachedQuoteText"_s,
+                                   u"cachedQuoteAuthor"_s}));
     EXPECT_EQ(cache(), "A|B");
-    EXPECT_EQ(sources, QStringList{"/x"});
+    EXPECT_EQ(sources, QStringList{u"/x"_s});
 }
 
 TEST_F(QuoteBoxTest, AFailureChangesNothing) {
@@ -82,14 +84,14 @@ TEST_F(QuoteBoxTest, AFailureChangesNothing) {
     const auto holder = box();
     QObject::connect(holder.get(), &QuoteBox::quoteWillChange, [] { FAIL(); });
     answer(std::nullopt);
-    EXPECT_EQ(holder->quote().text, "C");
+    EXPECT_EQ(holder->quote().text, "C"_L1);
     EXPECT_EQ(cache(), "C|-");
 }
 
 TEST_F(QuoteBoxTest, AnAnswerAfterTheEndStillWritesTheCache) {
     set(K::source, "/x");
     box().reset();
-    answer(Quote{"A", ""});
+    answer(Quote{u"A"_s, u""_s});
     EXPECT_EQ(cache(), "A|");
 }
 
@@ -97,7 +99,7 @@ TEST_F(QuoteBoxTest, AnObserverMayEndTheHolder) {
     set(K::source, "/x");
     auto holder = box();
     QObject::connect(holder.get(), &QuoteBox::quoteChanged, [&] { holder.reset(); });
-    answer(Quote{"A", "B"});
+    answer(Quote{u"A"_s, u"B"_s});
     EXPECT_EQ(cache(), "A|B");
 }
 
@@ -106,10 +108,10 @@ TEST_F(QuoteBoxTest, TheLastOfTwoLoadsWins) {
     const auto one = box();
     const auto late = answer;
     const auto two = box();
-    answer(Quote{"2", "2"});
-    late(Quote{"1", "1"});
+    answer(Quote{u"2"_s, u"2"_s});
+    late(Quote{u"1"_s, u"1"_s});
     EXPECT_EQ(cache(), "1|1");
-    EXPECT_EQ(two->quote().text, "2");
+    EXPECT_EQ(two->quote().text, "2"_L1);
 }
 
 } // namespace

@@ -17,7 +17,7 @@ using namespace morrowleaf;
 
 namespace {
 
-using namespace Qt::StringLiterals;
+using namespace Qt::Literals::StringLiterals;
 
 qsizetype neverDrawn(qsizetype) {
     ADD_FAILURE() << "nothing should be drawn";

@@ -23,6 +23,7 @@
 #include <unistd.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -53,12 +54,12 @@ TEST(SourceAddress, NeverGuesses) {
 }
 
 TEST(SourceAddress, ReadsPathsAsTheyStand) {
-    EXPECT_EQ(sourceAddress(" /a b#c?d%20e ")->path, "/a b#c?d%20e");
-    EXPECT_EQ(sourceAddress("//example.org/x")->path, "//example.org/x");
-    EXPECT_EQ(sourceAddress("file:///a%20b")->path, "/a b");
-    EXPECT_EQ(sourceAddress("FILE://localhost/a")->path, "/a");
-    EXPECT_EQ(sourceAddress(" HTTPS://Example.org/Q ")->url, QUrl("https://example.org/Q"));
-    EXPECT_EQ(sourceAddress("data:,x")->url.scheme(), "data");
+    EXPECT_EQ(sourceAddress(u" /a b#c?d%20e "_s)->path, "/a b#c?d%20e"_L1);
+    EXPECT_EQ(sourceAddress(u"//example.org/x"_s)->path, "//example.org/x"_L1);
+    EXPECT_EQ(sourceAddress(u"file:///a%20b"_s)->path, "/a b"_L1);
+    EXPECT_EQ(sourceAddress(u"FILE://localhost/a"_s)->path, "/a"_L1);
+    EXPECT_EQ(sourceAddress(u" HTTPS://Example.org/Q "_s)->url, QUrl(u"https://example.org/Q"_s));
+    EXPECT_EQ(sourceAddress(u"data:,x"_s)->url.scheme(), "data"_L1);
 }
 
 TEST(Redirects, NeverLeaveTheWebOrGoDown) {
@@ -76,8 +77,8 @@ TEST(Redirects, NeverLeaveTheWebOrGoDown) {
 TEST(SourcePresets, AreThree) {
     ASSERT_EQ(sourcePresets.size(), 3U);
     EXPECT_EQ(sourcePresets[0].label, u"ZenQuotes \u2014 quote of the day");
-    EXPECT_EQ(sourcePresets[1].address, "https://zenquotes.io/api/random");
-    EXPECT_EQ(sourcePresets[2].address, "https://dummyjson.com/quotes/random");
+    EXPECT_EQ(sourcePresets[1].address, "https://zenquotes.io/api/random"_L1);
+    EXPECT_EQ(sourcePresets[2].address, "https://dummyjson.com/quotes/random"_L1);
 }
 
 class FetchQuote : public testing::Test {
@@ -110,36 +111,36 @@ protected:
 };
 
 TEST_F(FetchQuote, ReadsLocalFiles) {
-    const QString path = file("a b#c?d%20.json", R"({"q":"A"})");
-    EXPECT_EQ(fetch("  " + path + "\n"), "A|Unknown");
+    const QString path = file(u"a b#c?d%20.json"_s, R"({"q":"A"})");
+    EXPECT_EQ(fetch("  "_L1 + path + u'\n'), "A|Unknown");
     EXPECT_EQ(fetch(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)), "A|Unknown");
-    QFile::link(path, folder.filePath("link"));
-    EXPECT_EQ(fetch(folder.filePath("link")), "A|Unknown");
-    EXPECT_NE(fetch("/proc/version"), "nothing");
-    EXPECT_EQ(fetch("data:application/json,%7B%22q%22:%22A%22%7D"), "A|Unknown");
-    EXPECT_EQ(fetch("data:;base64,eyJxIjoiQSJ9"), "A|Unknown");
+    QFile::link(path, folder.filePath(u"link"_s));
+    EXPECT_EQ(fetch(folder.filePath(u"link"_s)), "A|Unknown");
+    EXPECT_NE(fetch(u"/proc/version"_s), "nothing");
+    EXPECT_EQ(fetch(u"data:application/json,%7B%22q%22:%22A%22%7D"_s), "A|Unknown");
+    EXPECT_EQ(fetch(u"data:;base64,eyJxIjoiQSJ9"_s), "A|Unknown");
 }
 
 TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
-    const QByteArray fifo = QFile::encodeName(folder.filePath("fifo"));
+    const QByteArray fifo = QFile::encodeName(folder.filePath(u"fifo"_s));
     ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
-    const QByteArray loop = QFile::encodeName(folder.filePath("loop"));
+    const QByteArray loop = QFile::encodeName(folder.filePath(u"loop"_s));
     ASSERT_EQ(::symlink(loop.constData(), loop.constData()), 0);
     const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    qstrncpy(address.sun_path, QFile::encodeName(folder.filePath("socket")).constData(),
+    qstrncpy(address.sun_path, QFile::encodeName(folder.filePath(u"socket"_s)).constData(),
              sizeof address.sun_path);
     ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    QFile sparse(folder.filePath("sparse"));
+    QFile sparse(folder.filePath(u"sparse"_s));
     ASSERT_TRUE(sparse.open(QIODevice::WriteOnly));
     ASSERT_TRUE(sparse.resize(qint64{1} << 40));
     QElapsedTimer clock;
     clock.start();
     for (const QString& path :
-         {folder.filePath("fifo"), folder.filePath("loop"), folder.filePath("socket"),
-          folder.filePath("sparse"), folder.filePath("missing"), folder.path(), QString("/"),
-          QString("/dev/zero"), QString("/dev/stdin"), QString("   "), QString("no scheme"),
+         {folder.filePath(u"fifo"_s), folder.filePath(u"loop"_s), folder.filePath(u"socket"_s),
+          folder.filePath(u"sparse"_s), folder.filePath(u"missing"_s), folder.path(), u"/"_s,
+          u"/dev/zero"_s, u"/dev/stdin"_s, u"   "_s, u"no scheme"_s,
           QString(300, u'/') + QString(5000, u'x')}) {
         EXPECT_EQ(fetch(path), "nothing") << path.left(60).toStdString();
     }
@@ -149,8 +150,8 @@ TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
 
 // In a child, since root reads everything and has to become somebody else.
 TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
-    const QByteArray open = QFile::encodeName(file("open", R"({"q":"A"})"));
-    const QByteArray secret = QFile::encodeName(file("secret", R"({"q":"A"})"));
+    const QByteArray open = QFile::encodeName(file(u"open"_s, R"({"q":"A"})"));
+    const QByteArray secret = QFile::encodeName(file(u"secret"_s, R"({"q":"A"})"));
     ASSERT_EQ(::chmod(secret.constData(), 0), 0);
     ASSERT_EQ(::chmod(open.constData(), 0644), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
@@ -175,14 +176,14 @@ TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
 TEST_F(FetchQuote, CountsTheBytesOfAFile) {
     const QByteArray start = R"({"q":"A")";
     const QByteArray full = start + QByteArray((4 << 20) - start.size() - 1, ' ') + "}";
-    EXPECT_EQ(fetch(file("full", full)), "A|Unknown");
-    EXPECT_EQ(fetch(file("over", full + " ")), "nothing");
+    EXPECT_EQ(fetch(file(u"full"_s, full)), "A|Unknown");
+    EXPECT_EQ(fetch(file(u"over"_s, full + " ")), "nothing");
 }
 
 TEST_F(FetchQuote, EndingTheFetcherInAnAnswerIsSafe) {
     auto own = std::make_unique<QuoteFetcher>();
     QEventLoop loop;
-    own->fetchQuote(file("q", R"({"q":"A"})"), [&](const std::optional<Quote>& quote) {
+    own->fetchQuote(file(u"q"_s, R"({"q":"A"})"), [&](const std::optional<Quote>& quote) {
         EXPECT_TRUE(quote);
         own.reset();
         loop.quit();
@@ -194,7 +195,7 @@ TEST_F(FetchQuote, EndingTheFetcherInAnAnswerIsSafe) {
 TEST_F(FetchQuote, NoAnswerComesAfterTheFetcher) {
     auto own = std::make_unique<QuoteFetcher>();
     for (int i = 0; i < 50; ++i) {
-        own->fetchQuote("/proc/version", [](const std::optional<Quote>&) { FAIL(); });
+        own->fetchQuote(u"/proc/version"_s, [](const std::optional<Quote>&) { FAIL(); });
     }
     QElapsedTimer clock;
     clock.start();

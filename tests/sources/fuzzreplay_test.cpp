@@ -16,6 +16,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 void run(const QByteArray& body) {
@@ -51,7 +53,7 @@ QByteArray mutated(QByteArray body, const QByteArray& other, std::mt19937& rando
 
 TEST(FuzzReplay, TheCorpusAndItsMutations) {
     QList<QByteArray> corpus;
-    QDirIterator files(morrowleaf::sourcePath("tests/sources/corpus"), QDir::Files);
+    QDirIterator files(morrowleaf::sourcePath(u"tests/sources/corpus"_s), QDir::Files);
     while (files.hasNext()) {
         QFile file(files.next());
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));

@@ -22,6 +22,8 @@
 #include <iostream>
 #include <numeric>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr const char* nothing = nullptr;
@@ -107,10 +109,11 @@ constexpr std::array cases{
 class HostileServer : public testing::Test {
 protected:
     void SetUp() override {
-        server.start("python3", {"-B", morrowleaf::sourcePath("tests/fakes/hostileserver.py")});
+        server.start(u"python3"_s,
+                     {u"-B"_s, morrowleaf::sourcePath(u"tests/fakes/hostileserver.py"_s)});
         while (!server.canReadLine() && server.waitForReadyRead(20000)) {
         }
-        ports = server.readLine().simplified().split(' ');
+        ports = QString::fromLatin1(server.readLine()).simplified().split(u' ');
         ASSERT_EQ(ports.size(), 3);
         // A proxy of the machine has no business with the loopback address.
         qputenv("no_proxy", "127.0.0.1,::1,nothing.invalid");
@@ -122,51 +125,55 @@ protected:
 
     QString address(const char* place) const {
         QString text = QString::fromUtf8(place);
-        if (!text.startsWith("http")) {
-            text.prepend("http://127.0.0.1:IPV4/");
+        if (!text.startsWith("http"_L1)) {
+            text.prepend("http://127.0.0.1:IPV4/"_L1);
         }
-        return text.replace("IPV4", ports[0]).replace("IPV6", ports[1]).replace("FULL", ports[2]);
+        return text.replace("IPV4"_L1, ports[0])
+            .replace("IPV6"_L1, ports[1])
+            .replace("FULL"_L1, ports[2]);
     }
 
     void start(const Case& one, std::function<void(const QJsonObject&)> done) const {
         auto* probe = new QProcess(QCoreApplication::instance());
         QObject::connect(probe, &QProcess::finished, probe, [probe, done = std::move(done)] {
             QJsonObject report = QJsonDocument::fromJson(probe->readAllStandardOutput()).object();
-            report["crashed"] =
+            report["crashed"_L1] =
                 probe->exitStatus() != QProcess::NormalExit || probe->exitCode() != 0;
-            report["errors"] = QString::fromUtf8(probe->readAllStandardError());
+            report["errors"_L1] = QString::fromUtf8(probe->readAllStandardError());
             probe->deleteLater();
             done(report);
         });
-        probe->start(LOADPROBE, {address("ok"), address(one.place), QString::number(one.count)});
+        probe->start(QString::fromUtf8(LOADPROBE),
+                     {address("ok"), address(one.place), QString::number(one.count)});
     }
 
     QProcess server;
-    QByteArrayList ports;
+    QStringList ports;
 };
 
 // What is wrong with a load; empty if nothing is.
 QString complaint(const Case& one, const QJsonObject& report) {
     QStringList wrong;
-    const auto most = [&](const char* what, int limit) {
+    const auto most = [&](QLatin1StringView what, int limit) {
         const int value = report[what].toInt(99999);
         if (value > limit) {
-            wrong << QString("%1 %2").arg(what).arg(value);
+            wrong << u"%1 %2"_s.arg(what).arg(value);
         }
     };
-    if (report["crashed"].toBool()) {
-        wrong << "crashed";
+    if (report["crashed"_L1].toBool()) {
+        wrong << u"crashed"_s;
     }
-    if (one.text != anything && report["text"].toString() != QString::fromUtf8(one.text)) {
-        wrong << "text " + report["text"].toString().left(100);
+    if (one.text != anything && report["text"_L1].toString() != QString::fromUtf8(one.text)) {
+        wrong << "text "_L1 + report["text"_L1].toString().left(100);
     }
-    most("milliseconds", 6500);
-    most("partingMilliseconds", 1000);
-    most("gap", report["quietGap"].toInt() + 50);
+    most("milliseconds"_L1, 6500);
+    most("partingMilliseconds"_L1, 1000);
+    most("gap"_L1, report["quietGap"_L1].toInt() + 50);
 #if !defined(__SANITIZE_ADDRESS__)
-    most("memoryKiB", 32 * 1024);
+    most("memoryKiB"_L1, 32 * 1024);
 #endif
-    return wrong.isEmpty() ? QString() : wrong.join(", ") + ' ' + report["errors"].toString();
+    return wrong.isEmpty() ? QString()
+                           : wrong.join(", "_L1) + u' ' + report["errors"_L1].toString();
 }
 
 // A busy machine is late now and then, so that what went wrong is tried again,
@@ -215,32 +222,32 @@ TEST_F(HostileServer, SeesOnlyOneHeaderOfOurs) {
     QEventLoop loop;
     QString text;
     start({"echo", nothing}, [&](const QJsonObject& report) {
-        text = report["text"].toString();
+        text = report["text"_L1].toString();
         loop.quit();
     });
     loop.exec();
     QStringList names;
-    for (const QString& line : text.split('\n')) {
-        if (line.contains(':')) {
-            names << line.section(':', 0, 0);
+    for (const QString& line : text.split(u'\n')) {
+        if (line.contains(u':')) {
+            names << line.section(u':', 0, 0);
         }
     }
-    // All but "Accept" are the network layer's own.
-    EXPECT_EQ(names, QStringList({"Accept-Encoding", "Accept-Language", "Accept", "Connection",
-                                  "Host", "User-Agent"}));
-    EXPECT_TRUE(text.contains("Accept: application/json\n")) << text.toStdString();
+    // All but "Accept" are Qt's own.
+    EXPECT_EQ(names, QStringList({u"Accept-Encoding"_s, u"Accept-Language"_s, u"Accept"_s,
+                                  u"Connection"_s, u"Host"_s, u"User-Agent"_s}));
+    EXPECT_TRUE(text.contains("Accept: application/json\n"_L1)) << text.toStdString();
 }
 
 TEST_F(HostileServer, GetsNoCookieBack) {
     QEventLoop loop;
     QString text;
     start({"sets-cookie", nothing}, [&](const QJsonObject& report) {
-        text = report["text"].toString();
+        text = report["text"_L1].toString();
         loop.quit();
     });
     loop.exec();
-    EXPECT_TRUE(text.contains("Accept:")) << text.toStdString();
-    EXPECT_FALSE(text.contains("Cookie")) << text.toStdString();
+    EXPECT_TRUE(text.contains("Accept:"_L1)) << text.toStdString();
+    EXPECT_FALSE(text.contains("Cookie"_L1)) << text.toStdString();
 }
 
 } // namespace

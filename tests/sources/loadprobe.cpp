@@ -20,11 +20,12 @@
 #include <cstdio>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 qint64 memoryKiB(const char* field) {
-    QFile status("/proc/self/status");
+    QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }
@@ -38,7 +39,7 @@ qint64 memoryKiB(const char* field) {
 }
 
 void forgetPeak() {
-    QFile refs("/proc/self/clear_refs");
+    QFile refs(u"/proc/self/clear_refs"_s);
     if (refs.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         refs.write("5");
     }
@@ -46,7 +47,7 @@ void forgetPeak() {
 
 // Milliseconds that the calling thread has been ready and waited for a processor.
 qint64 waitedForProcessor() {
-    QFile statistics("/proc/thread-self/schedstat");
+    QFile statistics(u"/proc/thread-self/schedstat"_s);
     if (!statistics.open(QIODevice::ReadOnly)) {
         return 0;
     }
@@ -128,20 +129,20 @@ int main(int argc, char** argv) {
         const qint64 before = memoryKiB("VmRSS:");
         forgetPeak();
         Gap gap;
-        const Outcome outcome = load(fetcher, arguments[2], arguments.value(3, "1").toInt());
-        report["gap"] = gap.longest();
-        report["memoryKiB"] = memoryKiB("VmHWM:") - before;
-        report["milliseconds"] = outcome.milliseconds;
+        const Outcome outcome = load(fetcher, arguments[2], arguments.value(3, u"1"_s).toInt());
+        report["gap"_L1] = gap.longest();
+        report["memoryKiB"_L1] = memoryKiB("VmHWM:") - before;
+        report["milliseconds"_L1] = outcome.milliseconds;
         if (outcome.quote) {
-            report["text"] = outcome.quote->text;
-            report["author"] = outcome.quote->author;
+            report["text"_L1] = outcome.quote->text;
+            report["author"_L1] = outcome.quote->author;
         }
         Gap quiet;
         idle(static_cast<int>(std::min<qint64>(outcome.milliseconds, 1000)));
-        report["quietGap"] = quiet.longest();
+        report["quietGap"_L1] = quiet.longest();
         parting.start();
     }
-    report["partingMilliseconds"] = parting.elapsed();
+    report["partingMilliseconds"_L1] = parting.elapsed();
     std::puts(QJsonDocument(report).toJson(QJsonDocument::Compact).constData());
     return 0;
 }

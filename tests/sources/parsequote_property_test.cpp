@@ -18,6 +18,7 @@
 #include <vector>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -121,7 +122,7 @@ std::optional<Quote> quoteOf(const Value& root, const RandomIndex& random) {
     if (author.isEmpty() && nested && nested->type == Value::Object) {
         author = textUnder(*nested, "name");
     }
-    return Quote{text, author.isEmpty() ? "Unknown" : author};
+    return Quote{text, author.isEmpty() ? u"Unknown"_s : author};
 }
 
 std::optional<Quote> plainQuote(const QString& body, int characters) {
@@ -129,7 +130,7 @@ std::optional<Quote> plainQuote(const QString& body, int characters) {
     if (text.isEmpty() || characters > 599 || text.front() == u'<') {
         return std::nullopt;
     }
-    return Quote{text, "Unknown"};
+    return Quote{text, u"Unknown"_s};
 }
 
 // The documents.
@@ -160,8 +161,9 @@ const QString joiner = QChar(0xFEFF); // from a literal of bytes it would be dro
 // Every character of these is one to the eye.
 QString randomText(Engine& engine) {
     static const std::vector<QString> pieces{
-        "A",  "B",      "<",      "\"",     "\\",     "/",    "1",      " ",      "\t",
-        "\n", "\u00A0", "\u2003", "\u0085", "\u200B", joiner, "\u2028", "\u00E9", "\u4E00"};
+        u"A"_s,      u"B"_s,      u"<"_s,  u"\""_s,     u"\\"_s,     u"/"_s,
+        u"1"_s,      u" "_s,      u"\t"_s, u"\n"_s,     u"\u00A0"_s, u"\u2003"_s,
+        u"\u0085"_s, u"\u200B"_s, joiner,  u"\u2028"_s, u"\u00E9"_s, u"\u4E00"_s};
     QString text;
     for (size_t count = below(engine, 4); count > 0; --count) {
         text += anyOf(engine, pieces);
@@ -215,14 +217,15 @@ Value randomValue(Engine& engine, int depth) {
 QString written(const Value& value, Engine& engine);
 
 QString blanks(Engine& engine) {
-    return oneIn(engine, 8) ? anyOf<QString>(engine, {" ", "\n", "\t ", " \n "}) : QString();
+    return oneIn(engine, 8) ? anyOf<QString>(engine, {u" "_s, u"\n"_s, u"\t "_s, u" \n "_s})
+                            : QString();
 }
 
 QString quoted(const QString& text, Engine& engine) {
-    QString out = "\"";
+    QString out = u"\""_s;
     for (const QChar c : text) {
         if (c.unicode() < 0x20 || c == u'"' || c == u'\\' || oneIn(engine, 4)) {
-            out += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QChar(u'0'));
+            out += u"\\u%1"_s.arg(c.unicode(), 4, 16, QChar(u'0'));
         } else {
             out += c;
         }
@@ -315,13 +318,14 @@ TEST_F(ParseQuoteProperty, TakesBrokenDocumentsForPlainText) {
             text.chop(1);
             break;
         case 1:
-            text += anyOf<QString>(engine, {"x", "}", "[]", ",", "\\"});
+            text += anyOf<QString>(engine, {u"x"_s, u"}"_s, u"[]"_s, u","_s, u"\\"_s});
             break;
         case 2:
             text.insert(1, u',');
             break;
         default:
-            text.prepend(anyOf<QString>(engine, {"<", "x", ",", "\u00A0" + joiner, "\u2003x"}));
+            text.prepend(anyOf<QString>(
+                engine, {u"<"_s, u"x"_s, u","_s, u"\u00A0"_s + joiner, u"\u2003x"_s}));
         }
         const std::optional<Quote> expected = plainQuote(text, int(trim(text).size()));
         Draws draws(seed);
@@ -334,26 +338,26 @@ TEST_F(ParseQuoteProperty, TakesBrokenDocumentsForPlainText) {
 }
 
 TEST_F(ParseQuoteProperty, CountsCharactersOfPlainTextByEye) {
-    const std::vector<QString> characters{"a",
-                                          "e\u0301",
-                                          "\u0928\u093F",
-                                          "\r\n",
-                                          "\U0001F600",
-                                          "\U0001F469\u200D\U0001F467",
+    const std::vector<QString> characters{u"a"_s,
+                                          u"e\u0301"_s,
+                                          u"\u0928\u093F"_s,
+                                          u"\r\n"_s,
+                                          u"\U0001F600"_s,
+                                          u"\U0001F469\u200D\U0001F467"_s,
                                           joiner,
-                                          "\U0001F1E9\U0001F1EA",
-                                          "\u1100\u1161\u11A8"};
+                                          u"\U0001F1E9\U0001F1EA"_s,
+                                          u"\u1100\u1161\u11A8"_s};
     int kept = 0;
     int refused = 0;
     for (const unsigned end = seed + 400; seed != end; ++seed) {
         Engine engine(seed);
         const int count = 590 + int(below(engine, 20));
-        QString text = "-"; // neither end is blank
+        QString text = u"-"_s; // neither end is blank
         for (int i = 0; i < count - 2; ++i) {
             text += anyOf(engine, characters);
         }
         text += u'-';
-        const QByteArray body = ("\n " + text + "\u2003").toUtf8();
+        const QByteArray body = ("\n "_L1 + text + u"\u2003"_s).toUtf8();
         const std::optional<Quote> expected = plainQuote(text, count);
         ASSERT_EQ(shown(parseQuote(body, [](qsizetype) { return qsizetype{0}; })), shown(expected))
             << "seed " << seed;

@@ -13,6 +13,7 @@
 #include <string>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -112,7 +113,7 @@ TEST(ParseQuoteBytes, AZeroByteIsNoEndOfADocument) {
 }
 
 TEST(ParseQuoteBytes, ReadsTheWideEncodings) {
-    const QString document = QStringLiteral(u"[{\"q\":\"\u00E9\u4E00\U0001F600\",\"a\":\"B\"}]");
+    const QString document = u"[{\"q\":\"\u00E9\u4E00\U0001F600\",\"a\":\"B\"}]"_s;
     const std::string result = "\xC3\xA9\xE4\xB8\x80\xF0\x9F\x98\x80|B";
     for (const auto encoding :
          {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE,
