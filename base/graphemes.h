@@ -8,14 +8,15 @@
 
 namespace morrowleaf {
 
-// User-perceived characters: extended grapheme clusters (Unicode Standard
-// Annex #29). From any thread.
+// User-perceived characters are extended grapheme clusters (Unicode Standard
+// Annex #29). Any thread.
+
 qsizetype characterCount(QStringView text);
 
 // Offsets, in UTF-16 units, of the end of each character, in order.
 QList<qsizetype> characterEnds(QStringView text);
 
-// Whether `text` has more than `limit` of them; looks no further than it must.
+// Whether `text` has more than `limit` characters. Reads no more than those.
 bool hasMoreCharacters(QStringView text, int limit);
 
 } // namespace morrowleaf

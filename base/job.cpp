@@ -54,7 +54,7 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
         const std::function<void()> call = std::move(delivery->done);
         call();
     };
-    const auto run = [link = delivery_->link, work = std::move(work), deliver]() mutable {
+    auto run = [link = delivery_->link, work = std::move(work), deliver]() mutable {
         if (link->stop.stop_requested()) {
             return;
         }
@@ -65,7 +65,7 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
             QMetaObject::invokeMethod(link->receiver, deliver, Qt::QueuedConnection);
         }
     };
-    pool.start(run, priority);
+    pool.start(std::move(run), priority);
 }
 
 } // namespace morrowleaf

@@ -18,16 +18,15 @@ struct Moment {
 
     static Moment now();
 
-    // To the millisecond below; invalid where no date can be given. Without a
-    // valid zone, in UTC.
+    // Rounded down to the millisecond, and in UTC without a valid zone. Invalid
+    // for NaN and beyond some 290 million years.
     QDateTime local() const;
-    // Days since 31 December of 1 BC (1 January of year 1 is day 1) of the
-    // local date, by the Gregorian count, negative before; 0 where there is no
-    // such date.
+    // The local date in days since 31 December of 1 BC (1 January of year 1 is
+    // day 1) in the Gregorian calendar, negative before; 0 if local() is invalid.
     qint64 dayOrdinal() const;
 };
 
-// Where a component gets the present from; tests hand in a fixed one.
+// Gives the present. Tests pass a fixed one.
 using Clock = std::function<Moment()>;
 
 } // namespace morrowleaf

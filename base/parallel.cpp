@@ -12,23 +12,23 @@
 
 namespace morrowleaf {
 
-void inParallel(int count, const std::function<void(int)>& what) {
+void inParallel(int count, const std::function<void(int)>& work) {
     std::atomic<int> next = 0;
-    const auto work = [&] {
+    const auto run = [&] {
         for (int i = next++; i < count; i = next++) {
-            what(i);
+            work(i);
         }
     };
     QSemaphore ended;
     const int wanted = std::min(count, QThread::idealThreadCount()) - 1;
     int helpers = 0;
     while (helpers < wanted && QThreadPool::globalInstance()->tryStart([&] {
-        work();
+        run();
         ended.release();
     })) {
         ++helpers;
     }
-    work();
+    run();
     ended.acquire(helpers);
 }
 

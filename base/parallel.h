@@ -7,8 +7,8 @@
 
 namespace morrowleaf {
 
-// Calls `what` with 0...count - 1, each once and in any order, on this thread
-// and on workers that have nothing else to do; returns when all have ended.
-void inParallel(int count, const std::function<void(int)>& what);
+// Calls `work` once with each of 0...count - 1, in any order, on this thread and
+// on idle threads of Qt's global pool. Returns when all calls have returned.
+void inParallel(int count, const std::function<void(int)>& work);
 
 } // namespace morrowleaf

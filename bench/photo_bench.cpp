@@ -72,7 +72,7 @@ const QString& largePhoto() {
 }
 
 void decodeLargePhoto(benchmark::State& state) {
-    const Photo photo{largePhoto(), photoSize};
+    const Photo photo{largePhoto()};
     forgetPeak();
     const qint64 before = residentKilobytes();
     for ([[maybe_unused]] auto _ : state) {
@@ -83,7 +83,7 @@ void decodeLargePhoto(benchmark::State& state) {
 }
 
 void decodeTile(benchmark::State& state) {
-    const Photo photo{largePhoto(), photoSize};
+    const Photo photo{largePhoto()};
     for ([[maybe_unused]] auto _ : state) {
         const QImage image = photo.decodeFilling({88, 38});
         benchmark::DoNotOptimize(image.constBits());

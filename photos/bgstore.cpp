@@ -21,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// What follows the last point of a name that has something before it.
+// What follows the last point of a name, unless that is its first character.
 QString extensionOf(const QString& fileName) {
     const qsizetype point = fileName.lastIndexOf(u'.');
     return point > 0 ? fileName.mid(point + 1) : QString();
@@ -38,7 +38,7 @@ QString newPhotoName(const QString& source) {
 QString ownPhotoFolder() {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (data.isEmpty()) {
-        qFatal("There is no folder for the data of programs.");
+        qFatal("There is no folder for application data.");
     }
     return data + u"/Morrowleaf/backgrounds"_s;
 }
@@ -76,7 +76,7 @@ void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QS
                    });
 }
 
-// The list may have grown while the worker copied.
+// The list may have grown during the copy.
 bool BGStore::list(const QString& copy) {
     QStringList own = Prefs::customBGs(store_);
     if (own.size() >= limit) {
@@ -113,7 +113,7 @@ QStringList BGStore::builtins() const {
             names.append(name);
         }
     }
-    // By code points, which the bytes of UTF-8 keep the order of.
+    // By code points; UTF-8 sorts like them.
     std::sort(names.begin(), names.end(),
               [](const QString& a, const QString& b) { return a.toUtf8() < b.toUtf8(); });
     for (QString& name : names) {

@@ -21,36 +21,38 @@ namespace morrowleaf {
 class SettingsStore;
 class PhotoImport;
 
-// Where the user's own photos are kept. A system that has no place for the
-// data of programs is a fatal error.
+// The folder of the user's own photos. Ends the program (qFatal) on a system
+// without a folder for application data.
 QString ownPhotoFolder();
 
 // The photos that can be chosen: those shipped with the program and up to
-// three of the user's own. A photo is named by its absolute path. Lives on the
-// main thread.
+// three of the user's own. A photo is named by its absolute path. Main thread.
 class BGStore {
 public:
     static constexpr int limit = 3;
 
-    // `workers` copy and decode. The global pool is the toolkit's own too: it
-    // paints with it, and would wait for a photo.
+    // `workers` copy and decode, and must outlive the store. The program passes
+    // a pool of its own: Qt paints with the global one, and would wait for a photo.
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
             QThreadPool& workers = *QThreadPool::globalInstance());
-    ~BGStore(); // an unfinished add leaves nothing behind, and is not reported
+    // An unfinished add leaves no file, and `done` is not called.
+    ~BGStore();
 
-    // Copies an image file into the own photos and lists it; the new path, or
-    // nothing when the list is full, the copy fails or it is no usable image.
-    // The copying runs in a worker; `done` is called later, on the main thread.
+    // Copies an image file into the own photos and lists it. `done` is called
+    // later, on this thread, with the new path, or with std::nullopt when the
+    // list is full, the copy fails or the file is not an image that can be shown.
     void add(const QString& sourcePath, std::function<void(std::optional<QString>)> done);
-    // Deletes the file, forgets the photo and, if it was chosen, the choice.
+    // Deletes the file and removes the photo from the list and, if it was
+    // chosen, from the settings. Ignores errors.
     void remove(const QString& path);
-    QStringList builtins() const; // listed afresh, by file name
-    // The same object on every call while it is readable; null otherwise.
+    // The built-in photos by file name, listed anew at every call.
+    QStringList builtins() const;
+    // The same object at every call while the photo is readable; null if not.
     std::shared_ptr<const Photo> image(const QString& path);
-    // A decode failed: the photo no longer counts as readable, until another
-    // file stands at its path.
+    // Records that decoding failed: image() gives null until the file at that
+    // path changes.
     void markUnreadable(const QString& path);
-    // For what decodes photos.
+    // For decoding photos.
     QThreadPool& workers() const { return workers_; }
 
 private:

@@ -112,7 +112,7 @@ std::optional<Photo> inspectPhoto(const QString& path) {
     if (!header || decodeBytes(*header, largestShown) > photoMemoryLimit) {
         return std::nullopt;
     }
-    return Photo{path, header->uprightSize()};
+    return Photo{path};
 }
 
 } // namespace morrowleaf

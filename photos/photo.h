@@ -14,7 +14,6 @@ namespace morrowleaf {
 // A photo that can be decoded. It holds no pixels.
 struct Photo {
     QString path;
-    QSize size; // pixels, after orientation
 
     // Decodes the picture so that it fills `target` (pixels), cropped about its
     // centre, upright, in sRGB, opaque (Format_RGB32, over black); null when

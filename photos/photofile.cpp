@@ -130,10 +130,6 @@ qint64 PhotoFile::readData(char* data, qint64 maxSize) {
     return read;
 }
 
-QSize PhotoHeader::uprightSize() const {
-    return orientation.testFlag(QImageIOHandler::TransformationRotate90) ? size.transposed() : size;
-}
-
 std::optional<PhotoHeader> readPhotoHeader(PhotoFile& file, QImageReader& reader) {
     if (!file.isOpen()) {
         return std::nullopt;

@@ -57,8 +57,6 @@ struct PhotoHeader {
     QImageIOHandler::Transformations orientation = QImageIOHandler::TransformationNone;
     qint64 bytesPerPixel = 4;  // of the decoded picture
     bool wholeInMemory = true; // the decoder needs all of it before it yields any
-
-    QSize uprightSize() const;
 };
 
 // Reads the header and leaves `reader` ready to decode. std::nullopt for files

@@ -18,8 +18,8 @@ struct Quote {
     bool operator==(const Quote&) const = default;
 };
 
-// Starts one load of a source as the user typed it; `done` is called at most
-// once, later, on the main thread, with nothing on any failure.
+// Loads a quotation from a source as the user typed it. Main thread; `done` is
+// called there at most once, later, with std::nullopt on any failure.
 using QuoteLoader =
     std::function<void(const QString& source, std::function<void(std::optional<Quote>)> done)>;
 

@@ -13,8 +13,10 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// Holds the quotation on show. Its first value comes from the cache (when a
-// source is set) or the schedule; one load of the source may replace it once.
+// Holds the quotation on show. Its first value comes from the cache in the
+// settings (where a source is set) or from the schedule; the load of the source
+// that it starts may replace it. What a load brings is cached, also when the
+// box is gone by then. Main thread.
 class QuoteBox : public QObject {
     Q_OBJECT
 
@@ -24,6 +26,7 @@ public:
              const RandomIndex& random, QObject* parent = nullptr);
 
     const Quote& quote() const { return quote_; }
+    // Loads the source again.
     void refresh();
 
 signals:

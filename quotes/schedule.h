@@ -12,11 +12,11 @@ namespace morrowleaf {
 // The built-in quotation of the moment's local calendar day.
 Quote quoteOfTheDay(const Moment& moment);
 
-// The built-in quotation that a frequency calls for: "6h" and "12h" count
-// slots of UTC since 1970, "every" draws anew, anything else is the quotation
-// of the day. For "6h" and "12h" the division truncates toward zero; an instant
-// whose slot leaves a negative remainder (so before 1970), or one that is not
-// a representable number of seconds, is a fatal error.
+// The built-in quotation for a frequency: "6h" and "12h" count slots of UTC
+// since 1970, "every" draws one with `random`, and anything else gives the
+// quotation of the day. For "6h" and "12h" the divisions truncate toward zero.
+// Ends the program (qFatal) if the slot leaves a negative remainder, which only
+// instants before 1970 do, or if the seconds are not representable in 64 bits.
 Quote scheduledQuote(const Moment& moment, const QString& frequency, const RandomIndex& random);
 
 } // namespace morrowleaf

@@ -18,7 +18,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto partingTime = 200ms;
+constexpr auto deadline = 6s;                       // from the call to the answer
+constexpr auto partingTime = 200ms;                 // for all loads, when the fetcher goes
+constexpr qsizetype bodyLimit = qsizetype{4} << 20; // bytes, decoded
 
 // Including loads that are stuck: no more than these pile up.
 constexpr int loadLimit = 32;
@@ -35,11 +37,10 @@ public:
             QTimer::singleShot(0, this, [this] { answer(std::nullopt); });
             return;
         }
-        QTimer::singleShot(fetcher.limits_.deadline, Qt::PreciseTimer, this,
-                           [this] { answer(std::nullopt); });
-        const auto load = [source, random = fetcher.random_, limit = fetcher.limits_.bytes](
+        QTimer::singleShot(deadline, Qt::PreciseTimer, this, [this] { answer(std::nullopt); });
+        const auto load = [source, random = fetcher.random_](
                               const std::stop_token& stop) -> std::optional<Quote> {
-            const std::optional<QByteArray> body = loadSource(source, limit, stop);
+            const std::optional<QByteArray> body = loadSource(source, bodyLimit, stop);
             return body && !stop.stop_requested() ? parseQuote(*body, random) : std::nullopt;
         };
         job_ =
@@ -60,10 +61,9 @@ private:
     Job job_;
 };
 
-QuoteFetcher::QuoteFetcher(RandomIndex random, const LoadLimits& limits, QObject* parent)
+QuoteFetcher::QuoteFetcher(RandomIndex random, QObject* parent)
     : QObject(parent)
     , random_(std::move(random))
-    , limits_(limits)
     , pool_(std::make_unique<QThreadPool>()) {
     pool_->setMaxThreadCount(loadLimit);
     pool_->setExpiryTimeout(0); // an idle program keeps no threads

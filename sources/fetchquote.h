@@ -8,7 +8,6 @@
 
 #include <QObject>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -17,18 +16,12 @@ class QThreadPool;
 
 namespace morrowleaf {
 
-// The bounds of one load.
-struct LoadLimits {
-    std::chrono::milliseconds deadline{6000};     // from the call to the answer
-    qsizetype bytes = qsizetype{4} * 1024 * 1024; // of the decoded body
-};
-
 // Loads quotations from sources: web addresses and local files. One object for
 // the program; it lives on the main thread, and all answers come there.
 //
 // Loads run on threads of their own, since one that the kernel holds (in a
 // resolver, or on a file system that hangs) cannot be ended: it is answered at
-// the deadline and keeps its thread. Destroying this object ends all loads
+// its deadline and keeps its thread. Destroying this object ends all loads
 // without an answer; it takes 200 ms at most and abandons threads that are
 // still busy then.
 class QuoteFetcher : public QObject {
@@ -38,12 +31,11 @@ public:
     using Done = std::function<void(std::optional<Quote>)>;
 
     // `random` is called on the threads of the loads.
-    explicit QuoteFetcher(RandomIndex random = secureRandomIndex(), const LoadLimits& limits = {},
-                          QObject* parent = nullptr);
+    explicit QuoteFetcher(RandomIndex random = secureRandomIndex(), QObject* parent = nullptr);
     ~QuoteFetcher() override;
 
-    // Loads a source as the user typed it. `done` is called once, later, at the
-    // deadline at the latest, with std::nullopt on any failure.
+    // Loads a source as the user typed it. `done` is called once, later, after
+    // 6 seconds at most, with std::nullopt on any failure.
     void fetchQuote(const QString& from, Done done);
 
     // fetchQuote of this object, which must outlive its use.
@@ -53,7 +45,6 @@ private:
     class Load;
 
     RandomIndex random_;
-    LoadLimits limits_;
     std::unique_ptr<QThreadPool> pool_;
 };
 

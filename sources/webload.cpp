@@ -60,7 +60,7 @@ bool canBeReached(const QUrl& url) {
 constexpr int redirectLimit = 20;
 constexpr qint64 readBuffer = qint64{64} * 1024;
 
-// No honest answer takes as much on the wire: while loading, and at its end.
+// Bytes on the wire that end a connection: during the load, and once it is over.
 constexpr std::uint64_t floodBytes = std::uint64_t{5} << 20U;
 constexpr std::uint64_t remainderBytes = std::uint64_t{1} << 20U;
 constexpr auto guardPause = std::chrono::milliseconds(100);
@@ -102,7 +102,7 @@ bool isAnswer(const QNetworkReply& reply) {
     }
 }
 
-// An error status hides from us that its body broke off.
+// Qt does not report that the body of an error status broke off.
 bool isComplete(const QNetworkReply& reply, qsizetype received) {
     const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
     return reply.error() == QNetworkReply::NoError || !announced.isValid() ||

@@ -287,7 +287,6 @@ TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
     const QString file = picture(u"a.png"_s);
     const auto first = photos->image(file);
     ASSERT_NE(first, nullptr);
-    EXPECT_EQ(first->size, QSize(40, 30));
     EXPECT_TRUE(QFile::remove(file));
     EXPECT_EQ(photos->image(file), first);
 }

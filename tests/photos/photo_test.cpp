@@ -130,7 +130,6 @@ TEST_F(PhotoTest, HonoursTheOrientation) {
         const auto photo = inspectPhoto(file(content));
         ASSERT_TRUE(photo);
         const QSize upright = orientation >= 5 ? QSize(40, 80) : QSize(80, 40);
-        EXPECT_EQ(photo->size, upright) << orientation;
         const QImage image = photo->decodeFilling(upright);
         ASSERT_EQ(image.size(), upright);
         const QPoint corner = ends[orientation - 1].topLeft();
@@ -254,7 +253,6 @@ TEST_F(PhotoTest, TakesALargePhotoThatCanBeReadSmaller) {
     const QByteArray large = encoded(QImage(8000, 6000, QImage::Format_Grayscale8), "jpg", 50);
     const auto photo = inspectPhoto(file(large));
     ASSERT_TRUE(photo);
-    EXPECT_EQ(photo->size, QSize(8000, 6000));
     EXPECT_EQ(photo->decodeFilling({192, 108}).size(), QSize(192, 108));
 }
 
