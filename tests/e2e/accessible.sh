@@ -13,7 +13,7 @@ start_x 1280x1024
 start_manager openbox
 start_reader
 echo '{"quote": "Still waters run deep.", "author": "A Proverb"}' >"$work/quote.json"
-settings "{\"quoteSourceURL\": \"$work/quote.json\", \"dismissSeconds\": 60,
+settings "{\"quoteSourceURL\": \"$work/quote.json\", \"dismissSeconds\": 600,
            \"screenAnimation\": \"still\", \"grainEnabled\": false}"
 
 start app "$MORROWLEAF"

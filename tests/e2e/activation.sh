@@ -15,7 +15,7 @@ cp "$installed/share/dbus-1/services/$id.service" "$XDG_DATA_HOME/dbus-1/service
 
 start_x 640x480
 start_manager openbox
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 start_session_bus
 application() {
     gdbus call --session -d $id -o /org/morrowleaf/Morrowleaf \

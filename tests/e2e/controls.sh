@@ -14,7 +14,7 @@ start_reader() {
     unset NO_AT_BRIDGE
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
     start launcher /usr/libexec/at-spi-bus-launcher --launch-immediately
-    until_true 30 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
+    until_true 60 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress || die "no accessibility bus"
 }
 

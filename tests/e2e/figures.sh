@@ -17,7 +17,7 @@ start_session_bus
 settings "{\"dismissSeconds\": 15${2:+, $2}}"
 start app "$MORROWLEAF"
 app=$last
-until_true 30 opened_since 0 || die "no showing"
+until_true 60 opened_since 0 || die "no showing"
 # of the threads that live: idle workers end after half a minute
 switches() { cat /proc/"$app"/task/*/status | awk '/^voluntary/ {s += $2} END {print s}'; }
 threads() { ls "/proc/$app/task" | wc -l; }
@@ -42,15 +42,15 @@ activate() {
 }
 close_it() {
     xdotool key Escape
-    until_true 30 is_gone || die "it stays"
+    until_true 60 is_gone || die "it stays"
     sleep 0.2
 }
 whole_showing() {
     local n
     n=$(maps)
     activate
-    until_true 30 opened_since "$n" || die "no showing"
-    until_true 30 is_gone || die "it stays"
+    until_true 60 opened_since "$n" || die "no showing"
+    until_true 60 is_gone || die "it stays"
 }
 
 close_it
@@ -60,7 +60,7 @@ activate
 sleep 6
 echo "  text at rest: $(for _ in 1 2 3; do over sleep 2.6; done | median)"
 echo "PSS while shown: $(pss) kB, anonymous $(own) kB"
-until_true 30 is_gone || die "it stays"
+until_true 60 is_gone || die "it stays"
 sleep 2
 echo "PSS idle: $(pss) kB, anonymous $(own) kB"
 sleep 35
@@ -85,9 +85,9 @@ for round in 1 2 3 4; do
     for _ in $(seq $((showings / 4))); do
         n=$(maps)
         activate
-        until_true 30 opened_since "$n" || die "no showing"
+        until_true 60 opened_since "$n" || die "no showing"
         xdotool key Escape
-        until_true 30 is_gone || die "it stays"
+        until_true 60 is_gone || die "it stays"
     done
     sleep 2
     echo "after $((round * (showings / 4))) showings: $(($(own) - memory)) anonymous kB more," \

@@ -9,7 +9,7 @@ here=$(dirname "$0")
 
 start_x 640x480
 start_manager openbox
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 close_it() {
     xdotool key Escape
     until_true 2 is_gone
@@ -60,7 +60,7 @@ four_at_once() {
 four_at_once "without a bus"
 kill -9 "$app"
 wait "$app" 2>/dev/null
-until_true 30 is_gone
+until_true 60 is_gone
 n=$(maps)
 start app "$MORROWLEAF"
 must "a killed one is no hindrance" opened_since "$n"

@@ -65,11 +65,11 @@ fail() {
     echo "FAILED: $*"
     failures=$((failures + 1))
 }
-# must SENTENCE COMMAND...: within half a minute
+# must SENTENCE COMMAND...: within a minute
 must() {
     local what=$1
     shift
-    if until_true 30 "$@"; then echo "ok: $what"; else fail "$what"; fi
+    if until_true 60 "$@"; then echo "ok: $what"; else fail "$what"; fi
 }
 # check SENTENCE COMMAND...: now
 check() {
@@ -124,7 +124,7 @@ outlast_throttle() {
 start_session_bus() {
     start bus dbus-daemon --session --nofork --nopidfile --address="unix:path=$work/run/bus"
     bus_pid=$last
-    until_true 30 test -S "$work/run/bus" || die "no session bus"
+    until_true 60 test -S "$work/run/bus" || die "no session bus"
     export DBUS_SESSION_BUS_ADDRESS=unix:path=$work/run/bus
 }
 
@@ -139,6 +139,6 @@ EOF
     rm -f "$work/run/system-bus"
     start systembus dbus-daemon --config-file="$work/system.conf" --nofork --nopidfile
     system_bus_pid=$last
-    until_true 30 test -S "$work/run/system-bus" || die "no system bus"
+    until_true 60 test -S "$work/run/system-bus" || die "no system bus"
     export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/system-bus
 }

@@ -9,8 +9,8 @@ login=org.freedesktop.login1
 start_logind() {
     start logind /usr/bin/python3 -m dbusmock --system --template logind
     logind_pid=$last
-    until_true 30 add_session c1 "$(id -u)" || die "no login manager"
-    until_true 30 add_session c2 4242
+    until_true 60 add_session c1 "$(id -u)" || die "no login manager"
+    until_true 60 add_session c2 4242
     export XDG_SESSION_ID=c1
 }
 call_login() { gdbus call --system --timeout 5 -d $login "$@"; }
@@ -32,7 +32,7 @@ wake() {
 start_saver() {
     start saver /usr/bin/python3 -m dbusmock --session org.freedesktop.ScreenSaver \
         /org/freedesktop/ScreenSaver org.freedesktop.ScreenSaver
-    until_true 30 gdbus call --session -d org.freedesktop.ScreenSaver \
+    until_true 60 gdbus call --session -d org.freedesktop.ScreenSaver \
         -o /org/freedesktop/ScreenSaver -m org.freedesktop.DBus.Peer.Ping || die "no screen saver"
 }
 saver_active() {

@@ -11,7 +11,7 @@ start_x 1280x800
 start_manager openbox
 start_session_bus
 "$here/largephoto.py" "$work/large.png" || die "no photo"
-settings "{\"dismissSeconds\": 60, \"screenAnimation\": \"still\",
+settings "{\"dismissSeconds\": 600, \"screenAnimation\": \"still\",
     \"backgroundImagePath\": \"$work/large.png\"}"
 
 # Processor time in hundredths of a second, of the whole program and of the

@@ -20,8 +20,8 @@ start_manager openbox
 start_session_bus
 start portal /usr/bin/python3 "$here/portal.py" serve 1
 portal_pid=$last
-until_true 30 grep -q serving "$work/portal.log" || die "no portal"
-settings '{"screenAnimation": "still", "grainEnabled": false, "dismissSeconds": 60}'
+until_true 60 grep -q serving "$work/portal.log" || die "no portal"
+settings '{"screenAnimation": "still", "grainEnabled": false, "dismissSeconds": 600}'
 convert -size 80x60 xc:red "$work/red.png"
 
 start app "$MORROWLEAF" --settings

@@ -14,7 +14,7 @@ start_x 1280x1024
 start_manager "${1:-openbox}"
 start_reader
 start server "$here/patientserver.py" "$work/port" "$work/release"
-until_true 30 test -s "$work/port" || die "no server"
+until_true 60 test -s "$work/port" || die "no server"
 slow=http://127.0.0.1:$(cat "$work/port")/quote
 begin_with '{"screenAnimation": "still", "grainEnabled": false}'
 autostart=$XDG_CONFIG_HOME/autostart/org.morrowleaf.Morrowleaf.desktop

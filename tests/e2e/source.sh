@@ -14,11 +14,11 @@ start_compositor
 start_session_bus
 start server "$here/patientserver.py" "$work/port" "$work/release"
 server=$last
-until_true 30 test -s "$work/port" || die "no server"
+until_true 60 test -s "$work/port" || die "no server"
 address=http://127.0.0.1:$(cat "$work/port")/quote
 
 # Nothing moves once the entrance is over, so pictures can be compared.
-look='"dismissSeconds": 60, "screenAnimation": "still", "paletteIndex": 4'
+look='"dismissSeconds": 600, "screenAnimation": "still", "paletteIndex": 4'
 store=$XDG_CONFIG_HOME/morrowleaf/settings.json
 
 launch() {
@@ -26,7 +26,7 @@ launch() {
     n=$(maps)
     start app "$MORROWLEAF"
     app=$last
-    until_true 30 opened_since "$n" || die "no showing"
+    until_true 60 opened_since "$n" || die "no showing"
 }
 leave() {
     kill -TERM "$app"

@@ -11,7 +11,7 @@ start_x 1280x800
 start_manager openbox
 start_session_bus
 start server "$here/patientserver.py" "$work/port" "$work/release"
-until_true 30 test -s "$work/port" || die "no server"
+until_true 60 test -s "$work/port" || die "no server"
 store=$XDG_CONFIG_HOME/morrowleaf/settings.json
 
 asked() { [ "$(grep -c 'asked for' "$work/server.log")" -ge "$1" ]; }
@@ -24,7 +24,7 @@ quits_quickly() {
     start app "$MORROWLEAF"
     app=$last
     loads=$((loads + 1))
-    until_true 30 asked "$loads" || die "the source was not asked"
+    until_true 60 asked "$loads" || die "the source was not asked"
     began=${EPOCHREALTIME/./}
     kill -"$signal" "$app"
     wait "$app"

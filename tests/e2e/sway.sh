@@ -16,11 +16,11 @@ for_window [title=".*"] floating enable
 CONF
     WLR_BACKENDS=headless WLR_LIBINPUT_NO_DEVICES=1 WLR_RENDERER=pixman WLR_HEADLESS_OUTPUTS=$1 \
         start sway sway -c "$work/sway.conf"
-    until_true 30 test -S "$work/run/wayland-1" || die "no compositor"
+    until_true 60 test -S "$work/run/wayland-1" || die "no compositor"
     export WAYLAND_DISPLAY=wayland-1
     SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
     export SWAYSOCK
-    until_true 30 swaymsg -t get_version || die "no compositor"
+    until_true 60 swaymsg -t get_version || die "no compositor"
 }
 
 has_window() { swaymsg -t get_tree -r | jq -e ".. | objects | select(.name? == \"$1\" and .visible)"; }

@@ -12,14 +12,14 @@ host() { /usr/bin/python3 "$here/notifierhost.py" "$@"; }
 start_host() {
     start host /usr/bin/python3 "$here/notifierhost.py" serve
     host_pid=$last
-    until_true 30 grep -q serving "$work/host.log" || die "no tray host"
+    until_true 60 grep -q serving "$work/host.log" || die "no tray host"
 }
 has_item() { grep -q '^item' "$work/host.log"; }
 
 start_x 640x480
 start_manager openbox
 start_session_bus
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 start app "$MORROWLEAF" --settings
 app=$last
 must "it runs without a tray" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
@@ -85,7 +85,7 @@ symbol_is() {
 must "the symbol is dark on a light desktop" symbol_is '[0-5]?[0-9]'
 portal() { /usr/bin/python3 "$here/portal.py" "$@"; }
 start portal /usr/bin/python3 "$here/portal.py" serve 2
-until_true 30 grep -q serving "$work/portal.log" || die "no portal"
+until_true 60 grep -q serving "$work/portal.log" || die "no portal"
 portal scheme 1
 must "and light when it turns dark" symbol_is '2[0-9][0-9]'
 

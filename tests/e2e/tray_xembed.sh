@@ -11,11 +11,11 @@ here=$(dirname "$0")
 start_x 640x480
 start_manager openbox
 start_session_bus
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 start_tray() {
     start tray trayer --edge bottom --align right --widthtype request --height 24
     tray_pid=$last
-    until_true 30 xdotool search --onlyvisible --name '^panel$' || die "no tray"
+    until_true 60 xdotool search --onlyvisible --name '^panel$' || die "no tray"
 }
 # The tray grows with the first symbol and gives it a window inside its own.
 symbol() {
@@ -58,7 +58,7 @@ xdotool key Escape
 must "a key closes it" is_gone
 
 kill "$tray_pid"
-until_true 30 not kill -0 "$tray_pid"
+until_true 60 not kill -0 "$tray_pid"
 check "the program outlives the tray" kill -0 "$app"
 start_tray
 must "another tray gets the symbol again" has_symbol

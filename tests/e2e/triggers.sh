@@ -33,7 +33,7 @@ start_manager openbox
 start_session_bus
 start_system_bus
 start_logind
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 start app "$MORROWLEAF"
 app=$last
 must "a launch shows the quotation" opened_since 0
@@ -42,7 +42,7 @@ settle
 throttle_over() { outlast_throttle "$(last_map)"; }
 close_it() {
     xdotool key Escape
-    until_true 30 is_gone || fail "it could not be closed"
+    until_true 60 is_gone || fail "it could not be closed"
 }
 # order NAME COMMAND...: the commands lead to exactly one showing
 order() {
@@ -110,11 +110,11 @@ services() {
     unlock c2
     settle
     check "another user's unlock shows nothing" mapped_times "$n"
-    change_settings '{"dismissSeconds": 60, "showOnWake": false}'
+    change_settings '{"dismissSeconds": 600, "showOnWake": false}'
     wake
     settle
     check "nor a wake when the user wants none" mapped_times "$n"
-    change_settings '{"dismissSeconds": 60}'
+    change_settings '{"dismissSeconds": 600}'
 
     stop "$logind_pid"
     settle

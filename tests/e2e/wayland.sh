@@ -28,7 +28,7 @@ must "it goes by itself" uncovered
 waited=$(((${EPOCHREALTIME/./} - opened) / 100000))
 check "after its five seconds" test "$waited" -ge 50
 
-change_settings '{"dismissSeconds": 60}'
+change_settings '{"dismissSeconds": 600}'
 "$MORROWLEAF" || fail "a second launch ends with status 0"
 must "a second launch shows it again" covered
 QT_QPA_PLATFORM=wayland start late "$E2E_WINDOW" late '#00ffff' 500 500 200 200
@@ -41,7 +41,7 @@ check "and goes nowhere else" not grep -q '^key q' "$work/window.log" "$work/lat
 wtype -s 200 x
 must "the window has the keyboard again" grep -q '^key x' "$work/window.log" "$work/late.log"
 
-change_settings '{"dismissSeconds": 60, "backdropTransparency": 0.7}'
+change_settings '{"dismissSeconds": 600, "backdropTransparency": 0.7}'
 "$MORROWLEAF"
 must "it shows over a picture of the desktop" covered
 wtype -s 200 -k Escape

@@ -22,7 +22,7 @@ start_sway 0
 start_session_bus
 start_system_bus
 start_logind
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 
 # What the program asks of the compositor is all in its log.
 log=$work/app.log

@@ -16,15 +16,15 @@ start_manager openbox
 outside=$DISPLAY
 printf 'output * bg #206040 solid_color\nxwayland disable\n' >"$work/sway.conf"
 WLR_BACKENDS=x11 WLR_X11_OUTPUTS=2 WLR_RENDERER=pixman start sway sway -c "$work/sway.conf"
-until_true 30 test -S "$work/run/wayland-1" || die "no compositor"
+until_true 60 test -S "$work/run/wayland-1" || die "no compositor"
 unset DISPLAY
 export WAYLAND_DISPLAY=wayland-1
 SWAYSOCK=$(ls "$work"/run/sway-ipc.*.sock)
 export SWAYSOCK
 outputs() { [ "$(swaymsg -t get_outputs -r | jq length)" -eq "$1" ]; }
-until_true 30 outputs 2 || die "no two outputs"
+until_true 60 outputs 2 || die "no two outputs"
 start_session_bus
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 
 log=$work/app.log
 opened() { [ "$(grep -c 'get_layer_surface(' "$log")" -eq "$1" ]; }

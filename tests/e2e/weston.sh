@@ -27,12 +27,12 @@ locking=false
 EOI
 start weston weston --backend=x11-backend.so --use-pixman --width=640 --height=480 \
     --config="$work/weston.ini" --socket=wayland-test
-until_true 30 test -S "$work/run/wayland-test" || die "no compositor"
+until_true 60 test -S "$work/run/wayland-test" || die "no compositor"
 start_session_bus
 unset DISPLAY
 export WAYLAND_DISPLAY=wayland-test
 if [ "${1:-}" = xwayland ]; then
-    until_true 30 grep -q 'xserver listening on display' "$work/weston.log" || die "no Xwayland"
+    until_true 60 grep -q 'xserver listening on display' "$work/weston.log" || die "no Xwayland"
     DISPLAY=$(sed -n 's/.*xserver listening on display //p' "$work/weston.log")
     export DISPLAY
 fi
@@ -49,7 +49,7 @@ start app "$MORROWLEAF"
 app=$last
 must "a launch covers both" covered
 must "it goes by itself" uncovered
-change_settings '{"dismissSeconds": 60}'
+change_settings '{"dismissSeconds": 600}'
 again() {
     "$MORROWLEAF"
     must "a second launch shows it" covered

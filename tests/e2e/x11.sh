@@ -10,13 +10,13 @@ start_x() {
         >"$work/xvfb.log" 2>&1 &
     x_pid=$!
     pids+=("$x_pid")
-    until_true 30 test -s "$work/display" || die "no X server"
+    until_true 60 test -s "$work/display" || die "no X server"
     DISPLAY=:$(cat "$work/display")
     export DISPLAY
-    until_true 30 xdpyinfo || die "no X server"
+    until_true 60 xdpyinfo || die "no X server"
     xsetroot -solid '#206040'
     start mapwatch "$E2E_MAPWATCH" Morrowleaf
-    until_true 30 grep -q watching "$work/mapwatch.log" || die "no watcher"
+    until_true 60 grep -q watching "$work/mapwatch.log" || die "no watcher"
 }
 
 # start_manager openbox|xfwm4|none
@@ -26,19 +26,19 @@ start_manager() {
     xfwm4) start manager xfwm4 --compositor=off ;;
     *) start manager "$1" ;;
     esac
-    until_true 30 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
+    until_true 60 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
         die "no window manager"
 }
 
 start_compositor() {
     start compositor picom --backend xrender --config /dev/null
-    until_true 30 sh -c 'xwininfo -root -tree | grep -qi picom' || die "no compositor"
+    until_true 60 sh -c 'xwininfo -root -tree | grep -qi picom' || die "no compositor"
 }
 
 # put_window TITLE COLOUR X Y WIDTH HEIGHT [KIND]
 put_window() {
     start "window-$1" "$E2E_WINDOW" "$@"
-    until_true 30 xdotool search --onlyvisible --name "^$1\$" || die "no window $1"
+    until_true 60 xdotool search --onlyvisible --name "^$1\$" || die "no window $1"
 }
 
 maps() { grep -c '^map$' "$work/mapwatch.log"; }
@@ -55,7 +55,7 @@ mark_display() {
     local n
     n=$(marks)
     DISPLAY=${outside:-$DISPLAY} xprop -root -f E2E_MARK 8s -set E2E_MARK "$n"
-    until_true 30 marked_since "$n" || die "the watcher sees no mark"
+    until_true 60 marked_since "$n" || die "the watcher sees no mark"
 }
 marks() { grep -c '^mark$' "$work/mapwatch.log"; }
 marked_since() { [ "$(marks)" -gt "$1" ]; }

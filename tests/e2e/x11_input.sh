@@ -13,7 +13,7 @@ start_manager openbox
 start_session_bus
 start_system_bus
 start_logind
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 put_window typing '#ffff00' 50 50 200 200
 start app "$MORROWLEAF"
 app=$last
@@ -48,7 +48,7 @@ must "nor Escape" is_gone
 # A game in full screen that holds everything.
 put_window game '#00ff00' 0 0 640 480 grabbing
 game=$last
-until_true 30 grep -q grabbed "$work/window-game.log" || die "no grab"
+until_true 60 grep -q grabbed "$work/window-game.log" || die "no grab"
 show_again
 xdotool key w
 must "a key goes to whom holds the keyboard" grep -q '^key w' "$work/window-game.log"

@@ -15,7 +15,7 @@ xrandr --setmonitor right 800/200x600/150+800+0 none
 start_session_bus
 start_system_bus
 start_logind
-settings '{"dismissSeconds": 60}'
+settings '{"dismissSeconds": 600}'
 put_window onleft '#ffff00' 100 100 300 300
 put_window onright '#ff00ff' 1000 100 300 300
 

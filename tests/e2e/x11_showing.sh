@@ -34,7 +34,7 @@ echo "closed after $waited tenths of a second"
 check "after five seconds, not two" test "$waited" -ge 49
 check "after five seconds, not fifteen" test "$waited" -le 130
 
-change_settings '{"dismissSeconds": 60}'
+change_settings '{"dismissSeconds": 600}'
 show_again() {
     local n
     n=$(maps)
