@@ -74,9 +74,7 @@ protected:
         return QDir(own).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
     QStringList listed() const { return Prefs::customBGs(store); }
-    void list(const QStringList& paths) {
-        store.set(K::customBGs, paths);
-    }
+    void list(const QStringList& paths) { store.set(K::customBGs, paths); }
 
     QTemporaryDir folder;
     SettingsStore store;
