@@ -16,31 +16,31 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString fileName = "org.morrowleaf.Morrowleaf.desktop";
+const QString fileName = u"org.morrowleaf.Morrowleaf.desktop"_s;
 
-QString entryThatStarts(const QString& program) {
-    return "[Desktop Entry]\n"
+QString startingEntry(const QString& program) {
+    return u"[Desktop Entry]\n"
            "Type=Application\n"
            "Name=Morrowleaf\n"
            "Comment=Greets you with one quotation\n"
            "Icon=org.morrowleaf.Morrowleaf\n"
-           "TryExec=" +
-           desktopString(program) +
-           "\n"
-           "Exec=" +
-           desktopCommand(program) +
-           "\n"
-           "X-GNOME-Autostart-enabled=true\n";
+           "TryExec=%1\n"
+           "Exec=%2\n"
+           "X-GNOME-Autostart-enabled=true\n"_s.arg(desktopString(program),
+                                                    desktopCommand(program));
 }
 
-const char* const entryThatHides = "[Desktop Entry]\n"
-                                   "Type=Application\n"
-                                   "Name=Morrowleaf\n"
-                                   "Hidden=true\n";
+const QString hidingEntry = u"[Desktop Entry]\n"
+                            "Type=Application\n"
+                            "Name=Morrowleaf\n"
+                            "Hidden=true\n"_s;
 
-std::optional<QString> writeWhole(const QString& path, const QString& text) {
+// Returns the system's error message on failure.
+std::optional<QString> writeEntry(const QString& path, const QString& text) {
     std::error_code error;
     std::filesystem::create_directories(
         QFile::encodeName(QFileInfo(path).absolutePath()).toStdString(), error);
@@ -54,18 +54,18 @@ std::optional<QString> writeWhole(const QString& path, const QString& text) {
     return std::nullopt;
 }
 
-// This program's file. Where a newer one has taken its place since the start,
-// the kernel still tells the old one's fate.
+// The file of this program. Where a newer version has replaced it since the
+// start, the kernel marks the old path as deleted.
 QString ownProgram() {
-    const QString mark = " (deleted)";
-    QString program = QFileInfo("/proc/self/exe").symLinkTarget();
+    const auto mark = " (deleted)"_L1;
+    QString program = QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
     if (program.endsWith(mark) && !QFileInfo::exists(program)) {
         program.chop(mark.size());
     }
     return program;
 }
 
-bool canBeRun(const QString& program) {
+bool isRunnable(const QString& program) {
     if (QDir::isAbsolutePath(program)) {
         const QFileInfo file(program);
         return file.isFile() && file.isExecutable();
@@ -80,22 +80,22 @@ public:
 
     Status status() const override {
         const auto entry = readDesktopEntry(effectiveFile());
-        if (!entry || entry->value("Hidden") == "true") {
+        if (!entry || entry->value(u"Hidden"_s) == "true"_L1) {
             return Status::NotRegistered;
         }
-        const auto tryExec = entry->find("TryExec");
-        const bool runs = tryExec == entry->end() || canBeRun(*tryExec);
-        const bool switchedOff = entry->value("X-GNOME-Autostart-enabled") == "false";
+        const auto tryExec = entry->find(u"TryExec"_s);
+        const bool runs = tryExec == entry->end() || isRunnable(*tryExec);
+        const bool switchedOff = entry->value(u"X-GNOME-Autostart-enabled"_s) == "false"_L1;
         return runs && !switchedOff ? Status::Enabled : Status::RequiresApproval;
     }
 
     std::optional<QString> registerItem() override {
-        return writeWhole(userFile(), entryThatStarts(places_.program));
+        return writeEntry(userFile(), startingEntry(places_.program));
     }
 
     std::optional<QString> unregisterItem() override {
         if (!systemFile().isEmpty()) {
-            return writeWhole(userFile(), entryThatHides);
+            return writeEntry(userFile(), hidingEntry);
         }
         QFile file(userFile());
         if (file.remove() || !file.exists()) {
@@ -105,10 +105,10 @@ public:
     }
 
 private:
-    QString userFile() const { return places_.userFolder + '/' + fileName; }
+    QString userFile() const { return places_.userFolder + u'/' + fileName; }
     QString systemFile() const {
         for (const QString& folder : places_.systemFolders) {
-            QString path = folder + '/' + fileName;
+            QString path = folder + u'/' + fileName;
             if (QFileInfo(path).isFile()) {
                 return path;
             }
@@ -125,19 +125,18 @@ private:
 } // namespace
 
 AutostartPlaces autostartPlaces() {
-    // The variables themselves: not every way of starting makes an application
-    // object first.
+    // Not QStandardPaths, which depends on the application object.
     QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
     if (!QDir::isAbsolutePath(config)) {
-        config = QDir::homePath() + "/.config";
+        config = QDir::homePath() + "/.config"_L1;
     }
     QStringList systemFolders;
     const QStringList roots =
-        qEnvironmentVariable("XDG_CONFIG_DIRS", "/etc/xdg").split(':', Qt::SkipEmptyParts);
+        qEnvironmentVariable("XDG_CONFIG_DIRS", u"/etc/xdg"_s).split(u':', Qt::SkipEmptyParts);
     for (const QString& root : roots) {
-        systemFolders << root + "/autostart";
+        systemFolders << root + "/autostart"_L1;
     }
-    return {.userFolder = config + "/autostart",
+    return {.userFolder = config + "/autostart"_L1,
             .systemFolders = systemFolders,
             .program = ownProgram()};
 }

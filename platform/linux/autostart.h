@@ -12,15 +12,15 @@
 namespace morrowleaf {
 
 struct AutostartPlaces {
-    QString userFolder;        // where the user's entry goes
-    QStringList systemFolders; // where the system's entries are, first one first
-    QString program;           // absolute path of what shall be started
+    QString userFolder;        // of the user's entries
+    QStringList systemFolders; // of the system's entries, the most important first
+    QString program;           // absolute path of the program to start
 };
 
-// The places of this session and this program.
+// The places for this session and this program. Needs no application object.
 AutostartPlaces autostartPlaces();
 
-// A login item by an entry in the desktop's autostart folder.
+// A login item by a desktop entry in the user's autostart folder.
 std::unique_ptr<LoginItem> makeAutostart(AutostartPlaces places);
 
 } // namespace morrowleaf

@@ -9,77 +9,24 @@
 #include "platform/linux/desktopparts.h"
 #include "platform/linux/wayland/waylandconnection.h"
 #include "platform/linux/wayland/waylandparts.h"
+#include "platform/linux/windowsystem.h"
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11parts.h"
 #include "platform/null/nullplatform.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QStandardPaths>
 
 #include <malloc.h>
-#include <optional>
 
 namespace morrowleaf {
 
-// The ways in which a window can come to stand above everything.
-enum class WindowSystem : int {
-    Null,     // nothing of the desktop is used
-    X11,      // a window that no window manager touches
-    Layer,    // a Wayland layer surface
-    Xwayland, // a managed full-screen window of Xwayland
-    Wayland,  // an opaque full-screen window of the compositor
-};
-
 namespace {
 
-// What the environment variable MORROWLEAF_PLATFORM asks for, if anything.
-std::optional<WindowSystem> forced() {
-    const QByteArray name = qgetenv("MORROWLEAF_PLATFORM");
-    if (name == "null") {
-        return WindowSystem::Null;
-    }
-    if (name == "x11") {
-        return WindowSystem::X11;
-    }
-    if (name == "wayland") {
-        return WindowSystem::Layer;
-    }
-    if (name == "xwayland") {
-        return WindowSystem::Xwayland;
-    }
-    return std::nullopt;
-}
-
-// What the session offers, best first.
-WindowSystem offered() {
-    const wayland::Session session = wayland::probeSession();
-    if (!session.isReachable) {
-        return WindowSystem::X11;
-    }
-    if (session.hasLayerShell) {
-        return WindowSystem::Layer;
-    }
-    return qEnvironmentVariableIsEmpty("DISPLAY") ? WindowSystem::Wayland : WindowSystem::Xwayland;
-}
-
-const char* pluginFor(WindowSystem system) {
-    switch (system) {
-    case WindowSystem::X11:
-    case WindowSystem::Xwayland:
-        return "xcb";
-    case WindowSystem::Layer:
-    case WindowSystem::Wayland:
-        return "wayland";
-    case WindowSystem::Null:
-        break;
-    }
-    return nullptr;
-}
-
-// Without an address the bus library would start a bus, which nobody else uses
-// and which outlives us; where one is or may come is known.
-void stayOnTheBusThatIsThere() {
+// Without an address libdbus would start a bus of its own, which nobody else
+// uses and which outlives the program. Name the one that is, or may come, at the
+// usual place.
+void avoidStartingABus() {
     constexpr const char* address = "DBUS_SESSION_BUS_ADDRESS";
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (qEnvironmentVariableIsEmpty(address) && !folder.isEmpty()) {
@@ -87,40 +34,40 @@ void stayOnTheBusThatIsThere() {
     }
 }
 
-// Pictures get pages of their own, which go back the moment they are freed: by
-// default the limit rises with what is freed, and the arenas of threads keep it.
-constexpr int ownPagesFrom = 1 << 20; // bytes
+// Large blocks, which are mostly pictures, get pages of their own and are
+// unmapped when they are freed. By default the threshold rises with every freed
+// block, and the arenas of threads keep what is below it.
+void unmapLargeBlocks() {
+    constexpr int threshold = 1 << 20; // bytes
+    mallopt(M_MMAP_THRESHOLD, threshold);
+}
 
 } // namespace
 
 WindowSystem chooseWindowSystem() {
-    stayOnTheBusThatIsThere();
-    const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
-    const WindowSystem system = forced().value_or(offered());
-    const char* plugin = pluginFor(system);
-    if (plugin == nullptr) {
-        return system;
+    avoidStartingABus();
+    const wayland::Session session = wayland::probeSession();
+    const WindowSystemChoice choice =
+        chooseFor({.forced = qgetenv("MORROWLEAF_PLATFORM"),
+                   .qtPlatform = qgetenv("QT_QPA_PLATFORM"),
+                   .hasWayland = session.isReachable,
+                   .hasLayerShell = session.hasLayerShell,
+                   .hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY")});
+    if (choice.plugin != nullptr) {
+        qputenv("QT_QPA_PLATFORM", choice.plugin);
     }
-    if (!wanted.isEmpty() && !wanted.startsWith(plugin)) {
-        // The user knows better than we what shall draw the windows.
-        if (wanted.startsWith("xcb")) {
-            return system == WindowSystem::X11 ? system : WindowSystem::Xwayland;
-        }
-        return wanted.startsWith("wayland") ? WindowSystem::Wayland : WindowSystem::Null;
-    }
-    qputenv("QT_QPA_PLATFORM", plugin);
-    if (system == WindowSystem::Layer) {
-        // Windows that ask for it get no role of their own, and can be given one.
+    if (choice.system == WindowSystem::Layer) {
+        // Lets a window ask Qt for a surface without a role.
         qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     }
-    return system;
+    return choice.system;
 }
 
 bool isReachable(WindowSystem system) {
     switch (system) {
     case WindowSystem::X11:
     case WindowSystem::Xwayland:
-        return x11::serverAnswers();
+        return x11::isServerReachable();
     case WindowSystem::Layer:
     case WindowSystem::Wayland:
         return wayland::probeSession().isReachable;
@@ -135,7 +82,7 @@ Platform makePlatform(WindowSystem system) {
     if (system == WindowSystem::Null) {
         return platform;
     }
-    mallopt(M_MMAP_THRESHOLD, ownPagesFrom);
+    unmapLargeBlocks();
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
     platform.colorScheme = std::make_unique<PortalColorScheme>();
     platform.fileChooser = std::make_unique<PortalFileChooser>();

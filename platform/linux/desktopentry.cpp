@@ -9,6 +9,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 largestEntry = 64 * 1024; // bytes
@@ -16,22 +18,22 @@ constexpr qint64 largestEntry = 64 * 1024; // bytes
 QString unescaped(const QString& value) {
     QString text;
     for (qsizetype i = 0; i < value.size(); ++i) {
-        if (value[i] != '\\' || i + 1 == value.size()) {
+        if (value[i] != u'\\' || i + 1 == value.size()) {
             text += value[i];
             continue;
         }
         switch (value[++i].unicode()) {
         case 's':
-            text += ' ';
+            text += u' ';
             break;
         case 'n':
-            text += '\n';
+            text += u'\n';
             break;
         case 't':
-            text += '\t';
+            text += u'\t';
             break;
         case 'r':
-            text += '\r';
+            text += u'\r';
             break;
         default:
             text += value[i];
@@ -43,7 +45,7 @@ QString unescaped(const QString& value) {
 } // namespace
 
 std::optional<QMap<QString, QString>> readDesktopEntry(const QString& path) {
-    // Anything but a plain file may block for ever.
+    // Opening a pipe or a device could block.
     if (!QFileInfo(path).isFile()) {
         return std::nullopt;
     }
@@ -51,20 +53,20 @@ std::optional<QMap<QString, QString>> readDesktopEntry(const QString& path) {
     if (!file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
-    const QStringList lines = QString::fromUtf8(file.read(largestEntry)).split('\n');
+    const QStringList lines = QString::fromUtf8(file.read(largestEntry)).split(u'\n');
     std::optional<QMap<QString, QString>> entry;
     bool inside = false;
     for (const QString& raw : lines) {
         const QString line = raw.trimmed();
-        if (line.startsWith('[')) {
-            inside = line == "[Desktop Entry]";
+        if (line.startsWith(u'[')) {
+            inside = line == "[Desktop Entry]"_L1;
             if (inside && !entry) {
                 entry.emplace();
             }
             continue;
         }
-        const qsizetype equals = line.indexOf('=');
-        if (inside && equals > 0 && !line.startsWith('#')) {
+        const qsizetype equals = line.indexOf(u'=');
+        if (inside && equals > 0 && !line.startsWith(u'#')) {
             entry->insert(line.left(equals).trimmed(), unescaped(line.mid(equals + 1).trimmed()));
         }
     }
@@ -73,9 +75,12 @@ std::optional<QMap<QString, QString>> readDesktopEntry(const QString& path) {
 
 QString desktopString(const QString& text) {
     QString escaped = text;
-    escaped.replace('\\', "\\\\").replace('\n', "\\n").replace('\t', "\\t").replace('\r', "\\r");
-    if (escaped.startsWith(' ')) {
-        escaped.replace(0, 1, "\\s");
+    escaped.replace(u'\\', "\\\\"_L1)
+        .replace(u'\n', "\\n"_L1)
+        .replace(u'\t', "\\t"_L1)
+        .replace(u'\r', "\\r"_L1);
+    if (escaped.startsWith(u' ')) {
+        escaped.replace(0, 1, u"\\s"_s);
     }
     return escaped;
 }
@@ -83,15 +88,15 @@ QString desktopString(const QString& text) {
 QString desktopCommand(const QString& program) {
     QString quoted;
     for (const QChar c : program) {
-        if (c == '"' || c == '`' || c == '$' || c == '\\') {
-            quoted += '\\';
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\') {
+            quoted += u'\\';
         }
         quoted += c;
-        if (c == '%') {
-            quoted += '%';
+        if (c == u'%') {
+            quoted += u'%';
         }
     }
-    return '"' + desktopString(quoted) + '"';
+    return u'"' + desktopString(quoted) + u'"';
 }
 
 } // namespace morrowleaf

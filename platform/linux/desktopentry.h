@@ -10,14 +10,16 @@
 
 namespace morrowleaf {
 
-// The keys of the group "Desktop Entry" of a desktop file; nothing when it is
-// no readable file of reasonable size with that group.
+// The keys and unescaped values of the group "Desktop Entry" of the desktop
+// file at `path`; std::nullopt where that is not a readable regular file with
+// such a group. Only the first 64 KiB are read.
 std::optional<QMap<QString, QString>> readDesktopEntry(const QString& path);
 
-// A text as the value of a string key.
+// Escapes `text` as the value of a key of type string.
 QString desktopString(const QString& text);
 
-// A program without arguments as the value of the key "Exec".
+// Quotes and escapes the path of a program, without arguments, as the value of
+// the key "Exec".
 QString desktopCommand(const QString& program);
 
 } // namespace morrowleaf

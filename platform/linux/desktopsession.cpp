@@ -18,6 +18,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // Monitors that are switched on appear, move and resize one after another.
@@ -70,7 +72,7 @@ private:
             lookForScreens();
         }
     }
-    void lookForScreens() { gate_.setInhibited("no screen", !hasScreen()); }
+    void lookForScreens() { gate_.setInhibited(u"no screen"_s, !hasScreen()); }
 
     void announce(SessionGate::Event event) {
         switch (event) {

@@ -18,6 +18,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 std::optional<std::uint64_t> socketIdentity(int fd) {
@@ -30,7 +32,7 @@ std::optional<std::uint64_t> socketIdentity(int fd) {
 
 // Passes duplicates of the descriptors, since another thread may close the originals.
 void forEachSocket(const std::function<void(int, std::uint64_t)>& visit) {
-    const QStringList names = QDir("/proc/self/fd").entryList(QDir::System | QDir::Files);
+    const QStringList names = QDir(u"/proc/self/fd"_s).entryList(QDir::System | QDir::Files);
     for (const QString& name : names) {
         const int fd = ::fcntl(name.toInt(), F_DUPFD_CLOEXEC, 0);
         if (fd < 0) {

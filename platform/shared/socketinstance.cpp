@@ -8,19 +8,21 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int attempts = 20;
 constexpr int pause = 100;              // milliseconds between attempts
-constexpr int patience = 1000;          // milliseconds for one handing over
+constexpr int patience = 1000;          // milliseconds for one attempt to hand over
 constexpr qint64 longestRequest = 4096; // bytes
 
 } // namespace
 
 SocketInstance::SocketInstance(const QString& folder)
-    : socket_(folder + "/morrowleaf.socket")
-    , lock_(folder + "/morrowleaf.lock") {
-    lock_.setStaleLockTime(0); // old age alone makes no lock stale
+    : socket_(folder + "/morrowleaf.socket"_L1)
+    , lock_(folder + "/morrowleaf.lock"_L1) {
+    lock_.setStaleLockTime(0); // a lock never becomes stale by its age alone
     connect(&server_, &QLocalServer::newConnection, this, &SocketInstance::receive);
 }
 
@@ -43,7 +45,7 @@ bool SocketInstance::claim(const LaunchRequest& request) {
 }
 
 void SocketInstance::listen() {
-    // Whatever lies there was left behind: the lock is ours.
+    // A socket that is there now was left behind, since this process has the lock.
     QLocalServer::removeServer(socket_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     server_.listen(socket_);
@@ -58,7 +60,7 @@ void SocketInstance::receive() {
                 return;
             }
             const QStringList words =
-                QString::fromUtf8(client->readLine(longestRequest)).trimmed().split(' ');
+                QString::fromUtf8(client->readLine(longestRequest)).trimmed().split(u' ');
             client->disconnectFromServer();
             emit requested({.action = words.value(0), .activationToken = words.value(1)});
         };
@@ -73,7 +75,7 @@ bool SocketInstance::handOver(const LaunchRequest& request) const {
     if (!socket.waitForConnected(patience)) {
         return false;
     }
-    socket.write((request.action + ' ' + request.activationToken + '\n').toUtf8());
+    socket.write((request.action + u' ' + request.activationToken + u'\n').toUtf8());
     return socket.waitForBytesWritten(patience) || socket.bytesToWrite() == 0;
 }
 

@@ -12,8 +12,9 @@ class QLocalSocket;
 
 namespace morrowleaf {
 
-// One instance by a lock and a socket in `folder`. Both survive a killed
-// instance without harm.
+// The instance is the process that holds a lock in `folder`; later launches
+// reach it by a socket beside the lock. What a killed instance leaves of either
+// does not hinder the next.
 class SocketInstance : public SingleInstance {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ public:
 private:
     void listen();
     void receive();
-    bool handOver(const LaunchRequest& request) const;
+    [[nodiscard]] bool handOver(const LaunchRequest& request) const;
 
     QString socket_;
     QLockFile lock_;

@@ -10,6 +10,7 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
 using Event = SessionGate::Event;
 
 class SessionGateTest : public testing::Test {
@@ -33,43 +34,43 @@ TEST_F(SessionGateTest, DeliversAtOnceWithoutAnInhibitor) {
 }
 
 TEST_F(SessionGateTest, QueuesEachKindOnceWhileInhibited) {
-    gate.setInhibited("locked", true);
+    gate.setInhibited(u"locked"_s, true);
     gate.report(Event::Wake);
     gate.report(Event::Wake);
     gate.report(Event::Unlocked);
     EXPECT_TRUE(delivered.empty());
-    gate.setInhibited("locked", false);
+    gate.setInhibited(u"locked"_s, false);
     EXPECT_EQ(delivered, (std::vector{Event::Wake, Event::Unlocked}));
-    gate.setInhibited("locked", false);
+    gate.setInhibited(u"locked"_s, false);
     EXPECT_EQ(delivered.size(), 2U);
 }
 
 TEST_F(SessionGateTest, DeliversWhenTheLastInhibitorEnds) {
-    gate.setInhibited("locked", true);
-    gate.setInhibited("locked", true);
-    gate.setInhibited("no screen", true);
+    gate.setInhibited(u"locked"_s, true);
+    gate.setInhibited(u"locked"_s, true);
+    gate.setInhibited(u"no screen"_s, true);
     gate.report(Event::Wake);
-    gate.setInhibited("locked", false);
+    gate.setInhibited(u"locked"_s, false);
     EXPECT_TRUE(delivered.empty());
-    gate.setInhibited("no screen", false);
+    gate.setInhibited(u"no screen"_s, false);
     EXPECT_EQ(delivered, std::vector{Event::Wake});
 }
 
 TEST_F(SessionGateTest, DeliversNothingWhereNothingWasReported) {
-    gate.setInhibited("locked", true);
-    gate.setInhibited("locked", false);
-    gate.setInhibited("never active", false);
+    gate.setInhibited(u"locked"_s, true);
+    gate.setInhibited(u"locked"_s, false);
+    gate.setInhibited(u"never active"_s, false);
     EXPECT_TRUE(delivered.empty());
 }
 
 TEST_F(SessionGateTest, TellsOncePerInhibitorThatTheUserLeaves) {
-    gate.setInhibited("locked", true);
-    gate.setInhibited("locked", true);
+    gate.setInhibited(u"locked"_s, true);
+    gate.setInhibited(u"locked"_s, true);
     EXPECT_EQ(leavings, 1);
-    gate.setInhibited("locked", false);
+    gate.setInhibited(u"locked"_s, false);
     EXPECT_EQ(leavings, 1);
     gate.reportLeaving();
-    gate.setInhibited("locked", true);
+    gate.setInhibited(u"locked"_s, true);
     EXPECT_EQ(leavings, 3);
 }
 

@@ -3,50 +3,49 @@
 
 #include "platform/shared/socketinstance.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 TEST(SocketInstance, TheSecondHandsItsRequestToTheFirst) {
     QTemporaryDir dir;
     SocketInstance first(dir.path());
-    EXPECT_TRUE(first.claim({.action = "show", .activationToken = {}}));
+    EXPECT_TRUE(first.claim({.action = u"show"_s, .activationToken = {}}));
     QString action;
     QString token;
     QObject::connect(&first, &SingleInstance::requested, &first, [&](const LaunchRequest& r) {
         action = r.action;
         token = r.activationToken;
     });
-    // A lock of another process cannot be had within this one: the file's own
-    // rules stop a second lock even here.
+    // A lock file keeps a second lock out in the same process, too.
     SocketInstance second(dir.path());
-    EXPECT_FALSE(second.claim({.action = "settings", .activationToken = "abc"}));
-    for (int i = 0; i < 100 && action.isEmpty(); ++i) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents);
-    }
-    EXPECT_EQ(action, "settings");
-    EXPECT_EQ(token, "abc");
+    EXPECT_FALSE(second.claim({.action = u"settings"_s, .activationToken = u"abc"_s}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !action.isEmpty(); }));
+    EXPECT_EQ(action, u"settings"_s);
+    EXPECT_EQ(token, u"abc"_s);
 }
 
-TEST(SocketInstance, WhatAKilledInstanceLeftIsNoHindrance) {
+TEST(SocketInstance, WhatAKilledInstanceLeftDoesNotHinder) {
     QTemporaryDir dir;
-    QFile socket(dir.filePath("morrowleaf.socket"));
+    QFile socket(dir.filePath(u"morrowleaf.socket"_s));
     ASSERT_TRUE(socket.open(QIODevice::WriteOnly));
-    QFile lock(dir.filePath("morrowleaf.lock"));
+    QFile lock(dir.filePath(u"morrowleaf.lock"_s));
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     lock.write("2147483646\nmorrowleaf\n" + QSysInfo::machineHostName().toUtf8() + "\n");
     lock.close();
     SocketInstance instance(dir.path());
-    EXPECT_TRUE(instance.claim({.action = "show", .activationToken = {}}));
+    EXPECT_TRUE(instance.claim({.action = u"show"_s, .activationToken = {}}));
 }
 
 TEST(SocketInstance, WithoutAFolderTheProgramRunsAnyway) {
-    SocketInstance instance("/nonexistent/folder");
-    EXPECT_TRUE(instance.claim({.action = "show", .activationToken = {}}));
+    SocketInstance instance(u"/nonexistent/folder"_s);
+    EXPECT_TRUE(instance.claim({.action = u"show"_s, .activationToken = {}}));
 }
 
 } // namespace

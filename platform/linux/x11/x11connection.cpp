@@ -9,11 +9,11 @@
 
 namespace morrowleaf::x11 {
 
-bool serverAnswers() {
+bool isServerReachable() {
     auto* c = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(c) == 0;
+    const bool isReachable = xcb_connection_has_error(c) == 0;
     xcb_disconnect(c);
-    return answers;
+    return isReachable;
 }
 
 xcb_connection_t* connection() {
@@ -64,9 +64,8 @@ void setCardinal(xcb_window_t window, const char* name, quint32 value) {
                         32, 1, &value);
 }
 
-// A property change is the one request that is answered with the server's
-// time. On a connection of its own the answer cannot be lost among the events
-// of the toolkit.
+// A property change is the one request that the server answers with its time.
+// On the application's connection Qt could take the answer.
 quint32 serverTime() {
     auto* c = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(c) != 0) {
@@ -99,14 +98,14 @@ xcb_window_t inputFocus() {
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
-bool setInputFocus(xcb_window_t window) {
+void setInputFocus(xcb_window_t window) {
     auto* c = connection();
-    const Reply<xcb_generic_error_t> error(xcb_request_check(
+    // Checked, so that an error does not reach Qt, which would print it.
+    const Reply<xcb_generic_error_t> ignored(xcb_request_check(
         c, xcb_set_input_focus_checked(c, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME)));
-    return error == nullptr;
 }
 
-bool isClients(xcb_window_t window) {
+bool belongsToApplication(xcb_window_t window) {
     auto* c = connection();
     while (window > XCB_INPUT_FOCUS_POINTER_ROOT) {
         if (property(window, "WM_STATE")) {

@@ -20,36 +20,38 @@ struct Free {
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
 
-// Whether the server that the environment names lets itself be connected to.
-// Needs no application object.
-bool serverAnswers();
+// Whether the server that DISPLAY names accepts a connection. Needs no
+// application object.
+bool isServerReachable();
 
-// The application's own connection; null where it is no X11 application.
+// The connection of Qt's application object; null where that does not use X11.
+// All functions below need it.
 xcb_connection_t* connection();
 xcb_window_t rootWindow();
 xcb_atom_t atom(const char* name);
 xcb_window_t selectionOwner(const char* selection);
 
-// Whether a compositing manager honours the alpha of windows.
+// Whether a compositing manager blends windows by their alpha.
 bool hasCompositor();
 
-// The 32-bit values of a property; nothing where it is not set.
+// The 32-bit values of a property, at most 1024; std::nullopt where it is not set.
 std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name);
 void setCardinal(xcb_window_t window, const char* name, quint32 value);
 
-// The server's clock in milliseconds, the one of event time stamps; 0 if it
-// cannot be asked.
+// The server's time in milliseconds, on the clock of event time stamps; 0 on
+// failure. Blocks for a round trip on a connection of its own.
 quint32 serverTime();
 
 xcb_window_t inputFocus();
-// False when the window can no longer take it.
-bool setInputFocus(xcb_window_t window);
+// Does nothing where the window cannot take the focus, as when it is gone.
+void setInputFocus(xcb_window_t window);
 
-// Whether `window` or one that holds it is an application's, by the mark of the
-// window manager; a manager also gives the focus to windows of its own.
-bool isClients(xcb_window_t window);
+// Whether `window` or one of its ancestors belongs to an application: window
+// managers mark such windows, and also focus windows of their own.
+bool belongsToApplication(xcb_window_t window);
 
-// The child of the root that holds `window`, its frame for a managed one.
+// The child of the root window that contains `window`: for a managed window,
+// its frame.
 xcb_window_t topLevelOf(xcb_window_t window);
 
 } // namespace morrowleaf::x11

@@ -26,8 +26,8 @@ void X11Hold::take(QWindow& window, What what) {
     mouse_ = false;
     window.requestActivate();
     if (what != What::Focus) {
-        // Another client may hold both for a while, a screen locker that is
-        // just leaving for instance.
+        // Another client, such as a screen locker that is just ending, may hold
+        // a grab for a while.
         retry_.start();
         grab();
     }
@@ -49,12 +49,13 @@ void X11Hold::grab() {
     }
 }
 
-void X11Hold::release(const QWindow& window) {
+void X11Hold::releaseGrabs(const QWindow& window) {
     if (!isHolder(window)) {
         return;
     }
     retry_.stop();
-    // Whatever was noted: a grab that a popup took over may be ours again.
+    // Regardless of keyboard_ and mouse_: closing a popup may have returned a
+    // grab to this window.
     holder_->setKeyboardGrabEnabled(false);
     holder_->setMouseGrabEnabled(false);
     keyboard_ = false;
@@ -65,14 +66,15 @@ void X11Hold::giveBack(const QWindow& window) {
     if (!isHolder(window)) {
         return;
     }
-    release(window);
+    releaseGrabs(window);
     const auto own = static_cast<xcb_window_t>(holder_->winId());
     holder_ = nullptr;
-    // Somebody else may have taken the focus meanwhile and shall keep it.
+    // Another application may have taken the focus meanwhile, and keeps it.
     const xcb_window_t now = x11::inputFocus();
-    const bool nobodys = now == own || (x11::isClients(before_) && !x11::isClients(now)) ||
-                         now <= XCB_INPUT_FOCUS_POINTER_ROOT || now == x11::rootWindow();
-    if (nobodys && before_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
+    const bool isFree = now == own || now <= XCB_INPUT_FOCUS_POINTER_ROOT ||
+                        now == x11::rootWindow() ||
+                        (x11::belongsToApplication(before_) && !x11::belongsToApplication(now));
+    if (isFree && before_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
         x11::setInputFocus(before_);
     }
     before_ = XCB_WINDOW_NONE;

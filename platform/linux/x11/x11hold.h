@@ -10,18 +10,18 @@
 
 namespace morrowleaf {
 
-// Keyboard focus, keyboard and mouse, held for one window at a time. Whoever
-// had the focus before the first window took it gets it back after the last.
+// Keyboard focus and grabs of keyboard and mouse, for one window at a time. The
+// window that had the focus before the first one gets it back after the last.
 class X11Hold {
 public:
     X11Hold();
 
     enum class What { Focus, FocusAndKeyboard, Everything };
-    // Takes at once what is free, and the rest as soon as another client lets go.
+    // Takes what is free at once, and the rest when other clients release it.
     void take(QWindow& window, What what);
-    // Lets go of keyboard and mouse, keeps in mind who had the focus.
-    void release(const QWindow& window);
-    // The window is off the screen: gives the focus back.
+    // Releases the grabs; remembers which window had the focus before.
+    void releaseGrabs(const QWindow& window);
+    // Releases the grabs and returns the focus. Call when the window leaves the screen.
     void giveBack(const QWindow& window);
 
     bool isHolder(const QWindow& window) const { return holder_ == &window; }

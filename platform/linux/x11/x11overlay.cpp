@@ -24,8 +24,8 @@ namespace morrowleaf {
 namespace {
 
 constexpr int focusPatience = 120;  // milliseconds
-constexpr int settlingTime = 1'500; // milliseconds in which managers move the focus about
-constexpr int mostRaises = 20;      // in one showing: two stubborn windows must not fight
+constexpr int settlingTime = 1'500; // milliseconds in which managers may move the focus
+constexpr int mostRaises = 20;      // in one showing, so that two windows do not fight for ever
 
 X11Hold::What initialHold(InputHold hold) {
     return hold == InputHold::KeyboardAndMouse ? X11Hold::What::Everything : X11Hold::What::Focus;
@@ -100,7 +100,7 @@ public:
         }
         lowered_ = level == WindowLevel::Normal;
         if (lowered_) {
-            hold_->release(*window_.windowHandle());
+            hold_->releaseGrabs(*window_.windowHandle());
             stack(XCB_STACK_MODE_BELOW, XCB_WINDOW_NONE);
             standBelowActive();
         } else {
@@ -111,7 +111,7 @@ public:
     void releaseInput() override {
         inputReleased_ = true;
         watch_.stop();
-        hold_->release(*window_.windowHandle());
+        hold_->releaseGrabs(*window_.windowHandle());
     }
 
     quint32 orderedFrontAt() const override { return orderedFrontAt_; }
