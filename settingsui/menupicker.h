@@ -8,13 +8,44 @@
 
 #include <vector>
 
+class QListWidget;
+
 namespace morrowleaf {
 
-class PickerMenu;
+// The open menu of a MenuPicker, laid over its window. It sees keys and presses
+// before anything else in the program; those that close it do nothing else.
+class PickerMenu : public QWidget {
+    Q_OBJECT
+
+public:
+    PickerMenu(const QString& name, const QStringList& texts, int current, const QFont& font,
+               QWidget* picker);
+
+    void popUp();
+    // Hides the menu, gives the focus back, and deletes it once no event is in it.
+    void retire();
+    QListWidget* list() const { return list_; }
+
+signals:
+    void picked(int index);
+    void dismissed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool handleKey(int key);
+    QRect findPlace() const;
+
+    QPointer<QWidget> picker_;
+    QPointer<QWidget> focusBefore_;
+    QListWidget* list_;
+};
 
 // A button that shows the chosen one of several entries and opens a menu of
-// them. The menu is part of the same window: above a full-screen picture no
-// other window is sure to be seen.
+// them. The menu is a child of the same window, since no other window is sure
+// to be visible above a full-screen one.
 class MenuPicker : public QAbstractButton {
     Q_OBJECT
 
@@ -30,9 +61,9 @@ public:
     const std::vector<Entry>& entries() const { return entries_; }
     // Empty when nothing is chosen.
     QString currentText() const;
-    // Shows the entry with that value, or none; not announced.
+    // Shows the entry with that value, or none. Emits no signal.
     void showValue(const QString& value);
-    // Chooses as the user would.
+    // Chooses as the user would; an index out of range is ignored.
     void choose(int index);
 
     bool isOpen() const;

@@ -7,9 +7,8 @@
 #include "settings/prefs.h"
 #include "settings/settingstable.h"
 #include "settingsui/binding.h"
-#include "settingsui/formcard.h"
-#include "settingsui/formpicker.h"
-#include "settingsui/formslider.h"
+#include "settingsui/form.h"
+#include "settingsui/formcontrols.h"
 #include "settingsui/menuactions.h"
 #include "settingsui/switch.h"
 #include "sources/sourcepresets.h"
@@ -142,8 +141,8 @@ void SettingsView::addAppearance(FormCard& card) {
     auto* row = new QWidget(&card);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* text = quietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
-                            Emphasis::Secondary, row);
+    auto* text = makeQuietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
+                                Emphasis::Secondary, row);
     text->setFont(scaled(font(), 0.95));
     auto* edit = actionButton(actions_.editAppearance, row);
     layout->addWidget(text, 1);
@@ -196,7 +195,7 @@ QWidget* SettingsView::makeCloseAfter() {
     slider->setFixedWidth(200);
     slider->setAccessibleName(label->text());
     label->setBuddy(slider);
-    auto* readout = quietLabel({}, Emphasis::Secondary, row);
+    auto* readout = makeQuietLabel({}, Emphasis::Secondary, row);
     readout->setWordWrap(false);
     readout->setFixedWidth(secondsWidth);
     readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -254,14 +253,14 @@ void SettingsView::addQuotes(FormCard& card) {
     layout->addStretch(1);
     card.addRow(row);
 
-    testResult_ = quietLabel({}, Emphasis::Secondary, &card);
+    testResult_ = makeQuietLabel({}, Emphasis::Secondary, &card);
     testResult_->setFont(scaled(font(), 0.95));
     testResult_->setContentsMargins(0, 2, 0, 8);
     card.addContinuation(testResult_);
     testResult_->setMinimumHeight(0);
     testResult_->hide();
 
-    auto* help = quietLabel(
+    auto* help = makeQuietLabel(
         QStringLiteral("Any JSON with a quote and author field works, plus a local file path. The "
                        "last fetched quote is cached, so it still shows offline."),
         Emphasis::Tertiary, &card);
@@ -271,7 +270,7 @@ void SettingsView::addQuotes(FormCard& card) {
 
 // One line, only while a file of settings that could not be read is kept.
 QWidget* SettingsView::makeNotice() {
-    auto* notice = quietLabel({}, Emphasis::Secondary, this);
+    auto* notice = makeQuietLabel({}, Emphasis::Secondary, this);
     notice->setFont(scaled(font(), 0.95));
     notice->setContentsMargins(formMargin, 8, formMargin, 8);
     const auto update = [this, notice] {

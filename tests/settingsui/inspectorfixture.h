@@ -14,7 +14,6 @@
 #include "settingsui/menupicker.h"
 #include "settingsui/panelslider.h"
 #include "settingsui/photogroup.h"
-#include "settingsui/pickermenu.h"
 #include "settingsui/swatch.h"
 #include "settingsui/switch.h"
 #include "tests/fakes/fakefilechooser.h"

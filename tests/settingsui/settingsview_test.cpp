@@ -5,7 +5,7 @@
 #include "settings/prefs.h"
 #include "settings/settingsstore.h"
 #include "settings/settingstable.h"
-#include "settingsui/formcard.h"
+#include "settingsui/form.h"
 #include "settingsui/menuactions.h"
 #include "settingsui/settingsview.h"
 #include "settingsui/switch.h"

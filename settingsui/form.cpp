@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "settingsui/formcard.h"
+#include "settingsui/form.h"
 
 #include "settingsui/panelaccessible.h"
 #include "settingsui/switch.h"
@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace morrowleaf {
@@ -19,7 +20,7 @@ constexpr int sideRoom = 14; // points within the frame
 constexpr int rowHeight = 40;
 constexpr double radius = 8;
 
-QColor faded(QColor color, double opacity) {
+QColor withOpacity(QColor color, double opacity) {
     color.setAlphaF(float(opacity));
     return color;
 }
@@ -46,9 +47,9 @@ private:
         fading_ = true;
         QPalette own;
         const QWidget* host = parentWidget();
-        own.setColor(
-            QPalette::WindowText,
-            faded((host ? host->palette() : QPalette()).color(QPalette::WindowText), opacity_));
+        own.setColor(QPalette::WindowText,
+                     withOpacity((host ? host->palette() : QPalette()).color(QPalette::WindowText),
+                                 opacity_));
         setPalette(own);
         fading_ = false;
     }
@@ -80,7 +81,7 @@ FormCard::FormCard(const QString& title, QWidget* parent)
 
 void FormCard::addRow(QWidget* row) {
     if (frame_->layout()->count() > 0) {
-        parted_.append(row);
+        separated_.append(row);
     }
     addContinuation(row);
 }
@@ -112,18 +113,18 @@ void FormCard::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor ink = palette().color(QPalette::WindowText);
     const bool dark = ink.lightness() > 127;
-    painter.setPen(QPen(faded(ink, dark ? 0.1 : 0.12), 1));
-    painter.setBrush(dark ? faded(Qt::white, 0.05) : faded(Qt::white, 0.75));
+    painter.setPen(QPen(withOpacity(ink, dark ? 0.1 : 0.12), 1));
+    painter.setBrush(dark ? withOpacity(Qt::white, 0.05) : withOpacity(Qt::white, 0.75));
     painter.drawRoundedRect(QRectF(frame_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), radius,
                             radius);
-    for (const QWidget* row : std::as_const(parted_)) {
+    for (const QWidget* row : std::as_const(separated_)) {
         const int y = row->mapTo(this, QPoint(0, 0)).y();
         painter.fillRect(QRect(frame_->x() + sideRoom, y, frame_->width() - 2 * sideRoom, 1),
-                         faded(ink, 0.09));
+                         withOpacity(ink, 0.09));
     }
 }
 
-QLabel* quietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
+QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
     auto* label = new QuietLabel(text, emphasis == Emphasis::Secondary ? 0.68 : 0.55, parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);

@@ -11,7 +11,7 @@ class QVBoxLayout;
 namespace morrowleaf {
 
 // One section of a grouped form: a title, and beneath it rows in a rounded
-// frame, parted by thin lines. Takes its colours from the palette.
+// frame, separated by thin lines. Takes its colours from the palette.
 class FormCard : public QWidget {
     Q_OBJECT
 
@@ -30,11 +30,11 @@ protected:
 private:
     QVBoxLayout* column_;
     QWidget* frame_;
-    QList<QWidget*> parted_; // rows with a line above
+    QList<QWidget*> separated_; // rows with a line above
 };
 
-// Texts that step back: secondary and tertiary.
+// A label in the palette's text colour at a lower opacity; follows the palette.
 enum class Emphasis { Secondary, Tertiary };
-QLabel* quietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
+QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
 
 } // namespace morrowleaf

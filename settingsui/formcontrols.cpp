@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "settingsui/formslider.h"
+#include "settingsui/formcontrols.h"
 
 #include <QMouseEvent>
-#include <QStyle>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
 
 namespace morrowleaf {
+
+void FormPicker::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
 
 FormSlider::FormSlider(QWidget* parent)
     : QSlider(Qt::Horizontal, parent) {}
