@@ -3,9 +3,10 @@
 
 #include "settingsui/form.h"
 
+#include "settingsui/controlstyle.h"
 #include "settingsui/panelaccessible.h"
-#include "settingsui/switch.h"
 
+#include <QCheckBox>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -74,7 +75,7 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     heading->setContentsMargins(sideRoom, 0, 0, 0);
     column_->addWidget(heading);
     auto* rows = new QVBoxLayout(frame_);
-    rows->setContentsMargins(sideRoom, 0, sideRoom - Switch::overhang, 0);
+    rows->setContentsMargins(sideRoom, 0, sideRoom - ControlStyle::switchOverhang, 0);
     rows->setSpacing(0);
     column_->addWidget(frame_);
 }
@@ -90,7 +91,8 @@ void FormCard::addContinuation(QWidget* row) {
     row->setMinimumHeight(rowHeight);
     // What is seen ends in line; a switch's focus ring reaches over the edge.
     auto* room = new QHBoxLayout;
-    room->setContentsMargins(0, 0, qobject_cast<Switch*>(row) != nullptr ? 0 : Switch::overhang, 0);
+    room->setContentsMargins(
+        0, 0, qobject_cast<QCheckBox*>(row) != nullptr ? 0 : ControlStyle::switchOverhang, 0);
     room->addWidget(row);
     static_cast<QVBoxLayout*>(frame_->layout())->addLayout(room);
 }

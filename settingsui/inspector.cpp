@@ -11,18 +11,19 @@
 #include "settingsui/menupicker.h"
 #include "settingsui/palettegroup.h"
 #include "settingsui/panelaccessible.h"
-#include "settingsui/panelbutton.h"
-#include "settingsui/panelscrollbar.h"
 #include "settingsui/panelstyle.h"
 #include "settingsui/photochooser.h"
 #include "settingsui/photogroup.h"
-#include "settingsui/switch.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace morrowleaf {
@@ -59,6 +60,12 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
     speakAsGroup(*this, QStringLiteral("Appearance"));
+    // A shortcut, since some desktops' themes let Return press what has the focus.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, &Inspector::done);
+    }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 0, 0, 0);
     column->setSpacing(0);
@@ -70,7 +77,7 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Its room stays where there is nothing to scroll, so that no edge moves.
     scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    scroll_->setVerticalScrollBar(new PanelScrollBar(scroll_));
+    scroll_->verticalScrollBar()->setStyle(&controlStyle_);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidget(makeGroups());
     // Setting a widget makes it paint its ground.
@@ -105,8 +112,8 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
         // What is seen stands in line; a focus ring may reach over the edge.
         auto* room = new QHBoxLayout;
         room->setContentsMargins(qobject_cast<Knob*>(row) != nullptr ? 0 : PanelStyle::focusRoom, 0,
-                                 qobject_cast<Switch*>(row) != nullptr
-                                     ? PanelStyle::focusRoom - Switch::overhang
+                                 qobject_cast<QCheckBox*>(row) != nullptr
+                                     ? PanelStyle::focusRoom - ControlStyle::switchOverhang
                                      : PanelStyle::focusRoom,
                                  0);
         room->addWidget(row);
@@ -139,15 +146,15 @@ QWidget* Inspector::makeGroups() {
     auto* column = new QVBoxLayout(groups);
     column->setContentsMargins(
         PanelStyle::margin - PanelStyle::focusRoom - 1, 18,
-        PanelStyle::margin - PanelStyle::focusRoom - PanelScrollBar::thickness, 22);
+        PanelStyle::margin - PanelStyle::focusRoom - ControlStyle::scrollBarThickness, 22);
     column->setSpacing(PanelStyle::groupSpacing);
 
     const auto knob = [&](const char* name, const RealSetting& setting,
                           const Knob::Readout& readout) {
-        return new Knob(QLatin1String(name), store, setting, readout, face, this);
+        return new Knob(QLatin1String(name), store, setting, readout, face, controlStyle_, this);
     };
     const auto smallSwitch = [&](const char* name, const FlagSetting& setting) {
-        auto* control = new Switch(QLatin1String(name), Switch::Size::Small, this);
+        auto* control = makeSwitch(QLatin1String(name), controlStyle_, this);
         control->setFont(panelFont(face, 12));
         bindSwitch(*control, store, setting);
         return control;
@@ -167,7 +174,7 @@ QWidget* Inspector::makeGroups() {
     addGroup(*column, QStringLiteral("Vignette"), {knob("Vignette", K::vignette, plainReadout)});
     Knob* transparency = knob("Transparency", K::transparency, percentReadout);
     if (setup_.glassCanBeDrawn) {
-        Switch* glass = smallSwitch("Liquid Glass", K::liquidGlass);
+        QCheckBox* glass = smallSwitch("Liquid Glass", K::liquidGlass);
         new Binding(store, K::transparency, glass, [glass, &store] {
             glass->setEnabled(store.get(K::transparency) >= leastGlass);
         });
@@ -188,11 +195,13 @@ QWidget* Inspector::makeGroups() {
 QWidget* Inspector::makeFooter() {
     auto* footer = new QWidget(this);
     auto* row = new QHBoxLayout(footer);
-    row->setContentsMargins(PanelStyle::margin - 1 - PanelButton::sidePadding, 10,
+    row->setContentsMargins(PanelStyle::margin - 1 - ControlStyle::buttonPadding, 10,
                             PanelStyle::margin, 12);
     const QFont font = panelFont(setup_.face, 12);
-    auto* resetButton = new PanelButton(QStringLiteral("Reset"), PanelButton::Kind::Plain, footer);
-    auto* doneButton = new PanelButton(QStringLiteral("Done"), PanelButton::Kind::Default, footer);
+    auto* resetButton =
+        makeButton(QStringLiteral("Reset"), ButtonKind::Plain, controlStyle_, footer);
+    auto* doneButton =
+        makeButton(QStringLiteral("Done"), ButtonKind::Filled, controlStyle_, footer);
     resetButton->setFont(font);
     doneButton->setFont(panelFont(setup_.face, 12, QFont::DemiBold));
     connect(resetButton, &QAbstractButton::clicked, this, [this] { resetAppearance(store_); });
@@ -207,14 +216,6 @@ void Inspector::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), PanelStyle::veil());
     painter.fillRect(0, 0, 1, height(), PanelStyle::ink(0.12));
-}
-
-void Inspector::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        emit done();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 // A press beside the controls stays with the panel.

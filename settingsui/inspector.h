@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "settingsui/controlstyle.h"
+
 #include <QFont>
 #include <QRect>
 #include <QWidget>
@@ -60,7 +62,6 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool focusNextPrevChild(bool next) override;
@@ -77,6 +78,7 @@ private:
     BGStore& photos_;
     InspectorSetup setup_;
     PhotoChooser* photoChooser_;
+    ControlStyle controlStyle_{ControlStyle::SwitchSize::Small};
     QScrollArea* scroll_ = nullptr;
 };
 

@@ -4,23 +4,64 @@
 #include "settingsui/knob.h"
 
 #include "settingsui/binding.h"
-#include "settingsui/panelslider.h"
 #include "settingsui/panelstyle.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
 
 namespace morrowleaf {
 namespace {
 
 constexpr int readoutWidth = 46; // points
+constexpr double millionth = 1e6;
+
+int inMillionths(double value) {
+    return static_cast<int>(std::lround(value * millionth));
+}
 
 } // namespace
 
+PanelSlider::PanelSlider(double lowest, double highest, QWidget* parent)
+    : FormSlider(parent) {
+    setRange(inMillionths(lowest), inMillionths(highest));
+    setSingleStep((maximum() - minimum()) / 100);
+    setPageStep((maximum() - minimum()) / 10);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(this, &QSlider::valueChanged, this, [this] { emit moved(real()); });
+}
+
+double PanelSlider::lowest() const {
+    return minimum() / millionth;
+}
+
+double PanelSlider::highest() const {
+    return maximum() / millionth;
+}
+
+double PanelSlider::real() const {
+    return value() / millionth;
+}
+
+void PanelSlider::showValue(double value) {
+    const QSignalBlocker blocker(this);
+    setValue(std::isnan(value) ? minimum() : inMillionths(std::clamp(value, lowest(), highest())));
+}
+
+void PanelSlider::moveTo(double value) {
+    setValue(inMillionths(std::clamp(value, lowest(), highest())));
+}
+
 Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting,
-           const Readout& readout, const QFont& face, QWidget* parent)
+           const Readout& readout, const QFont& face, QStyle& style, QWidget* parent)
     : QWidget(parent)
     , slider_(new PanelSlider(setting.lowest, setting.highest, this))
     , readout_(panelLabel({}, panelFont(face, 11), 0.6, this)) {
+    slider_->setStyle(&style);
     slider_->setAccessibleName(name);
     readout_->setFixedWidth(readoutWidth);
     readout_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -33,15 +74,15 @@ Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting
     auto* binding = new Binding(store, setting, this, [this, &store, setting, readout] {
         const double value = store.get(setting);
         slider_->showValue(value);
-        tell(value, readout);
+        showReadout(value, readout);
     });
     connect(slider_, &PanelSlider::moved, binding, [this, binding, readout](double value) {
         binding->set(value);
-        tell(value, readout);
+        showReadout(value, readout);
     });
 }
 
-void Knob::tell(double value, const Readout& readout) {
+void Knob::showReadout(double value, const Readout& readout) {
     readout_->setText(readout(value));
     slider_->setValueText(readout_->text());
 }

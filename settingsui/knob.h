@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QWidget>
+#include "settingsui/formcontrols.h"
 
 #include <functional>
 
@@ -11,11 +11,41 @@ class QLabel;
 
 namespace morrowleaf {
 
-class PanelSlider;
 class SettingsStore;
 struct RealSetting;
 
-// A slider and the readout of its value, in one row, bound to a setting over its range.
+// A slider over a closed range of reals, in millionths. Arrow keys move it by a
+// hundredth of the range, page keys by a tenth.
+class PanelSlider : public FormSlider {
+    Q_OBJECT
+
+public:
+    PanelSlider(double lowest, double highest, QWidget* parent = nullptr);
+
+    double lowest() const;
+    double highest() const;
+    double real() const;
+    // Shows a value, kept within the range; NaN shows as the lowest. Emits no
+    // signal.
+    void showValue(double value);
+    // Moves as the user would.
+    void moveTo(double value);
+
+    QSize sizeHint() const override { return {120, 24}; }
+
+    // The value as assistive programs say it.
+    QString valueText() const { return valueText_; }
+    void setValueText(const QString& text) { valueText_ = text; }
+
+signals:
+    void moved(double value);
+
+private:
+    QString valueText_;
+};
+
+// A slider and the readout of its value, in one row, bound to a setting over its
+// range. `style` draws the slider and outlives the knob.
 class Knob : public QWidget {
     Q_OBJECT
 
@@ -23,13 +53,13 @@ public:
     using Readout = std::function<QString(double)>;
 
     Knob(const QString& name, SettingsStore& store, const RealSetting& setting,
-         const Readout& readout, const QFont& face, QWidget* parent = nullptr);
+         const Readout& readout, const QFont& face, QStyle& style, QWidget* parent = nullptr);
 
     PanelSlider* slider() const { return slider_; }
     QLabel* readout() const { return readout_; }
 
 private:
-    void tell(double value, const Readout& readout);
+    void showReadout(double value, const Readout& readout);
 
     PanelSlider* slider_;
     QLabel* readout_;

@@ -3,8 +3,8 @@
 
 #include "settingsui/panelaccessible.h"
 
+#include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
-#include "settingsui/panelslider.h"
 #include "settingsui/swatch.h"
 
 #include <QAccessible>
@@ -80,7 +80,7 @@ public:
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Value ? slider()->valueText() : QAccessibleWidget::text(kind);
     }
-    QVariant currentValue() const override { return slider()->value(); }
+    QVariant currentValue() const override { return slider()->real(); }
     void setCurrentValue(const QVariant& value) override { slider()->moveTo(value.toDouble()); }
     QVariant maximumValue() const override { return slider()->highest(); }
     QVariant minimumValue() const override { return slider()->lowest(); }

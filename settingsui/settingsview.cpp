@@ -10,9 +10,9 @@
 #include "settingsui/form.h"
 #include "settingsui/formcontrols.h"
 #include "settingsui/menuactions.h"
-#include "settingsui/switch.h"
 #include "sources/sourcepresets.h"
 
+#include <QCheckBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -152,8 +152,7 @@ void SettingsView::addAppearance(FormCard& card) {
 
 void SettingsView::addBehaviour(FormCard& card) {
     SettingsStore& store = store_;
-    auto* wake =
-        new Switch(QStringLiteral("Show on wake and unlock"), Switch::Size::Regular, &card);
+    auto* wake = makeSwitch(QStringLiteral("Show on wake and unlock"), switchStyle_, &card);
     bindSwitch(*wake, store, K::showOnWake);
     card.addRow(wake);
 
@@ -170,7 +169,7 @@ void SettingsView::addBehaviour(FormCard& card) {
 }
 
 QWidget* SettingsView::makeLoginSwitch() {
-    auto* control = new Switch(QStringLiteral("Open at login"), Switch::Size::Regular, this);
+    auto* control = makeSwitch(QStringLiteral("Open at login"), switchStyle_, this);
     const auto isEnabled = [this] { return loginItem_.status() == LoginItem::Status::Enabled; };
     control->setChecked(isEnabled());
     connect(control, &QAbstractButton::toggled, this, [this, control, isEnabled](bool on) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "quotes/quote.h"
+#include "settingsui/controlstyle.h"
 
 #include <QWidget>
 
@@ -54,6 +55,7 @@ private:
     QuoteLoader loader_;
     LoginItem& loginItem_;
     MenuActions& actions_;
+    ControlStyle switchStyle_{ControlStyle::SwitchSize::Regular};
     QPushButton* testButton_ = nullptr;
     QLabel* testResult_ = nullptr;
 };

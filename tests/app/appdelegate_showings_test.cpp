@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "settingsui/switch.h"
 #include "tests/app/appdelegatefixture.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QPointer>
 
 namespace morrowleaf {
 namespace {
 
 bool hasGlassSwitch(const Inspector& editor) {
-    const auto switches = editor.findChildren<Switch*>();
+    const auto switches = editor.findChildren<QCheckBox*>();
     return std::any_of(switches.begin(), switches.end(),
-                       [](const Switch* s) { return s->text() == "Liquid Glass"; });
+                       [](const QCheckBox* s) { return s->text() == "Liquid Glass"; });
 }
 
 TEST_F(AppDelegateTest, SecondPresentReplacesWithoutFade) {

@@ -256,7 +256,9 @@ TEST_F(AppDelegateTest, DoneClosesTheEditor) {
 TEST_F(AppDelegateTest, ReturnClosesTheEditor) {
     launchAndClose();
     delegate->editAppearance();
-    QTest::keyClick(editor(), Qt::Key_Return);
+    top().window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(top().window, 60'000));
+    QTest::keyClick(top().window->windowHandle(), Qt::Key_Return);
     EXPECT_FALSE(isShown());
 }
 

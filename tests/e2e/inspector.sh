@@ -23,6 +23,8 @@ photos=(Aurora Dunes Forest Lake Ridges Sea)
 photo() { printf '"%s/%s.jpg"' "$folder" "${1,,}"; }
 dialog() { xdotool search --onlyvisible --name '^Add a Photo$'; }
 
+# The theme of this desktop lets Return press what has the focus.
+export XDG_CURRENT_DESKTOP=GNOME
 start app "$MORROWLEAF" --settings
 app=$last
 must "the settings window opens" focus_is "Morrowleaf Settings"

@@ -78,7 +78,7 @@ TEST_F(InspectorTest, SpacePressesTheFocusedControl) {
     named<PaletteSwatch>(Palette::all()[1].name)->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     EXPECT_EQ(Prefs::paletteIndex(store), 1);
-    named<Switch>(QStringLiteral("Film grain"))->setFocus(Qt::TabFocusReason);
+    named<QCheckBox>(QStringLiteral("Film grain"))->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     EXPECT_EQ(store.value(K::grain), QJsonValue(false));
 }
@@ -150,7 +150,7 @@ TEST_F(InspectorTest, TellsRolesStatesAndValues) {
     auto* picker = face(named<MenuPicker>(QStringLiteral("Typeface")));
     EXPECT_EQ(picker->role(), QAccessible::ComboBox);
     EXPECT_EQ(picker->text(QAccessible::Value), QStringLiteral("Fraunces"));
-    EXPECT_EQ(face(named<Switch>(QStringLiteral("Film grain")))->role(), QAccessible::CheckBox);
+    EXPECT_EQ(face(named<QCheckBox>(QStringLiteral("Film grain")))->role(), QAccessible::CheckBox);
     EXPECT_EQ(face(panel().findChild<AddTile*>())->role(), QAccessible::Button);
     EXPECT_EQ(face(&panel())->role(), QAccessible::Grouping);
     EXPECT_EQ(face(&panel())->text(QAccessible::Name), QStringLiteral("Appearance"));
@@ -167,7 +167,7 @@ TEST_F(InspectorTest, ScrollsWhereItIsLowerThanItsContent) {
     QCoreApplication::processEvents();
     auto* done = named<QPushButton>(QStringLiteral("Done"));
     EXPECT_EQ(done->visibleRegion().boundingRect().size(), done->size());
-    auto* grain = named<Switch>(QStringLiteral("Film grain"));
+    auto* grain = named<QCheckBox>(QStringLiteral("Film grain"));
     EXPECT_TRUE(grain->visibleRegion().isEmpty());
     named<MenuPicker>(QStringLiteral("Screen motion"))->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Tab);

@@ -231,12 +231,12 @@ TEST_F(InspectorTest, KnobsFollowTheMouseWithoutSteps) {
 TEST_F(InspectorTest, ValuesOutOfRangeAreShownAndKept) {
     store.set(K::textScale, 7.0);
     EXPECT_TRUE(readoutIs(QStringLiteral("Size"), QStringLiteral("700%")));
-    EXPECT_EQ(named<PanelSlider>(QStringLiteral("Size"))->value(), 1.6);
+    EXPECT_EQ(named<PanelSlider>(QStringLiteral("Size"))->real(), 1.6);
     EXPECT_EQ(store.real(K::textScale), 7.0);
 }
 
 TEST_F(InspectorTest, GlassSwitchNeedsTransparency) {
-    auto* control = named<Switch>(QStringLiteral("Liquid Glass"));
+    auto* control = named<QCheckBox>(QStringLiteral("Liquid Glass"));
     EXPECT_FALSE(control->isEnabled());
     store.set(K::transparency, 0.0099);
     EXPECT_FALSE(control->isEnabled());
@@ -251,14 +251,14 @@ TEST_F(InspectorTest, GlassSwitchNeedsTransparency) {
 TEST_F(InspectorTest, GlassSwitchIsAbsentWhereGlassCannotBeDrawn) {
     glass = false;
     QStringList switches;
-    for (const auto* control : panel().findChildren<Switch*>()) {
+    for (const auto* control : panel().findChildren<QCheckBox*>()) {
         switches.append(control->text());
     }
     EXPECT_EQ(switches, QStringList{QStringLiteral("Film grain")});
 }
 
 TEST_F(InspectorTest, GrainSwitchGoesBothWays) {
-    auto* control = named<Switch>(QStringLiteral("Film grain"));
+    auto* control = named<QCheckBox>(QStringLiteral("Film grain"));
     EXPECT_TRUE(control->isChecked());
     press(control);
     EXPECT_EQ(store.value(K::grain), QJsonValue(false));

@@ -12,15 +12,14 @@
 #include "settingsui/inspector.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
-#include "settingsui/panelslider.h"
 #include "settingsui/photogroup.h"
 #include "settingsui/swatch.h"
-#include "settingsui/switch.h"
 #include "tests/fakes/fakefilechooser.h"
 #include "tools/sourcepath.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QLabel>

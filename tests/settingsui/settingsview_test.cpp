@@ -8,10 +8,10 @@
 #include "settingsui/form.h"
 #include "settingsui/menuactions.h"
 #include "settingsui/settingsview.h"
-#include "settingsui/switch.h"
 #include "sources/sourcepresets.h"
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -80,8 +80,8 @@ protected:
         EXPECT_EQ(found.size(), 1);
         return found.value(0);
     }
-    Switch* switchNamed(const QString& text) {
-        for (auto* found : view().findChildren<Switch*>()) {
+    QCheckBox* switchNamed(const QString& text) {
+        for (auto* found : view().findChildren<QCheckBox*>()) {
             if (found->text() == text) {
                 return found;
             }
@@ -143,7 +143,7 @@ TEST_F(SettingsViewTest, ButtonsTriggerTheActionsOfTheMenu) {
 }
 
 TEST_F(SettingsViewTest, WakeSwitchGoesBothWays) {
-    Switch* wake = switchNamed(QStringLiteral("Show on wake and unlock"));
+    QCheckBox* wake = switchNamed(QStringLiteral("Show on wake and unlock"));
     ASSERT_NE(wake, nullptr);
     EXPECT_TRUE(wake->isChecked());
     click(wake);
@@ -340,7 +340,7 @@ TEST_F(SettingsViewTest, ResultSurvivesHiding) {
 
 TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
     login.current = LoginItem::Status::Enabled;
-    Switch* control = switchNamed(QStringLiteral("Open at login"));
+    QCheckBox* control = switchNamed(QStringLiteral("Open at login"));
     EXPECT_TRUE(control->isChecked());
     EXPECT_EQ(login.calls, 0);
     const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
@@ -352,7 +352,7 @@ TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
 
 TEST_F(SettingsViewTest, RefusedLoginFlipsBackAndIsAnnouncedOnce) {
     login.refuses = true;
-    Switch* control = switchNamed(QStringLiteral("Open at login"));
+    QCheckBox* control = switchNamed(QStringLiteral("Open at login"));
     EXPECT_FALSE(control->isChecked());
     const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
     click(control);

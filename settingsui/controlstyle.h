@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QProxyStyle>
+
+class QCheckBox;
+class QPushButton;
+
+namespace morrowleaf {
+
+// How Qt's controls look in the appearance editor: buttons, sliders, vertical
+// scroll bars, and check boxes as switches. The colours are those of the panel,
+// but a switch takes its own from the palette and suits any window. The base is
+// Fusion, so that no desktop's style changes a size or a behaviour.
+//
+// Set it on each control that shall look so: children do not inherit a style.
+class ControlStyle : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    static constexpr int buttonPadding = 14;     // points beside a button's text
+    static constexpr int scrollBarThickness = 9; // points
+    static constexpr int switchOverhang = 3;     // points right of a switch, for its focus ring
+
+    enum class SwitchSize { Small, Regular };
+    explicit ControlStyle(SwitchSize switchSize);
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override;
+
+private:
+    QSize switchTrack_; // points
+};
+
+// Buttons are reached by Tab and pressed by Space. `style` outlives its use.
+enum class ButtonKind { Plain, Filled };
+QPushButton* makeButton(const QString& text, ButtonKind kind, ControlStyle& style, QWidget* parent);
+// A check box with its text at the left edge and a switch at the right one.
+QCheckBox* makeSwitch(const QString& text, ControlStyle& style, QWidget* parent);
+
+} // namespace morrowleaf
