@@ -76,3 +76,10 @@ keeps() {
     shift
     must "$what" stored "$@" || cat "$work/stored.last"
 }
+
+# use_theme_of DESKTOP: what starts from now on believes to run on that desktop;
+# the empty name is that of no desktop.
+use_theme_of() {
+    unset XDG_CURRENT_DESKTOP
+    [ -z "$1" ] || export XDG_CURRENT_DESKTOP=$1
+}

@@ -4,6 +4,7 @@
 
 # The appearance editor under real keys and clicks: after each step the
 # settings file holds what the control says, and nothing else has changed.
+#   inspector.sh [DESKTOP]    the name of a desktop whose theme Qt looks up
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -23,8 +24,8 @@ photos=(Aurora Dunes Forest Lake Ridges Sea)
 photo() { printf '"%s/%s.jpg"' "$folder" "${1,,}"; }
 dialog() { xdotool search --onlyvisible --name '^Add a Photo$'; }
 
-# The theme of this desktop lets Return press what has the focus.
-export XDG_CURRENT_DESKTOP=GNOME
+# Under some of these themes Return presses what has the focus.
+use_theme_of "${1:-}"
 start app "$MORROWLEAF" --settings
 app=$last
 must "the settings window opens" focus_is "Morrowleaf Settings"

@@ -4,7 +4,7 @@
 
 # The settings window under real keys and clicks: after each step the settings
 # file holds what the control says, and nothing else has changed.
-#   settings.sh openbox|xfwm4
+#   settings.sh openbox|xfwm4 [DESKTOP]    the name of a desktop whose theme Qt looks up
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -20,6 +20,7 @@ begin_with '{"screenAnimation": "still", "grainEnabled": false}'
 autostart=$XDG_CONFIG_HOME/autostart/org.morrowleaf.Morrowleaf.desktop
 frequency() { there "combo box" "Every $1"; }
 
+use_theme_of "${2:-}"
 start app "$MORROWLEAF" --settings
 app=$last
 window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$'; }
