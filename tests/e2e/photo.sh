@@ -13,7 +13,9 @@ here=$(dirname "$0")
 start_x 1280x1024
 start_manager "${1:-openbox}"
 start_reader
-begin_with '{"screenAnimation": "still", "grainEnabled": false, "vignetteStrength": 0.0}'
+# A dark palette, whatever the day: dialogs are light.
+begin_with '{"paletteIndex": 8, "screenAnimation": "still", "grainEnabled": false,
+             "vignetteStrength": 0.0}'
 own=$XDG_DATA_HOME/Morrowleaf/backgrounds
 large=$work/large.jpg
 convert -size 800x600 xc:'#c02020' -resize 8000x6000! -quality 90 "$large" || die "no photo"
@@ -39,7 +41,9 @@ picture_is() {
 in_front() {
     shot front
     eval "$(xdotool getwindowgeometry --shell "${1:-$(dialog)}")"
-    [ "$(convert "$work/front.png" -crop "1x1+$((X + WIDTH / 2))+$((Y + 4))" -format '%[fx:mean>0.7]' info:)" = 1 ]
+    # More than a few letters wide.
+    [ "$(convert "$work/front.png" -crop "60x30+$((X + WIDTH / 2 - 30))+$((Y + 4))" \
+        -format '%[fx:mean>0.7]' info:)" = 1 ]
 }
 ask() {
     click_on "push button" "Add a photo"
