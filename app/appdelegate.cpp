@@ -4,6 +4,7 @@
 #include "app/appdelegate.h"
 
 #include "app/services.h"
+#include "app/showingtimes.h"
 #include "platform/platform.h"
 #include "quotes/quotebox.h"
 #include "screen/quotescreen.h"
@@ -27,8 +28,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr double throttleSeconds = 8.0;  // between a showing and a triggered one
-constexpr double shortestShowing = 5.0;  // seconds until the automatic close
 constexpr double inspectorFaceSize = 13; // points; the editor sets its own sizes
 
 OverlaySetup overlaySetup(bool preview, bool editing) {
@@ -134,8 +133,9 @@ void AppDelegate::present(bool preview, bool editing) {
     if (!editing) {
         const double seconds = Prefs::dismissSeconds(services_.store);
         // The comparison is false for NaN, which gives the shortest showing.
-        autoDismiss_ = services_.timing.after(seconds > shortestShowing ? seconds : shortestShowing,
-                                              [this] { dismiss(true); });
+        autoDismiss_ = services_.timing.after(
+            seconds > shortestShowingSeconds ? seconds : shortestShowingSeconds,
+            [this] { dismiss(true); });
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/quotewindow.h"
 
+#include "app/showingtimes.h"
 #include "base/curves.h"
 
 #include <QAccessibleWidget>

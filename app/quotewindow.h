@@ -12,9 +12,6 @@ namespace morrowleaf {
 
 class Veil;
 
-inline constexpr double fadeInSeconds = 0.55;
-inline constexpr double fadeOutSeconds = 0.45;
-
 // The window of one showing: borderless, with an alpha of its own, its
 // content filling it. Nothing is on screen before orderFront().
 class QuoteWindow : public QWidget {

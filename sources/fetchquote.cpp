@@ -4,8 +4,8 @@
 #include "sources/fetchquote.h"
 
 #include "base/job.h"
-#include "sources/loadsource.h"
 #include "sources/parsequote.h"
+#include "sources/sourcebytes.h"
 
 #include <QThreadPool>
 #include <QTimer>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sources/fetchquote.h"
-#include "sources/loadsource.h"
+#include "sources/sourcebytes.h"
 #include "sources/sourcepresets.h"
 #include "sources/webload.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "sources/loadsource.h"
+#include "sources/sourcebytes.h"
 
 #include "platform/regularfile.h"
 #include "sources/webload.h"
