@@ -67,13 +67,13 @@ struct BackdropPainter::Private {
     GrainTile tile;
     GlassRim rim;
 
-    // What the nodes were made from.
+    // The input from which the nodes have been computed.
     struct Shaded {
         QSize size;
         double ratio = 1;
         double scale = 1;
         Shading shading;
-        std::shared_ptr<const Glass> glass; // kept while the shading points into it
+        std::shared_ptr<const Glass> glass; // keeps alive what shading.under points to
 
         bool operator==(const Shaded&) const = default;
     };
@@ -90,7 +90,7 @@ struct BackdropPainter::Private {
         shaded.reset();
     }
 
-    // Several parts of one frame share their nodes.
+    // All parts of one frame share the nodes.
     void shade(const Shaded& wanted) {
         if (shaded == wanted) {
             return;

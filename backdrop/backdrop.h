@@ -11,18 +11,18 @@
 
 namespace morrowleaf {
 
-// Draws backdrops and keeps what is costly to make between calls. Use one for
-// each screen, on one thread.
+// Draws backdrops and caches what is costly to compute. Use one painter for each
+// screen, always on the same thread.
 class BackdropPainter {
 public:
     BackdropPainter();
     ~BackdropPainter();
 
-    // Draws the part `clip` (device pixels) of the backdrop of `state` into
-    // `target`, replacing what was there. `target` is an image of the whole
+    // Draws the backdrop of `state` into the rectangle `clip` (device pixels) of
+    // `target` and replaces all pixels there. `target` is an image of the whole
     // window, Format_ARGB32_Premultiplied or Format_RGB32 (any other is a fatal
-    // error), with its device pixel ratio set.
-    // `since2001`: seconds since 2001-01-01 00:00:00 UTC by the wall clock.
+    // error), with its device pixel ratio set. `since2001`: seconds since
+    // 2001-01-01 00:00:00 UTC by the wall clock.
     void paint(QImage& target, const QRect& clip, const BackdropState& state, double since2001);
 
     // Whether the picture changes with time.
@@ -43,13 +43,14 @@ inline constexpr double backdropInterval = 1.0 / 30.0;
 struct Layers {
     double ground = 1;
     double tint = 0;  // the palette's centre colour
-    double glass = 0; // the picture behind, under glass
-    double sharp = 0; // the picture behind as it is
+    double glass = 0; // the picture of the desktop, under glass
+    double sharp = 0; // the picture of the desktop as it is
     double rim = 0;   // the light on the edges of the glass
 };
 
-// `hasPicture`: the pixels behind are known. `hasGlass`: their glass is made.
-// A window that cannot be seen through has an opaque ground.
+// `hasPicture`: there is a picture of the desktop behind the window. `hasGlass`:
+// the glass for it has been made. The ground is opaque for Behind::Kind::Nothing,
+// for a capture without a picture, and for a transparency of 0.
 Layers layersOf(const BackdropState& state, bool hasPicture, bool hasGlass);
 
 } // namespace morrowleaf

@@ -15,30 +15,30 @@ namespace morrowleaf {
 
 struct Glass; // glass.h
 
-// What lies behind the window, as far as the desktop tells us.
+// What shows behind the window, which depends on the desktop.
 struct Behind {
     enum class Kind {
-        Nothing,  // the window cannot be seen through: the ground is drawn opaque
-        Plain,    // shows through the window's alpha, unblurred
+        Nothing,  // the window cannot be transparent: the ground is drawn opaque
+        Plain,    // the desktop shows through the window's alpha, unblurred
         LiveBlur, // the same, blurred by the compositor
-        Captured, // `picture` holds it, and the window is opaque
+        Captured, // `picture` holds the desktop, and the window is opaque
     };
     Kind kind = Kind::Nothing;
     QImage picture; // for Captured: device pixels of the whole window
-    // For Captured: the picture under glass, made by makeGlass() in a worker.
-    // While it is null the picture shows unblurred under the tint.
+    // For Captured: the picture under glass, made by makeGlass() on a worker
+    // thread. While it is null, the picture shows unblurred under the tint.
     std::shared_ptr<const Glass> glass;
     double glassOpacity = 1; // 0...1 while the glass fades in over the sharp picture
 };
 
-// Everything behind the text, as a value. Its picture depends only on this, the
-// size and the wall clock.
+// The state of everything behind the text. The pixels depend only on this value,
+// the size, the device pixel ratio and the wall clock.
 struct BackdropState {
     Palette palette;
     bool animated = true; // false pauses the mesh
     bool grainOn = true;
-    double vignette = 0.55;  // strength as stored; used within 0...1
-    double transparency = 0; // as stored; used within 0...1
+    double vignette = 0.55;  // strength as stored; clamped to 0...1 when it is used
+    double transparency = 0; // as stored; clamped to 0...1 when it is used
     bool liquidGlass = true;
     ScreenAnim screenAnim = ScreenAnim::Drift;
     bool hasPhoto = false;   // a photo is chosen and readable
@@ -47,7 +47,7 @@ struct BackdropState {
     Behind behind;
 };
 
-// Whether the glass material can be drawn: the pixels behind are known.
+// Whether glass can be drawn, which needs a picture of what is behind the window.
 inline bool glassAvailable(const Behind& behind) {
     return behind.kind == Behind::Kind::Captured;
 }

@@ -7,11 +7,9 @@
 
 namespace morrowleaf {
 
-// The weights of a Catmull-Rom spline: between two knots the cubic Hermite
-// curve whose tangent at each knot is half the distance between its neighbours.
-
-// Of the four knots around the span from the second to the third, at the share
-// `s` (0...1) of that span.
+// The weights of the four knots around one span of a Catmull-Rom spline, at the fraction
+// `s` (0...1) of the way from the second knot to the third. The spline is the cubic
+// Hermite curve whose tangent at each knot is half the difference of its neighbours.
 template <typename Real>
 constexpr std::array<Real, 4> catmullRom(Real s) {
     constexpr auto half = static_cast<Real>(0.5);
@@ -27,9 +25,9 @@ struct ThreeKnots {
     Real first, middle, last;
 };
 
-// Of a spline of three knots at `u`, 0...2. At its ends the tangent is the
-// distance to the only neighbour; its second half mirrors the first. Without
-// branches, so that the compiler can compute several at once.
+// The weights of a spline with knots at 0, 1 and 2, at the parameter `u` (0...2). At
+// each end the tangent is the difference to the only neighbour; the second half
+// mirrors the first. The code has no branches, so that the compiler can vectorise it.
 template <typename Real>
 [[gnu::always_inline]] constexpr ThreeKnots<Real> threeKnotValues(Real u) {
     constexpr auto half = static_cast<Real>(0.5);
@@ -41,6 +39,7 @@ template <typename Real>
     return {mirrored ? far : near, middle, mirrored ? near : far};
 }
 
+// The derivatives of these weights with respect to `u`.
 template <typename Real>
 [[gnu::always_inline]] constexpr ThreeKnots<Real> threeKnotSlopes(Real u) {
     constexpr auto threeHalves = static_cast<Real>(1.5);

@@ -14,27 +14,26 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr double frostSigma = 30; // points: the standard deviation of the frosting
+constexpr double frostSigma = 30; // standard deviation of the blur, points
 constexpr double frostSaturation = 1.2;
 constexpr double clearSigma = 3; // points
 
-// A picture made small by averaging squares of `step` pixels, and blurred. The
-// picture's edges continue beyond it.
+// A picture reduced by averaging squares of `step` × `step` pixels, then blurred.
+// The pixels at its edges are repeated beyond them.
 class BlurredGrid {
 public:
     // `picture`: RGB32. `sigma`: standard deviation in pixels of the picture.
     BlurredGrid(const QImage& picture, int step, double sigma);
 
-    // Writes one row of the picture, `y` in its pixels, interpolated between the
-    // two rows of squares whose centres enclose it: blue, green and red, 0...255,
-    // for each square.
+    // Writes the blue, green and red (0...255) of every square for the row at `y`, in
+    // pixels of the picture, interpolated between the two nearest rows of squares.
     void interpolateRow(double y, std::vector<float>& row) const;
 
-    // The squares of such a row between whose centres a place lies, in pixels.
+    // The two squares of a row whose centres enclose a position, and their weights.
     struct Place {
         int left = 0;
         int right = 0;
-        float share = 0; // of the right one
+        float share = 0; // weight of the right square, 0...1
     };
     Place placeOf(double x) const;
 
@@ -53,7 +52,7 @@ BlurredGrid::BlurredGrid(const QImage& picture, int step, double sigma)
     , rows_((picture.height() + step - 1) / step) {
     channels_.fill(Plane(columns_, rows_));
     shrink(picture);
-    // Averaging over a square has blurred already.
+    // The averaging has already blurred, with a variance of (step² - 1) / 12.
     const double variance = sigma * sigma - (step * step - 1) / 12.0;
     if (variance > 0) {
         const double inSquares = std::sqrt(variance) / step;
@@ -114,16 +113,16 @@ BlurredGrid::Place BlurredGrid::placeOf(double x) const {
     return {left, std::min(left + 1, columns_ - 1), static_cast<float>(place - left)};
 }
 
-constexpr double bevel = 56; // points from the edge in which the clear glass bends
-constexpr double bend = 24;  // points, at the edge itself
+constexpr double bevel = 56; // points from the edge within which clear glass refracts
+constexpr double bend = 24;  // the displacement at the edge, points
 
-// From where, in pixels, the clear glass shows what is seen at `at`.
+// The position in the picture, in pixels, that clear glass shows at `at`.
 double bent(double at, int length, double ratio) {
     const auto shift = [&](double distance) {
         const double near = std::max(0.0, 1 - distance / (bevel * ratio));
         return near * near * bend * ratio;
     };
-    // A picture smaller than two bevels bends less.
+    // A picture smaller than two bevels is refracted less.
     const double most = std::min(1.0, length / (2 * bevel * ratio));
     return at + most * (shift(at) - shift(length - at));
 }
@@ -174,7 +173,7 @@ QImage clearPicture(const QImage& picture, double ratio) {
             const float dither =
                 static_cast<float>(thresholds[static_cast<std::size_t>(x) % ditherSize]) *
                 (1.0F / 64);
-            // Between 0 and 255 already; the dither's 63/64 cannot reach 256.
+            // `value` is not negative, and a dither of at most 63/64 cannot raise 255 to 256.
             const auto level = [dither](float value) {
                 return static_cast<QRgb>(static_cast<int>(std::min(value, 255.0F) + dither));
             };
@@ -184,17 +183,17 @@ QImage clearPicture(const QImage& picture, double ratio) {
     return clear;
 }
 
-// The light at a distance from an edge, in points: a fine line and a glow.
+// The light (0...1) at `distance` points from an edge: a fine line plus a glow.
 double rimLight(GlassStyle style, double distance) {
     const double fine = std::exp(-distance * distance / 1.8);
     return style == GlassStyle::Clear ? 0.5 * fine + 0.07 * std::exp(-distance / 7)
                                       : 0.32 * fine + 0.05 * std::exp(-distance / 12);
 }
 
-constexpr double rimReach = 48;     // points: less than half a level of glow beyond
-constexpr double shadowSide = 0.55; // of the light, at the right and the bottom
+constexpr double rimReach = 48;     // points; beyond it the glow is below half a level
+constexpr double shadowSide = 0.55; // factor on the light of the right and bottom edges
 
-// The light of two opposite edges at every place between them.
+// The light of two opposite edges for every pixel between them.
 std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
     std::vector<float> light(static_cast<std::size_t>(length));
     for (int i = 0; i < length; ++i) {
@@ -205,7 +204,7 @@ std::vector<float> rimAlong(int length, double ratio, GlassStyle style) {
     return light;
 }
 
-// Colour stays within alpha.
+// Adds light to the pixels; no colour exceeds alpha.
 void brighten(QRgb* pixels, const quint8* light, int count) {
     for (int i = 0; i < count; ++i) {
         const QRgb pixel = pixels[i];

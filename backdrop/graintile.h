@@ -9,15 +9,16 @@
 
 namespace morrowleaf {
 
-// What is added to every pixel before it is rounded down to 8 bits: the film
-// grain and the dither, in 64ths of a level, with four lanes (B, G, R, A) for
-// each pixel. The grain repeats every 160 points, rounded to whole device pixels.
+// The values that are added to every pixel before it is truncated to 8 bits: film
+// grain plus dither, in 64ths of a level, with four lanes (B, G, R, A) for each
+// pixel. The grain repeats every 160 points, rounded to whole device pixels.
 class GrainTile {
 public:
     static constexpr int overhang = 8; // pixels repeated after each row
 
-    // Makes the tile, unless it is there. `grainWeight` (0...1) scales the grain.
-    // With `opaque` the alpha lane is large enough to give 255 after rounding.
+    // Makes the tile, unless the last call had the same arguments. `grainWeight`
+    // (0...1) scales the grain. If `opaque`, the alpha lane is large enough to
+    // give 255 after truncation.
     void build(double devicePixelRatio, double grainWeight, bool opaque);
 
     int size() const { return size_; }
@@ -32,7 +33,7 @@ private:
     double weight_ = -1;
     bool opaque_ = false;
     std::vector<qint16> lanes_;
-    std::size_t start_ = 0; // where a cache line begins
+    std::size_t start_ = 0; // index of the first lane, which is aligned to a cache line
 };
 
 } // namespace morrowleaf

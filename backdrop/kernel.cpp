@@ -16,7 +16,7 @@ namespace {
 
 constexpr int blockSize = 8; // pixels
 
-// A cell's weights at its pixels' centres, four lanes to a pixel.
+// The interpolation weights at the centres of a cell's pixels, four lanes for each.
 std::vector<qint16> cellWeights(int cell) {
     std::vector<qint16> weights(static_cast<std::size_t>(cell) * 4);
     for (std::size_t i = 0; i < weights.size(); ++i) {
@@ -26,8 +26,8 @@ std::vector<qint16> cellWeights(int cell) {
     return weights;
 }
 
-// One block that is wanted in part only, or that reaches over the row's end:
-// drawn beside and copied over.
+// Draws a block of which only a part is wanted, or that extends beyond the row:
+// into a buffer, from which the pixels `from` to `to` (exclusive) are copied.
 void drawPartly(RowFunction draw, const KernelRow& row, int index, int from, int to, int width) {
     std::array<std::array<quint32, blockSize>, 3> sources{};
     std::array<quint32, blockSize> pixels{};
@@ -38,7 +38,7 @@ void drawPartly(RowFunction draw, const KernelRow& row, int index, int from, int
         std::memcpy(sources.at(p).data(), row.pictures.at(p) + start, inside * sizeof(quint32));
         beside.pictures[p] = sources[p].data();
     }
-    // The block becomes the first of a row of its own.
+    // For `beside` this block is the first of the row.
     const int cell = row.cell < blockSize ? start / row.cell : index / row.blocksPerCell;
     beside.nodes = row.nodes + cell * 4;
     beside.across = row.across + index % row.blocksPerCell * blockSize * 4;
@@ -50,7 +50,7 @@ void drawPartly(RowFunction draw, const KernelRow& row, int index, int from, int
     std::copy(pixels.begin() + (from - start), pixels.begin() + (to - start), row.out + from);
 }
 
-constexpr int lanes = 32; // of a block of 8 pixels
+constexpr int lanes = 32; // in a block of 8 pixels
 
 inline qint16 high(qint16 a, qint16 b) {
     return static_cast<qint16>((qint32(a) * qint32(b)) >> 16);
@@ -108,7 +108,7 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
                                                         : kernelRowPortable;
     const MixFunction mix = path == KernelPath::Avx2 ? mixRowsAvx2 : mixRowsPortable;
     const std::vector<qint16> weights = cellWeights(nodes.cell);
-    // Some to spare: the last block may reach beyond the last node.
+    // Some spare nodes, because the last block may extend beyond the last node.
     std::vector<qint16> mixed(static_cast<std::size_t>(nodes.columns + blockSize + 1) * 4);
 
     KernelRow row;
@@ -130,7 +130,7 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
     const int lastWhole = right / blockSize;
     const int firstNode = left / nodes.cell;
     const int lastNode = (right - 1) / nodes.cell + 1;
-    // Asked once: a non-const scanLine() would detach on every row.
+    // Called once, because a non-const scanLine() would check for sharing on every row.
     auto* pixels = reinterpret_cast<quint32*>(target.bits());
     const auto stride = target.bytesPerLine() / qsizetype(sizeof(quint32));
     for (int y = clip.top(); y <= clip.bottom(); ++y) {
@@ -144,7 +144,7 @@ void runKernel(QImage& target, const QRect& clip, const KernelInput& input, Kern
                 reinterpret_cast<const quint32*>(input.pictures[p].image->constScanLine(y));
         }
         row.out = pixels + stride * y;
-        if (firstWhole > lastWhole) { // within one block
+        if (firstWhole > lastWhole) { // the clip is within one block
             drawPartly(draw, row, left / blockSize, left, right, target.width());
             continue;
         }

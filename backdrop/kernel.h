@@ -13,15 +13,15 @@
 
 namespace morrowleaf {
 
-// A picture of the frame's size that shines through with a constant weight.
+// A picture of the frame's size that is added with a constant weight.
 struct KernelPicture {
     const QImage* image = nullptr; // Format_RGB32 or ARGB32_Premultiplied
     double weight = 0;             // 0...1
 };
 
-// What the pixels of a frame are computed from: the interpolated nodes, plus the
-// weighted pictures, plus the tile; or, with `multiply`, the first picture times
-// the nodes (a lane of 16384 is 1) plus the tile.
+// The input of a frame. Each pixel is the sum of the interpolated nodes, the
+// weighted pictures and the tile. With `multiply` it is the first picture times
+// the nodes (in which 16384 stands for 1) plus the tile.
 struct KernelInput {
     const NodeGrid* nodes = nullptr;
     const GrainTile* tile = nullptr;
@@ -30,8 +30,8 @@ struct KernelInput {
     bool multiply = false;
 };
 
-// The paths give identical pixels. The fastest one that the processor has is
-// chosen at run time.
+// The implementations of the kernel, which give identical pixels. The fastest one
+// that the processor supports is chosen at run time.
 enum class KernelPath { Portable, Avx2 };
 bool kernelPathAvailable(KernelPath path);
 KernelPath fastestKernelPath();

@@ -13,7 +13,7 @@ namespace morrowleaf {
 
 namespace {
 
-// Eight bytes' worth of pixels to lanes of 256ths.
+// Widens four pixels to 16 lanes in 256ths of a level.
 MORROWLEAF_AVX2 inline __m256i widened(const quint32* pixels) {
     const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(pixels));
     return _mm256_slli_epi16(_mm256_cvtepu8_epi16(bytes), 8);
@@ -73,8 +73,8 @@ MORROWLEAF_AVX2 void blocks(const KernelRow& row, int first, int last) {
     }
 }
 
-// The usual frame, a mesh alone at one block to a cell: weights stay in
-// registers, and the tile is walked without a division.
+// The most frequent frame: only the mesh, with one block in a cell. The weights
+// stay in registers, and the loop needs no division.
 MORROWLEAF_AVX2 void plainBlocks(const KernelRow& row, int first, int last) {
     const __m256i acrossLeft = loaded(row.across);
     const __m256i acrossRight = loaded(row.across + 16);
@@ -93,7 +93,8 @@ MORROWLEAF_AVX2 void plainBlocks(const KernelRow& row, int first, int last) {
         left = _mm256_srai_epi16(_mm256_adds_epi16(left, loaded(tile)), 6);
         right = _mm256_srai_epi16(_mm256_adds_epi16(right, loaded(tile + 16)), 6);
         const __m256i packed = _mm256_permute4x64_epi64(_mm256_packus_epi16(left, right), 0xD8);
-        // Images start 16 bytes into a cache line: whole vectors would straddle.
+        // QImage data begins 16 bytes into a cache line, so stores of 32 bytes
+        // would cross lines.
         _mm_storeu_si128(out, _mm256_castsi256_si128(packed));
         _mm_storeu_si128(out + 1, _mm256_extracti128_si256(packed, 1));
         out += 2;

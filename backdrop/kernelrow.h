@@ -9,12 +9,12 @@
 
 namespace morrowleaf {
 
-// A stretch of one row in whole blocks of 8 pixels, for one path of the kernel.
+// One row of pixels in whole blocks of 8, as an implementation of the kernel draws it.
 struct KernelRow {
-    const qint16* nodes = nullptr;  // of this row, from its first cell
+    const qint16* nodes = nullptr;  // nodes of this row, from its first cell
     const qint16* across = nullptr; // weights of a cell's pixels, four lanes each, 32768 is 1
     int blocksPerCell = 1;
-    int cell = 8;                 // pixels; below 8 for kernelRowFine() alone
+    int cell = 8;                 // pixels; below 8 only for kernelRowFine()
     const qint16* tile = nullptr; // of this row, with its overhang
     int tileSize = 0;
     std::array<const quint32*, 3> pictures{}; // of this row, from column 0
@@ -24,11 +24,11 @@ struct KernelRow {
     quint32* out = nullptr; // of this row, from column 0
 };
 
-// Blocks `first` (inclusive) to `last` (exclusive).
+// Draws the blocks from `first` (inclusive) to `last` (exclusive).
 using RowFunction = void (*)(const KernelRow& row, int first, int last);
 void kernelRowPortable(const KernelRow& row, int first, int last);
 void kernelRowAvx2(const KernelRow& row, int first, int last);
-// For the cells of small pictures, which are below 8 pixels; speed does not matter.
+// For small pictures, whose cells are below 8 pixels; speed does not matter there.
 void kernelRowFine(const KernelRow& row, int first, int last);
 
 // out = above + (below - above) * weight / 32768, for `count` lanes.
@@ -38,7 +38,7 @@ void mixRowsPortable(const qint16* above, const qint16* below, qint16 weight, qi
                      int count);
 void mixRowsAvx2(const qint16* above, const qint16* below, qint16 weight, qint16* out, int count);
 
-// The processor has AVX2 and this build uses it.
+// Whether the processor has AVX2 and this build contains code for it.
 bool hasAvx2();
 
 } // namespace morrowleaf

@@ -26,8 +26,7 @@ MeshPoints drawnBack(const MeshPoints& points, float swing) {
     return drawn;
 }
 
-// Narrowed before the half is added: the sine needs the double's precision at
-// phases around 1e8, a place on the mesh does not.
+// The sine needs double precision at phases around 1e8; a position on the mesh does not.
 float swing(double phase, double amplitude) {
     return 0.5F + static_cast<float>(std::sin(phase) * amplitude);
 }
@@ -68,7 +67,7 @@ double lowestDeterminant(const MeshPoints& points) {
     }();
     double lowest = 1;
     for (const KnotWeights& down : weights) {
-        // The tensor product, one direction at a time.
+        // Evaluates the tensor product one direction at a time.
         std::array<double, 3> x{}, y{}, xv{}, yv{};
         for (std::size_t column = 0; column < 3; ++column) {
             for (std::size_t row = 0; row < 3; ++row) {

@@ -17,9 +17,9 @@ struct MeshPoint {
 // The three-by-three mesh of the backdrop, row by row.
 using MeshPoints = std::array<MeshPoint, 9>;
 
-// The points of the mesh at phase `t`: seconds since 2001 by the wall clock
-// times the speed of the animation, of the order of 1e8. `amplitude` is the
-// swing of the inner points as a share of the backdrop's size.
+// The points of the mesh at the phase `t` in radians: the seconds since 2001 by the
+// wall clock times the speed of the animation, of the order of 1e8. `amplitude` is
+// the largest displacement of a coordinate, as a fraction of the backdrop's size.
 MeshPoints meshDrift(double t, double amplitude = 0.16);
 
 // The weights of a spline's three knots at `u`, 0...2, and their derivatives.
@@ -40,15 +40,15 @@ struct SurfacePoint {
 };
 SurfacePoint surfaceAt(const MeshPoints& points, double u, double v);
 
-// The surface counts as folded below this; a mesh at rest has 0.25 everywhere.
+// Below this determinant the surface counts as folded; a mesh at rest has 0.25 everywhere.
 inline constexpr double leastDeterminant = 0.03;
 
-// The lowest determinant of the surface, found by probing it.
+// The lowest determinant of the surface at a grid of sampled points, at most 1.
 double lowestDeterminant(const MeshPoints& points);
 
-// The points themselves unless the surface through them folds over itself, as
-// the widest swings do for a few seconds; then the points drawn back towards
-// their resting places, just far enough.
+// Returns the points unchanged if the surface through them does not fold over
+// itself. Otherwise, as happens for a few seconds in the widest swings, returns
+// them moved towards their resting positions, just far enough.
 MeshPoints unfolded(const MeshPoints& points);
 
 } // namespace morrowleaf

@@ -17,14 +17,15 @@ constexpr int mostColumns = 128;
 constexpr int mostRows = 80;
 constexpr int lane = 136; // nodes of the longest row, padded to whole vectors
 using Line = std::array<float, lane>;
-// From here on up, half as many cells each way are as good.
+// From this determinant on, half as many cells in each direction are accurate enough.
 constexpr double calmDeterminant = 0.08;
 
-// Just beyond the mesh, where the ring of nodes lies.
+// The range of the parameters, slightly beyond 0...2 for the ring of nodes
+// outside the mesh.
 constexpr float paramMin = -0.06F;
 constexpr float paramMax = 2.06F;
 constexpr float safeDeterminant = 0.01F;
-constexpr float closeEnough = 2e-6F; // of the screen
+constexpr float closeEnough = 2e-6F; // as a fraction of the screen
 constexpr int mostSteps = 10;
 
 using Weights = ThreeKnots<float>;
@@ -52,7 +53,7 @@ struct Front {
         const Weights wv = threeKnotValues(at.v[n]);
         const Weights du = threeKnotSlopes(at.u[n]);
         const Weights dv = threeKnotSlopes(at.v[n]);
-        // Row sums first; the mesh's outer points have their place on the edge.
+        // Interpolates along the three rows of points first, then between the rows.
         const float topX = mix(wu, p[0].x, p[1].x, p[2].x);
         const float midX = mix(wu, p[3].x, p[4].x, p[5].x);
         const float lowX = mix(wu, p[6].x, p[7].x, p[8].x);
@@ -92,7 +93,7 @@ using Knots = std::array<float, 9>;
     }
 }
 
-// The same two, as the baseline processor and as a wider one runs them.
+// The two functions above, compiled for the baseline processor or for AVX2.
 struct RowSteps {
     void (*improve)(const MeshPoints& p, float y, Front& at, Line& missed);
     void (*colour)(const Front& at, const Knots& knots, float* out);
@@ -125,7 +126,7 @@ RowSteps rowSteps() {
 #endif
 
 bool settled(const Line& missed, int columns) {
-    // The ring's nodes may lie where no parameter reaches.
+    // Ignores the ring, whose nodes may be out of reach of the parameters.
     return std::all_of(missed.begin() + 1, missed.begin() + columns + 2,
                        [](float miss) { return miss < closeEnough; });
 }
@@ -146,7 +147,7 @@ void MeshLattice::build(const MeshPoints& points, std::span<const QColor, 9> col
     nodes_.resize(static_cast<std::size_t>(3 * (rows_ + 3) * stride_));
 
     const RowSteps steps = rowSteps();
-    // Row by row, each starting from where the two above it point.
+    // Solves row by row; each starts from the extrapolation of the two rows above it.
     Front at;
     at.columns = columns_;
     at.length = stride_;

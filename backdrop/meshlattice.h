@@ -13,20 +13,20 @@
 
 namespace morrowleaf {
 
-// The colours of a mesh gradient on a regular lattice over its unit square, with
-// one ring of nodes beyond each edge for a spline through them. They depend only
-// on points and colours, not on an earlier lattice.
+// The colours of a mesh gradient on a regular lattice over its unit square. One
+// ring of nodes outside the square lets splines be evaluated at its edges. The
+// colours depend only on the arguments of build(), not on an earlier lattice.
 class MeshLattice {
 public:
-    // The surface through the points must not fold, see unfolded().
+    // The surface through the points must not fold over itself; see unfolded().
     void build(const MeshPoints& points, std::span<const QColor, 9> colors);
 
-    // The number of cells; there are more where the mesh is squeezed.
+    // The number of cells, which is higher for a strongly deformed mesh.
     int columns() const { return columns_; }
     int rows() const { return rows_; }
 
-    // Node 0 of a lattice row (-1...rows + 1) in one plane (0 red, 1 green,
-    // 2 blue), 0...1; nodes -1...columns + 1 stand beside it.
+    // Points to node 0 of the lattice row `row` (-1...rows() + 1) in a plane (0 red,
+    // 1 green, 2 blue); the nodes -1...columns() + 1 are adjacent. Values are 0...1.
     const float* row(int plane, int row) const {
         return nodes_.data() + (plane * (rows_ + 3) + row + 1) * stride_ + 1;
     }

@@ -13,9 +13,9 @@ namespace morrowleaf {
 
 namespace {
 
-// Where a node falls among the lattice's, and the Catmull-Rom weights there.
+// The four lattice nodes around a position, with their Catmull-Rom weights.
 struct Tap {
-    int first = 0; // the node before, from -1
+    int first = 0; // index of the first of the four, at least -1
     std::array<float, 4> weights{};
 };
 
@@ -25,7 +25,8 @@ Tap tapAt(double place, int cells, bool meshEndsInside) {
     const int cell = std::min(static_cast<int>(at), cells - 1);
     const auto s = static_cast<float>(at - cell);
     Tap tap{cell - 1, catmullRom(s)};
-    // A node beyond the picture serves the pixels before it: follow the slope.
+    // A node beyond the picture is only needed to interpolate pixels inside it:
+    // extrapolates with the slope at the edge.
     if (place > inside && !meshEndsInside) {
         const auto beyond = static_cast<float>((place - inside) * cells);
         tap.weights[1] -= 0.5F * beyond;
@@ -56,7 +57,7 @@ void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
     const auto columns = static_cast<std::size_t>(nodes.columns);
     const int meshRows = mesh.rows() + 3;
 
-    // Across first: every lattice row at the nodes' columns.
+    // Horizontally first: interpolates every lattice row at the columns of the nodes.
     std::vector<Tap> taps(columns);
     for (std::size_t i = 0; i < columns; ++i) {
         const double place = nodes.place(static_cast<int>(i)) / size.width();

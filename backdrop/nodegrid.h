@@ -12,22 +12,22 @@
 
 namespace morrowleaf {
 
-// One full level of a lane, in 64ths of an 8-bit level.
+// The value of a lane for the level 255, in 64ths of a level.
 inline constexpr int fullLane = 255 * 64;
 
-// A picture that changes slowly from place to place, stored at the corners of
-// square cells of `cell` device pixels: premultiplied, in 64ths of a level, with
-// four lanes (B, G, R, A) for each node. The last column and row are on or beyond
-// the edge.
+// A picture without fine detail, stored at the corners of square cells of `cell`
+// device pixels: premultiplied, in 64ths of a level, with four lanes (B, G, R, A)
+// for each node. The last column and row are on or beyond the edge.
 struct NodeGrid {
-    int cell = 8; // 1, 4, or a multiple of 8; at 1 the nodes lie in the pixels' centres
+    int cell = 8; // 1, 4, or a multiple of 8; if 1, the nodes are at the centres of the pixels
     int columns = 0;
     int rows = 0;
     std::vector<qint16> lanes;
 
-    // The size of a cell for a picture of `size` device pixels: about eight points,
-    // and fewer where the whole mesh has only a few pixels.
+    // The size of a cell for a picture of `size` device pixels: about eight
+    // points, or less in small pictures.
     static int cellFor(const QSize& size, double devicePixelRatio);
+    // Allocates the nodes for a picture of `size` device pixels.
     void resize(const QSize& size, double devicePixelRatio);
 
     // The position of node `index` in a row or column, in device pixels.
@@ -39,21 +39,22 @@ struct NodeGrid {
     }
 };
 
-// How the mesh becomes nodes:
+// How shadeNodes() computes a node:
 // mesh * factor * (1 - vignette) + base + under * underWeight.
 struct Shading {
     double factor = 1;               // 0...1
     double alpha = 1;                // of the alpha lane; the vignette does not change it
     double vignette = 0;             // strength, 0...1
     std::array<double, 4> base{};    // B, G, R, A, 0...1
-    const NodeGrid* under = nullptr; // of the same size
+    const NodeGrid* under = nullptr; // a grid of the same size, or null
     double underWeight = 0;
 
     bool operator==(const Shading&) const = default;
 };
 
-// Draws the mesh, scaled about the centre, into `nodes`, which must have been
-// resized. Where the scaled mesh does not reach, its edge colours continue.
+// Writes the colours of the mesh, scaled by `scale` about the centre, into
+// `nodes`, which must have been resized for `size` (device pixels). Beyond the
+// scaled mesh its edge colours continue.
 void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
                 const MeshLattice& mesh, double scale, const Shading& shading);
 

@@ -39,7 +39,7 @@ const QImage& PhotoGround::composed(const QImage& photo, double devicePixelRatio
         composed_ = QImage(photo.size(), QImage::Format_RGB32);
     }
 
-    // The nodes are factors here: a white mesh, 16384 for 1.
+    // The nodes of a white mesh serve as factors; 16384 stands for 1.
     MeshLattice white;
     std::array<QColor, 9> colors;
     colors.fill(Qt::white);

@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// Makes a picture opaque and fits it to a size in device pixels: scaled to fill
-// it and cropped about its centre. Keeps the last result.
+// Scales a picture to fill a size in device pixels, crops it about its centre and
+// makes it opaque; a null picture gives a null one. Keeps the last result.
 class FittedPicture {
 public:
     const QImage& fitted(const QImage& picture, const QSize& size);
@@ -23,8 +23,8 @@ private:
 
 inline constexpr double photoShade = 0.3; // opacity of the black over a photo
 
-// Composes a photo with its shade, vignette (strength 0...1) and grain, and keeps
-// the last result.
+// Darkens a photo by photoShade and the vignette (strength 0...1), adds the
+// grain, and keeps the last result.
 class PhotoGround {
 public:
     const QImage& composed(const QImage& photo, double devicePixelRatio, double vignette,

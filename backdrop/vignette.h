@@ -7,14 +7,14 @@
 
 namespace morrowleaf {
 
-// The vignette darkens the ground by its strength times a share that grows
-// evenly between two distances from the backdrop's centre, in points.
-inline constexpr double vignetteInner = 260;  // the share is 0 up to here
+// The vignette darkens the ground by its strength times a factor that grows
+// linearly from 0 to 1 between two distances from the backdrop's centre, in points.
+inline constexpr double vignetteInner = 260;  // the factor is 0 up to here
 inline constexpr double vignetteOuter = 1200; // and 1 from here on
-// Over a light mesh only this part of the strength is used.
+// Over a light mesh the strength is multiplied by this.
 inline constexpr double lightVignette = 0.22;
 
-// The vignette's strength in this state, 0...1.
+// The strength of the vignette in this state, 0...1.
 inline double vignetteStrength(const BackdropState& state) {
     const bool overLightMesh = state.palette.light && !state.hasPhoto;
     return clampToUnit(state.vignette * (overLightMesh ? lightVignette : 1));

@@ -11,13 +11,13 @@ namespace morrowleaf {
 
 namespace {
 
-// One coordinate of a cubic Bézier from 0 to 1 with the given inner controls.
+// One coordinate of a cubic Bézier curve from 0 to 1 with these inner control points.
 double bezier(double first, double second, double t) {
     const double s = 1 - t;
     return 3 * s * s * t * first + 3 * s * t * t * second + t * t * t;
 }
 
-// The curve (x1, 0), (x2, y2): the share of the way at a share of the time.
+// The progress at an elapsed fraction, for the inner control points (x1, 0), (x2, y2).
 double timing(double x1, double x2, double y2, double fraction) {
     if (!(fraction > 0)) {
         return 0;
@@ -25,7 +25,7 @@ double timing(double x1, double x2, double y2, double fraction) {
     if (fraction >= 1) {
         return 1;
     }
-    // x grows with t throughout, so halving cannot miss.
+    // x increases with t, so bisection finds the parameter.
     double low = 0;
     double high = 1;
     for (int i = 0; i < 48; ++i) {
@@ -75,10 +75,10 @@ double springSettledAfter(double response, double dampingFraction, double tolera
     const double omega = 2 * std::numbers::pi / response;
     const double zeta = dampingFraction;
     if (zeta < 1) {
-        // The envelope of the swing; the swing itself may be inside it earlier.
+        // Solved for the envelope of the oscillation, which may itself settle earlier.
         return std::log(1 / (tolerance * std::sqrt(1 - zeta * zeta))) / (zeta * omega);
     }
-    // Approaches from one side only.
+    // Without overshoot 1 is approached from below; found by bisection.
     double low = 0;
     double high = response;
     while (1 - spring(high, response, dampingFraction) > tolerance) {

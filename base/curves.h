@@ -15,8 +15,8 @@ double easeInEaseOut(double fraction);
 
 // The position at `seconds` of a unit mass on a spring, from rest at 0 towards 1.
 // `response` is the period of the undamped spring in seconds (its angular
-// frequency is 2π / response) and `dampingFraction` the damping ratio: below 1 the
-// spring overshoots. 0 before the start and for NaN.
+// frequency is 2π / response) and `dampingFraction` the damping ratio: below 1
+// the spring overshoots. Negative `seconds` and NaN give 0, infinity gives 1.
 double spring(double seconds, double response, double dampingFraction);
 
 // The seconds after which a spring stays within `tolerance` of 1.

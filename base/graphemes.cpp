@@ -23,7 +23,7 @@ std::unique_ptr<icu::BreakIterator> makeIterator() {
     return iterator;
 }
 
-// The iterator at the start of `text`, which it reads until the next call.
+// This thread's iterator at the start of `text`, which must stay valid while it is used.
 icu::BreakIterator& iteratorOver(QStringView text) {
     // Making an iterator costs far more than running it over a line.
     static thread_local const std::unique_ptr<icu::BreakIterator> iterator = makeIterator();
@@ -31,7 +31,7 @@ icu::BreakIterator& iteratorOver(QStringView text) {
     UText units = UTEXT_INITIALIZER;
     utext_openUChars(&units, text.utf16(), text.size(), &status);
     iterator->setText(&units, status);
-    utext_close(&units); // the iterator has a copy of its own
+    utext_close(&units); // the iterator keeps a clone
     if (U_FAILURE(status)) {
         qFatal("ICU refuses a text of %lld units: %s.", static_cast<long long>(text.size()),
                u_errorName(status));

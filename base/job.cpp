@@ -12,7 +12,7 @@ namespace morrowleaf {
 
 namespace {
 
-// What the two threads share.
+// The state that both threads share.
 struct Link {
     std::stop_source stop;
     std::mutex mutex;
@@ -21,7 +21,7 @@ struct Link {
 
 } // namespace
 
-// The end of a job that stays on its thread.
+// The part of a job that stays on the thread that started it.
 struct Job::Delivery {
     explicit Delivery(std::function<void()> whenDone)
         : done(std::move(whenDone)) {
@@ -29,7 +29,7 @@ struct Job::Delivery {
     }
     ~Delivery() {
         link->stop.request_stop();
-        // The receiver takes a posted result with it.
+        // Destroying the receiver also discards a result that has been posted.
         const std::scoped_lock lock(link->mutex);
         link->receiver = nullptr;
     }
@@ -50,7 +50,7 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
                 std::function<void()> done, int priority) {
     delivery_ = std::make_unique<Delivery>(std::move(done));
     const auto deliver = [delivery = delivery_.get()] {
-        // `done` may destroy the job.
+        // `done` may destroy the job, and the delivery with it.
         const std::function<void()> call = std::move(delivery->done);
         call();
     };
@@ -59,7 +59,7 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
             return;
         }
         work(link->stop.get_token());
-        work = nullptr; // frees what it holds before the result arrives
+        work = nullptr; // frees its captures before the result is delivered
         const std::scoped_lock lock(link->mutex);
         if (link->receiver) {
             QMetaObject::invokeMethod(link->receiver, deliver, Qt::QueuedConnection);

@@ -14,32 +14,31 @@ class QThreadPool;
 
 namespace morrowleaf {
 
-// Work that a thread of a pool does, with the result delivered to the thread
-// that started it:
+// Work that runs on a thread of a pool, with its result delivered on the thread that
+// started it:
 //
 //     decoding_ = Job(workers, [path](const std::stop_token&) { return decode(path); },
 //                     [this](const QImage& image) { show(image); });
 //
-// A Job belongs to the thread that made it, which needs an event loop. `done`
-// is called there at most once, never from within the constructor, and may
-// destroy or replace its own job.
+// A Job belongs to the thread that made it, which needs an event loop. `done` is
+// called there at most once, never from within the constructor, and may destroy or
+// replace its own job.
 //
 // Destroying a job, or assigning another one to it, cancels it without waiting:
-// `done` is not called any more and is freed at once; work that has not begun
-// is skipped; work that runs sees its stop token set, ends when it likes, and
-// its result is freed. So `work` may only use what it holds itself, or what
-// lives as long as the pool.
+// `done` is never called and is freed at once. Work that has not begun is skipped;
+// running work sees the request on its stop token, finishes in its own time, and its
+// result is freed. So `work` may use only what it owns or what outlives the pool.
 //
-// The pool must outlive the work. Its destructor waits for work that runs:
-// where that may block for ever, use a pool that can be abandoned. An exception
-// that leaves `work` ends the program.
+// The pool must outlive the work. The destructor of a pool waits for running work:
+// where that may block forever, use a pool that can be abandoned. An exception that
+// leaves `work` ends the program.
 class Job {
 public:
-    Job(); // no work
+    Job(); // holds no work
 
     // `work` takes a const std::stop_token& and returns the result, which need
-    // not be copyable; `done` takes the result. Among queued work, higher
-    // priorities run first.
+    // not be copyable; `done` takes the result. Queued work with a higher
+    // priority runs first.
     template <typename Work, typename Done>
     Job(QThreadPool& pool, Work work, Done done, int priority = 0)
         : Job() {

@@ -11,10 +11,10 @@ namespace morrowleaf {
 
 namespace {
 
-// Days before 1 January of year 1 in the count of Julian days.
+// The Julian day of 31 December of 1 BC, in the Gregorian calendar.
 constexpr qint64 julianDaysBeforeYearOne = 1721425;
 
-// Beyond some 290 million years the milliseconds leave 64 bits.
+// About 290 million years; beyond, the milliseconds do not fit into 64 bits.
 constexpr double lastSecond = 9.2e15;
 
 } // namespace

@@ -16,17 +16,18 @@ struct Moment {
     double unixSeconds = 0; // since 1970-01-01 00:00 UTC
     QTimeZone zone;
 
+    // The current time in the system's zone.
     static Moment now();
 
-    // Rounded down to the millisecond, and in UTC without a valid zone. Invalid
-    // for NaN and beyond some 290 million years.
+    // The local date and time, rounded down to the millisecond; in UTC if `zone`
+    // is invalid. Invalid for NaN and more than about 290 million years from 1970.
     QDateTime local() const;
     // The local date in days since 31 December of 1 BC (1 January of year 1 is
     // day 1) in the Gregorian calendar, negative before; 0 if local() is invalid.
     qint64 dayOrdinal() const;
 };
 
-// Gives the present. Tests pass a fixed one.
+// Returns the current moment. Tests pass a fixed one.
 using Clock = std::function<Moment()>;
 
 } // namespace morrowleaf

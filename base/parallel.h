@@ -8,7 +8,7 @@
 namespace morrowleaf {
 
 // Calls `work` once with each of 0...count - 1, in any order, on this thread and
-// on idle threads of Qt's global pool. Returns when all calls have returned.
+// on free threads of Qt's global pool. Returns when all calls have returned.
 void inParallel(int count, const std::function<void(int)>& work);
 
 } // namespace morrowleaf

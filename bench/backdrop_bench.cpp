@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// CPU time of a backdrop frame beside a memcpy of the same frame in the same
-// run, and beside the plain composition with QPainter that it replaces.
+// Compares the CPU time of a backdrop frame with that of a memcpy of the same frame
+// in the same run, and with the plain composition by QPainter that it replaces.
 
 #include "backdrop/backdrop.h"
 #include "backdrop/vignette.h"
@@ -54,7 +54,8 @@ void backdrop(benchmark::State& run) {
     }
 }
 
-// A small picture of the colours drawn large, a gradient and a tiled brush.
+// Composes a frame with QPainter: an enlarged picture of the colours, a radial
+// gradient and a tiled brush.
 void naive(benchmark::State& run) {
     QImage frame = frameOf(run);
     QImage colours(64, 40, QImage::Format_RGB32);

@@ -14,11 +14,11 @@
 #include <numeric>
 #include <vector>
 
-// The whole entrance of a quotation of five lines, frame by frame at 60 a
-// second as the quote screen repaints it: all of it whenever the backdrop moves
-// on (30 a second), what of the text has moved in between. Processor time, in
-// milliseconds: a frame of each of the two sorts, a frame in the busiest quarter
-// of a second (the median of the runs), and a second of the entrance.
+// Measures the whole entrance of a quotation of five lines, drawn at 60 frames a
+// second as the quote screen does: all of it whenever the backdrop advances (30
+// times a second), and in between only the text that has moved. Reports processor
+// time in milliseconds: for a frame of each kind, for a frame in the busiest
+// quarter of a second (the median of the runs), and for a second of the entrance.
 
 using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
@@ -64,7 +64,7 @@ double processorTime() {
 struct Costs {
     double whole = 0;
     double between = 0;
-    std::vector<double> busiest; // of each run
+    std::vector<double> busiest; // one value for each run
     int wholeFrames = 0;
     int betweenFrames = 0;
 };
@@ -117,7 +117,7 @@ void playOnce(const QuoteViewState& state, BackdropPainter& painter, QImage& fra
         }
         const double spent = processorTime() - start;
         if (i == 0) {
-            continue; // sets up the backdrop
+            continue; // the first frame also sets up the backdrop
         }
         frameCosts.push_back(spent);
         (all ? costs.whole : costs.between) += spent;

@@ -15,8 +15,8 @@
 #include <cstring>
 #include <ctime>
 
-// What one frame of a line costs at two screen sizes, also as a share of
-// copying that frame in the same run ("per_copy").
+// Measures one frame of a line at two screen sizes, also relative to copying such
+// a frame in the same run ("per_copy").
 
 using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
@@ -44,7 +44,7 @@ RevealLine::Parts parts(TextAnim style) {
             1000};
 }
 
-// Of this process alone: other programs do not count.
+// The processor time of this process, which other programs do not affect.
 double processorSeconds() {
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
@@ -61,7 +61,7 @@ double copySeconds(const QImage& frame) {
     return best;
 }
 
-// Frames at 60 a second over the share `from`...`to` of the entrance.
+// Paints frames at 60 a second between the fractions `from` and `to` of the entrance.
 void paintFrames(benchmark::State& state, TextAnim style, double from, double to) {
     const Screen screen = screenOf(state.range(0));
     QImage frame(screen.size, QImage::Format_RGB32);
@@ -111,7 +111,7 @@ BENCHMARK_CAPTURE(entrance, handwrite, TextAnim::Handwrite)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(resting, any, TextAnim::Fade)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
-// Seconds after the delay at which this share of the outline is traced.
+// Seconds after the delay at which this fraction of the outline has been traced.
 double tracedAfter(double share) {
     double early = 0;
     double late = 1.25;
@@ -122,8 +122,9 @@ double tracedAfter(double share) {
     return late;
 }
 
-// Frames from a share (in percent) of the outline on, each with as much more of
-// it: the cost must not grow with what is there already.
+// Draws frames that each add the same length to the trace, beginning at the
+// fraction of the outline (in percent) that is the argument of the benchmark. The
+// cost must not grow with what has already been drawn.
 template <typename Frame>
 void tracing(benchmark::State& state, const Frame& frameAt) {
     const double from = static_cast<double>(state.range(0)) / 100;
@@ -167,7 +168,7 @@ void handwriting(benchmark::State& state) {
 BENCHMARK(pen)->Arg(10)->Arg(50)->Arg(90)->Unit(benchmark::kMillisecond);
 BENCHMARK(handwriting)->Arg(10)->Arg(50)->Arg(90)->Unit(benchmark::kMillisecond);
 
-// A new line for a changed colour or size while a slider moves.
+// Builds a new line for each of many sizes, as when a slider moves.
 void rebuilt(benchmark::State& state, TextAnim style) {
     double size = 44;
     for ([[maybe_unused]] auto _ : state) {

@@ -26,7 +26,7 @@ struct ScreenAnimRow {
     double amplitude;
 };
 
-// In the order of the cases.
+// In the order of the enumerators.
 constexpr std::array<TextAnimRow, allTextAnims.size()> textRows{{
     {"fade"_L1, "Fade"_L1},
     {"handwrite"_L1, "Handwrite"_L1},

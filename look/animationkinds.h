@@ -10,7 +10,7 @@
 
 namespace morrowleaf {
 
-// How the quotation comes onto the screen.
+// How the lines of the quotation come in.
 enum class TextAnim { Fade, Handwrite, Typewriter, Rise, Blur };
 // How the backdrop moves.
 enum class ScreenAnim { Drift, Still, Breathe, Aurora, Zoom };
@@ -21,26 +21,26 @@ inline constexpr std::array allScreenAnims{ScreenAnim::Drift, ScreenAnim::Still,
                                            ScreenAnim::Breathe, ScreenAnim::Aurora,
                                            ScreenAnim::Zoom};
 
-// The stored form of a kind, and back. Comparisons are exact; an unknown text
-// gives std::nullopt.
+// The stored name of a kind, and the kind for a stored name. The comparison is
+// exact; an unknown name gives std::nullopt.
 QString rawValue(TextAnim kind);
 QString rawValue(ScreenAnim kind);
 std::optional<TextAnim> textAnimFromRawValue(const QString& raw);
 std::optional<ScreenAnim> screenAnimFromRawValue(const QString& raw);
 
-// The kind for a stored text; an unknown text gives the first kind.
+// The kind for a stored name; an unknown name gives the first kind.
 TextAnim storedTextAnim(const QString& raw);
 ScreenAnim storedScreenAnim(const QString& raw);
 
-// As the appearance editor shows it.
+// The name that the appearance editor shows.
 QString label(TextAnim kind);
 QString label(ScreenAnim kind);
 
-// Phase units per second of wall-clock time; 0 stands still.
+// The increase of the phase, in radians per second of wall-clock time; 0 for a still backdrop.
 double speed(ScreenAnim kind);
-// Swing of the mesh points, as a share of the backdrop's size.
+// The largest displacement of the mesh points, as a fraction of the backdrop's size.
 double amplitude(ScreenAnim kind);
-// The scale of the mesh about the backdrop's centre at a phase.
+// The scale of the mesh about the backdrop's centre at a phase in radians.
 double backdropScale(ScreenAnim kind, double phase);
 
 } // namespace morrowleaf

@@ -19,7 +19,7 @@ constexpr int side = ditherSize;
 constexpr int count = side * side;
 constexpr double sigma = 1.9; // pixels
 
-// A torus of dots, with the blurred density around every cell.
+// Dots on a torus, with the blurred density of the dots at every cell.
 class Dots {
 public:
     Dots() {
@@ -74,7 +74,7 @@ private:
 };
 
 DitherMask build() {
-    // A tenth of the cells, scattered, then evened out.
+    // Puts dots on a tenth of the cells at random, then spreads them evenly.
     Dots start;
     quint32 random = 0x9E3779B9U;
     int placed = 0;

@@ -14,10 +14,11 @@ namespace morrowleaf {
 namespace {
 
 constexpr double directUpTo = 2.5;
-// So few cells that the kernel itself costs next to nothing.
+// In a plane with fewer cells the direct convolution is cheap anyway.
 constexpr std::size_t fewCells = 16384;
 
-// All passes run down the columns, which the compiler can vectorise.
+// All passes run down the columns, which the compiler can vectorise; rows are
+// processed as the columns of the transposed plane.
 Plane transposed(const Plane& plane) {
     constexpr int block = 16;
     Plane result(plane.height, plane.width);
@@ -65,7 +66,7 @@ Plane convolvedDown(const Plane& plane, const std::vector<float>& kernel, Edges 
 
 struct Box {
     int reach;  // whole cells to each side
-    float edge; // weight of the cell beyond them
+    float edge; // weight of the next cell at each end
     float weight;
 };
 

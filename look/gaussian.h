@@ -24,28 +24,30 @@ struct Plane {
     const float* row(int y) const { return values.data() + static_cast<std::ptrdiff_t>(y) * width; }
 };
 
-// exp(-d² / 2σ²): the Gaussian at the distance d from its centre, where it is 1.
+// The Gaussian exp(-d² / 2σ²) for the square of the distance d from its centre;
+// it is 1 at the centre.
 inline double gaussian(double squaredDistance, double sigma) {
     return std::exp(-squaredDistance / (2 * sigma * sigma));
 }
 
-// The weights of the cells -reach...reach, with a sum of 1.
+// The weights of a Gaussian at the cells -reach...reach, normalised to a sum of
+// 1. `sigma` is in cells.
 std::vector<float> gaussianKernel(double sigma, int reach);
 
-// What lies beyond the edges of a plane.
+// The values that a filter reads beyond the edges of a plane.
 enum class Edges {
-    Zero,     // nothing: what a filter spreads over an edge is lost
-    Extended, // the outermost cells continue
+    Zero,     // 0; what a filter spreads over an edge is lost
+    Extended, // the value of the nearest cell in the plane
 };
 
-// Convolves columns and rows with a kernel of an odd number of weights.
+// Convolves the columns and then the rows with a kernel of an odd number of weights.
 void convolve(Plane& plane, const std::vector<float>& kernel, Edges edges);
 
-// Convolves with a Gaussian of standard deviation `sigma` in cells; a plane is
-// zero beyond its edges, so keep three `sigma` around what matters. Up to a
-// sigma of 2.5 (5 in a small plane) this is the kernel itself, beyond it three
-// box means of fractional width with the same variance, whose cost does not
-// grow with `sigma`. A sigma that is not above 0 changes nothing.
+// Convolves with a Gaussian of the standard deviation `sigma`, in cells. The
+// plane counts as zero beyond its edges, so leave a margin of three `sigma`. Up
+// to a sigma of 2.5 (5 in a small plane) this is an exact convolution; above,
+// three box filters of fractional width with the same variance, whose cost does
+// not grow with `sigma`. Zero, negative values and NaN leave the plane unchanged.
 void gaussianBlur(Plane& plane, double sigma);
 
 } // namespace morrowleaf

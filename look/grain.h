@@ -16,7 +16,7 @@ inline constexpr double grainOpacity = 0.045;
 using GrainBytes = std::array<quint8, size_t{grainSize} * grainSize * 4>;
 
 // The film grain: the same greyscale noise on every run, from a 64-bit xorshift
-// generator. It is made at the first call; any thread may call.
+// generator. It is made at the first call. May be called on any thread.
 const GrainBytes& grain();
 
 } // namespace morrowleaf

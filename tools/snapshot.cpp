@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Draws frames of the quote screen off-screen, for looking at and comparing.
+// Draws frames of the quote screen without a display, for viewing and comparing.
 #include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
 #include "quotes/schedule.h"
@@ -72,7 +72,7 @@ QSizeF parseSize(const QString& text) {
     return size;
 }
 
-// As JSON where it reads as such, else as a text.
+// Parses a value as JSON if it is valid JSON, otherwise takes it as a string.
 QJsonValue parseValue(const QString& text) {
     const QByteArray wrapped = "[" + text.toUtf8() + "]";
     const QJsonArray array = QJsonDocument::fromJson(wrapped).array();
@@ -117,7 +117,7 @@ Moment parseMoment(const QCommandLineParser& parser) {
 // All pictures in a grid on grey, each `cellWidth` pixels wide with its caption below.
 QImage contactSheet(const QList<QImage>& pictures, const QStringList& captions, int columns,
                     int cellWidth) {
-    constexpr int gap = 12; // pixels, as all here
+    constexpr int gap = 12; // pixels, like all lengths here
     constexpr int captionHeight = 22;
     QList<QImage> cells;
     int cellHeight = 1;

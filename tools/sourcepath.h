@@ -7,9 +7,9 @@
 
 namespace morrowleaf {
 
-// The absolute path of a file or folder in the source tree that the program
-// was built from, for what runs there: tests, benchmarks, the tools.
-// `relative` is its path from the top, "resources/Fonts" for one.
+// The absolute path of a file or folder in the source tree, for tests, benchmarks
+// and tools. `relative` is its path from the top folder, for example
+// "resources/Fonts".
 QString sourcePath(const QString& relative);
 
 } // namespace morrowleaf
