@@ -7,8 +7,7 @@
 
 namespace morrowleaf {
 
-// An element that comes in once, by ease-out. All times are in seconds from the
-// appearance of the view.
+// The entrance of one element, eased out. Times are in seconds since the view appeared.
 struct Entrance {
     double delay = 0;
     double duration = 1;
@@ -20,7 +19,8 @@ struct Entrance {
 inline constexpr Entrance headerEntrance{0.9, 1.2};
 inline constexpr Entrance hintEntrance{2.6, 1.4};
 
-// Rule and author wait for the lines that there were when the view appeared.
+// The entrances of rule and author, which wait for the lines that the quotation
+// had when the view appeared.
 struct ClosingEntrances {
     Entrance rule;
     Entrance author;
@@ -28,20 +28,21 @@ struct ClosingEntrances {
 ClosingEntrances closingEntrances(TextAnim kind, qsizetype lines);
 
 // The opening quotation mark springs in: its opacity rises from 0 to 1, and its
-// scale from 0.7 past 1 and back to it.
+// scale grows from 0.7, overshoots 1 and returns to it.
 namespace mark {
 inline constexpr double delay = 0.35;
 inline constexpr double response = 1.1;
 inline constexpr double dampingFraction = 0.75;
 double opacity(double seconds);
 double scale(double seconds);
-double end(); // it is at rest from here on
+double end(); // from here on the mark is at rest
 } // namespace mark
 
 // The appearance editor slides in from the right edge.
 inline constexpr Entrance inspectorEntrance{0, 0.28};
 
-// A photo, or the glass, that takes longer than this fades in.
+// A photo or glass that takes longer than photoPatience seconds fades in over
+// photoFade seconds.
 inline constexpr double photoPatience = 0.1;
 inline constexpr double photoFade = 0.3;
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double usualRate = 60;      // frames a second
 constexpr double longestSleep = 3600; // seconds; waking too early does no harm
-constexpr double gridSlack = 1e-6;    // of a frame, or of a tick of the backdrop
+constexpr double gridSlack = 1e-6;    // for rounding errors, in frames or seconds
 
 } // namespace
 

@@ -15,14 +15,15 @@ namespace morrowleaf {
 
 class FrameTimer;
 
-// Seconds of a clock that never jumps, from any origin.
+// Returns the seconds of a monotonic clock, which may count from any instant.
 using Monotonic = std::function<double()>;
+// A clock that counts from this call.
 Monotonic steadySeconds();
 
-// The one clock of everything that moves on a screen. It divides its time into
-// frames and calls all timers of a frame in the same turn of the event loop, so
-// that one repaint serves them all. It sleeps until the next frame in which a
-// timer is due. For the main thread.
+// The clock of everything that moves on a screen. It divides time into frames and
+// fires all timers of a frame in the same iteration of the event loop, so that
+// one repaint serves them all. It sleeps until the next frame in which a timer is
+// due. Use it on the main thread only.
 class FrameClock : public QObject {
     Q_OBJECT
 
@@ -30,14 +31,15 @@ public:
     explicit FrameClock(Monotonic monotonic, QObject* parent = nullptr);
 
     double now() const { return monotonic_(); } // seconds
-    // The rate of the display, in frames a second; 60 until it is known. A rate
-    // outside 24...480 counts as 60.
+    // Sets the refresh rate of the display in frames a second. It is 60 until
+    // then; a rate outside [24, 480] and NaN count as 60.
     void setRate(double framesPerSecond);
     double frameInterval() const { return interval_; } // seconds
 
 private:
     friend class FrameTimer;
-    // The first frame after now that does not begin before `instant`.
+    // The start, in seconds of the clock, of the first frame after now that does
+    // not begin before `instant`.
     double frameFor(double instant) const;
     void schedule();
     void serve();
@@ -49,7 +51,7 @@ private:
     std::vector<FrameTimer*> timers_;
 };
 
-// Asks a clock for frames, one at a time.
+// Requests frames from a clock, one at a time. May outlive the clock.
 class FrameTimer : public QObject {
     Q_OBJECT
 
@@ -57,10 +59,10 @@ public:
     explicit FrameTimer(FrameClock& clock, QObject* parent = nullptr);
     ~FrameTimer() override;
 
-    // One tick in the first frame that does not begin before `instant`, by the
-    // clock's seconds, and at the earliest in the next one; replaces an earlier
-    // wish.
+    // Requests one tick() in the first frame that does not begin before `instant` (seconds
+    // of the clock), in the next frame at the earliest. Replaces an earlier request.
     void wakeAt(double instant);
+    // Cancels the request.
     void sleep();
     bool awake() const { return due_.has_value(); }
 
@@ -70,11 +72,12 @@ signals:
 private:
     friend class FrameClock;
     QPointer<FrameClock> clock_;
-    std::optional<double> due_; // by the clock's seconds
+    std::optional<double> due_; // in seconds of the clock
 };
 
-// The grid of instants at which a moving backdrop may be drawn anew: the number
-// of the latest one, and the next one. Seconds since the appearance.
+// A moving backdrop is redrawn at multiples of backdropInterval. For an instant
+// in seconds since the appearance: the number of the latest multiple, and the
+// instant of the next one.
 qint64 backdropTick(double instant);
 double nextBackdropTick(double instant);
 

@@ -16,19 +16,19 @@ namespace morrowleaf {
 
 struct Glass;
 
-// The glass over one captured picture: made by a worker when it is first
-// wanted, once for that picture, and dropped with it.
+// The glass for one captured picture: made on a worker thread when it is first
+// wanted, and released as soon as another picture or none is wanted.
 class GlassShowing : public QObject {
     Q_OBJECT
 
 public:
     explicit GlassShowing(QThreadPool& workers, QObject* parent = nullptr);
 
-    // The picture to look through from now on; a null one is none. Asking
-    // again for the same costs nothing.
+    // Sets the picture to show through glass; a null picture means none.
+    // Repeating a call with the same picture and ratio has no effect.
     void want(const QImage& picture, double devicePixelRatio);
 
-    // Null until it is made.
+    // Null until made() has been emitted for the wanted picture.
     const std::shared_ptr<const Glass>& glass() const { return glass_; }
 
 signals:

@@ -19,10 +19,10 @@ QRectF centred(double top, QSizeF size) {
 constexpr int slack = 2; // characters that a balanced line may hold beyond its target
 constexpr double leastSeen = 2000;
 constexpr double mostSeen = 20000;
-constexpr qsizetype unitsPerCharacter = 4; // on the average
-constexpr qsizetype longestCharacter = 64; // units kept of one beyond all bounds
+constexpr qsizetype unitsPerCharacter = 4; // UTF-16 units kept for each, on average
+constexpr qsizetype longestCharacter = 64; // UTF-16 units kept of a character of extreme length
 
-// Splits no surrogate pair.
+// The first `units` UTF-16 units; does not split a surrogate pair.
 QString leftOf(const QString& text, qsizetype units) {
     const bool splits =
         units < text.size() && text[units].isLowSurrogate() && text[units - 1].isHighSurrogate();
@@ -123,7 +123,7 @@ QString beginningOf(const QString& text, qsizetype limit) {
     const QString head = leftOf(text, limit * unitsPerCharacter);
     const QList<qsizetype> ends = characterEnds(head);
     const bool isWhole = head.size() == text.size();
-    // The last one of a head may have been cut through.
+    // The last character of a truncated text may be incomplete.
     const qsizetype kept = std::min(isWhole ? ends.size() : ends.size() - 1, limit);
     return kept > 0 ? head.left(ends[kept - 1]) : leftOf(head, longestCharacter);
 }

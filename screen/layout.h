@@ -12,8 +12,8 @@
 
 namespace morrowleaf {
 
-// Sizes and distances on the quote screen, in points. Those marked with s k are
-// multiplied by the scale of the screen and that of the user.
+// Sizes and distances on the quote screen, in points. Those marked "s k" are
+// multiplied by the scale of the screen (s) and that of the user (k).
 namespace measure {
 inline constexpr double quoteSize = 44;   // s k
 inline constexpr double markSize = 64;    // s k
@@ -33,24 +33,26 @@ inline constexpr double columnPadding = 90; // on either side
 inline constexpr double headerSide = 46;
 inline constexpr double headerTop = 38;
 inline constexpr double hintBottom = 40;
-inline constexpr double leastSpace = 8;   // between the column and what is above and below
+inline constexpr double leastSpace = 8;   // between the column and header or hint
 inline constexpr double shrunkSpace = 20; // the same for a column that had to shrink
 inline constexpr double leastQuoteSize = 12;
 inline constexpr double shadowRadius = 24;
 inline constexpr double shadowDrop = 6;
 } // namespace measure
 
-// The factor s on every scaled size: the main screen's height in points divided
-// by 982, clamped to [0.85, 1.55]. NaN gives 0.85, and no screen gives 1.
+// The factor s on every scaled size: the main screen's height in points divided by
+// 982, clamped to [0.85, 1.55]. NaN gives 0.85, and std::nullopt (no screen) gives 1.
 double screenScale(std::optional<double> screenHeight);
 
-// The characters of a line, clamped to [16, 48], for a scale s × k. `screenWidth`
-// is that of the main screen in points; 1512 is used without one.
+// The target number of characters in a line, clamped to [16, 48], for the scale s
+// × k. `screenWidth` is the width of the main screen in points, 1512 if it is
+// std::nullopt; `sideInset` is in points. NaN gives 16.
 int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale);
 
-// The rectangle that contains the column, the header and the hint: full height,
-// at most 1180 points wide, centred in the width to the left of the inset.
+// The rectangle, in points, that contains the column, the header and the hint: full
+// height, at most 1180 points wide, centred in the width to the left of the inset.
 QRectF contentBox(QSizeF view, double sideInset);
+// The width of the column in the content box, at least 1 point.
 double columnWidth(const QRectF& contentBox);
 
 // The sizes of the column's texts.
@@ -60,7 +62,7 @@ struct ColumnSizes {
     QSizeF author;
 };
 
-// The column in its own coordinates, in points: y from its top, x from its middle.
+// The column in its own coordinates, in points: y from its top, x from its centre.
 struct Column {
     double height = 0;
     QRectF mark;
@@ -69,31 +71,34 @@ struct Column {
     QRectF author;
 };
 
+// The side at which the lines are aligned.
 enum class Leading { Left, Right };
+// Stacks mark, lines, rule and author from top to bottom, for the scale s × k.
 Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading);
 
-// Where a finished column is placed in the view: scaled about its top, with its
-// middle in the middle of the content box.
+// Where a finished column is placed in the view: scaled about its top, centred
+// horizontally in the content box.
 struct ColumnPlace {
     double top = 0;
     double scale = 1;
-    bool overflows = false; // reaches below `bottom` even at its least scale
+    bool overflows = false; // extends below `bottom` even at its smallest scale
     double bottom = 0;      // the lowest y that the column may reach, above the hint
 };
-// A column that fits between header and hint is centred in the view as it is;
-// a higher one shrinks, until the quotation is set in 12 points.
+// A column that fits between header and hint is centred in the view as it is; a
+// taller one is scaled down, at most until the quotation is set in 12 points. All
+// lengths are in points.
 ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
                         double quoteSize);
 
-// The characters worth laying out in a view of that height (points), with the
-// quotation set in `quoteSize` points (above 0) unless it has to shrink, and
-// `perLine` characters in a line; any others are below the bottom edge. Clamped to
-// [2000, 20000]; NaN gives 2000.
+// The number of characters that can be seen in a view of that height (points),
+// with the quotation set in `quoteSize` points (above 0) or smaller and `perLine`
+// characters in a line; any others are below the bottom edge. Clamped to [2000,
+// 20000]; NaN gives 2000.
 qsizetype seenCharacters(double viewHeight, double quoteSize, int perLine);
 
 // The first `limit` (above 0) user-perceived characters of `text`, or all of it
-// when there are no more. Of a first character of extreme length only the
-// beginning is returned. Does not read further into the text than it must.
+// when there are no more. If the first character is extremely long, only its
+// beginning is returned. Reads no more of the text than needed.
 QString beginningOf(const QString& text, qsizetype limit);
 
 } // namespace morrowleaf

@@ -8,7 +8,7 @@
 namespace morrowleaf {
 
 namespace {
-constexpr int beforeThumbnails = 1; // among what waits for a worker
+constexpr int beforeThumbnails = 1; // priority of the job
 }
 
 PhotoShowing::PhotoShowing(BGStore& photos, QObject* parent)

@@ -14,29 +14,29 @@ namespace morrowleaf {
 
 class BGStore;
 
-// The photo of one quote screen: decoded by a worker at the size shown, its
-// pixels kept while it is wanted and dropped after.
+// The photo of one quote screen. It is decoded on a worker thread at the size
+// shown, and its pixels are kept while it is wanted.
 class PhotoShowing : public QObject {
     Q_OBJECT
 
 public:
     explicit PhotoShowing(BGStore& photos, QObject* parent = nullptr);
 
-    // What to show from now on, and how large in device pixels; an empty path
-    // is no photo. Asking again for the same costs nothing.
+    // Sets the photo to show and its size in device pixels; an empty path means
+    // no photo. Repeating a call does not decode the photo again.
     void want(const QString& path, QSize pixels);
 
-    // A photo is wanted and nothing says yet that it cannot be read.
+    // Whether a photo is wanted and has not turned out to be unreadable.
     bool readable() const { return readable_; }
-    // Null until the pixels are there. A photo that takes another's place
-    // lets the old one stand until then.
+    // Null until the photo is decoded. When a photo replaces another of the same
+    // size, the old pixels remain until then.
     const QImage& pixels() const { return pixels_; }
-    // The pixels whose place these took, until they are let go.
+    // The pixels that pixels() has replaced; null after dropReplaced().
     const QImage& replaced() const { return replaced_; }
     void dropReplaced() { replaced_ = {}; }
 
 signals:
-    // The pixels have come, or the photo has turned out to be unreadable.
+    // The photo has been decoded, or has turned out to be unreadable.
     void changed();
 
 private:

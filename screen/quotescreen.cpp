@@ -29,8 +29,8 @@ namespace {
 
 constexpr qsizetype spokenLimit = 4000; // characters, of a text or an author
 
-// At a fractional ratio the edges of a repaint must not cut through a pixel:
-// every ratio in steps of 5 percent has whole ones every 20 points.
+// At a fractional device pixel ratio the edges of a repaint must not cut through a
+// pixel. For every multiple of 0.05, 20 points are a whole number of device pixels.
 QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
     if (devicePixelRatio == std::floor(devicePixelRatio)) {
         return region;
@@ -95,15 +95,15 @@ struct QuoteScreen::Private {
     BackdropState backdrop;
     BackdropPainter backdropPainter;
     Behind behind;
-    bool stale = true;       // settings, quotation or place have changed since
-    bool wholeAsked = false; // the next frame shows another instant everywhere
+    bool stale = true;       // settings, quotation, size or desktop have changed
+    bool wholeAsked = false; // the next paint event shows a new instant everywhere
 
-    double appearedAt = 0;      // by the frame clock
-    double frameSeconds = 0;    // of the frame on show, since the appearance
-    double backdropInstant = 0; // of the backdrop on show, since 2001
+    double appearedAt = 0;      // in seconds of the frame clock
+    double frameSeconds = 0;    // of the frame shown, seconds since the appearance
+    double backdropInstant = 0; // of the backdrop shown, seconds since 2001
     qint64 backdropTickShown = -1;
     QString photoWanted;
-    double photoWantedAt = 0; // since the appearance
+    double photoWantedAt = 0; // seconds since the appearance
     double photoFadesFrom = -photoFade;
     double glassFadesFrom = -photoFade;
 };
@@ -163,14 +163,15 @@ void QuoteScreen::Private::evaluate() {
     stale = false;
 }
 
-// Pixels that were quick are simply there; others come in softly.
+// Photos that were decoded quickly appear at once; others fade in.
 void QuoteScreen::Private::followPhoto() {
     const double seconds = sinceAppearance();
     const bool late = seconds - photoWantedAt > photoPatience;
     photoFadesFrom = late ? seconds : seconds - photoFade;
 }
 
-// The glass that is there before anything can be seen need not come in softly.
+// Glass that is made within photoPatience seconds of the appearance is shown at
+// once; otherwise it fades in.
 void QuoteScreen::Private::followGlass() {
     const double seconds = sinceAppearance();
     glassFadesFrom = seconds > photoPatience ? seconds : seconds - photoFade;
@@ -184,7 +185,7 @@ bool QuoteScreen::Private::photoFades(double seconds) const {
     return backdrop.hasPhoto && !photo.pixels().isNull() && seconds < photoFadesFrom + photoFade;
 }
 
-// One photo gives way to another without a dark moment between them.
+// Cross-fades from one photo to another without darkening in between.
 void QuoteScreen::Private::showPhoto(double progress) {
     if (progress >= 1) {
         photo.dropReplaced();
@@ -368,7 +369,7 @@ void QuoteScreen::paintEvent(QPaintEvent* event) {
     } else if (d_->view->state().devicePixelRatio != devicePixelRatioF()) {
         d_->stale = true;
     }
-    // Less than the whole shows the same instant as what stands around it.
+    // A repaint of a part must show the same instant as the rest of the screen.
     const bool freshInstant = d_->stale || d_->wholeAsked || !d_->frames.awake();
     if (d_->stale) {
         d_->evaluate();

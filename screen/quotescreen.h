@@ -23,30 +23,30 @@ class SettingsStore;
 inline constexpr int inspectorWidth = 320; // points
 
 // The whole content of the quote window: the quotation over its backdrop and,
-// while editing, the appearance editor. Its entrance begins with the first
-// frame that is drawn; to replay it, build a new screen.
+// while editing, the appearance editor. Its entrance begins with the first frame
+// that is drawn; to replay it, create a new screen.
 class QuoteScreen : public QWidget, public SpeakingWidget {
     Q_OBJECT
 
 public:
-    // Shows the quotation of `box`, with the date and the greeting of `clock`;
-    // `frames` times the entrances, and is told the rate of the display. The
-    // referenced objects outlive the screen.
+    // Shows the quotation of `box`, with the date and the greeting for the time
+    // of `clock`. `frames` times the entrances; the screen sets its rate to that
+    // of the display. The referenced objects must outlive the screen.
     QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& photos,
                 std::unique_ptr<QuoteBox> box, Clock clock, FrameClock& frames,
                 QWidget* parent = nullptr);
     ~QuoteScreen() override;
 
-    // Takes over the appearance editor, which slides in at the right edge while
-    // the quotation keeps clear of it. Call before the first frame.
+    // Takes ownership of the appearance editor, which slides in at the right edge;
+    // the quotation is laid out to the left of it. Call before the first frame.
     void setInspector(QWidget* inspector);
-    // What lies behind the window; may be called again when a capture arrives.
+    // Sets what shows behind the window. May be called again when a capture arrives.
     void setBehind(const Behind& behind);
     const Behind& behind() const;
 
     // Null before the first frame.
     const QuoteView* view() const;
-    // Whether another frame has been asked for.
+    // Whether another frame is scheduled.
     bool awake() const;
 
     SpokenTexts spokenTexts() const override;

@@ -25,12 +25,12 @@ constexpr double captionOpacity = 0.45;
 constexpr double authorOpacity = 0.72;
 constexpr double hintOpacity = 0.3;
 
-// The nearest whole device pixel.
+// The nearest whole device pixel, in points.
 double snapped(double points, double devicePixelRatio) {
     return std::round(points * devicePixelRatio) / devicePixelRatio;
 }
 
-// Colour and shadow of a line need no layout.
+// Whether two lines have the same layout, which does not depend on colour and shadow.
 bool sameLayout(const RevealLine::Parts& a, const RevealLine::Parts& b) {
     return a.text == b.text && a.index == b.index && a.style == b.style && a.font == b.font &&
            a.strokeFont == b.strokeFont && a.maxWidth == b.maxWidth;
@@ -43,7 +43,7 @@ QString lineIdentity(const QString& textAnimRaw, qsizetype index, const QString&
            QString::number(characterCount(line));
 }
 
-// The sizes and faces that follow from a state.
+// The scale, sizes and fonts that follow from a state.
 class QuoteView::Setting {
 public:
     Setting(const QuoteViewState& state, const FontBook& fonts)
@@ -59,7 +59,8 @@ public:
 
     int wrap() const { return wrap_; } // characters
     qsizetype seen() const { return seen_; }
-    // Without a blank only wide characters make several rows.
+    // The limit for a single line and for the author: without spaces only scripts
+    // with wide characters wrap into rows, and a row holds half as many of those.
     qsizetype seenInOne() const { return seen_ / 2; }
     double scale() const { return scale_; } // s × k
     double quoteSize() const { return measure::quoteSize * scale_; }
@@ -107,7 +108,7 @@ void QuoteView::compose(double seconds) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
     layOut(mark_, {u"\u201C"_s, setting.mark()});
-    // A name keeps its letters, whatever the language of the desktop.
+    // Independent of the locale: a name is the same on every desktop.
     layOut(author_,
            {state_.quote.author.toUpper(), setting.author(), measure::authorTracking, width});
     layOut(sample_, {u"x"_s, setting.quote()});
@@ -115,7 +116,8 @@ void QuoteView::compose(double seconds) {
     placeTexts(setting, box);
 }
 
-// A source may send millions of characters, and all of them as one word.
+// Cuts off what cannot be seen: a source may deliver millions of characters, even
+// as a single word.
 void QuoteView::cutQuotation(const Setting& setting) {
     if (work_.cuts == 0 || cut_.quote != state_.quote || cut_.wrap != setting.wrap() ||
         cut_.seen != setting.seen()) {
@@ -173,8 +175,8 @@ void QuoteView::composeLines(const Setting& setting, double width, double second
     lines_ = std::move(lines);
 }
 
-// The header's row and the hint shrink when a huge text scale leaves them no
-// room side by side.
+// The header row and the hint are scaled down when a large text scale leaves too
+// little width for them.
 void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
     const TextFont font = setting.overlay();
     layOut(greeting_, {greeting(state_.moment), font});
@@ -199,7 +201,7 @@ void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
         return measure::headerTop + (height - text.rect().height()) / 2;
     };
     onBaseline(greeting_, box.left() + measure::headerSide, middleOf(greeting_));
-    // Tracking follows each character, but an edge or a middle is one of ink.
+    // The tracking after the last character does not count when a text is aligned or centred.
     onBaseline(today_,
                box.right() - measure::headerSide - today_.rect().width() +
                    measure::dateTracking * today_.scale,

@@ -24,56 +24,55 @@ namespace morrowleaf {
 class BackdropPainter;
 class FontBook;
 
-// All that the content of the quote screen depends on, but for the time.
+// Everything that the content of the quote screen depends on, except the time.
 struct QuoteViewState {
     Quote quote;
     ViewSettings settings;
     Palette palette;
-    std::optional<QSizeF> mainScreen; // points; null without a screen
+    std::optional<QSizeF> mainScreen; // points; std::nullopt without a screen
     QSizeF size;                      // of the view, points
     double devicePixelRatio = 1;
-    double sideInset = 0; // kept free at the right edge, points
+    double sideInset = 0; // width kept free at the right edge, points
     Moment moment;        // for greeting and date
     QLocale locale;
 };
 
-// What makes a line another one: a change of it restarts the line's entrance.
+// Identifies a line: when its identity changes, its entrance restarts.
 QString lineIdentity(const QString& textAnimRaw, qsizetype index, const QString& line);
 
 // Everything over the backdrop: greeting, date, mark, lines, rule, author and
-// hint, each on its way in. The picture at an instant is a pure function of
-// the states handed in and when; times are seconds since the view appeared.
+// hint, with their entrances. The picture at an instant depends only on the
+// states passed in and the instants at which they were; times are seconds since
+// the view appeared.
 class QuoteView {
 public:
-    // The view appears with this state at 0.
+    // Creates the view with its state at 0 seconds. The fonts must outlive the view.
     QuoteView(const QuoteViewState& state, const FontBook& fonts);
-    // Takes another state from `seconds` on. Lines of a new identity start over;
-    // nothing else is replayed. Only what depends on the difference is laid out
-    // anew.
+    // Changes the state at `seconds`. The entrances of lines with a new identity
+    // restart, and no others. Only what depends on the difference is laid out again.
     void update(const QuoteViewState& state, double seconds);
 
-    // As handed in, except that the part of the quotation far beyond the bottom
-    // is cut off.
+    // The state last passed in, with the quotation cut off far below the bottom edge.
     const QuoteViewState& state() const { return state_; }
 
-    // How much work the states have made so far: the times that the quotation
-    // was cut into lines, and that a text or a line was laid out.
+    // How often the quotation has been cut into lines, and how often a text or a
+    // line has been laid out.
     struct Work {
         int cuts = 0;
         int layouts = 0;
     };
     Work work() const { return work_; }
 
-    // Draws what lies in `clip` (points); the painter is in points.
+    // Draws the elements that touch `clip`; `clip` and the painter are in points.
     void paint(QPainter& painter, double seconds, const QRectF& clip) const;
 
-    // The part of the view that differs between two instants, points.
+    // The part of the view that differs between two instants, in points.
     QRegion changedBetween(double from, double to) const;
-    // The first instant, not before `seconds`, from which on something moves:
-    // `seconds` itself while it does, null when everything is at rest.
+    // The first instant at or after `seconds` at which something moves: `seconds`
+    // itself during a movement, std::nullopt if everything is at rest.
     std::optional<double> nextMotion(double seconds) const;
 
-    // The places of the elements at rest, points.
+    // The rectangles of the elements at rest, in points.
     enum class Element { Greeting, Today, Mark, Rule, Author, Hint };
     QRectF rect(Element element) const;
     qsizetype lineCount() const { return static_cast<qsizetype>(lines_.size()); }
@@ -84,7 +83,7 @@ public:
     double columnScale() const { return place_.scale; }
 
 private:
-    // What a text is laid out from.
+    // The input of a text's layout.
     struct Typesetting {
         QString text;
         TextFont font;
@@ -104,9 +103,9 @@ private:
         QRectF rect() const { return {topLeft, shape.size() * scale}; }
         void paint(QPainter& painter, QColor color, double progress) const;
     };
-    // The quotation cut into lines, and what that was made from.
+    // The quotation cut into lines, and the input of the cut.
     struct Cut {
-        Quote quote; // as handed in
+        Quote quote; // as passed in
         int wrap = 0;
         qsizetype seen = 0;
         Quote seenQuote;
@@ -148,9 +147,9 @@ private:
     std::vector<Line> lines_;
 };
 
-// One frame of the quote screen without a window, at the view's size and device
-// pixel ratio; a null image for an empty view. `seconds` since the view
-// appeared, `since2001` as for BackdropPainter::paint().
+// Draws one frame of the quote screen without a window, at the view's size and
+// device pixel ratio; a null image for an empty view. `seconds` counts since the
+// view appeared; `since2001` is as for BackdropPainter::paint().
 QImage renderFrame(BackdropPainter& painter, const BackdropState& backdrop, const QuoteView& view,
                    double seconds, double since2001);
 

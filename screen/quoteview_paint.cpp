@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// How the quote view looks at an instant, and what of it moves.
+// How the quote view looks at an instant, and which parts of it change.
 #include "backdrop/backdrop.h"
 #include "base/parallel.h"
 #include "screen/quoteview.h"
@@ -19,14 +19,14 @@ namespace morrowleaf {
 namespace {
 
 constexpr double ruleOpacity = 0.35;
-constexpr double overflowFade = 72; // points above the end of what is shown
+constexpr double overflowFade = 72; // height of the gradient at the bottom, points
 
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(std::clamp(opacity, 0.0, 1.0)));
     return color;
 }
 
-// Outlines may reach a little beyond the typographic box.
+// Outlines may extend a little beyond the typographic box.
 QRectF withOverhang(const QRectF& rect) {
     const double overhang = 2 + rect.height() * 0.25;
     return rect.adjusted(-overhang, -overhang, overhang, overhang);
@@ -111,7 +111,7 @@ void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip
         what(seconds - line.appearedAt);
         painter.restore();
     };
-    // Lines that move share the work; whatever is repainted, all of them need it.
+    // Moving lines are prepared in parallel: every line, whichever part is repainted.
     struct Moving {
         const RevealLine* line;
         QTransform device;
@@ -138,7 +138,7 @@ void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip
     }
 }
 
-// The column is drawn aside, so that all of it fades out alike.
+// Draws the column into a picture of its own first, so that all of it fades out at the bottom.
 void QuoteView::paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const {
     const QRect area =
         clip.intersected(QRectF(0, 0, state_.size.width(), place_.bottom)).toAlignedRect();

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int spokenCount = 5;
 
-// One painted text, as a label would be.
+// One painted text, presented like a label.
 class SpokenText : public QAccessibleInterface {
 public:
     SpokenText(QWidget* widget, int index)
@@ -67,7 +67,7 @@ private:
     int index_;
 };
 
-// The painted texts come before the children that are widgets.
+// The pane of a SpeakingWidget; the painted texts come before the child widgets.
 class SpokenPane : public QAccessibleWidget {
 public:
     explicit SpokenPane(QWidget* widget)
@@ -134,7 +134,7 @@ QAccessibleInterface* makeSpokenPane(const QString& /*className*/, QObject* obje
 } // namespace
 
 void installSpokenTexts() {
-    QAccessible::installFactory(makeSpokenPane); // ignores one that it knows
+    QAccessible::installFactory(makeSpokenPane); // Qt ignores a factory that is already installed
 }
 
 void announceSpokenTexts(QWidget& widget) {

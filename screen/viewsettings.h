@@ -14,8 +14,8 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// The appearance as the settings hold it at one instant, not validated. The
-// initial values apply where a key has no value, not even a registered default.
+// The appearance settings at one instant, not validated. The values here apply to
+// keys that have neither a value nor a registered default.
 struct ViewSettings {
     qint64 paletteIndex = K::palette.initial;
     QString fontName = K::font.fallback;
@@ -23,7 +23,7 @@ struct ViewSettings {
     QString textAnimRaw = K::textAnim.fallback;
     QString bgImagePath = K::bgImage.fallback;
 
-    // The backdrop's own.
+    // The settings of the backdrop.
     bool grainOn = K::grain.initial;
     double vignette = K::vignette.initial;
     double transparency = K::transparency.initial;
@@ -39,11 +39,11 @@ ViewSettings readViewSettings(const SettingsStore& store);
 // result is clamped to [0.1, 16].
 double usableSizeScale(double sizeScale);
 
-// The palette for a photo while one is readable, else that of the settings.
+// Palette::photo() if a photo is readable, otherwise the palette of the settings.
 const Palette& viewPalette(const ViewSettings& settings, bool photoReadable, const Moment& moment);
 
-// The backdrop that follows from the settings. The caller adds the pixels of the
-// photo and what lies behind the window.
+// The state of the backdrop for these settings. The caller adds the pixels of the
+// photo and what shows behind the window.
 BackdropState backdropFor(const ViewSettings& settings, const Palette& palette, bool photoReadable);
 
 } // namespace morrowleaf

@@ -17,11 +17,12 @@ namespace morrowleaf {
 // otherwise those of a separate image that finish() draws.
 class WindowPixels {
 public:
-    // `device` is what the widget is being painted on, null when unknown;
-    // `origin` the widget's place on it in points.
+    // `device` is the device that the widget is being painted on, null if
+    // unknown; `origin` is the widget's position on it in points.
     WindowPixels(const QWidget& widget, QPaintDevice* device, QPoint origin);
 
     QImage& image() { return image_; } // premultiplied, device pixel ratio set
+    // Whether image() is the backing store itself.
     bool direct() const { return direct_; }
     // Call it at the end of the paint event. `region` is in points of the widget.
     void finish(QWidget& widget, const QRegion& region) const;

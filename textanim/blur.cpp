@@ -19,7 +19,7 @@ LineEffects effectsAt(double seconds) {
 
 } // namespace
 
-// The line comes into focus, a little too large at first.
+// The line comes into focus while it shrinks a little to its size.
 Motion blur() {
     return {effectsAt, duration};
 }

@@ -13,8 +13,8 @@ namespace morrowleaf {
 
 namespace {
 
-// Means over cells and the slopes between them blur by themselves; what is
-// left to the Gaussian, in cells.
+// The standard deviation, in cells, that is left to the Gaussian: taking means
+// over cells and interpolating between them already blur.
 double remainingSigma(double sigma, int cell) {
     const double inCells = sigma / cell;
     const double own = 1 - 1.0 / (cell * cell);
@@ -33,7 +33,7 @@ Plane channelPlane(const QImage& picture, int margin, int shift) {
     return plane;
 }
 
-// In cells; one more, so that the last slope ends at nothing.
+// The margin in cells, with one more so that the interpolation ends at 0.
 int marginFor(double sigma, int cell) {
     return (BlurredLayer::halo(sigma) + cell - 1) / cell + 1;
 }
@@ -43,7 +43,7 @@ QRect blurredRect(QPoint origin, QSize cells, int cell, double sigma) {
     return {origin - QPoint(margin, margin) * cell, (cells + QSize(2 * margin, 2 * margin)) * cell};
 }
 
-// The values of the pixels between the centres of all neighbouring cells.
+// Interpolates linearly between the centres of neighbouring cells, for every pixel.
 inline void slopesOf(const std::vector<float>& cells, std::size_t cell, float* to) {
     const float step = 1.0F / static_cast<float>(cell);
     for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
@@ -55,7 +55,7 @@ inline void slopesOf(const std::vector<float>& cells, std::size_t cell, float* t
     }
 }
 
-// The compiler takes several pixels at once where it knows how many there are.
+// The same for a cell size that the compiler knows, so that it can vectorise.
 template <std::size_t cell>
 void slopes(const std::vector<float>& cells, float* to) {
     std::array<float, cell> steps;
@@ -72,8 +72,8 @@ void slopes(const std::vector<float>& cells, float* to) {
     }
 }
 
-// Turns values into bytes of a channel that is still 0. The same threshold in
-// all channels keeps each below its alpha.
+// Writes values as the bytes of one channel, which must be 0 before. Using the
+// same thresholds for all channels keeps each colour at or below alpha.
 void writeChannel(const float* values, float factor, const std::vector<float>& thresholds,
                   int shift, QRgb* pixels) {
     const auto count = static_cast<int>(thresholds.size());
@@ -84,7 +84,7 @@ void writeChannel(const float* values, float factor, const std::vector<float>& t
     }
 }
 
-// The thresholds within 0...1 of `width` pixels from `left` on in row `y`.
+// The dither thresholds (0...1) of `width` pixels from `left` on in row `y`.
 std::vector<float> thresholdsFrom(int left, int y, int width) {
     const DitherRow row = ditherRow(y);
     std::vector<float> thresholds;
@@ -136,7 +136,7 @@ BlurredLayer::BlurredLayer(const Plane& reduced, QPoint origin, int cell, double
 void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) const {
     const Plane& plane = planes_[channel];
     out.resize(static_cast<std::size_t>(rect_.width()));
-    // Cells are known at their centres and slope evenly between them.
+    // The values belong to the centres of the cells; between them they are interpolated.
     const double at = (y - rect_.top() + 0.5) / cell_ - 0.5;
     const int upper = static_cast<int>(std::floor(at));
     const auto share = static_cast<float>(at - upper);
@@ -175,7 +175,7 @@ void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint
     const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
     const auto skipped = static_cast<std::size_t>(shown.left() - rect_.left());
     std::vector<float> values;
-    std::array<std::vector<float>, ditherSize> dither; // its rows repeat
+    std::array<std::vector<float>, ditherSize> dither; // one row for each row of the pattern
     for (int y = origin.y(); y < origin.y() + to.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
         std::fill_n(line, to.width(), 0U);

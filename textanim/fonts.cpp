@@ -44,7 +44,7 @@ QFont unhinted(QFont face) {
     return face;
 }
 
-// The system's own face of a kind; without a kind the plain system font.
+// The system's face for a design; its general font for a design that it has no face for.
 QFont systemFace(FontDesign design, FontWeight weight) {
     QFont face = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     switch (design) {
@@ -64,8 +64,9 @@ QFont systemFace(FontDesign design, FontWeight weight) {
     return unhinted(face);
 }
 
-// Held in memory, so that a running program keeps its faces when the files
-// are replaced by a newer version.
+// The bytes of a font file, empty if it is unreadable or too large. Fonts are
+// registered from memory, so that a running program keeps its faces when the
+// files are replaced by a newer version.
 QByteArray wholeFile(const QString& path) {
     constexpr qint64 largest = 32 << 20;
     QFile file(path);
@@ -75,8 +76,8 @@ QByteArray wholeFile(const QString& path) {
     return file.readAll();
 }
 
-// Characters that `font` lacks are drawn in the fallback, before the faces that
-// the system would choose.
+// Characters missing from `font` are drawn with the fallback, before the faces
+// that the system would choose.
 void appendFallback(TextFont& font, const std::optional<TextFont>& fallback) {
     if (fallback && fallback->face.family() != font.face.family()) {
         font.face.setFamilies(font.face.families() + fallback->face.families());
@@ -114,7 +115,7 @@ std::optional<Record> recordAt(const QByteArray& table, qsizetype at) {
     return Record{field[0], field[1], field[2], field[3], field[4], field[5]};
 }
 
-// English names first, then any other language; 0 is unusable.
+// How well a record suits: English names come before other languages; 0 is unusable.
 int preference(const Record& record) {
     constexpr quint16 macintosh = 1;
     constexpr quint16 windows = 3;

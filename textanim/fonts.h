@@ -16,7 +16,7 @@ namespace morrowleaf {
 
 inline constexpr QLatin1StringView frauncesName{"Fraunces72pt-Light"};
 
-// A face at a size in points (device-independent pixels), fraction kept.
+// A face at a size in points (device-independent pixels), which may be fractional.
 struct TextFont {
     QFont face;      // family and style; its own size is not used
     double size = 0; // points
@@ -24,8 +24,8 @@ struct TextFont {
     bool operator==(const TextFont&) const = default;
 };
 
-// The faces shipped with the program, found by PostScript name. For the main
-// thread.
+// The faces shipped with the program, found by PostScript name. Use it on the
+// main thread only.
 class FontBook {
 public:
     // Registers every .ttf and .otf file of the folder, in any case of the
@@ -42,16 +42,17 @@ private:
 
 enum class FontWeight { Regular, Medium };
 
-// The face used as the system font of a design: the bundled one, else the
-// system's own of that kind, else the plain system font. `size` is in points.
+// The face used as the system font of a design: the bundled face if it is
+// registered, otherwise the system's face for that design, otherwise the system's
+// general font. `size` is in points.
 TextFont nsFont(const FontBook& book, double size, FontDesign design,
                 FontWeight weight = FontWeight::Regular);
 
-// The quotation's font for a stored typeface name: the Fraunces face for
-// "fraunces" (the serif design where it is missing), else nsFont of its design.
+// The quotation's font for a stored typeface name: the Fraunces face for "fraunces"
+// (the serif design if it is missing), otherwise nsFont() of its design.
 TextFont quoteFont(const FontBook& book, const QString& fontName, double size);
 
-// The names that a typeface gives itself; empty where it has none.
+// The names that a font file gives for itself; empty where it gives none.
 struct FontNames {
     QString postScript;
     QString family; // the typographic family where there is one
@@ -61,7 +62,7 @@ struct FontNames {
 };
 
 // Reads an OpenType `name` table; std::nullopt when it holds no PostScript name.
-// The bytes may be hostile.
+// Malformed tables are safe.
 std::optional<FontNames> readNameTable(const QByteArray& table);
 
 } // namespace morrowleaf

@@ -24,7 +24,8 @@ constexpr double traceDuration = 1.25; // seconds
 constexpr double inkStart = 0.7 * traceDuration;
 constexpr double inkDuration = 0.45 * traceDuration;
 
-// Rounds up, except for what the layout's fixed-point arithmetic adds to a whole width.
+// Rounds up, but ignores the excess that the fixed-point arithmetic of Qt's
+// layout adds to a whole width.
 double ceiling(double length) {
     return std::ceil(length - 1e-3);
 }
@@ -40,10 +41,10 @@ TextOutline outlineAt(const TextLayout& layout, const TextFont& font, double siz
     return text;
 }
 
-// Length at which a contour is cut for the pen, as a share of the size.
+// The length at which a contour is cut for the pen, as a fraction of the font size.
 constexpr double stretchShare = 0.75;
 
-// Adds the coverage of the pen to the ink, both in one colour.
+// Blends the pen's coverage into the letters; both have the same colour.
 void addPen(QImage& letters, const QImage& pen, const QColor& color) {
     const QRgb ink = qPremultiply(color.rgba());
     for (int y = 0; y < pen.height(); ++y) {
@@ -116,7 +117,7 @@ private:
     double penWidth_;
     Letters letters_;
     std::optional<PenDrawing> pen_;
-    QImage ink_; // in the memory of letters_, at the scale of the pen
+    QImage ink_; // in the buffer of letters_, at the scale of the pen
     std::vector<QRgb> memory_;
 };
 

@@ -14,9 +14,9 @@
 
 namespace morrowleaf {
 
-// A line as one path, in points, y upwards, the origin at the bottom left of
-// the line's place; the baseline lies at y = the depth of the font's descender.
-// Glyphs without an outline are left out. The size is rounded up to whole points.
+// A line as one path in points, with y upwards and the origin at the bottom left
+// of the line's rectangle; the baseline is at y = the descent of the font. Glyphs
+// without an outline are omitted. The size is rounded up to whole points.
 struct GlyphPath {
     QPainterPath path; // fill rule winding
     QSizeF size{0, 0};
@@ -24,9 +24,9 @@ struct GlyphPath {
 
 GlyphPath glyphPath(const QString& text, const TextFont& font);
 
-// The same line as shapes with y downwards from the top left of its place; a
-// line wider than `maxWidth` points (where that is above 0) is set in a smaller
-// size.
+// The same line as an outline with y downwards from the top left of its
+// rectangle. If `maxWidth` is above 0, a line wider than that many points is set
+// in a smaller size.
 struct HandwrittenLine {
     TextOutline text;
     double penWidth = 0; // points
@@ -35,13 +35,14 @@ struct HandwrittenLine {
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth = 0);
 QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth = 0);
 
-// The width of the pen, in points, for a font size in points: 0.018 of it, but
-// at least 0.7.
+// The width of the pen in points for a font size in points: 0.018 times the size,
+// but at least 0.7.
 double penWidth(double size);
 
-// How far a handwritten line is, `seconds` after its delay.
+// The progress of a handwritten line `seconds` after its delay; negative seconds
+// and NaN count as 0.
 struct PenProgress {
-    double traced = 1; // the share of the whole outline that is drawn as a stroke
+    double traced = 1; // the fraction of the whole outline that is drawn as a stroke
     double ink = 1;    // the opacity of the filled letters
 
     bool operator==(const PenProgress&) const = default;
@@ -50,7 +51,7 @@ PenProgress penProgress(double seconds);
 double handwritingDuration(); // seconds
 
 // Draws the line as a pen does: its outlines are traced, then filled with ink. A
-// line without outlines (of emoji alone) is set in type.
+// line without outlines (only emoji) is drawn as ordinary type.
 std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
                                                 double maxWidth);
 

@@ -15,10 +15,10 @@ namespace morrowleaf {
 
 namespace {
 
-// Blur that no eye sees, in pixels.
+// A standard deviation, in pixels, below which a blur cannot be seen.
 constexpr double sharpBelow = 0.05;
 
-// From points of the line to points on the screen.
+// Maps points of the line at rest to points with effects.
 QTransform placing(const TextOutline& text, const LineEffects& effects) {
     const QPointF center(text.size.width() / 2, text.size.height() / 2);
     return QTransform::fromTranslate(-center.x(), -center.y()) *
@@ -26,7 +26,7 @@ QTransform placing(const TextOutline& text, const LineEffects& effects) {
            QTransform::fromTranslate(center.x(), center.y() + effects.offset);
 }
 
-// From points of the line to cells of `cell` device pixels.
+// Maps points of the line to cells of `cell` device pixels.
 QTransform onDevice(const TextOutline& text, const LineEffects& effects, double scale, int cell) {
     return placing(text, effects) * QTransform::fromScale(scale, scale) *
            QTransform::fromTranslate(0, baselineShift(text, scale)) *
@@ -134,7 +134,7 @@ QImage Letters::paint(const LineEffects& effects, qint64 characters, double scal
 PlacedPicture Letters::drawBlurred(const LineEffects& effects, double scale, double sigma,
                                    const QColor& color) {
     const int cell = BlurredLayer::cellSize(sigma);
-    // The sharp letters, drawn small at once.
+    // Draws the sharp letters at the reduced resolution from the start.
     LineEffects sharp = effects;
     sharp.blurRadius = 0;
     const QRect box = deviceRect(rect(sharp), scale);

@@ -14,22 +14,21 @@
 
 namespace morrowleaf {
 
-// Draws the letters of a line that is set in type. The pictures that it returns
-// share one memory and are valid until the next call.
+// Draws the letters of a line of type. The pictures that it returns share one
+// buffer: each is valid until the next call.
 class Letters {
 public:
-    // `margin` in points is added around the ink, for what goes beyond the
-    // outlines.
+    // `margin` in points is added around the ink, for what is drawn beyond the outlines.
     explicit Letters(TextOutline text, double margin = 1);
 
     const TextOutline& text() const { return text_; }
-    // What the letters touch with these effects, in points from the top left of
-    // the line's place; empty for a line without ink.
+    // The rectangle that the letters touch with these effects, in points from the
+    // top left of the line; empty for a line without ink.
     QRectF rect(const LineEffects& effects) const;
 
-    // The whole line with effects, at a device scale.
+    // Draws the whole line with effects; `scale` is in device pixels per point.
     PlacedPicture draw(const LineEffects& effects, double scale, const QColor& color);
-    // The first characters of the line at rest.
+    // Draws the first `characters` characters of the line at rest.
     PlacedPicture drawBeginning(qint64 characters, double scale, const QColor& color);
 
     void releaseMemory() { memory_ = {}; }
@@ -45,14 +44,14 @@ private:
     std::vector<QRgb> memory_;
 };
 
-// The device pixels, up or down, that move the resting baseline onto whole ones.
+// The vertical shift, in device pixels, that moves the resting baseline to a whole pixel.
 double baselineShift(const TextOutline& text, double scale);
 
 // The whole pixels that a rectangle in points touches at a device scale.
 QRect deviceRect(const QRectF& points, double scale);
 
-// Pictures in `memory`, valid until it is used again. The pixels of the first
-// are not initialised.
+// Premultiplied pictures in `memory`, which is resized for them; they are valid
+// until it is used again. The pixels of the first are not initialised.
 QImage uninitialisedPicture(QSize size, std::vector<QRgb>& memory);
 QImage transparentPicture(QSize size, std::vector<QRgb>& memory);
 

@@ -12,7 +12,7 @@ namespace morrowleaf {
 
 namespace {
 
-// Characters that a line may hold beyond the even share.
+// The characters by which a line may exceed the mean length.
 constexpr double slack = 2;
 
 double lineLimit(const QString& text, int target) {

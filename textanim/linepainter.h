@@ -13,16 +13,16 @@ namespace morrowleaf {
 
 struct TextOutline;
 
-// Pixels with their place on the device relative to the line's origin.
+// A picture and its position, in device pixels relative to the line's origin.
 struct PlacedPicture {
     QImage picture; // premultiplied
     QPoint origin;
 };
 
-// The letters of one line on their way in, as one style draws them: without
-// shadow and without a place on the screen. Seconds count from the end of the
-// line's delay; before 0, and for NaN, a line looks as it does at 0. What is
-// costly is kept between calls; different lines may be drawn at the same time on
+// Draws the letters of one line during its entrance in one style, without shadow
+// and independently of the line's position on the screen. Seconds count from the
+// end of the line's delay and must be finite; negative ones count as 0. What is
+// costly is kept between calls. Different lines may be drawn at the same time on
 // different threads.
 class LinePainter {
 public:
@@ -30,18 +30,19 @@ public:
     LinePainter(const LinePainter&) = delete;
     LinePainter& operator=(const LinePainter&) = delete;
 
-    // The line at rest.
+    // The outline of the line at rest.
     virtual const TextOutline& text() const = 0;
-    // The line rests from here on, but for a rounding error of the seconds.
+    // The seconds after which the line is at rest, apart from a rounding error.
     virtual double duration() const = 0;
     // Whether both instants give the same picture.
     virtual bool looksSame(double one, double other) const = 0;
-    // What the letters touch, with the halo of their blur, in points from the
-    // top left of the line's place; empty while nothing is visible.
+    // The rectangle that the letters and the halo of their blur touch, in points
+    // from the top left of the line; empty while nothing is visible.
     virtual QRectF rect(double seconds) const = 0;
-    // The letters at a device scale. The pixels are valid until the next call.
+    // Draws the letters; `scale` is in device pixels per point. The pixels are
+    // valid until the next call.
     virtual PlacedPicture draw(double seconds, double scale, const QColor& color) = 0;
-    // Frees everything that is kept, the pixels of the last call too.
+    // Frees everything that is kept, including the pixels of the last call.
     virtual void releaseMemory() = 0;
 
 protected:

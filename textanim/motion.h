@@ -20,11 +20,11 @@ struct LineEffects {
     bool operator==(const LineEffects&) const = default;
 };
 
-// The way of a whole line from invisible to its rest, as effects over time.
-// Seconds count from the end of the line's delay.
+// The entrance of a whole line, as effects over time. Seconds count from the end
+// of the line's delay.
 struct Motion {
-    // At and after `duration` seconds these are the effects of a line at rest;
-    // before 0, and for NaN, those at 0.
+    // From `duration` seconds on, these are the effects of a line at rest; for
+    // negative seconds and NaN they are those at 0.
     LineEffects (*effectsAt)(double seconds);
     double duration;
 };
@@ -34,15 +34,16 @@ Motion fade();
 Motion rise();
 Motion blur();
 
-// Draws a whole line with the effects of a motion.
+// Makes a painter that draws a whole line with the effects of a motion.
 std::unique_ptr<LinePainter> motionPainter(TextOutline text, const Motion& motion);
 
-// Seconds since the start: 0 before it and for NaN.
+// `seconds`, but 0 for negative values and NaN.
 inline double sinceStart(double seconds) {
     return seconds > 0 ? seconds : 0;
 }
 
-// The value at `progress` (0...1) on the way from `before` to `after`.
+// The linear interpolation from `before` to `after`; `progress` is 0...1, or
+// above 1 for an overshoot.
 inline double between(double before, double after, double progress) {
     return before + (after - before) * progress;
 }

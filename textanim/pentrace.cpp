@@ -14,8 +14,8 @@ namespace morrowleaf {
 
 namespace {
 
-// Curves are flattened at many times their size: straight pieces of a
-// thousandth of an em, whatever the scale of the device.
+// Curves are flattened at this multiple of their size, so that the straight
+// pieces are short enough for every device scale.
 constexpr double flatteningScale = 8;
 
 double distance(QPointF from, QPointF to) {

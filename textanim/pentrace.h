@@ -12,11 +12,11 @@
 
 namespace morrowleaf {
 
-// A stretch of a contour as straight pieces. Contours are cut in the middle of a
-// piece, so that neighbours meet without gap or overlap.
+// A part of a contour as a polyline. Contours are cut in the middle of a straight
+// piece, so that neighbouring parts meet without gap or overlap.
 struct PenStretch {
     QPolygonF points;
-    double begin = 0; // the length of the trace before it, points
+    double begin = 0; // the length of the trace before this part, points
     double length = 0;
     bool opensContour = false;
 };
@@ -27,18 +27,20 @@ struct PenTrace {
     double length = 0;
 };
 
-// `stretchLength` is the length, in points, at which a contour is cut.
+// Makes the trace of an outline in points; each contour is cut into parts of
+// about `stretchLength` points.
 PenTrace penTrace(const QPainterPath& outline, double stretchLength);
 
-// What the pen has drawn, at a device scale. A longer trace adds only what is
-// new; a shorter one starts over. The picture depends on the length alone.
+// What the pen has drawn, at a device scale. Drawing further adds only the new
+// part; going back starts again. The picture depends only on the length.
 class PenDrawing {
 public:
-    // `rect` in device pixels relative to the origin of the outline, which
-    // lies `drop` pixels lower.
+    // `scale` is in device pixels per point, `penWidth` in points. `rect` is the
+    // area of the picture, in device pixels relative to the line's origin; the
+    // outline is drawn `drop` pixels lower.
     PenDrawing(double scale, double penWidth, QRect rect, double drop);
 
-    // Coverage (alpha) of the first `length` points of the trace.
+    // The coverage (Format_Alpha8) of the first `length` points of the trace.
     const QImage& at(const PenTrace& trace, double length);
 
     double scale() const { return scale_; }
@@ -53,8 +55,8 @@ private:
     double drop_;
     std::size_t finished_ = 0;
     QImage whole_;   // the finished stretches
-    QImage current_; // and what the pen is at
-    QRect begun_;    // where both differ
+    QImage current_; // the same, plus the stretch that is being drawn
+    QRect begun_;    // where the two differ
 };
 
 } // namespace morrowleaf

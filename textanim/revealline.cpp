@@ -57,7 +57,7 @@ struct RevealLine::Private {
 
     // The last picture, for repaints while nothing changes.
     struct Kept {
-        double since = 0; // the end of the delay
+        double since = 0; // seconds since the end of the delay
         double scale = 0;
         PlacedPicture frame;
     };
@@ -74,7 +74,7 @@ struct RevealLine::Private {
         return kept && kept->scale == scale && painter->looksSame(kept->since, since);
     }
 
-    // What letters and shadow touch, in points from the top left of the place.
+    // The rectangle that letters and shadow touch, in points from the top left of the line.
     QRectF rect(double since) const {
         const QRectF own = painter->rect(since);
         if (own.isEmpty() || parts.shadow.opacity <= 0) {
@@ -154,8 +154,8 @@ void RevealLine::paint(QPainter& painter, QPointF topLeft, double seconds) const
     const PlacedPicture& frame = d_->frameAt(since, scale);
     painter.save();
     if (device.type() <= QTransform::TxScale && device.m11() > 0 && device.m22() > 0) {
-        // Pixel on pixel. The resting place is on whole pixels, so that the
-        // letters keep their shape from line to line.
+        // Draws without resampling. At rest the line is on whole pixels, so that
+        // its letters look the same in every line.
         const QPoint origin = device.map(topLeft).toPoint();
         painter.resetTransform();
         painter.setTransform(painter.deviceTransform().inverted());
@@ -183,7 +183,7 @@ bool RevealLine::isPrepared(const QTransform& device, double seconds) const {
 
 QRectF RevealLine::paintedRect(double seconds) const {
     const QRectF touched = d_->rect(seconds - d_->delay);
-    // Room for whole pixels, also where the screen has fewer than points.
+    // Leaves room for rounding to whole pixels, also at device pixel ratios below 1.
     return touched.isEmpty() ? QRectF() : touched.adjusted(-3, -3, 3, 3);
 }
 
@@ -199,7 +199,7 @@ double RevealLine::settledAfter() const {
         return 0;
     }
     double seconds = d_->delay + d_->painter->duration();
-    // The sum may be rounded down to an instant just before the rest.
+    // The sum may be rounded down to an instant just before the line is at rest.
     while (!d_->isAtRest(seconds - d_->delay)) {
         seconds = std::nextafter(seconds, seconds + 1);
     }

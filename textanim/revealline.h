@@ -18,7 +18,7 @@ class QTransform;
 
 namespace morrowleaf {
 
-// The shadow of what a line shows at an instant.
+// The shadow of the visible letters of a line.
 struct LineShadow {
     double opacity = 0;   // of black, 0...1
     double radius = 24;   // standard deviation of the Gaussian, points
@@ -27,10 +27,10 @@ struct LineShadow {
     bool operator==(const LineShadow&) const = default;
 };
 
-// One line of the quotation and the way it comes in. The drawing is a pure
-// function of the line and the seconds since it appeared; what is costly is
-// kept between calls. Seconds must be finite (for a typed line others are a
-// fatal error); to draw a line at rest, use `settledAfter`.
+// One line of the quotation and its entrance. The drawing depends only on the
+// line and the seconds since it appeared; what is costly is kept between calls.
+// Seconds must be finite (for a typed line other values are a fatal error); to
+// draw a line at rest, use settledAfter().
 class RevealLine {
 public:
     struct Parts {
@@ -41,7 +41,7 @@ public:
         TextFont strokeFont; // for handwriting
         QColor color;
         LineShadow shadow;
-        double maxWidth = 0; // of the column, points; 0 is unbounded
+        double maxWidth = 0; // of the column, points; 0 means unbounded
     };
 
     // Lays out the text, which is the costly part.
@@ -52,29 +52,28 @@ public:
 
     const Parts& parts() const;
     double delay() const; // seconds from appearance to the start
-    QSizeF size() const;  // the place reserved from the start, points
+    QSizeF size() const;  // the space reserved from the start, points
 
-    // Changes what needs no new layout.
+    // Changes colour and shadow, which need no new layout.
     void setColors(const QColor& color, const LineShadow& shadow);
 
-    // Draws the line with the top left corner of its place at `topLeft`, as it
-    // stands `seconds` after it appeared. The painter is in points; a scale on
-    // it counts as the device pixel ratio.
+    // Draws the line as it looks `seconds` after it appeared, with its top left
+    // corner at `topLeft`. The painter is in points; its scale counts as the
+    // device pixel ratio.
     void paint(QPainter& painter, QPointF topLeft, double seconds) const;
 
-    // Makes what paint() will draw at that instant with a painter of this
-    // deviceTransform(), unless it is there. Different lines may do so at the
-    // same time on different threads.
+    // Renders what paint() will draw at that instant with a painter whose
+    // deviceTransform() is `device`, unless it is kept already. Different lines
+    // may be prepared at the same time on different threads.
     void prepare(const QTransform& device, double seconds) const;
     bool isPrepared(const QTransform& device, double seconds) const;
 
-    // All that paint() touches at that instant (offset, halo and shadow
-    // included), in points relative to the top left corner; empty when nothing
-    // is visible.
+    // The rectangle that paint() touches at that instant (offset, halo and shadow
+    // included), in points relative to the top left corner; empty when nothing is visible.
     QRectF paintedRect(double seconds) const;
     // Whether the picture at `to` differs from that at `from`.
     bool changesBetween(double from, double to) const;
-    // Seconds after which the line never changes again.
+    // Seconds after which the line never changes again; 0 for a line without ink.
     double settledAfter() const;
 
 private:

@@ -26,7 +26,7 @@ LineEffects effectsAt(double seconds) {
 
 } // namespace
 
-// The line springs up from below, over its place and back to it.
+// The line springs up from below, overshoots its place and returns to it.
 Motion rise() {
     return {effectsAt, settledAfter()};
 }

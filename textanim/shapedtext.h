@@ -20,20 +20,20 @@ namespace morrowleaf {
 
 struct TextOutline;
 
-// A text laid out once: its glyph outlines, its size and its colour glyphs. An
-// immutable value that is cheap to copy. It is drawn from outlines, so that it
-// looks the same at every device pixel ratio and moves smoothly by fractions of
-// a pixel.
+// A text that is laid out once: its glyph outlines, its size and its colour
+// glyphs. An immutable value that is cheap to copy. It is drawn from outlines, so
+// that it looks the same at every device pixel ratio and moves smoothly by
+// fractions of a pixel.
 class ShapedText {
 public:
     ShapedText();
-    // `tracking` in points is added after every character, the last one too.
-    // With a `maxWidth` above 0 the text wraps at word boundaries into
-    // leading-aligned rows; one word wider than that is scaled down as a whole.
+    // `tracking` in points is added after every character, including the last.
+    // With a `maxWidth` above 0 (points) the text wraps at word boundaries into
+    // leading-aligned rows; a row of one word that is wider is scaled down.
     ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
 
     QSizeF size() const;     // typographic width × rows of (ascent + descent), points
-    double baseline() const; // of the first row, from the top
+    double baseline() const; // of the first row, points from the top
     void paint(QPainter& painter, QPointF topLeft, const QColor& color) const;
 
     const TextOutline& outline() const { return *outline_; }
@@ -42,8 +42,8 @@ private:
     std::shared_ptr<const TextOutline> outline_;
 };
 
-// Keeps the picture of one text that is drawn in the same way again. The pixels
-// are always those of ShapedText::paint().
+// Caches the picture of one text that is drawn repeatedly with the same transform
+// and colour. The pixels are always those of ShapedText::paint().
 class KeptText {
 public:
     // Draws `text`, which must be the same each time, at the painter's origin.
@@ -58,7 +58,7 @@ private:
     };
 
     std::optional<Look> last_;
-    QImage picture_; // of the last look, once it has come twice
+    QImage picture_; // of the last look, once it has been drawn twice
     QPoint corner_;  // device pixels
 };
 

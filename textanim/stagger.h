@@ -17,7 +17,7 @@ inline double lineDelay(TextAnim kind, qint64 index) {
 }
 
 // Seconds from the appearance until a quotation of that many lines counts as
-// revealed: a line after the last one would start, and handwriting pauses.
+// revealed: when a further line would start, and half a second later for handwriting.
 inline double revealDone(TextAnim kind, qsizetype lines) {
     const double afterLast = lineDelay(kind, lines);
     return kind == TextAnim::Handwrite ? afterLast + 0.5 : afterLast;

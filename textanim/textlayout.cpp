@@ -15,10 +15,10 @@ namespace morrowleaf {
 
 namespace {
 
-// Near the end of what Qt's layout can count.
+// Close to the largest width that Qt's layout can represent.
 constexpr double widestLine = 8'000'000;
 
-// One unit for each unit of the text, so that offsets stay what they were.
+// Replaces line breaks and tabs unit by unit, so that all offsets stay valid.
 QString withRowBreaks(QString text, LineBreaks breaks) {
     const bool kept = breaks == LineBreaks::Kept;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -35,7 +35,7 @@ QString withRowBreaks(QString text, LineBreaks breaks) {
     return text;
 }
 
-// A face of bitmaps alone does not tell QRawFont how many units it has.
+// Read from the file because QRawFont does not know it for a face of bitmaps only.
 double unitsPerEm(const QRawFont& face) {
     const QByteArray head = face.fontTable("head");
     return head.size() >= 20 ? qFromBigEndian<quint16>(head.constData() + 18) : face.unitsPerEm();

@@ -13,8 +13,8 @@
 
 namespace morrowleaf {
 
-// Faces are shaped at this size, in pixels, and everything is scaled from there,
-// so that fractional sizes are exact and all sizes look alike.
+// Text is shaped at this size, in pixels, and scaled from there, so that
+// fractional sizes are exact and all sizes look alike.
 inline constexpr int shapingSize = 512;
 
 struct PlacedGlyph {
@@ -44,10 +44,10 @@ struct TextRow {
 struct TextLayout {
     std::vector<TextRow> rows;
     qsizetype characterCount = 0;
-    bool rightToLeft = false; // by its first letter with a direction
+    bool rightToLeft = false; // according to its first character with a direction
 };
 
-// Ascent and descent of a face at shapingSize, as its font file gives them.
+// Ascent and descent, both positive, of a face at shapingSize, as its font file gives them.
 double ascentOf(const QRawFont& face);
 double descentOf(const QRawFont& face);
 QRawFont rawFace(const QFont& face);

@@ -19,15 +19,15 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int pictureSize = 160; // pixels for the size of the font
+constexpr int pictureSize = 160; // font size for glyphs without an outline, pixels
 
 struct DrawnGlyph {
-    QImage picture;  // null where there is nothing to draw
+    QImage picture;  // null for an empty glyph
     QPointF topLeft; // from the glyph's origin, pixels
 };
 
 DrawnGlyph drawGlyph(QRawFont face, quint32 index) {
-    // Bitmap faces know their glyphs' extent at moderate sizes only.
+    // Bitmap faces know the extents of their glyphs only at moderate sizes.
     face.setPixelSize(pictureSize);
     const QRectF extent = face.boundingRect(index);
     if (extent.isEmpty()) {
@@ -131,7 +131,8 @@ void paintPicture(QPainter& painter, const GlyphPicture& picture) {
                                              : picture.picture);
 }
 
-// Characters that share a glyph show its share, from where the text begins.
+// Draws a fraction of a glyph that several characters share, from the side where
+// the text begins.
 void paintShare(QPainter& painter, const OutlinePart& part, double share, const QColor& color) {
     QRectF shown = part.outline.boundingRect();
     for (const GlyphPicture& picture : part.pictures) {

@@ -21,8 +21,8 @@ qint64 typedCharacters(double seconds, qint64 length);
 // The first instant, in seconds after the delay, at which the whole line is shown.
 double typingDuration(qint64 length);
 
-// Shows the characters one after another, each in its place at once. Seconds
-// are as for typedCharacters().
+// Draws the characters one after another, each at its final place. Seconds are as
+// for typedCharacters().
 std::unique_ptr<LinePainter> typewriterPainter(TextOutline text);
 
 } // namespace morrowleaf
