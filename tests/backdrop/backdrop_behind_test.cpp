@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// The desktop behind, glass and photos.
+// Tests of the desktop behind the window, glass and photos.
 #include "backdrop/backdrop.h"
 #include "tests/backdrop/drawnbackdrop.h"
 
@@ -74,7 +74,7 @@ TEST(Backdrop, FullTransparencyShowsTheDesktopItself) {
     EXPECT_EQ(raw(drawn(plain), 100, 100), 0U);
 }
 
-// How much neighbours differ: frosting must level the pattern of the picture.
+// The mean difference between pixels 12 columns apart, which frosting must lower.
 double roughness(const QImage& image) {
     double sum = 0;
     for (int y = 100; y < 200; ++y) {

@@ -14,7 +14,7 @@ namespace morrowleaf {
 
 namespace {
 
-// Newton's method with halved steps, from the guess given, to the last digit.
+// Newton's method with halved steps, from the given start to full precision.
 bool solve(const MeshPoints& mesh, double x, double y, double& u, double& v) {
     for (int step = 0; step < 60; ++step) {
         const SurfacePoint at = surfaceAt(mesh, u, v);

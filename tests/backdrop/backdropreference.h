@@ -14,8 +14,8 @@
 
 namespace morrowleaf {
 
-// A mesh ground over a constant premultiplied colour, pixel by pixel in double
-// precision and without any table: what the kernel must come close to.
+// A mesh over a constant premultiplied colour, computed pixel by pixel in double
+// precision without tables: the reference for the kernel.
 struct Reference {
     MeshPoints points{};
     std::array<QColor, 9> colors;

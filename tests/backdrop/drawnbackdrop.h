@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Backdrops of every kind, as they are drawn at an instant.
+// Draws backdrops of every kind at an instant.
 
 #include "backdrop/backdrop.h"
 #include "backdrop/glass.h"

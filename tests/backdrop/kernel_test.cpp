@@ -43,8 +43,9 @@ QImage drawn(const Reference& what, KernelPath path) {
     return drawn(what, path, QRect(QPoint(0, 0), what.size));
 }
 
-// Colours never above alpha; 99.9 % of the lanes within a level of the
-// reference and none beyond 4; whole 16 x 16 blocks within 0.35 on the mean.
+// Expects that no colour exceeds alpha, that 99.9 % of the lanes are within one
+// level of the reference and none is off by more than 4, and that the mean of
+// each 16 × 16 block is within 0.35.
 void expectClose(const QImage& image, const Reference& what) {
     const std::vector<QRgb> wanted = what.draw();
     const int width = what.size.width();
@@ -129,7 +130,7 @@ TEST_P(KernelTest, StaysCloseToTheReferenceForRandomMeshes) {
 }
 
 TEST_P(KernelTest, StaysCloseWhereTheMeshNearlyFolds) {
-    // The widest swings fold at this phase, and hardly not a little later.
+    // The widest swings fold the mesh at or near these phases.
     for (const double phase : {42.54, 42.2, 41.9, 43.0}) {
         Reference what;
         what.points = meshDrift(phase, 0.26);
@@ -155,7 +156,7 @@ TEST_P(KernelTest, WhiteWithGrainAndDitherSaturates) {
     what.points = meshDrift(0, 0.16);
     what.colors.fill(Qt::white);
     what.size = {331, 170};
-    what.base = {1, 1, 1, 1}; // twice as much as fits
+    what.base = {1, 1, 1, 1}; // with the mesh, up to twice the largest level
     const QImage image = drawn(what, GetParam());
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {

@@ -44,7 +44,7 @@ TEST(MeshDrift, LeavesCornersAndEdgesInPlace) {
 }
 
 TEST(MeshDrift, MovesSmoothlyAtThePhasesOfToday) {
-    // At a phase near 1e8 single precision would stand still for seconds.
+    // At a phase near 1e8, single precision would not change for seconds.
     const double t = 8.1e8 * 0.11;
     EXPECT_NE(meshDrift(t)[4].x, meshDrift(t + 0.11 / 30)[4].x);
     EXPECT_NEAR(meshDrift(t)[4].x, meshDrift(t + 0.11 / 30)[4].x, 0.001);
@@ -61,7 +61,7 @@ bool same(const MeshPoints& a, const MeshPoints& b) {
 
 TEST(MeshSurface, OnlyTheWidestSwingsAreEverDrawnBack) {
     int drawnBack = 0;
-    for (int step = 0; step < 1260; ++step) { // all rates are tenths: this is the whole motion
+    for (int step = 0; step < 1260; ++step) { // one period: all rates are multiples of 0.1
         const double t = 0.05 * step;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.1)), meshDrift(t, 0.1))) << t;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.16)), meshDrift(t, 0.16))) << t;

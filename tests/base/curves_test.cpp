@@ -50,7 +50,7 @@ TEST(Curves, StayInsideTheirEnds) {
     }
 }
 
-// The oscillator itself, by small steps.
+// Simulates the oscillator in small steps.
 double simulatedSpring(double seconds, double response, double damping) {
     const double omega = 2 * M_PI / response;
     const double step = 1e-5;

@@ -22,7 +22,7 @@ protected:
     JobTest() { pool.setMaxThreadCount(1); }
     ~JobTest() override { goOn.release(100); }
 
-    // Until `over` holds, for ten seconds at most.
+    // Processes events until `over` returns true, for ten seconds at most.
     template <typename Over>
     static bool await(Over over) {
         QDeadlineTimer deadline(10'000);
@@ -31,7 +31,7 @@ protected:
         }
         return over();
     }
-    // Everything that workers have posted so far.
+    // Delivers everything that workers have posted so far.
     void deliverAll() {
         pool.waitForDone();
         QCoreApplication::sendPostedEvents();
@@ -120,7 +120,7 @@ TEST_F(JobTest, DestructionStopsRunningWorkAndDoesNotWaitForIt) {
         },
         [](int) { FAIL(); });
     begun.acquire();
-    job.reset(); // or it would hang here
+    job.reset(); // without this the test would hang here
     goOn.release();
     deliverAll();
     EXPECT_TRUE(stopped);

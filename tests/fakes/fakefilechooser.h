@@ -10,7 +10,7 @@
 
 namespace morrowleaf {
 
-// Counts the questions, and answers the last one when told to.
+// Counts the questions, and answers the last one when a test calls answer().
 class FakeFileChooser final : public FileChooser {
 public:
     FileRequest* ask(QWidget& window, const FileQuestion& /*question*/) override {
@@ -19,7 +19,7 @@ public:
         return request_;
     }
 
-    // Does nothing after the window of the question has gone.
+    // Has no effect once the window of the question has been destroyed.
     void answer(const FileAnswer& answer) {
         if (request_) {
             request_->deleteLater();

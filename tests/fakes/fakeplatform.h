@@ -14,7 +14,7 @@
 
 namespace morrowleaf {
 
-// What happened to one overlay; outlives it.
+// Records what happened to one overlay; it outlives the overlay.
 struct OverlayRecord {
     OverlaySetup setup;
     QWidget* window = nullptr;
@@ -26,7 +26,7 @@ struct OverlayRecord {
     double alphaAtFront = -1;
 };
 
-// The desktop as the controller sees it, on record.
+// Records what the controller does to the desktop.
 class FakeDesktop {
 public:
     FakeDesktop()

@@ -12,7 +12,7 @@
 
 namespace morrowleaf {
 
-// Time that passes when told to.
+// Time that passes only when a test says so.
 class FakeTiming final : public Timing {
 public:
     double now() const override { return now_; }
@@ -44,7 +44,7 @@ public:
             tick();
         }
     }
-    // What only looks at the clock sees the jump; nothing due is called.
+    // Moves the clock without calling timers that are due.
     void jump(double seconds) { now_ += seconds; }
 
     qsizetype pending() {

@@ -8,7 +8,7 @@
 
 namespace morrowleaf {
 
-// The faces of the resources, registered once.
+// The faces in resources/Fonts, registered once.
 inline const FontBook& shippedFonts() {
     static const FontBook filled = [] {
         using namespace Qt::Literals::StringLiterals;

@@ -100,7 +100,7 @@ TEST(Palettes, OneForEachLocalDay) {
               &Palette::ofTheDay(berlin(2024, 5, 10, 23)));
     const Palette* first = Palette::all().data();
     const auto row = [&](int day) { return &Palette::ofTheDay(berlin(2024, 3, day, 12)) - first; };
-    for (int day = 20; day < 31; ++day) { // the clocks change on the last of them
+    for (int day = 20; day < 31; ++day) { // daylight saving time changes on the 31st
         EXPECT_EQ(row(day + 1), (row(day) + 1) % 9) << day;
     }
 }

@@ -30,7 +30,7 @@ struct Sheet {
 
 std::array<double, frames> instants(const RevealLine& line) {
     std::array<double, frames> at{};
-    // The first shows how it begins, the last how it rests.
+    // The first shows the beginning, the last the line at rest.
     constexpr std::array<double, frames> shares{0.04, 0.15, 0.3, 0.45, 0.6, 0.75, 0.97, 1};
     for (std::size_t i = 0; i < frames; ++i) {
         at[i] = line.delay() + shares[i] * (line.settledAfter() - line.delay());
@@ -51,7 +51,7 @@ RevealLine lineFor(const Sheet& sheet) {
                        0});
 }
 
-// What a fault would change.
+// A deliberate fault in the drawing.
 struct Fault {
     double moved = 0; // points downwards
     double opacity = 1;
@@ -127,7 +127,7 @@ TEST_P(ContactSheet, ShowsAMovedLineAndAnotherOpacity) {
     EXPECT_FALSE(comparePictures(right, draw(GetParam(), {0, 0.9})).acceptable());
 }
 
-// Another rasteriser sets the same outlines a fraction of a pixel elsewhere.
+// Another rasteriser may draw the same outlines a fraction of a pixel away.
 TEST_P(ContactSheet, ForgivesAnotherRasteriser) {
     const QImage right = draw(GetParam());
     EXPECT_TRUE(

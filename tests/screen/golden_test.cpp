@@ -28,7 +28,7 @@ QuoteViewState quotedState(QSizeF size, int palette) {
 
 QImage frameOf(const QuoteViewState& state, double seconds = atRest) {
     BackdropPainter painter;
-    // The grain has tests of its own and would only make large files.
+    // The grain has its own tests and would only make the files large.
     BackdropState backdrop = backdropFor(state.settings, state.palette, false);
     backdrop.grainOn = false;
     return renderFrame(painter, backdrop, QuoteView(state, shippedFonts()), seconds, 0);
@@ -114,7 +114,7 @@ TEST_F(Faults, NoneIsNone) {
     EXPECT_EQ(same.strayPixels, 0);
 }
 
-// Another rasteriser sets the same outlines a fraction of a pixel elsewhere.
+// Another rasteriser may draw the same outlines a fraction of a pixel away.
 TEST_F(Faults, AnotherRasteriserIsNone) {
     const QImage frame = frameOf(recorded());
     QImage softened(frame.size(), frame.format());

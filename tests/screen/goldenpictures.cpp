@@ -40,7 +40,7 @@ double blockDifference(const QImage& a, const QImage& b, const QRect& part) {
     return worst;
 }
 
-// Whether the pixel differs from the whole range of values around its place.
+// Whether a pixel is outside the range of the values around its place on record.
 bool strays(const QImage& recorded, const QImage& picture, int x, int y) {
     const auto value = channels(picture.pixel(x, y));
     for (size_t c = 0; c < 3; ++c) {

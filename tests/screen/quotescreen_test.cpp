@@ -78,7 +78,7 @@ protected:
         return screen;
     }
 
-    // Lets the time of the entrances jump, and the screen follow.
+    // Moves the clock of the entrances to an instant, and lets the screen follow.
     void jumpTo(CountingScreen& screen, double seconds) {
         time = seconds;
         const int before = screen.frames;
@@ -96,7 +96,7 @@ protected:
         QTest::qWait(20);
     }
 
-    // What the screen should look like, by the way that needs no window.
+    // What the screen should look like, drawn without a window.
     static QImage expected(const QuoteScreen& screen, double seconds) {
         const QuoteView& view = *screen.view();
         BackdropPainter painter;
@@ -162,7 +162,7 @@ TEST_F(QuoteScreens, SleepsUntilSomethingMoves) {
 
 TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
     const auto screen = shown();
-    jumpTo(*screen, 50 + 3.0); // only the hint is on its way
+    jumpTo(*screen, 50 + 3.0); // only the hint is still moving
     jumpTo(*screen, 50 + 3.1);
     ASSERT_TRUE(QTest::qWaitFor([&] {
         time += 0.01;
@@ -269,7 +269,7 @@ TEST_F(QuoteScreens, ShowsThePhotosPaletteBeforeItsPixels) {
 }
 
 TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
-    // A header that promises a picture, and nothing after it.
+    // A file that ends after the header of the picture.
     QFile whole(lake);
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QString broken = folder.filePath(u"broken.png"_s);
@@ -294,7 +294,7 @@ TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
     store.set(K::grain, false);
     store.set(K::bgImage, folder.filePath(u"first.png"_s));
     const auto screen = shown();
-    // Well above the text.
+    // A pixel well above the text.
     const auto ground = [&] { return screen->grab().toImage().pixelColor(20, 100); };
     ASSERT_TRUE(QTest::qWaitFor([&] {
         time += 1;

@@ -129,7 +129,7 @@ TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(view.lineAppearedAt(i), 7);
     }
-    state.settings.textAnimRaw = u"no such thing"_s; // drawn as fade, yet another identity
+    state.settings.textAnimRaw = u"no such thing"_s; // drawn as fade, but with another identity
     view.update(state, 8);
     EXPECT_EQ(view.lineAppearedAt(0), 8);
     EXPECT_EQ(view.closing().rule.delay, ruleAt);
@@ -183,7 +183,7 @@ TEST(QuoteView, DrawsAfterAnUpdateWhatAFreshViewDraws) {
         state.settings.textAnimRaw = rawValue(style);
         state.palette = Palette::all()[0];
         QuoteView view(state, shippedFonts());
-        drawn(view, 1.2); // keeps pictures in the colours of before
+        drawn(view, 1.2); // caches pictures in the old colours
         drawn(view, 9);
         drawn(view, 9);
         state.palette = Palette::all()[7];
@@ -211,7 +211,7 @@ TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
-    QSet<QString> kinds; // what becomes of a line
+    QSet<QString> kinds; // what happens to a line
     for (int percent = 80; percent < 160; percent += 2) {
         const double scale = percent / 100.0;
         QStringList before;
@@ -234,8 +234,8 @@ TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
     EXPECT_EQ(kinds.size(), 2);
 }
 
-// Colour, typeface and another text of the same length come at once, at the
-// stage where the line stands, in whatever way it comes in.
+// Colour, typeface and another text of the same length apply at once, at the
+// stage that the line has reached, in every style.
 TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
     for (const TextAnim kind : allTextAnims) {
         QuoteViewState state = plainState({1024, 600});
@@ -268,7 +268,7 @@ TEST(QuoteView, DoesNotReplayRuleAndAuthorForALateQuotation) {
     EXPECT_EQ(view.closing().rule.delay, before.rule.delay);
     EXPECT_EQ(view.closing().author.delay, before.author.delay);
     EXPECT_EQ(view.lineAppearedAt(1), 6);
-    // The author stands there while the new lines have not begun.
+    // The author is visible while the new lines have not begun.
     const QRect place = view.rect(Element::Author).toAlignedRect();
     EXPECT_FALSE(inkWithin(drawn(view, 6), place).isEmpty());
     const QRect line = view.lineRect(1).toAlignedRect();

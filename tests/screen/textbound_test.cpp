@@ -93,7 +93,7 @@ TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
     }
 }
 
-// What is left away lies below the end of what is shown.
+// The lines reach the bottom edge, so the part that is cut off could not be seen.
 TEST(QuoteViewBounds, FillTheViewToItsEnd) {
     for (const QSizeF size : {QSizeF(1512, 982), QSizeF(3840, 2160), QSizeF(1080, 1920)}) {
         for (const double textScale : {0.5, 1.0, 1.6}) {

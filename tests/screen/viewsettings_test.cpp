@@ -47,7 +47,7 @@ TEST(ViewSettings, TakesWhatIsStored) {
     store.set(K::textAnim, u"Handwrite"_s);
     store.set(K::grain, false);
     store.set(K::transparency, 0.3);
-    store.set(K::font.key, 12); // no text
+    store.set(K::font.key, 12); // not a string
     const ViewSettings settings = readViewSettings(store);
     EXPECT_EQ(settings.paletteIndex, 7);
     EXPECT_EQ(settings.sizeScale, 1.5);
@@ -56,7 +56,7 @@ TEST(ViewSettings, TakesWhatIsStored) {
     EXPECT_EQ(settings.transparency, 0.3);
     EXPECT_EQ(settings.fontName, u"serif"_s);
     store.set(K::palette.key, QJsonArray{1});
-    EXPECT_EQ(readViewSettings(store).paletteIndex, 0); // stored, though no number
+    EXPECT_EQ(readViewSettings(store).paletteIndex, 0); // stored, but not a number
 }
 
 TEST(ViewSettings, ToleratesAnySizeScale) {
@@ -101,7 +101,7 @@ TEST(Today, SpeaksTheLocale) {
     EXPECT_EQ(today(at(9, 0), QLocale(u"en_US"_s)), u"FRIDAY, 14 NOVEMBER"_s);
     EXPECT_EQ(today(at(9, 0, {2025, 11, 4}), QLocale::c()), u"TUESDAY, 4 NOVEMBER"_s);
     EXPECT_EQ(today(at(9, 0), QLocale(u"de_DE"_s)), u"FREITAG, 14 NOVEMBER"_s);
-    // The upper case is the locale's own too.
+    // The upper case follows the locale as well.
     EXPECT_EQ(today(at(9, 0, {2025, 6, 2}), QLocale(u"tr_TR"_s)), u"PAZARTESİ, 2 HAZİRAN"_s);
 }
 

@@ -12,7 +12,7 @@ using namespace morrowleaf;
 
 namespace {
 
-// Plain and in double precision, to compare with.
+// A direct convolution in double precision, to compare with.
 std::vector<double> referenceBlur(const std::vector<double>& values, int width, int height,
                                   double sigma) {
     const int reach = static_cast<int>(std::ceil(5 * sigma));

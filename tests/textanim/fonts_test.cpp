@@ -26,7 +26,7 @@ const FontBook& shippedBook() {
     return book;
 }
 
-// The face that the system really takes.
+// The PostScript name of the face that Qt resolves the font to.
 QString resolved(const TextFont& font) {
     const auto names = readNameTable(QRawFont::fromFont(font.face).fontTable("name"));
     return names ? names->postScript : QString();

@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// A text of that many characters, in words of the given length.
+// `count` words of `wordLength` characters each.
 QString wordsOf(qsizetype wordLength, qsizetype count) {
     return QStringList(count, QString(wordLength, u'a')).join(u' ');
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// A line as it is drawn at an instant, and what its pixels tell.
+// Draws a line at an instant and measures its pixels.
 
 #include "tests/fakes/shippedfonts.h"
 #include "textanim/revealline.h"

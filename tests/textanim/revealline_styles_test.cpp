@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// What every way of coming in has in common.
+// Tests of what all styles have in common.
 #include "base/curves.h"
 #include "tests/textanim/paintedline.h"
 
@@ -109,11 +109,10 @@ TEST_P(EveryStyle, UnchangedStagesLookAlike) {
     }
 }
 
-// Nothing pops: not where the blur changes its resolution, nor as a line comes
-// to rest.
+// No style jumps: neither where the blur changes its resolution, nor when a line comes to rest.
 TEST_P(EveryStyle, ComesInWithoutJumps) {
     if (GetParam() == TextAnim::Typewriter) {
-        return; // its letters are there at once
+        return; // its letters appear at once
     }
     for (const double ratio : {1.0, 1.25, 2.0}) {
         const RevealLine line(parts(GetParam(), "A quiet office"));

@@ -31,7 +31,7 @@ TEST(RevealLine, TheTypewriterChangesOnItsTicksOnly) {
     EXPECT_NEAR(line.settledAfter(), start + 20.0 / 26, 1e-9);
 }
 
-// What stands stays as it is, wherever the next letter falls.
+// Typed letters do not move when further letters appear.
 TEST(RevealLine, TypedLettersDoNotJump) {
     RevealLine::Parts bare = parts(TextAnim::Typewriter, "AVAffinity office", "serif");
     bare.shadow.opacity = 0;
@@ -68,7 +68,7 @@ TEST(RevealLine, HalfATypedLineHasHalfAShadow) {
         RevealLine::Parts bare = dark;
         bare.shadow.opacity = 0;
         const QImage with = painted(RevealLine(dark), seconds);
-        // Below the letters there is nothing else.
+        // Without the shadow there is nothing below the letters.
         EXPECT_EQ(alphaSum(painted(RevealLine(bare), seconds), QRect(0, 110, 480, 90)), 0);
         return alphaSum(with, QRect(0, 110, 480, 90));
     };
@@ -87,7 +87,7 @@ TEST(RevealLine, TheShadowIsAGaussianOfTheGivenOpacity) {
     bare.color.setAlpha(1);
     const double faint = alphaSum(painted(RevealLine(dark), 10));
     EXPECT_GT(letters, 0);
-    EXPECT_LT(faint, letters / 20); // a shadow of what is hardly there
+    EXPECT_LT(faint, letters / 20); // the shadow of faint letters is faint
     dark.color.setAlpha(255);
     const double both = alphaSum(painted(RevealLine(dark), 10));
     EXPECT_NEAR(both / letters, 1.35, 0.08);
@@ -166,7 +166,7 @@ TEST(RevealLine, ColourChangesApplyAtTheStageItStands) {
             const QRgb a = first.pixel(x, y);
             const QRgb b = second.pixel(x, y);
             ASSERT_EQ(qAlpha(a), qAlpha(b));
-            // Both are premultiplied: all of the colour and nothing else.
+            // Both are premultiplied: the colour is as strong as the alpha.
             ASSERT_NEAR(qRed(a), qAlpha(a), 2);
             ASSERT_NEAR(qBlue(b), qAlpha(b), 2);
             ASSERT_EQ(qBlue(a), 0);

@@ -156,7 +156,7 @@ TEST(GlyphPath, SizeIsInWholePoints) {
 TEST(GlyphPath, TheBaselineLiesAtTheDepthOfTheRequestedFont) {
     const double depth = 44 * (1.233 - 0.978);
     EXPECT_NEAR(glyphPath("HH", face("fraunces")).path.boundingRect().top(), depth, 0.05);
-    // A letter of another face stands on the same line.
+    // A letter of a fallback face is on the same baseline.
     EXPECT_NEAR(glyphPath("Н", face("fraunces")).path.boundingRect().top(), depth, 0.3);
     const QRectF descending = glyphPath("p", face("fraunces")).path.boundingRect();
     EXPECT_GT(descending.top(), -1);
