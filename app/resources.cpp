@@ -10,17 +10,19 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 QString resourceFolder() {
     const QString program = QCoreApplication::applicationDirPath();
-    QStringList candidates{program + "/../share/morrowleaf"};
+    QStringList candidates{program + "/../share/morrowleaf"_L1};
     constexpr int deepestBuildFolder = 5;
     QString up = program;
     for (int i = 0; i < deepestBuildFolder; ++i) {
-        up += "/..";
-        candidates << up + "/resources";
+        up += "/.."_L1;
+        candidates << up + "/resources"_L1;
     }
     for (const QString& candidate : candidates) {
-        if (QFileInfo(candidate + "/Fonts").isDir()) {
+        if (QFileInfo(candidate + "/Fonts"_L1).isDir()) {
             return QDir::cleanPath(candidate);
         }
     }
@@ -28,15 +30,15 @@ QString resourceFolder() {
 }
 
 QString fontFolder() {
-    return resourceFolder() + "/Fonts";
+    return resourceFolder() + "/Fonts"_L1;
 }
 
 QString backgroundFolder() {
-    return resourceFolder() + "/Backgrounds";
+    return resourceFolder() + "/Backgrounds"_L1;
 }
 
 QString iconFolder() {
-    return resourceFolder() + "/icons";
+    return resourceFolder() + "/icons"_L1;
 }
 
 } // namespace morrowleaf

@@ -14,6 +14,9 @@
 namespace morrowleaf {
 
 namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
 constexpr QSize contentSize(520, 520);
 constexpr int leftMargin = 32;
 constexpr int belowMiddle = 400;
@@ -24,9 +27,9 @@ constexpr Qt::WindowFlags kind = Qt::Window | Qt::CustomizeWindowHint | Qt::Wind
 
 SettingsWindow::SettingsWindow(QWidget* view)
     : QMainWindow(nullptr, kind) {
-    setObjectName("SettingsWindow");
-    setWindowTitle("Morrowleaf Settings");
-    setWindowIcon(QIcon(iconFolder() + "/app-icon.svg"));
+    setObjectName(u"SettingsWindow"_s);
+    setWindowTitle(u"Morrowleaf Settings"_s);
+    setWindowIcon(QIcon(iconFolder() + "/app-icon.svg"_L1));
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(view);

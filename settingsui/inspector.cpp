@@ -29,6 +29,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr double leastGlass = 0.01; // transparency below which no glass is seen
 
 template <typename Kinds>
@@ -59,7 +61,7 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setFixedWidth(width);
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
-    speakAsGroup(*this, QStringLiteral("Appearance"));
+    speakAsGroup(*this, u"Appearance"_s);
     // A shortcut, since some desktops' themes let Return press what has the focus.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(key, this);
@@ -93,8 +95,8 @@ QWidget* Inspector::makeHeader() {
     auto* row = new QHBoxLayout(header);
     row->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(setup_.screen)),
                             PanelStyle::margin, 14);
-    row->addWidget(panelLabel(QStringLiteral("APPEARANCE"),
-                              panelFont(setup_.face, 10, QFont::Medium, 2.2), 0.55, header));
+    row->addWidget(
+        panelLabel(u"APPEARANCE"_s, panelFont(setup_.face, 10, QFont::Medium, 2.2), 0.55, header));
     row->addStretch(1);
     return header;
 }
@@ -149,45 +151,44 @@ QWidget* Inspector::makeGroups() {
         PanelStyle::margin - PanelStyle::focusRoom - ControlStyle::scrollBarThickness, 22);
     column->setSpacing(PanelStyle::groupSpacing);
 
-    const auto knob = [&](const char* name, const RealSetting& setting,
+    const auto knob = [&](const QString& name, const RealSetting& setting,
                           const Knob::Readout& readout) {
-        return new Knob(QLatin1String(name), store, setting, readout, face, controlStyle_, this);
+        return new Knob(name, store, setting, readout, face, controlStyle_, this);
     };
-    const auto smallSwitch = [&](const char* name, const FlagSetting& setting) {
-        auto* control = makeSwitch(QLatin1String(name), controlStyle_, this);
+    const auto smallSwitch = [&](const QString& name, const FlagSetting& setting) {
+        auto* control = makeSwitch(name, controlStyle_, this);
         control->setFont(panelFont(face, 12));
         bindSwitch(*control, store, setting);
         return control;
     };
 
-    addGroup(*column, QStringLiteral("Palette"), {new PaletteGroup(store, face, this)});
-    addGroup(*column, QStringLiteral("Your photo"),
+    addGroup(*column, u"Palette"_s, {new PaletteGroup(store, face, this)});
+    addGroup(*column, u"Your photo"_s,
              {new PhotoGroup(store, photos_, *photoChooser_, face, this)});
-    addGroup(*column, QStringLiteral("Typeface"),
-             {makePicker(QStringLiteral("Typeface"), K::font,
-                         {{QStringLiteral("fraunces"), QStringLiteral("Fraunces")},
-                          {QStringLiteral("serif"), QStringLiteral("Serif (New York)")},
-                          {QStringLiteral("sans"), QStringLiteral("Sans (SF Pro)")},
-                          {QStringLiteral("rounded"), QStringLiteral("Rounded")},
-                          {QStringLiteral("mono"), QStringLiteral("Mono")}})});
-    addGroup(*column, QStringLiteral("Size"), {knob("Size", K::textScale, percentReadout)});
-    addGroup(*column, QStringLiteral("Vignette"), {knob("Vignette", K::vignette, plainReadout)});
-    Knob* transparency = knob("Transparency", K::transparency, percentReadout);
+    addGroup(*column, u"Typeface"_s,
+             {makePicker(u"Typeface"_s, K::font,
+                         {{u"fraunces"_s, u"Fraunces"_s},
+                          {u"serif"_s, u"Serif (New York)"_s},
+                          {u"sans"_s, u"Sans (SF Pro)"_s},
+                          {u"rounded"_s, u"Rounded"_s},
+                          {u"mono"_s, u"Mono"_s}})});
+    addGroup(*column, u"Size"_s, {knob(u"Size"_s, K::textScale, percentReadout)});
+    addGroup(*column, u"Vignette"_s, {knob(u"Vignette"_s, K::vignette, plainReadout)});
+    Knob* transparency = knob(u"Transparency"_s, K::transparency, percentReadout);
     if (setup_.glassCanBeDrawn) {
-        QCheckBox* glass = smallSwitch("Liquid Glass", K::liquidGlass);
+        QCheckBox* glass = smallSwitch(u"Liquid Glass"_s, K::liquidGlass);
         new Binding(store, K::transparency, glass, [glass, &store] {
             glass->setEnabled(store.get(K::transparency) >= leastGlass);
         });
-        addGroup(*column, QStringLiteral("Transparency"), {transparency, glass});
+        addGroup(*column, u"Transparency"_s, {transparency, glass});
     } else {
-        addGroup(*column, QStringLiteral("Transparency"), {transparency});
+        addGroup(*column, u"Transparency"_s, {transparency});
     }
-    addGroup(*column, QStringLiteral("Text reveal"),
-             {makePicker(QStringLiteral("Text reveal"), K::textAnim, entriesOf(allTextAnims))});
-    addGroup(
-        *column, QStringLiteral("Screen motion"),
-        {makePicker(QStringLiteral("Screen motion"), K::screenAnim, entriesOf(allScreenAnims))});
-    addGroup(*column, QStringLiteral("Grain"), {smallSwitch("Film grain", K::grain)});
+    addGroup(*column, u"Text reveal"_s,
+             {makePicker(u"Text reveal"_s, K::textAnim, entriesOf(allTextAnims))});
+    addGroup(*column, u"Screen motion"_s,
+             {makePicker(u"Screen motion"_s, K::screenAnim, entriesOf(allScreenAnims))});
+    addGroup(*column, u"Grain"_s, {smallSwitch(u"Film grain"_s, K::grain)});
     column->addStretch(1);
     return groups;
 }
@@ -198,10 +199,8 @@ QWidget* Inspector::makeFooter() {
     row->setContentsMargins(PanelStyle::margin - 1 - ControlStyle::buttonPadding, 10,
                             PanelStyle::margin, 12);
     const QFont font = panelFont(setup_.face, 12);
-    auto* resetButton =
-        makeButton(QStringLiteral("Reset"), ButtonKind::Plain, controlStyle_, footer);
-    auto* doneButton =
-        makeButton(QStringLiteral("Done"), ButtonKind::Filled, controlStyle_, footer);
+    auto* resetButton = makeButton(u"Reset"_s, ButtonKind::Plain, controlStyle_, footer);
+    auto* doneButton = makeButton(u"Done"_s, ButtonKind::Filled, controlStyle_, footer);
     resetButton->setFont(font);
     doneButton->setFont(panelFont(setup_.face, 12, QFont::DemiBold));
     connect(resetButton, &QAbstractButton::clicked, this, [this] { resetAppearance(store_); });

@@ -16,10 +16,12 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store) {
-    speakAsGroup(*this, QStringLiteral("Palette"));
+    speakAsGroup(*this, u"Palette"_s);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);
@@ -28,7 +30,7 @@ PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* par
         grid->setColumnStretch(column, 1);
     }
     const std::array automatic{QColor(128, 128, 128, 153), QColor(128, 128, 128, 64)};
-    add(-1, new PaletteSwatch(QStringLiteral("Auto"), automatic, face, this));
+    add(-1, new PaletteSwatch(u"Auto"_s, automatic, face, this));
     for (const Palette& palette : Palette::all()) {
         add(swatches_.size() - 1, new PaletteSwatch(palette.name, palette.colors, face, this));
     }

@@ -22,6 +22,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 // What a built-in photo is called: its file's name, as a word.
 QString spokenName(const QString& path) {
     QString name = QFileInfo(path).completeBaseName();
@@ -45,7 +47,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     , anchor_(new QWidget(this)) {
     anchor_->setFocusPolicy(Qt::TabFocus); // else it has no place in that order
     anchor_->hide();
-    speakAsGroup(*this, QStringLiteral("Your photo"));
+    speakAsGroup(*this, u"Your photo"_s);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PanelStyle::gutter);
@@ -74,9 +76,9 @@ void PhotoGroup::rebuild() {
     }
     for (qsizetype i = 0; i < customBGs_.size(); ++i) {
         const QString path = customBGs_[i];
-        const QString name = QStringLiteral("Your photo %1").arg(i + 1);
+        const QString name = u"Your photo %1"_s.arg(i + 1);
         PhotoSwatch* swatch = makeSwatch(path, name);
-        auto* cross = new RemoveButton(QStringLiteral("Remove %1").arg(name.toLower()), swatch);
+        auto* cross = new RemoveButton(u"Remove %1"_s.arg(name.toLower()), swatch);
         auto* corner = new QGridLayout(swatch);
         corner->setContentsMargins(2, 2, 2, 2);
         corner->addWidget(cross, 0, 0, Qt::AlignTop | Qt::AlignRight);

@@ -108,9 +108,9 @@ SettingsView::SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& 
     auto* sections = new QVBoxLayout(form);
     sections->setContentsMargins(formMargin, 16, formMargin, 16);
     sections->setSpacing(sectionSpacing);
-    auto* appearance = new FormCard(QStringLiteral("Appearance"), form);
-    auto* behaviour = new FormCard(QStringLiteral("Behaviour"), form);
-    auto* quotes = new FormCard(QStringLiteral("Quotes"), form);
+    auto* appearance = new FormCard(u"Appearance"_s, form);
+    auto* behaviour = new FormCard(u"Behaviour"_s, form);
+    auto* quotes = new FormCard(u"Quotes"_s, form);
     addAppearance(*appearance);
     addBehaviour(*behaviour);
     addQuotes(*quotes);
@@ -141,8 +141,8 @@ void SettingsView::addAppearance(FormCard& card) {
     auto* row = new QWidget(&card);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* text = makeQuietLabel(QStringLiteral("Palette, typeface, size, vignette and grain"),
-                                Emphasis::Secondary, row);
+    auto* text =
+        makeQuietLabel(u"Palette, typeface, size, vignette and grain"_s, Emphasis::Secondary, row);
     text->setFont(scaled(font(), 0.95));
     auto* edit = actionButton(actions_.editAppearance, row);
     layout->addWidget(text, 1);
@@ -152,24 +152,24 @@ void SettingsView::addAppearance(FormCard& card) {
 
 void SettingsView::addBehaviour(FormCard& card) {
     SettingsStore& store = store_;
-    auto* wake = makeSwitch(QStringLiteral("Show on wake and unlock"), switchStyle_, &card);
+    auto* wake = makeSwitch(u"Show on wake and unlock"_s, switchStyle_, &card);
     bindSwitch(*wake, store, K::showOnWake);
     card.addRow(wake);
 
     auto* frequency = new FormPicker(&card);
-    frequency->addItem(QStringLiteral("Every 6 hours"), QStringLiteral("6h"));
-    frequency->addItem(QStringLiteral("Every 12 hours"), QStringLiteral("12h"));
-    frequency->addItem(QStringLiteral("Every 24 hours"), QStringLiteral("24h"));
-    frequency->addItem(QStringLiteral("Every time it shows"), QStringLiteral("every"));
+    frequency->addItem(u"Every 6 hours"_s, u"6h"_s);
+    frequency->addItem(u"Every 12 hours"_s, u"12h"_s);
+    frequency->addItem(u"Every 24 hours"_s, u"24h"_s);
+    frequency->addItem(u"Every time it shows"_s, u"every"_s);
     bindChoice(*frequency, store, K::frequency);
-    card.addRow(QStringLiteral("New quote"), frequency);
+    card.addRow(u"New quote"_s, frequency);
 
     card.addRow(makeCloseAfter());
     card.addRow(makeLoginSwitch());
 }
 
 QWidget* SettingsView::makeLoginSwitch() {
-    auto* control = makeSwitch(QStringLiteral("Open at login"), switchStyle_, this);
+    auto* control = makeSwitch(u"Open at login"_s, switchStyle_, this);
     const auto isEnabled = [this] { return loginItem_.status() == LoginItem::Status::Enabled; };
     control->setChecked(isEnabled());
     connect(control, &QAbstractButton::toggled, this, [this, control, isEnabled](bool on) {
@@ -186,7 +186,7 @@ QWidget* SettingsView::makeCloseAfter() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(QStringLiteral("Close after"), row);
+    auto* label = new QLabel(u"Close after"_s, row);
     auto* slider = new FormSlider(row);
     slider->setRange(int(K::dismiss.lowest), int(K::dismiss.highest)); // seconds
     slider->setSingleStep(1);
@@ -218,7 +218,7 @@ QWidget* SettingsView::makeCloseAfter() {
 }
 
 QPushButton* SettingsView::makePresets() {
-    auto* button = new QPushButton(QStringLiteral("Presets"), this);
+    auto* button = new QPushButton(u"Presets"_s, this);
     button->setFixedWidth(presetsWidth);
     auto* menu = new QMenu(button);
     for (const SourcePreset& preset : sourcePresets) {
@@ -226,27 +226,26 @@ QPushButton* SettingsView::makePresets() {
             store_.set(K::source, QString(address));
         });
     }
-    menu->addAction(QStringLiteral("Built-in list"), this,
-                    [this] { store_.set(K::source, QString()); });
+    menu->addAction(u"Built-in list"_s, this, [this] { store_.set(K::source, QString()); });
     button->setMenu(menu);
     return button;
 }
 
 void SettingsView::addQuotes(FormCard& card) {
     auto* source = new QLineEdit(&card);
-    source->setPlaceholderText(QStringLiteral("Leave empty for the built-in 124 quotes"));
+    source->setPlaceholderText(u"Leave empty for the built-in 124 quotes"_s);
     source->setMinimumWidth(330);
     source->setTextMargins(4, 0, 4, 0);
     bindText(*source, store_, K::source);
-    card.addRow(QStringLiteral("Source URL"), source);
+    card.addRow(u"Source URL"_s, source);
 
     auto* row = new QWidget(&card);
-    row->setAccessibleName(QStringLiteral("Testing…")); // it has the keyboard while a test runs
+    row->setAccessibleName(u"Testing…"_s); // it has the keyboard while a test runs
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makePresets());
-    testButton_ = roomyButton(QStringLiteral("Testing…"), row);
-    testButton_->setText(QStringLiteral("Test"));
+    testButton_ = roomyButton(u"Testing…"_s, row);
+    testButton_->setText(u"Test"_s);
     layout->addWidget(testButton_);
     connect(testButton_, &QPushButton::clicked, this, &SettingsView::test);
     layout->addStretch(1);
@@ -259,10 +258,10 @@ void SettingsView::addQuotes(FormCard& card) {
     testResult_->setMinimumHeight(0);
     testResult_->hide();
 
-    auto* help = makeQuietLabel(
-        QStringLiteral("Any JSON with a quote and author field works, plus a local file path. The "
-                       "last fetched quote is cached, so it still shows offline."),
-        Emphasis::Tertiary, &card);
+    auto* help =
+        makeQuietLabel(u"Any JSON with a quote and author field works, plus a local file path. The "
+                       "last fetched quote is cached, so it still shows offline."_s,
+                       Emphasis::Tertiary, &card);
     help->setFont(scaled(font(), 0.86));
     card.addRow(help);
 }
@@ -274,7 +273,7 @@ QWidget* SettingsView::makeNotice() {
     notice->setContentsMargins(formMargin, 8, formMargin, 8);
     const auto update = [this, notice] {
         const QString name = store_.keptFileName();
-        notice->setText(name.isEmpty() ? QString() : u"Unreadable settings are kept in "_s + name);
+        notice->setText(name.isEmpty() ? QString() : "Unreadable settings are kept in "_L1 + name);
         notice->setVisible(!name.isEmpty());
     };
     connect(&store_, &SettingsStore::keptFileNameChanged, notice, update);
@@ -301,7 +300,7 @@ void SettingsView::test() {
         testButton_->parentWidget()->setFocus();
     }
     testButton_->setEnabled(false);
-    testButton_->setText(QStringLiteral("Testing…"));
+    testButton_->setText(u"Testing…"_s);
     showTestResult({});
     const QPointer<SettingsView> self(this);
     loader_(Prefs::source(store_), [self](const std::optional<Quote>& quote) {
@@ -309,13 +308,13 @@ void SettingsView::test() {
             return;
         }
         self->testButton_->setEnabled(true);
-        self->testButton_->setText(QStringLiteral("Test"));
+        self->testButton_->setText(u"Test"_s);
         if (self->testButton_->parentWidget()->hasFocus()) {
             self->testButton_->setFocus();
         }
-        self->showTestResult(quote ? QChar(0x201C) + quote->text + QChar(0x201D) +
-                                         QStringLiteral(" — ") + quote->author
-                                   : QStringLiteral("No quote found at that source."));
+        self->showTestResult(quote ? QChar(0x201C) + quote->text + QChar(0x201D) + u" — "_s +
+                                         quote->author
+                                   : u"No quote found at that source."_s);
     });
 }
 

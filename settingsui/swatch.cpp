@@ -12,6 +12,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr int captionHeight = 15; // points
 constexpr double captionSize = 8.5;
 
@@ -128,8 +130,8 @@ void PhotoSwatch::paintTile(QPainter& painter, const QRectF& tile) {
 }
 
 AddTile::AddTile(const QFont& face, QWidget* parent)
-    : Swatch(QStringLiteral("Add a photo"), face, parent) {
-    setToolTip(QStringLiteral("Add one of your own images, up to three"));
+    : Swatch(u"Add a photo"_s, face, parent) {
+    setToolTip(u"Add one of your own images, up to three"_s);
     setAccessibleDescription(toolTip());
 }
 
