@@ -13,7 +13,7 @@ namespace {
 bool hasGlassSwitch(const Inspector& editor) {
     const auto switches = editor.findChildren<QCheckBox*>();
     return std::any_of(switches.begin(), switches.end(),
-                       [](const QCheckBox* s) { return s->text() == "Liquid Glass"; });
+                       [](const QCheckBox* s) { return s->text() == "Liquid Glass"_L1; });
 }
 
 TEST_F(AppDelegateTest, SecondPresentReplacesWithoutFade) {
@@ -166,17 +166,17 @@ TEST_F(AppDelegateTest, TheEditorKnowsWhetherGlassCanBeDrawn) {
 TEST_F(AppDelegateTest, EscapeInTheSettingsEndsTheEditingAndNothingElse) {
     launchAndClose();
     delegate->openSettings();
-    pressButton(delegate->settingsWindow(), "Edit Appearance…");
+    pressButton(delegate->settingsWindow(), u"Edit Appearance…"_s);
     auto* settings = const_cast<QWidget*>(delegate->settingsWindow());
     auto* field = settings->findChild<QLineEdit*>();
-    QTest::keyClicks(field, "kept");
+    QTest::keyClicks(field, u"kept"_s);
     EXPECT_TRUE(isShown());
     QTest::keyClick(field, Qt::Key_Escape);
     EXPECT_FALSE(isShown());
     EXPECT_TRUE(settings->isVisible());
     QTest::keyClick(field, Qt::Key_Escape);
     EXPECT_TRUE(settings->isVisible());
-    EXPECT_EQ(field->text(), "kept");
+    EXPECT_EQ(field->text(), u"kept"_s);
 }
 
 TEST_F(AppDelegateTest, WithoutACaptureTheNextRungHolds) {
@@ -232,20 +232,20 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     auto* window = const_cast<QWidget*>(delegate->settingsWindow());
     auto* view = window->findChild<SettingsView*>();
     const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
-    EXPECT_EQ(window->windowTitle(), "Morrowleaf Settings");
+    EXPECT_EQ(window->windowTitle(), u"Morrowleaf Settings"_s);
     EXPECT_EQ(window->size(), QSize(520, 545));
     EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
     EXPECT_FALSE(window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
     EXPECT_EQ(window->minimumSize(), window->maximumSize());
     EXPECT_FALSE(window->windowIcon().pixmap(32, 32).isNull());
-    window->findChild<QLineEdit*>()->setText("kept");
+    window->findChild<QLineEdit*>()->setText(u"kept"_s);
     window->close();
     EXPECT_FALSE(window->isVisible());
     delegate->openSettings();
     EXPECT_EQ(delegate->settingsWindow(), window);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->findChild<QLineEdit*>()->text(), "kept");
+    EXPECT_EQ(window->findChild<QLineEdit*>()->text(), u"kept"_s);
     EXPECT_EQ(window->findChildren<SettingsView*>(), QList{view});
     EXPECT_EQ(quits.count(), 0);
 }
@@ -265,25 +265,25 @@ TEST_F(AppDelegateTest, WindowsAreWindowsToAScreenReader) {
     delegate->openSettings();
     const auto* quote = QAccessible::queryAccessibleInterface(top().window);
     EXPECT_EQ(quote->role(), QAccessible::Window);
-    EXPECT_EQ(quote->text(QAccessible::Name), "Morrowleaf");
+    EXPECT_EQ(quote->text(QAccessible::Name), u"Morrowleaf"_s);
     const auto* settings =
         QAccessible::queryAccessibleInterface(const_cast<QWidget*>(delegate->settingsWindow()));
     EXPECT_EQ(settings->role(), QAccessible::Window);
-    EXPECT_EQ(settings->text(QAccessible::Name), "Morrowleaf Settings");
+    EXPECT_EQ(settings->text(QAccessible::Name), u"Morrowleaf Settings"_s);
 }
 
 TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
     launchAndClose();
     delegate->openSettings();
-    pressButton(delegate->settingsWindow(), "Show Today's Quote");
+    pressButton(delegate->settingsWindow(), u"Show Today's Quote"_s);
     EXPECT_EQ(showings(), 2);
     EXPECT_EQ(editor(), nullptr);
-    pressButton(delegate->settingsWindow(), "Edit Appearance…");
+    pressButton(delegate->settingsWindow(), u"Edit Appearance…"_s);
     EXPECT_EQ(showings(), 3);
     EXPECT_NE(editor(), nullptr);
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
     const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
-    pressButton(delegate->settingsWindow(), "Quit");
+    pressButton(delegate->settingsWindow(), u"Quit"_s);
     EXPECT_EQ(quits.count(), 1);
 }
 
@@ -305,10 +305,11 @@ TEST_F(AppDelegateTest, MenuEntriesInOrder) {
     const auto entries = delegate->statusItem()->menu().actions();
     QStringList texts;
     for (const auto* entry : entries) {
-        texts << (entry->isSeparator() ? "-" : entry->text() + '|' + entry->shortcut().toString());
+        texts << (entry->isSeparator() ? u"-"_s
+                                       : entry->text() + u'|' + entry->shortcut().toString());
     }
-    EXPECT_EQ(texts, (QStringList{"Show Today's Quote|Ctrl+S", "Edit Appearance…|Ctrl+E",
-                                  "Settings…|Ctrl+,", "-", "Quit|Ctrl+Q"}));
+    EXPECT_EQ(texts, (QStringList{u"Show Today's Quote|Ctrl+S"_s, u"Edit Appearance…|Ctrl+E"_s,
+                                  u"Settings…|Ctrl+,"_s, u"-"_s, u"Quit|Ctrl+Q"_s}));
     entries[0]->trigger();
     EXPECT_EQ(showings(), 2);
     EXPECT_EQ(editor(), nullptr);

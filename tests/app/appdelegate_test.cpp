@@ -32,7 +32,7 @@ TEST_F(AppDelegateTest, LaunchShowsEvenWithShowOnWakeOff) {
 }
 
 TEST_F(AppDelegateTest, LaunchWithSettingsOpensTheirWindowInstead) {
-    launch({"morrowleaf", "--unknown", "--settings"});
+    launch({u"morrowleaf"_s, u"--unknown"_s, u"--settings"_s});
     EXPECT_EQ(showings(), 0);
     ASSERT_NE(delegate->settingsWindow(), nullptr);
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
@@ -42,7 +42,7 @@ TEST_F(AppDelegateTest, LaunchWithSettingsOpensTheirWindowInstead) {
 }
 
 TEST_F(AppDelegateTest, SettingsArgumentIsMatchedWhole) {
-    launch({"morrowleaf", "--settings=1", "--Settings"});
+    launch({u"morrowleaf"_s, u"--settings=1"_s, u"--Settings"_s});
     EXPECT_EQ(showings(), 1);
 }
 
@@ -98,9 +98,9 @@ TEST_F(AppDelegateTest, ClosesByTimerOnce) {
 }
 
 TEST_F(AppDelegateTest, ClosesAfterTheSecondsAskedForButNeverBelowFive) {
-    const std::vector<std::pair<QJsonValue, double>> cases{{2, 5},      {5, 5},     {5.5, 5.5},
-                                                           {60, 60},    {-1, 5},    {0, 5},
-                                                           {"soon", 5}, {"20", 20}, {1e300, 1e300}};
+    const std::vector<std::pair<QJsonValue, double>> cases{
+        {2, 5}, {5, 5},         {5.5, 5.5},    {60, 60},      {-1, 5},
+        {0, 5}, {u"soon"_s, 5}, {u"20"_s, 20}, {1e300, 1e300}};
     launch();
     for (const auto& [stored, seconds] : cases) {
         store.set(K::dismiss.key, stored);
@@ -174,7 +174,7 @@ TEST_F(AppDelegateTest, ATouchClosesAsAClickDoes) {
 
 TEST_F(AppDelegateTest, RepeatsOfAHeldKeyClose) {
     launch();
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
     QCoreApplication::sendEvent(top().window, &repeat);
     EXPECT_FALSE(isShown());
 }
@@ -233,7 +233,7 @@ TEST_F(AppDelegateTest, EscapeClosesAnOpenMenuFirst) {
     launchAndClose();
     delegate->editAppearance();
     QMenu menu;
-    menu.addAction("entry");
+    menu.addAction(u"entry"_s);
     menu.popup({10, 10});
     QTest::keyPress(&menu, Qt::Key_Escape);
     EXPECT_TRUE(isShown());
@@ -245,7 +245,7 @@ TEST_F(AppDelegateTest, EscapeClosesAnOpenMenuFirst) {
 TEST_F(AppDelegateTest, DoneClosesTheEditor) {
     launchAndClose();
     delegate->editAppearance();
-    pressButton(top().window, "Done");
+    pressButton(top().window, u"Done"_s);
     EXPECT_FALSE(isShown());
     emit editor()->done(); // while it fades out
     EXPECT_EQ(top().outs, 0);
@@ -268,8 +268,8 @@ TEST_F(AppDelegateTest, ADialogMayOutliveTheEditor) {
     editor()->findChild<AddTile*>()->click();
     delegate.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    desktop.files->answer({.kind = FileAnswer::Kind::Chosen, .path = "/late.png"});
-    EXPECT_EQ(store.text(K::bgImage), "");
+    desktop.files->answer({.kind = FileAnswer::Kind::Chosen, .path = u"/late.png"_s});
+    EXPECT_EQ(store.text(K::bgImage), u""_s);
 }
 
 TEST_F(AppDelegateTest, TheEditorLowersTheWindowForDialogs) {

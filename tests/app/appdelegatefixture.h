@@ -26,9 +26,11 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 class AppDelegateTest : public testing::Test {
 protected:
-    void launch(const QStringList& arguments = {QStringLiteral("morrowleaf")}) {
+    void launch(const QStringList& arguments = {u"morrowleaf"_s}) {
         delegate = std::make_unique<AppDelegate>(services);
         delegate->applicationDidFinishLaunching(arguments);
     }

@@ -8,6 +8,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 class ItemThat : public LoginItem {
 public:
     ItemThat(Status status, std::optional<QString> error)
@@ -23,28 +25,29 @@ private:
 };
 
 TEST(Application, SelfTestGoesBeforeTheLoginItem) {
-    EXPECT_EQ(modeFor({"morrowleaf"}), Mode::Desktop);
-    EXPECT_EQ(modeFor({"morrowleaf", "--settings", "-x"}), Mode::Desktop);
-    EXPECT_EQ(modeFor({"morrowleaf", "--register-login", "--selftest"}), Mode::SelfTest);
-    EXPECT_EQ(modeFor({"morrowleaf", "x", "--register-login"}), Mode::RegisterLogin);
-    EXPECT_EQ(modeFor({"--selftest"}), Mode::SelfTest);
+    EXPECT_EQ(modeFor({u"morrowleaf"_s}), Mode::Desktop);
+    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--settings"_s, u"-x"_s}), Mode::Desktop);
+    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--register-login"_s, u"--selftest"_s}), Mode::SelfTest);
+    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"x"_s, u"--register-login"_s}), Mode::RegisterLogin);
+    EXPECT_EQ(modeFor({u"--selftest"_s}), Mode::SelfTest);
 }
 
 TEST(Application, ArgumentsAreMatchedWholeAndInTheirCase) {
-    EXPECT_EQ(modeFor({"morrowleaf", "--Selftest", "--selftest=1", "selftest", "--register"}),
+    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--Selftest"_s, u"--selftest=1"_s, u"selftest"_s,
+                       u"--register"_s}),
               Mode::Desktop);
 }
 
 TEST(Application, LinesOfTheLoginItem) {
     using Status = LoginItem::Status;
     ItemThat enabled(Status::Enabled, std::nullopt);
-    EXPECT_EQ(registerLogin(enabled), "login item: enabled");
+    EXPECT_EQ(registerLogin(enabled), u"login item: enabled"_s);
     ItemThat pending(Status::RequiresApproval, std::nullopt);
-    EXPECT_EQ(registerLogin(pending), "login item: registered, pending approval");
+    EXPECT_EQ(registerLogin(pending), u"login item: registered, pending approval"_s);
     ItemThat lost(Status::NotRegistered, std::nullopt);
-    EXPECT_EQ(registerLogin(lost), "login item: registered, pending approval");
-    ItemThat failing(Status::Enabled, "Read-only file system");
-    EXPECT_EQ(registerLogin(failing), "login item failed: Read-only file system");
+    EXPECT_EQ(registerLogin(lost), u"login item: registered, pending approval"_s);
+    ItemThat failing(Status::Enabled, u"Read-only file system"_s);
+    EXPECT_EQ(registerLogin(failing), u"login item failed: Read-only file system"_s);
 }
 
 } // namespace

@@ -12,6 +12,8 @@ using namespace morrowleaf;
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 struct Expected {
     const char* name;
     const char* colors;
@@ -76,7 +78,7 @@ TEST(Palettes, TheCentreStandsOut) {
 
 TEST(Palettes, ThePhotoPaletteIsOneDarkGround) {
     const Palette& photo = Palette::photo();
-    EXPECT_EQ(photo.name, QStringLiteral("Photo"));
+    EXPECT_EQ(photo.name, u"Photo"_s);
     for (const QColor& color : photo.colors) {
         EXPECT_EQ(hexOf(color), "0f0f13");
     }
@@ -120,21 +122,20 @@ TEST(Palettes, TheDayIsThatOfTheZone) {
 
 TEST(Palettes, WithoutADateItIsTheFirst) {
     const Moment never{std::numeric_limits<double>::quiet_NaN(), QTimeZone::utc()};
-    EXPECT_EQ(Palette::ofTheDay(never).name, QStringLiteral("Midnight"));
+    EXPECT_EQ(Palette::ofTheDay(never).name, u"Midnight"_s);
 }
 
 TEST(Palettes, DaysBeforeYearOneHaveOneToo) {
     const double yearOne = -719162.0 * 86400;
-    EXPECT_EQ(Palette::ofTheDay({yearOne, QTimeZone::utc()}).name, QStringLiteral("Ember"));
-    EXPECT_EQ(Palette::ofTheDay({yearOne - 2 * 86400, QTimeZone::utc()}).name,
-              QStringLiteral("Noir"));
+    EXPECT_EQ(Palette::ofTheDay({yearOne, QTimeZone::utc()}).name, u"Ember"_s);
+    EXPECT_EQ(Palette::ofTheDay({yearOne - 2 * 86400, QTimeZone::utc()}).name, u"Noir"_s);
 }
 
 TEST(Palettes, AChosenOneHolds) {
     const Moment moment = berlin(2024, 5, 10, 12);
-    EXPECT_EQ(Palette::current(0, moment).name, QStringLiteral("Midnight"));
-    EXPECT_EQ(Palette::current(7, moment).name, QStringLiteral("Paper"));
-    EXPECT_EQ(Palette::current(8, moment).name, QStringLiteral("Noir"));
+    EXPECT_EQ(Palette::current(0, moment).name, u"Midnight"_s);
+    EXPECT_EQ(Palette::current(7, moment).name, u"Paper"_s);
+    EXPECT_EQ(Palette::current(8, moment).name, u"Noir"_s);
 }
 
 TEST(Palettes, AnyOtherChoiceIsThePaletteOfTheDay) {

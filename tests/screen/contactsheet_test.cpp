@@ -14,6 +14,8 @@ using namespace morrowleaf;
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr int frames = 8;
 constexpr int columns = 2;
 
@@ -39,7 +41,7 @@ std::array<double, frames> instants(const RevealLine& line) {
 }
 
 RevealLine lineFor(const Sheet& sheet) {
-    const TextFont font = quoteFont(shippedFonts(), sheet.fontName, 30);
+    const TextFont font = quoteFont(shippedFonts(), QString::fromUtf8(sheet.fontName), 30);
     const Palette& palette = Palette::all()[static_cast<std::size_t>(sheet.palette)];
     return RevealLine({QString::fromUtf8(sheet.text),
                        0,
@@ -81,14 +83,14 @@ QImage draw(const Sheet& sheet, const Fault& fault = {}) {
 }
 
 void expectGolden(const Sheet& sheet) {
-    const QString name = QString("textanim-%1.png").arg(sheet.name);
+    const QString name = u"textanim-%1.png"_s.arg(QString::fromUtf8(sheet.name));
     const QImage picture = draw(sheet);
     const PictureDifference difference = comparePictures(goldenPicture(name, picture), picture);
     EXPECT_TRUE(difference.acceptable())
         << sheet.name << ": same size " << difference.sameSize << ", worst block "
         << difference.worstBlock << ", stray pixels " << difference.strayPixels;
     if (!difference.acceptable()) {
-        const QString kept = QDir::temp().filePath("morrowleaf-golden-" + name);
+        const QString kept = QDir::temp().filePath("morrowleaf-golden-"_L1 + name);
         picture.save(kept);
         ADD_FAILURE() << "the new picture is " << kept.toStdString();
     }
@@ -114,7 +116,7 @@ constexpr std::array sheets{
 class ContactSheet : public testing::TestWithParam<Sheet> {};
 
 INSTANTIATE_TEST_SUITE_P(Golden, ContactSheet, testing::ValuesIn(sheets), [](const auto& info) {
-    return QString(info.param.name).remove(QLatin1Char('-')).toStdString();
+    return QString::fromUtf8(info.param.name).remove(u'-').toStdString();
 });
 
 TEST_P(ContactSheet, IsAsRecorded) {

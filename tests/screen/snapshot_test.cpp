@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct Result {
@@ -19,56 +21,58 @@ struct Result {
 Result snapshot(const QStringList& arguments) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s}) {
         environment.remove(name);
     }
     process.setProcessEnvironment(environment);
-    process.start(SNAPSHOT_PROGRAM, arguments);
+    process.start(QString::fromUtf8(SNAPSHOT_PROGRAM), arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         return {};
     }
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
 }
 
 } // namespace
 
 TEST(Snapshot, DrawsAFrameForEachInstantWithoutADisplay) {
     const QTemporaryDir folder;
-    const Result result = snapshot({"--size", "320x200", "--dpr", "2", "--at", "0,0.5,9", "--out",
-                                    folder.filePath("new"), "--quote", "One", "--author", "Two"});
+    const Result result = snapshot({u"--size"_s, u"320x200"_s, u"--dpr"_s, u"2"_s, u"--at"_s,
+                                    u"0,0.5,9"_s, u"--out"_s, folder.filePath(u"new"_s),
+                                    u"--quote"_s, u"One"_s, u"--author"_s, u"Two"_s});
     EXPECT_EQ(result.status, 0) << result.errors.toStdString();
-    const QDir out(folder.filePath("new"));
+    const QDir out(folder.filePath(u"new"_s));
     ASSERT_EQ(out.entryList(QDir::Files, QDir::Name),
-              QStringList({"frame-0.png", "frame-0_5.png", "frame-9.png"}));
-    const QImage first(out.filePath("frame-0.png"));
-    const QImage last(out.filePath("frame-9.png"));
+              QStringList({u"frame-0.png"_s, u"frame-0_5.png"_s, u"frame-9.png"_s}));
+    const QImage first(out.filePath(u"frame-0.png"_s));
+    const QImage last(out.filePath(u"frame-9.png"_s));
     EXPECT_EQ(first.size(), QSize(640, 400));
     EXPECT_NE(first, last);
-    EXPECT_EQ(result.output.count('\n'), 3);
+    EXPECT_EQ(result.output.count(u'\n'), 3);
 }
 
 TEST(Snapshot, TakesASettingsFileAndSingleSettings) {
     const QTemporaryDir folder;
-    QFile file(folder.filePath("settings.json"));
+    QFile file(folder.filePath(u"settings.json"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(R"({"paletteIndex": 7, "grainEnabled": false, "vignetteStrength": 0})");
     file.close();
     const auto corner = [&](const QStringList& more) {
-        const Result result = snapshot(QStringList{"--size", "320x200", "--settings",
-                                                   file.fileName(), "--out", folder.path()} +
+        const Result result = snapshot(QStringList{u"--size"_s, u"320x200"_s, u"--settings"_s,
+                                                   file.fileName(), u"--out"_s, folder.path()} +
                                        more);
         EXPECT_EQ(result.status, 0);
-        return QImage(folder.filePath("frame-6.png")).pixelColor(0, 0);
+        return QImage(folder.filePath(u"frame-6.png"_s)).pixelColor(0, 0);
     };
     EXPECT_GT(corner({}).lightness(), 220); // "Paper"
-    EXPECT_LT(corner({"--set", "paletteIndex=8"}).lightness(), 40);
+    EXPECT_LT(corner({u"--set"_s, u"paletteIndex=8"_s}).lightness(), 40);
 }
 
 TEST(Snapshot, LaysOutAContactSheet) {
     const QTemporaryDir folder;
-    const QString sheet = folder.filePath("sheet.png");
-    EXPECT_EQ(snapshot({"--size", "320x200", "--at", "0,1,2", "--columns", "2", "--cell", "160",
-                        "--sheet", sheet})
+    const QString sheet = folder.filePath(u"sheet.png"_s);
+    EXPECT_EQ(snapshot({u"--size"_s, u"320x200"_s, u"--at"_s, u"0,1,2"_s, u"--columns"_s, u"2"_s,
+                        u"--cell"_s, u"160"_s, u"--sheet"_s, sheet})
                   .status,
               0);
     EXPECT_EQ(QImage(sheet).width(), 2 * 160 + 3 * 12);
@@ -77,11 +81,12 @@ TEST(Snapshot, LaysOutAContactSheet) {
 
 TEST(Snapshot, SaysWhatIsWrong) {
     for (const QStringList& arguments :
-         {QStringList{"--size", "big"}, QStringList{"--at", "soon"}, QStringList{"--date", "never"},
-          QStringList{"--settings", "/nonexistent"}, QStringList{"--set", "nothing"}}) {
+         {QStringList{u"--size"_s, u"big"_s}, QStringList{u"--at"_s, u"soon"_s},
+          QStringList{u"--date"_s, u"never"_s}, QStringList{u"--settings"_s, u"/nonexistent"_s},
+          QStringList{u"--set"_s, u"nothing"_s}}) {
         const Result result = snapshot(arguments);
         EXPECT_EQ(result.status, 1);
-        EXPECT_TRUE(result.errors.contains("snapshot: ")) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(result.errors.contains("snapshot: "_L1)) << arguments.join(u' ').toStdString();
     }
-    EXPECT_TRUE(snapshot({"--help"}).output.contains("--sheet"));
+    EXPECT_TRUE(snapshot({u"--help"_s}).output.contains("--sheet"_L1));
 }

@@ -8,10 +8,10 @@ using namespace morrowleaf;
 TEST_F(SettingsFileTest, GivesABrokenFileTimeToMend) {
     write(R"({"a": 1)");
     const SettingsFile file(store, path);
-    EXPECT_EQ(store.integer("a"), 0);
+    EXPECT_EQ(store.integer(u"a"_s), 0);
     spend(150ms);
     write(R"({"a": 1})");
-    EXPECT_TRUE(waitFor([&] { return store.integer("a") == 1; }));
+    EXPECT_TRUE(waitFor([&] { return store.integer(u"a"_s) == 1; }));
     spend(600ms);
     EXPECT_EQ(setAside(), QStringList());
 }
@@ -37,7 +37,7 @@ TEST_F(SettingsFileTest, KeepsTheValuesWhenTheFileBreaksWhileRunning) {
     SettingsFile file(store, path);
     EXPECT_EQ(store.keptFileName(), QString());
     write("[1, 2]");
-    EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "settings.json"; }));
+    EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "settings.json"_L1; }));
     EXPECT_EQ(store.get(K::palette), 4);
     spend(300ms);
     EXPECT_EQ(read(), "[1, 2]");
@@ -48,8 +48,9 @@ TEST_F(SettingsFileTest, KeepsTheValuesWhenTheFileBreaksWhileRunning) {
     EXPECT_EQ(asideText(), "[1, 2]");
     EXPECT_TRUE(waitFor([&] { return store.keptFileName() == setAside().value(0); }));
     EXPECT_EQ(store.get(K::palette), 4);
-    EXPECT_EQ(json(),
-              QJsonObject({{"mine", 18446744073709551615.0}, {K::palette, 4}, {K::grain, false}}));
+    EXPECT_EQ(
+        json(),
+        QJsonObject({{u"mine"_s, 18446744073709551615.0}, {K::palette, 4}, {K::grain, false}}));
     EXPECT_TRUE(read().contains("18446744073709551615"));
 }
 
@@ -72,7 +73,7 @@ TEST_F(SettingsFileTest, TellsThatABrokenFileHasBeenMended) {
     QObject::connect(&store, &SettingsStore::keptFileNameChanged,
                      [&] { told.append(store.keptFileName()); });
     write("broken");
-    EXPECT_TRUE(waitFor([&] { return told == QStringList{"settings.json"}; }));
+    EXPECT_TRUE(waitFor([&] { return told == QStringList{u"settings.json"_s}; }));
     write(R"({"paletteIndex": 5})");
     EXPECT_TRUE(waitFor([&] { return told.size() == 2; }));
     EXPECT_EQ(told.last(), QString());
@@ -92,10 +93,10 @@ TEST_F(SettingsFileTest, TellsTheNameOfAFileThatWasBrokenAtTheStart) {
 }
 
 TEST_F(SettingsFileTest, SetsALinkToABrokenFileAsideAndNotTheFile) {
-    const QString target = home.filePath("hosts");
+    const QString target = home.filePath(u"hosts"_s);
     for (const bool running : {false, true}) {
         QFile::remove(path);
-        path = home.filePath(running ? "running.json" : "settings.json");
+        path = home.filePath(running ? u"running.json"_s : u"settings.json"_s);
         QFile foreign(target);
         ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
         foreign.write(running ? "{}" : "127.0.0.1 localhost");
@@ -106,15 +107,15 @@ TEST_F(SettingsFileTest, SetsALinkToABrokenFileAsideAndNotTheFile) {
             ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
             foreign.write("127.0.0.1 localhost");
             foreign.close();
-            EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "running.json"; }));
+            EXPECT_TRUE(waitFor([&] { return store.keptFileName() == "running.json"_L1; }));
             EXPECT_TRUE(QFileInfo(path).isSymLink());
         }
-        store.set("x", running);
+        store.set(u"x"_s, running);
         EXPECT_TRUE(file.flush(20s));
         EXPECT_EQ(read(target), "127.0.0.1 localhost");
-        EXPECT_EQ(json().value("x"), running);
+        EXPECT_EQ(json().value("x"_L1), running);
         EXPECT_FALSE(QFileInfo(path).isSymLink());
-        EXPECT_TRUE(waitFor([&] { return store.keptFileName().contains(".broken-"); }));
+        EXPECT_TRUE(waitFor([&] { return store.keptFileName().contains(".broken-"_L1); }));
         EXPECT_EQ(QFileInfo(home.filePath(store.keptFileName())).symLinkTarget(), target);
     }
 }
@@ -125,12 +126,12 @@ TEST_F(SettingsFileTest, LeavesAFileAloneThatItsOwnerMayNotWrite) {
         write(text);
         ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0444), 0);
         SettingsFile file(store, path);
-        store.set("x", 2);
+        store.set(u"x"_s, 2);
         EXPECT_FALSE(file.flush(20s));
         EXPECT_EQ(read(), text);
         EXPECT_EQ(mode(), 0444U);
         EXPECT_EQ(setAside(), QStringList());
-        EXPECT_EQ(store.integer("x"), 2);
+        EXPECT_EQ(store.integer(u"x"_s), 2);
     }
 }
 
@@ -140,7 +141,7 @@ TEST_F(SettingsFileTest, QuitsWithinASecondWhereNothingCanBeWritten) {
     QElapsedTimer since;
     {
         SettingsFile file(store, path);
-        store.set("x", 2);
+        store.set(u"x"_s, 2);
         since.start();
         EXPECT_FALSE(file.flush()); // as the application does when it quits
     }
@@ -152,25 +153,25 @@ TEST_F(SettingsFileTest, OverwritesNoEarlierSetAsideFile) {
     for (int i = 0; i < 3; ++i) {
         write("broken " + QByteArray::number(i));
         SettingsFile file(store, path);
-        store.set("x", i);
+        store.set(u"x"_s, i);
         EXPECT_TRUE(file.flush());
-        EXPECT_EQ(json().value("x"), i);
+        EXPECT_EQ(json().value("x"_L1), i);
     }
     ASSERT_EQ(setAside().size(), 3);
     QStringList texts;
     for (int i = 0; i < 3; ++i) {
-        texts.append(asideText(i));
+        texts.append(QString::fromUtf8(asideText(i)));
     }
-    EXPECT_THAT(texts, testing::UnorderedElementsAre("broken 0", "broken 1", "broken 2"));
+    EXPECT_THAT(texts, testing::UnorderedElementsAre(u"broken 0"_s, u"broken 1"_s, u"broken 2"_s));
 }
 
 TEST_F(SettingsFileTest, FlushesAtTheEndEvenIntoADoubtfulFile) {
     write("broken");
     {
         const SettingsFile file(store, path);
-        store.set("x", 1);
+        store.set(u"x"_s, 1);
     }
-    EXPECT_EQ(json().value("x"), 1);
+    EXPECT_EQ(json().value("x"_L1), 1);
     EXPECT_EQ(asideText(), "broken");
 }
 
@@ -185,7 +186,7 @@ TEST_F(SettingsFileTest, SetsAPipeAFolderAndAGiantAside) {
         [&] { ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0); },
         [&] {
             ASSERT_TRUE(QDir().mkdir(path));
-            QFile inside(path + "/precious");
+            QFile inside(path + "/precious"_L1);
             ASSERT_TRUE(inside.open(QIODevice::WriteOnly));
         },
         [&] {
@@ -193,48 +194,48 @@ TEST_F(SettingsFileTest, SetsAPipeAFolderAndAGiantAside) {
             ASSERT_EQ(::truncate(QFile::encodeName(path).constData(), qint64(1) << 40), 0);
         },
         [&] { ASSERT_TRUE(QFile::link(path, path)); },
-        [&] { ASSERT_TRUE(QFile::link("/dev/zero", path)); }};
+        [&] { ASSERT_TRUE(QFile::link(u"/dev/zero"_s, path)); }};
     for (const auto& obstacle : obstacles) {
         QFile::remove(path);
         obstacle();
         SettingsFile file(store, path);
-        store.set("x", store.integer("x") + 1);
+        store.set(u"x"_s, store.integer(u"x"_s) + 1);
         EXPECT_TRUE(file.flush());
-        EXPECT_EQ(json().value("x"), store.integer("x"));
+        EXPECT_EQ(json().value("x"_L1), store.integer(u"x"_s));
     }
     EXPECT_EQ(setAside().size(), qsizetype(obstacles.size()));
-    EXPECT_TRUE(QFileInfo::exists("/dev/zero"));
+    EXPECT_TRUE(QFileInfo::exists(u"/dev/zero"_s));
 }
 
 TEST_F(SettingsFileTest, WritesThroughALink) {
-    QDir(home.path()).mkdir("dotfiles");
-    const QString target = home.filePath("dotfiles/morrowleaf.json");
-    ASSERT_TRUE(QFile::link("dotfiles/morrowleaf.json", path));
+    QDir(home.path()).mkdir(u"dotfiles"_s);
+    const QString target = home.filePath(u"dotfiles/morrowleaf.json"_s);
+    ASSERT_TRUE(QFile::link(u"dotfiles/morrowleaf.json"_s, path));
     {
         SettingsFile file(store, path); // a link to nothing as yet
-        store.set("x", 1);
+        store.set(u"x"_s, 1);
         EXPECT_TRUE(file.flush());
-        EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"), 1);
+        EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"_L1), 1);
 
-        QFile edited(target + ".new");
+        QFile edited(target + ".new"_L1);
         ASSERT_TRUE(edited.open(QIODevice::WriteOnly));
         edited.write(R"({"x": 2})");
         edited.close();
         std::rename(QFile::encodeName(edited.fileName()).constData(),
                     QFile::encodeName(target).constData());
-        EXPECT_TRUE(waitFor([&] { return store.integer("x") == 2; }));
-        store.set("x", 3);
+        EXPECT_TRUE(waitFor([&] { return store.integer(u"x"_s) == 2; }));
+        store.set(u"x"_s, 3);
     }
     EXPECT_TRUE(QFileInfo(path).isSymLink());
-    EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"), 3);
+    EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"_L1), 3);
 }
 
 TEST_F(SettingsFileTest, StaysInMemoryWhereALinkLeadsNowhere) {
-    ASSERT_TRUE(QFile::link(home.filePath("unmounted/settings.json"), path));
+    ASSERT_TRUE(QFile::link(home.filePath(u"unmounted/settings.json"_s), path));
     SettingsFile file(store, path);
-    store.set("x", 1);
+    store.set(u"x"_s, 1);
     EXPECT_FALSE(file.flush());
-    EXPECT_EQ(store.integer("x"), 1);
+    EXPECT_EQ(store.integer(u"x"_s), 1);
     EXPECT_TRUE(QFileInfo(path).isSymLink());
 }
 
@@ -242,7 +243,7 @@ TEST_F(SettingsFileTest, KeepsPermissions) {
     write("{}");
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0644), 0);
     SettingsFile file(store, path);
-    store.set("x", 1);
+    store.set(u"x"_s, 1);
     EXPECT_TRUE(file.flush());
     EXPECT_EQ(mode(), 0644U);
 }
@@ -254,7 +255,7 @@ TEST_F(SettingsFileTest, KeepsTheOwner) {
         GTEST_SKIP() << "only root can give files away";
     }
     SettingsFile file(store, path);
-    store.set("x", 1);
+    store.set(u"x"_s, 1);
     EXPECT_TRUE(file.flush(20s));
     struct stat found {};
     ASSERT_EQ(::stat(name.constData(), &found), 0);
@@ -265,7 +266,7 @@ TEST_F(SettingsFileTest, KeepsTheOwner) {
 TEST_F(SettingsFileTest, WorksInMemoryWhereNoFolderCanBe) {
     write("a regular file");
     registerAppDefaults(store);
-    SettingsFile file(store, path + "/morrowleaf/settings.json");
+    SettingsFile file(store, path + "/morrowleaf/settings.json"_L1);
     EXPECT_EQ(store.integer(K::palette), -1);
     store.set(K::palette, 3);
     EXPECT_FALSE(file.flush());
@@ -275,30 +276,30 @@ TEST_F(SettingsFileTest, WorksInMemoryWhereNoFolderCanBe) {
 }
 
 TEST_F(SettingsFileTest, WritesOnceTheObstacleIsGone) {
-    const QString obstacle = home.filePath("folder");
+    const QString obstacle = home.filePath(u"folder"_s);
     path = obstacle;
     write("in the way");
-    path = obstacle + "/settings.json";
+    path = obstacle + "/settings.json"_L1;
     SettingsFile file(store, path);
-    store.set("x", 1);
+    store.set(u"x"_s, 1);
     EXPECT_FALSE(file.flush());
     QFile::remove(obstacle);
-    EXPECT_TRUE(waitFor([&] { return json().value("x") == 1; })); // by its own retry
+    EXPECT_TRUE(waitFor([&] { return json().value("x"_L1) == 1; })); // by its own retry
 }
 
 TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     write("{}");
     QProcess holder;
-    holder.start(SETTINGS_WRITER, {path, "hold"});
+    holder.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"hold"_s});
     ASSERT_TRUE(holder.waitForReadyRead(20'000));
     ASSERT_EQ(holder.readAllStandardOutput(), "held\n");
     SettingsFile file(store, path);
-    store.set("x", 1);
+    store.set(u"x"_s, 1);
     QElapsedTimer since;
     since.start();
     EXPECT_TRUE(file.flush(3s));
     EXPECT_GE(since.elapsed(), 200); // it did wait for the lock
-    EXPECT_EQ(json().value("x"), 1);
+    EXPECT_EQ(json().value("x"_L1), 1);
     holder.kill();
     holder.waitForFinished();
     QLockFile lock(lockPathOf(path));
@@ -309,10 +310,10 @@ TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
     SettingsFile file(store, path);
     QProcess one;
     QProcess two;
-    one.start(SETTINGS_WRITER, {path, "count", "a", "60"});
-    two.start(SETTINGS_WRITER, {path, "count", "b", "60"});
+    one.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"count"_s, u"a"_s, u"60"_s});
+    two.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"count"_s, u"b"_s, u"60"_s});
     for (int i = 0; i < 60; ++i) {
-        store.set(QString("c%1").arg(i), i);
+        store.set(u"c%1"_s.arg(i), i);
         spend(5ms);
     }
     EXPECT_TRUE(waitFor([&] {
@@ -327,24 +328,25 @@ TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
 
 TEST_F(SettingsFileTest, ASelfTestBesideIsSeen) {
     SettingsFile file(store, path);
-    store.set(K::frequency, "6h");
+    store.set(K::frequency, u"6h"_s);
     store.set(K::palette, 2);
     ASSERT_TRUE(file.flush());
-    EXPECT_EQ(QProcess::execute(SETTINGS_WRITER, {path, "selftest"}), 0);
+    EXPECT_EQ(QProcess::execute(QString::fromUtf8(SETTINGS_WRITER), {path, u"selftest"_s}), 0);
     EXPECT_EQ(json(), QJsonObject({{K::palette, 2}}));
     EXPECT_TRUE(waitFor([&] { return !store.value(K::frequency); }));
     EXPECT_EQ(store.integer(K::palette), 2);
 }
 
 TEST_F(SettingsFileTest, FlushesWhenTheApplicationQuits) {
-    EXPECT_EQ(QProcess::execute(SETTINGS_WRITER, {path, "quit"}), 0);
-    EXPECT_EQ(json().value("quit"), true);
+    EXPECT_EQ(QProcess::execute(QString::fromUtf8(SETTINGS_WRITER), {path, u"quit"_s}), 0);
+    EXPECT_EQ(json().value("quit"_L1), true);
 }
 
 TEST_F(SettingsFileTest, NoReaderSeesHalfAFile) {
     write("{}");
     QProcess writer;
-    writer.start(SETTINGS_WRITER, {path, "count", QString(3000, 'k'), "100"});
+    writer.start(QString::fromUtf8(SETTINGS_WRITER),
+                 {path, u"count"_s, QString(3000, u'k'), u"100"_s});
     int seen = 0;
     while (writer.state() != QProcess::NotRunning) {
         const QByteArray text = read();
@@ -355,10 +357,10 @@ TEST_F(SettingsFileTest, NoReaderSeesHalfAFile) {
     EXPECT_GT(seen, 10);
     EXPECT_EQ(json().size(), 100);
     EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Hidden),
-              QStringList{"settings.json"});
+              QStringList{u"settings.json"_s});
 }
 
 TEST(SettingsPath, IsBelowTheConfigurationFolder) {
-    EXPECT_TRUE(defaultSettingsPath().endsWith("/morrowleaf/settings.json"));
+    EXPECT_TRUE(defaultSettingsPath().endsWith("/morrowleaf/settings.json"_L1));
     EXPECT_TRUE(QDir::isAbsolutePath(defaultSettingsPath()));
 }

@@ -9,12 +9,12 @@ TEST_F(SettingsFileTest, StartsWithWhatIsThere) {
     write(R"({"paletteIndex": 3, "customBackgrounds": ["one"]})");
     const SettingsFile file(store, path);
     EXPECT_EQ(store.integer(K::palette), 3);
-    EXPECT_EQ(store.textList(K::customBGs), QStringList{"one"});
+    EXPECT_EQ(store.textList(K::customBGs), QStringList{u"one"_s});
     EXPECT_TRUE(file.parent() == nullptr);
 }
 
 TEST_F(SettingsFileTest, CreatesNothingUntilSomethingIsSet) {
-    path = home.filePath("a/b/settings.json");
+    path = home.filePath(u"a/b/settings.json"_s);
     {
         SettingsFile file(store, path);
         store.remove(K::palette);
@@ -28,7 +28,7 @@ TEST_F(SettingsFileTest, CreatesNothingUntilSomethingIsSet) {
     EXPECT_EQ(json(), QJsonObject({{K::palette, 2}}));
     EXPECT_EQ(mode(), 0600U);
     struct stat folder {};
-    ::stat(QFile::encodeName(home.filePath("a")).constData(), &folder);
+    ::stat(QFile::encodeName(home.filePath(u"a"_s)).constData(), &folder);
     EXPECT_EQ(folder.st_mode & 0777, 0700U);
 }
 
@@ -41,14 +41,14 @@ TEST_F(SettingsFileTest, WritesByItself) {
 TEST_F(SettingsFileTest, StoresAValueThatEqualsItsDefault) {
     registerAppDefaults(store);
     SettingsFile file(store, path);
-    store.set(K::font, "fraunces");
+    store.set(K::font, u"fraunces"_s);
     EXPECT_TRUE(file.flush());
-    EXPECT_EQ(json(), QJsonObject({{K::font, "fraunces"}}));
+    EXPECT_EQ(json(), QJsonObject({{K::font, u"fraunces"_s}}));
 }
 
 TEST_F(SettingsFileTest, CoalescesABurst) {
     SettingsFile file(store, path);
-    ASSERT_TRUE((store.set("x", -1), file.flush()));
+    ASSERT_TRUE((store.set(u"x"_s, -1), file.flush()));
     // A replaced file has another inode, or at least another time.
     int replaced = 0;
     std::atomic<bool> stop = false;
@@ -61,12 +61,12 @@ TEST_F(SettingsFileTest, CoalescesABurst) {
         }
     });
     for (int i = 0; i < 1000; ++i) {
-        store.set("x", i);
+        store.set(u"x"_s, i);
     }
     EXPECT_TRUE(file.flush());
     stop = true;
     observer.join();
-    EXPECT_EQ(json().value("x"), 999);
+    EXPECT_EQ(json().value("x"_L1), 999);
     EXPECT_LE(replaced, 20);
 }
 
@@ -85,27 +85,27 @@ TEST_F(SettingsFileTest, SeesReplacementAndRewritingAgainAndAgain) {
     for (int i = 1; i <= 6; ++i) {
         const QByteArray text = "{\"x\": " + QByteArray::number(i) + "}";
         i % 2 == 0 ? write(text) : replace(text);
-        EXPECT_TRUE(waitFor([&] { return store.integer("x") == i; })) << i;
+        EXPECT_TRUE(waitFor([&] { return store.integer(u"x"_s) == i; })) << i;
     }
 }
 
 TEST_F(SettingsFileTest, SeesAFileThatAppearsWithItsFolder) {
-    path = home.filePath("a/b/settings.json");
+    path = home.filePath(u"a/b/settings.json"_s);
     const SettingsFile file(store, path);
     spend(50ms);
-    QDir(home.path()).mkpath("a/b");
+    QDir(home.path()).mkpath(u"a/b"_s);
     spend(100ms);
     write(R"({"x": 1})");
-    EXPECT_TRUE(waitFor([&] { return store.integer("x") == 1; }));
+    EXPECT_TRUE(waitFor([&] { return store.integer(u"x"_s) == 1; }));
 }
 
 TEST_F(SettingsFileTest, SeesTheFileAndItsFolderVanish) {
-    path = home.filePath("a/settings.json");
+    path = home.filePath(u"a/settings.json"_s);
     registerAppDefaults(store);
     SettingsFile file(store, path);
     store.set(K::palette, 5);
     ASSERT_TRUE(file.flush());
-    QDir(home.filePath("a")).removeRecursively();
+    QDir(home.filePath(u"a"_s)).removeRecursively();
     EXPECT_TRUE(waitFor([&] { return store.integer(K::palette) == -1; }));
     EXPECT_FALSE(QFileInfo::exists(path));
     store.set(K::palette, 6);
@@ -118,28 +118,28 @@ TEST_F(SettingsFileTest, AnnouncesForeignChangesOnlyOnceAndOwnOnesNeverAgain) {
     QStringList announced;
     QObject::connect(&store, &SettingsStore::changed,
                      [&](const QString& key) { announced.append(key); });
-    store.set("own", 1);
+    store.set(u"own"_s, 1);
     ASSERT_TRUE(file.flush());
     spend(150ms);
-    EXPECT_EQ(announced, QStringList{"own"});
+    EXPECT_EQ(announced, QStringList{u"own"_s});
     replace(R"({"own": 1, "foreign": 2})");
     EXPECT_TRUE(waitFor([&] { return announced.size() > 1; }));
     spend(150ms);
-    EXPECT_EQ(announced, QStringList({"own", "foreign"}));
+    EXPECT_EQ(announced, QStringList({u"own"_s, u"foreign"_s}));
 }
 
 TEST_F(SettingsFileTest, LosesNoOwnChangeToAForeignOne) {
     write(R"({"a": 0, "b": 0})");
     SettingsFile file(store, path);
     for (int i = 1; i <= 20; ++i) {
-        store.set("a", i);
+        store.set(u"a"_s, i);
         replace("{\"a\": 0, \"b\": " + QByteArray::number(i) + "}");
         spend(std::chrono::milliseconds(7 * i % 50));
-        EXPECT_EQ(store.integer("a"), i);
+        EXPECT_EQ(store.integer(u"a"_s), i);
         EXPECT_TRUE(file.flush());
         // The editor may have come between; its file is then the later one.
-        EXPECT_EQ(json().value("b"), i);
-        EXPECT_EQ(json().value("a"), i);
+        EXPECT_EQ(json().value("b"_L1), i);
+        EXPECT_EQ(json().value("a"_L1), i);
     }
 }
 
@@ -149,9 +149,9 @@ TEST_F(SettingsFileTest, WaitsForAnEditorThatTakesTheFileAwayFirst) {
     QStringList announced;
     QObject::connect(&store, &SettingsStore::changed,
                      [&](const QString& key) { announced.append(key); });
-    QFile::rename(path, path + "~");
+    QFile::rename(path, path + "~"_L1);
     spend(60ms);
     write(R"({"a": 1, "b": 2})");
-    EXPECT_TRUE(waitFor([&] { return store.integer("b") == 2; }));
-    EXPECT_EQ(announced, QStringList{"b"});
+    EXPECT_TRUE(waitFor([&] { return store.integer(u"b"_s) == 2; }));
+    EXPECT_EQ(announced, QStringList{u"b"_s});
 }

@@ -29,6 +29,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace std::chrono_literals;
 
 inline bool waitFor(const std::function<bool()>& condition) {
@@ -61,7 +63,7 @@ protected:
     }
 
     void replace(const QByteArray& text) {
-        QFile file(path + ".editor");
+        QFile file(path + ".editor"_L1);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
         file.close();
@@ -80,10 +82,10 @@ protected:
 
     QStringList setAside() const {
         return QDir(QFileInfo(path).path())
-            .entryList({"settings.broken-*"}, QDir::AllEntries | QDir::System | QDir::Hidden);
+            .entryList({u"settings.broken-*"_s}, QDir::AllEntries | QDir::System | QDir::Hidden);
     }
     QByteArray asideText(int index = 0) const {
-        return read(QFileInfo(path).path() + '/' + setAside().value(index));
+        return read(QFileInfo(path).path() + u'/' + setAside().value(index));
     }
 
     mode_t mode() const {
@@ -93,7 +95,7 @@ protected:
     }
 
     QTemporaryDir home;
-    QString path = home.filePath("settings.json");
+    QString path = home.filePath(u"settings.json"_s);
     SettingsStore store;
 };
 

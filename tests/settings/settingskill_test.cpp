@@ -17,7 +17,7 @@ TEST_F(SettingsFileTest, LosesNothingWhenItIsKilled) {
     for (int kill = 0; kill < kills; ++kill) {
         const QString prefix = QString::number(kill) + u'_';
         QProcess writer;
-        writer.start(SETTINGS_WRITER, {path, "confirm", prefix});
+        writer.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"confirm"_s, prefix});
         ASSERT_TRUE(writer.waitForReadyRead(60'000));
         QThread::msleep(static_cast<unsigned long>(moment(random)));
         writer.kill();
@@ -35,7 +35,7 @@ TEST_F(SettingsFileTest, LosesNothingWhenItIsKilled) {
     }
     EXPECT_GE(confirmed, kills);
     SettingsFile file(store, path);
-    store.set("last", true);
+    store.set(u"last"_s, true);
     EXPECT_TRUE(file.flush(20s));
     EXPECT_GE(json().size(), confirmed + 1);
 }

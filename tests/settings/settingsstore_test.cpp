@@ -15,6 +15,8 @@ using testing::ElementsAre;
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 constexpr QLatin1StringView key{"k"};
 
 struct Announced {
@@ -58,7 +60,7 @@ TEST(SettingsStore, PrefersAnUnconvertibleStoredValueToTheDefault) {
     store.registerDefaults({{key, 7}});
     store.set(key, QJsonArray{1});
     EXPECT_EQ(store.integer(key), 0);
-    store.set(key, "seven");
+    store.set(key, u"seven"_s);
     EXPECT_EQ(store.integer(key), 0);
     EXPECT_EQ(store.real(key), 0.0);
 }
@@ -130,23 +132,26 @@ TEST(SettingsStore, ReadsTheNumericPrefixOfATextAsReal) {
 
 TEST(SettingsStore, ReadsFlags) {
     SettingsStore store;
-    for (const QJsonValue& yes : {QJsonValue(true), QJsonValue(1), QJsonValue(-0.5),
-                                  QJsonValue("yes"), QJsonValue("TRUE"), QJsonValue("1")}) {
+    for (const QJsonValue& yes :
+         {QJsonValue(true), QJsonValue(1), QJsonValue(-0.5), QJsonValue(u"yes"_s),
+          QJsonValue(u"TRUE"_s), QJsonValue(u"1"_s)}) {
         EXPECT_TRUE(with(store, yes).flag(key)) << yes.toVariant().toString().toStdString();
     }
     for (const QJsonValue& no :
-         {QJsonValue(false), QJsonValue(0), QJsonValue(-0.0), QJsonValue("no"), QJsonValue(""),
-          QJsonValue("2"), QJsonValue("on"), QJsonValue(" yes"), QJsonValue("1.0"),
-          QJsonValue(QJsonArray{true}), QJsonValue(QJsonObject{{"a", true}})}) {
+         {QJsonValue(false), QJsonValue(0), QJsonValue(-0.0), QJsonValue(u"no"_s),
+          QJsonValue(u""_s), QJsonValue(u"2"_s), QJsonValue(u"on"_s), QJsonValue(u" yes"_s),
+          QJsonValue(u"1.0"_s), QJsonValue(QJsonArray{true}),
+          QJsonValue(QJsonObject{{u"a"_s, true}})}) {
         EXPECT_FALSE(with(store, no).flag(key)) << no.toVariant().toString().toStdString();
     }
 }
 
 TEST(SettingsStore, TakesTextsOnlyAsTexts) {
     SettingsStore store;
-    EXPECT_EQ(with(store, "").text(key), QString());
-    EXPECT_EQ(with(store, "a").text(key), QString("a"));
-    for (const QJsonValue& other : {QJsonValue(1), QJsonValue(true), QJsonValue(QJsonArray{"a"})}) {
+    EXPECT_EQ(with(store, u""_s).text(key), QString());
+    EXPECT_EQ(with(store, u"a"_s).text(key), u"a"_s);
+    for (const QJsonValue& other :
+         {QJsonValue(1), QJsonValue(true), QJsonValue(QJsonArray{u"a"_s})}) {
         EXPECT_EQ(with(store, other).text(key), std::nullopt);
     }
 }
@@ -154,9 +159,9 @@ TEST(SettingsStore, TakesTextsOnlyAsTexts) {
 TEST(SettingsStore, TakesListsOfTextsOnly) {
     SettingsStore store;
     EXPECT_EQ(with(store, QJsonArray()).textList(key), QStringList());
-    EXPECT_EQ(with(store, QJsonArray{"a", "b"}).textList(key), QStringList({"a", "b"}));
-    EXPECT_EQ(with(store, QJsonArray{"a", 1}).textList(key), std::nullopt);
-    EXPECT_EQ(with(store, "a").textList(key), std::nullopt);
+    EXPECT_EQ(with(store, QJsonArray{u"a"_s, u"b"_s}).textList(key), QStringList({u"a"_s, u"b"_s}));
+    EXPECT_EQ(with(store, QJsonArray{u"a"_s, 1}).textList(key), std::nullopt);
+    EXPECT_EQ(with(store, u"a"_s).textList(key), std::nullopt);
 }
 
 TEST(SettingsStore, IgnoresNumbersThatAreNotFinite) {
@@ -196,14 +201,14 @@ TEST(SettingsStore, ReportsEachWriteToItsKeeper) {
 
 TEST(SettingsStore, AnnouncesReplacedValuesAfterAllAreInPlace) {
     SettingsStore store;
-    store.registerDefaults({{"d", 1}});
-    store.replaceStored({{"a", 1}, {"b", 1}, {"c", 1}});
+    store.registerDefaults({{u"d"_s, 1}});
+    store.replaceStored({{u"a"_s, 1}, {u"b"_s, 1}, {u"c"_s, 1}});
     Announced announced(store);
     QObject::connect(&store, &SettingsStore::changed, [&] {
-        EXPECT_EQ(store.integer("a"), 2);
-        EXPECT_EQ(store.integer("b"), 0);
+        EXPECT_EQ(store.integer(u"a"_s), 2);
+        EXPECT_EQ(store.integer(u"b"_s), 0);
     });
-    store.replaceStored({{"a", 2}, {"c", 1}, {"d", 1}});
+    store.replaceStored({{u"a"_s, 2}, {u"c"_s, 1}, {u"d"_s, 1}});
     EXPECT_THAT(announced.keys, testing::UnorderedElementsAre("a", "b"));
 }
 
@@ -220,27 +225,27 @@ TEST(SettingsStore, ReadsASettingWithItsFallbackOnlyWithoutAnyValue) {
     EXPECT_EQ(store.get(K::palette), -1);
     EXPECT_EQ(store.get(K::vignette), 0.55);
     EXPECT_TRUE(store.get(K::grain));
-    EXPECT_EQ(store.get(K::frequency), "24h");
-    EXPECT_EQ(store.get(K::font), "serif");
-    EXPECT_EQ(store.get(K::cachedAuthor), "Unknown");
+    EXPECT_EQ(store.get(K::frequency), u"24h"_s);
+    EXPECT_EQ(store.get(K::font), u"serif"_s);
+    EXPECT_EQ(store.get(K::cachedAuthor), u"Unknown"_s);
     EXPECT_EQ(store.get(K::customBGs), QStringList());
-    store.replaceStored({{K::palette, "4 or so"},
+    store.replaceStored({{K::palette, u"4 or so"_s},
                          {K::vignette, true},
                          {K::grain, QJsonArray{true}},
                          {K::frequency, 6},
-                         {K::customBGs, "/a.jpg"}});
+                         {K::customBGs, u"/a.jpg"_s}});
     EXPECT_EQ(store.get(K::palette), 4);
     EXPECT_EQ(store.get(K::vignette), 1.0);
     EXPECT_FALSE(store.get(K::grain));
-    EXPECT_EQ(store.get(K::frequency), "24h");
+    EXPECT_EQ(store.get(K::frequency), u"24h"_s);
     EXPECT_EQ(store.get(K::customBGs), QStringList());
 }
 
 TEST(SettingsStore, StoresASettingInItsType) {
     SettingsStore store;
     store.set(K::vignette, 1);
-    store.set(K::customBGs, QStringList{"/a", "/b"});
+    store.set(K::customBGs, QStringList{u"/a"_s, u"/b"_s});
     EXPECT_EQ(store.value(K::vignette), QJsonValue(1.0));
-    EXPECT_EQ(store.value(K::customBGs), QJsonValue(QJsonArray{"/a", "/b"}));
-    EXPECT_EQ(store.get(K::customBGs), QStringList({"/a", "/b"}));
+    EXPECT_EQ(store.value(K::customBGs), QJsonValue(QJsonArray{u"/a"_s, u"/b"_s}));
+    EXPECT_EQ(store.get(K::customBGs), QStringList({u"/a"_s, u"/b"_s}));
 }

@@ -58,7 +58,7 @@ QStringList cells(const TextListSetting& setting) {
 }
 
 QString page() {
-    QFile file(sourcePath("docs/settings.md"));
+    QFile file(sourcePath(u"docs/settings.md"_s));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -87,7 +87,7 @@ TEST(SettingsTable, IsThatOfThePage) {
     const QList<QStringList> page = rowsOfThePage();
     ASSERT_EQ(page.size(), rows.size());
     for (qsizetype i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(page[i], rows[i]) << rows[i].join(" | ").toStdString();
+        EXPECT_EQ(page[i], rows[i]) << rows[i].join(" | "_L1).toStdString();
     }
 }
 

@@ -20,13 +20,14 @@
 #include <cstdio>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const QString& path = arguments.at(1);
     const QString& mode = arguments.at(2);
-    if (mode == "hold") {
+    if (mode == "hold"_L1) {
         QLockFile lock(lockPathOf(path));
         std::puts(lock.tryLock(5000) ? "held" : "not held");
         std::fflush(stdout);
@@ -36,10 +37,10 @@ int main(int argc, char** argv) {
     constexpr auto patience = std::chrono::seconds(20);
     SettingsStore store;
     SettingsFile file(store, path);
-    if (mode == "selftest") {
-        store.set("quoteFrequency", "every");
-        store.remove("quoteFrequency");
-    } else if (mode == "count") {
+    if (mode == "selftest"_L1) {
+        store.set(u"quoteFrequency"_s, u"every"_s);
+        store.remove(u"quoteFrequency"_s);
+    } else if (mode == "count"_L1) {
         const int count = arguments.at(4).toInt();
         for (int i = 0; i < count; ++i) {
             store.set(arguments.at(3) + QString::number(i), i);
@@ -48,7 +49,7 @@ int main(int argc, char** argv) {
             }
             QCoreApplication::processEvents();
         }
-    } else if (mode == "confirm") {
+    } else if (mode == "confirm"_L1) {
         for (int i = 0;; ++i) {
             store.set(arguments.at(3) + QString::number(i), i);
             if (!file.flush(patience)) {
@@ -57,9 +58,9 @@ int main(int argc, char** argv) {
             std::printf("%d\n", i);
             std::fflush(stdout);
         }
-    } else if (mode == "quit") {
+    } else if (mode == "quit"_L1) {
         QTimer::singleShot(0, &app, [&] {
-            store.set("quit", true);
+            store.set(u"quit"_s, true);
             QCoreApplication::quit();
         });
         QCoreApplication::exec();

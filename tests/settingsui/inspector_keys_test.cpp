@@ -10,13 +10,13 @@ TEST_F(InspectorTest, ReturnRunsDoneFromAnywhereButAMenu) {
     window();
     key(Qt::Key_Return);
     EXPECT_EQ(done, 1);
-    named<QPushButton>(QStringLiteral("Reset"))->setFocus(Qt::TabFocusReason);
+    named<QPushButton>(u"Reset"_s)->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Enter);
     EXPECT_EQ(done, 2);
-    press(named<QPushButton>(QStringLiteral("Done")));
+    press(named<QPushButton>(u"Done"_s));
     EXPECT_EQ(done, 3);
 
-    auto* picker = named<MenuPicker>(QStringLiteral("Text reveal"));
+    auto* picker = named<MenuPicker>(u"Text reveal"_s);
     picker->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     ASSERT_TRUE(picker->isOpen());
@@ -48,19 +48,19 @@ protected:
 TEST_F(InspectorTest, EscapeInAMenuClosesOnlyTheMenu) {
     window();
     EscapeCounter editing;
-    auto* picker = named<MenuPicker>(QStringLiteral("Typeface"));
+    auto* picker = named<MenuPicker>(u"Typeface"_s);
     picker->open();
     ASSERT_TRUE(picker->isOpen());
     key(Qt::Key_Escape);
     EXPECT_FALSE(picker->isOpen());
     EXPECT_EQ(editing.count, 0);
-    EXPECT_FALSE(store.text(K::font) != QStringLiteral("fraunces"));
+    EXPECT_FALSE(store.text(K::font) != u"fraunces"_s);
     key(Qt::Key_Escape);
     EXPECT_EQ(editing.count, 1);
 }
 
 TEST_F(InspectorTest, AMenuClosesByAPressBesideIt) {
-    auto* picker = named<MenuPicker>(QStringLiteral("Typeface"));
+    auto* picker = named<MenuPicker>(u"Typeface"_s);
     picker->open();
     QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
     EXPECT_FALSE(picker->isOpen());
@@ -69,7 +69,7 @@ TEST_F(InspectorTest, AMenuClosesByAPressBesideIt) {
     QListWidget* list = picker->menu()->list();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                       list->visualItemRect(list->item(4)).center());
-    EXPECT_EQ(store.text(K::font), QStringLiteral("mono"));
+    EXPECT_EQ(store.text(K::font), u"mono"_s);
     EXPECT_FALSE(picker->isOpen());
 }
 
@@ -78,17 +78,17 @@ TEST_F(InspectorTest, SpacePressesTheFocusedControl) {
     named<PaletteSwatch>(Palette::all()[1].name)->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     EXPECT_EQ(Prefs::paletteIndex(store), 1);
-    named<QCheckBox>(QStringLiteral("Film grain"))->setFocus(Qt::TabFocusReason);
+    named<QCheckBox>(u"Film grain"_s)->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     EXPECT_EQ(store.value(K::grain), QJsonValue(false));
 }
 
 TEST_F(InspectorTest, TabGoesThroughEveryControlInVisualOrderAndRound) {
-    listOwn({picture(QStringLiteral("own.png"))});
+    listOwn({picture(u"own.png"_s)});
     store.set(K::transparency, 0.5);
     window();
     listOwn({});
-    listOwn({picture(QStringLiteral("own.png"))});
+    listOwn({picture(u"own.png"_s)});
     QStringList names;
     for (int i = 0; i < 60; ++i) {
         key(Qt::Key_Tab);
@@ -103,25 +103,20 @@ TEST_F(InspectorTest, TabGoesThroughEveryControlInVisualOrderAndRound) {
         EXPECT_FALSE(at->visibleRegion().isEmpty()) << name.toStdString();
         names.append(name);
     }
-    QStringList expected{QStringLiteral("Auto")};
+    QStringList expected{u"Auto"_s};
     for (const Palette& palette : Palette::all()) {
         expected.append(palette.name);
     }
-    expected += {QStringLiteral("Aurora"),       QStringLiteral("Dunes"),
-                 QStringLiteral("Forest"),       QStringLiteral("Lake"),
-                 QStringLiteral("Ridges"),       QStringLiteral("Sea"),
-                 QStringLiteral("Your photo 1"), QStringLiteral("Remove your photo 1"),
-                 QStringLiteral("Add a photo"),  QStringLiteral("Typeface"),
-                 QStringLiteral("Size"),         QStringLiteral("Vignette"),
-                 QStringLiteral("Transparency"), QStringLiteral("Liquid Glass"),
-                 QStringLiteral("Text reveal"),  QStringLiteral("Screen motion"),
-                 QStringLiteral("Film grain"),   QStringLiteral("Reset"),
-                 QStringLiteral("Done")};
+    expected += {u"Aurora"_s,       u"Dunes"_s,        u"Forest"_s,       u"Lake"_s,
+                 u"Ridges"_s,       u"Sea"_s,          u"Your photo 1"_s, u"Remove your photo 1"_s,
+                 u"Add a photo"_s,  u"Typeface"_s,     u"Size"_s,         u"Vignette"_s,
+                 u"Transparency"_s, u"Liquid Glass"_s, u"Text reveal"_s,  u"Screen motion"_s,
+                 u"Film grain"_s,   u"Reset"_s,        u"Done"_s};
     EXPECT_EQ(names, expected);
     key(Qt::Key_Backtab);
     EXPECT_EQ(
         QAccessible::queryAccessibleInterface(window().focusWidget())->text(QAccessible::Name),
-        QStringLiteral("Done"));
+        u"Done"_s);
 }
 
 TEST_F(InspectorTest, TellsRolesStatesAndValues) {
@@ -132,44 +127,43 @@ TEST_F(InspectorTest, TellsRolesStatesAndValues) {
     auto* swatch = face(named<PaletteSwatch>(Palette::all()[0].name));
     EXPECT_EQ(swatch->role(), QAccessible::RadioButton);
     EXPECT_TRUE(swatch->state().checked);
-    EXPECT_FALSE(face(named<PaletteSwatch>(QStringLiteral("Auto")))->state().checked);
-    face(named<PaletteSwatch>(QStringLiteral("Auto")))
+    EXPECT_FALSE(face(named<PaletteSwatch>(u"Auto"_s))->state().checked);
+    face(named<PaletteSwatch>(u"Auto"_s))
         ->actionInterface()
         ->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(Prefs::paletteIndex(store), -1);
 
-    auto* slider = face(named<PanelSlider>(QStringLiteral("Size")));
+    auto* slider = face(named<PanelSlider>(u"Size"_s));
     EXPECT_EQ(slider->role(), QAccessible::Slider);
     ASSERT_NE(slider->valueInterface(), nullptr);
     EXPECT_EQ(slider->valueInterface()->minimumValue().toDouble(), 0.7);
     EXPECT_EQ(slider->valueInterface()->maximumValue().toDouble(), 1.6);
     slider->valueInterface()->setCurrentValue(1.25);
     EXPECT_EQ(store.real(K::textScale), 1.25);
-    EXPECT_EQ(slider->text(QAccessible::Value), QStringLiteral("125%"));
+    EXPECT_EQ(slider->text(QAccessible::Value), u"125%"_s);
 
-    auto* picker = face(named<MenuPicker>(QStringLiteral("Typeface")));
+    auto* picker = face(named<MenuPicker>(u"Typeface"_s));
     EXPECT_EQ(picker->role(), QAccessible::ComboBox);
-    EXPECT_EQ(picker->text(QAccessible::Value), QStringLiteral("Fraunces"));
-    EXPECT_EQ(face(named<QCheckBox>(QStringLiteral("Film grain")))->role(), QAccessible::CheckBox);
+    EXPECT_EQ(picker->text(QAccessible::Value), u"Fraunces"_s);
+    EXPECT_EQ(face(named<QCheckBox>(u"Film grain"_s))->role(), QAccessible::CheckBox);
     EXPECT_EQ(face(panel().findChild<AddTile*>())->role(), QAccessible::Button);
     EXPECT_EQ(face(&panel())->role(), QAccessible::Grouping);
-    EXPECT_EQ(face(&panel())->text(QAccessible::Name), QStringLiteral("Appearance"));
+    EXPECT_EQ(face(&panel())->text(QAccessible::Name), u"Appearance"_s);
     auto* photos = face(panel().findChild<PhotoGroup*>());
     EXPECT_EQ(photos->role(), QAccessible::Grouping);
-    EXPECT_EQ(photos->text(QAccessible::Name), QStringLiteral("Your photo"));
-    EXPECT_EQ(face(panel().findChild<QLabel*>())->text(QAccessible::Name),
-              QStringLiteral("APPEARANCE"));
+    EXPECT_EQ(photos->text(QAccessible::Name), u"Your photo"_s);
+    EXPECT_EQ(face(panel().findChild<QLabel*>())->text(QAccessible::Name), u"APPEARANCE"_s);
 }
 
 TEST_F(InspectorTest, ScrollsWhereItIsLowerThanItsContent) {
     window().resize(1024, 600);
     panel().setGeometry(704, 0, 320, 600);
     QCoreApplication::processEvents();
-    auto* done = named<QPushButton>(QStringLiteral("Done"));
+    auto* done = named<QPushButton>(u"Done"_s);
     EXPECT_EQ(done->visibleRegion().boundingRect().size(), done->size());
-    auto* grain = named<QCheckBox>(QStringLiteral("Film grain"));
+    auto* grain = named<QCheckBox>(u"Film grain"_s);
     EXPECT_TRUE(grain->visibleRegion().isEmpty());
-    named<MenuPicker>(QStringLiteral("Screen motion"))->setFocus(Qt::TabFocusReason);
+    named<MenuPicker>(u"Screen motion"_s)->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Tab);
     EXPECT_TRUE(grain->hasFocus());
     EXPECT_EQ(grain->visibleRegion().boundingRect().size(), grain->size());
@@ -178,7 +172,7 @@ TEST_F(InspectorTest, ScrollsWhereItIsLowerThanItsContent) {
 TEST_F(InspectorTest, AMenuNearTheBottomOpensUpwards) {
     window().resize(1024, 600);
     panel().setGeometry(704, 0, 320, 600);
-    auto* picker = named<MenuPicker>(QStringLiteral("Screen motion"));
+    auto* picker = named<MenuPicker>(u"Screen motion"_s);
     picker->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Tab);
     picker->open();

@@ -26,11 +26,9 @@ TEST_F(InspectorTest, HasItsWidthAndTheGroupsInOrder) {
             titles.append(label->text());
         }
     }
-    EXPECT_EQ(titles, QStringList({QStringLiteral("APPEARANCE"), QStringLiteral("PALETTE"),
-                                   QStringLiteral("YOUR PHOTO"), QStringLiteral("TYPEFACE"),
-                                   QStringLiteral("SIZE"), QStringLiteral("VIGNETTE"),
-                                   QStringLiteral("TRANSPARENCY"), QStringLiteral("TEXT REVEAL"),
-                                   QStringLiteral("SCREEN MOTION"), QStringLiteral("GRAIN")}));
+    EXPECT_EQ(titles, QStringList({u"APPEARANCE"_s, u"PALETTE"_s, u"YOUR PHOTO"_s, u"TYPEFACE"_s,
+                                   u"SIZE"_s, u"VIGNETTE"_s, u"TRANSPARENCY"_s, u"TEXT REVEAL"_s,
+                                   u"SCREEN MOTION"_s, u"GRAIN"_s}));
 }
 
 TEST_F(InspectorTest, PaletteSwatchesAreAutoAndThePalettes) {
@@ -38,7 +36,7 @@ TEST_F(InspectorTest, PaletteSwatchesAreAutoAndThePalettes) {
     for (const auto* swatch : panel().findChildren<PaletteSwatch*>()) {
         names.append(swatch->text());
     }
-    QStringList expected{QStringLiteral("Auto")};
+    QStringList expected{u"Auto"_s};
     for (const Palette& palette : Palette::all()) {
         expected.append(palette.name);
     }
@@ -46,23 +44,23 @@ TEST_F(InspectorTest, PaletteSwatchesAreAutoAndThePalettes) {
 }
 
 TEST_F(InspectorTest, PaletteSwatchesAreMarkedByIndexWithoutPhoto) {
-    EXPECT_EQ(marked(), QStringList{QStringLiteral("Auto")});
+    EXPECT_EQ(marked(), QStringList{u"Auto"_s});
     store.set(K::palette, 3);
     EXPECT_EQ(marked(), QStringList{Palette::all()[3].name});
     store.set(K::palette, 99);
     EXPECT_EQ(marked(), QStringList());
     store.set(K::palette, 3);
-    store.set(K::bgImage, QStringLiteral("/not/listed.jpg"));
+    store.set(K::bgImage, u"/not/listed.jpg"_s);
     EXPECT_EQ(marked(), QStringList());
 }
 
 TEST_F(InspectorTest, APaletteDropsThePhoto) {
-    store.set(K::bgImage, QStringLiteral("/p.jpg"));
+    store.set(K::bgImage, u"/p.jpg"_s);
     press(named<PaletteSwatch>(Palette::all()[2].name));
     EXPECT_EQ(Prefs::paletteIndex(store), 2);
     EXPECT_EQ(Prefs::bgImage(store), QString());
     EXPECT_EQ(marked(), QStringList{Palette::all()[2].name});
-    press(named<PaletteSwatch>(QStringLiteral("Auto")));
+    press(named<PaletteSwatch>(u"Auto"_s));
     EXPECT_EQ(Prefs::paletteIndex(store), -1);
 }
 
@@ -86,8 +84,8 @@ TEST_F(InspectorTest, PhotoSwatchesShowTheirPicturesAtTheDevicesPixels) {
 }
 
 TEST_F(InspectorTest, AnUnreadablePhotoIsAPlainTileThatCanBeMarked) {
-    listOwn({QStringLiteral("/missing.jpg")});
-    store.set(K::bgImage, QStringLiteral("/missing.jpg"));
+    listOwn({u"/missing.jpg"_s});
+    store.set(K::bgImage, u"/missing.jpg"_s);
     panel();
     EXPECT_TRUE(photoSwatches().last()->isMarked());
     EXPECT_FALSE(photoSwatches().last()->hasPicture());
@@ -96,34 +94,34 @@ TEST_F(InspectorTest, AnUnreadablePhotoIsAPlainTileThatCanBeMarked) {
 TEST_F(InspectorTest, AddTileGoesWithTheThirdOwnPhoto) {
     EXPECT_EQ(panel().findChildren<AddTile*>().size(), 1);
     EXPECT_EQ(panel().findChild<AddTile*>()->toolTip(),
-              QStringLiteral("Add one of your own images, up to three"));
+              u"Add one of your own images, up to three"_s);
     EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 0);
-    listOwn({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
+    listOwn({u"/1"_s, u"/2"_s, u"/3"_s});
     EXPECT_EQ(panel().findChildren<AddTile*>().size(), 0);
     EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 3);
     press(panel().findChildren<RemoveButton*>().last());
-    EXPECT_EQ(Prefs::customBGs(store), QStringList({QStringLiteral("/1"), QStringLiteral("/2")}));
+    EXPECT_EQ(Prefs::customBGs(store), QStringList({u"/1"_s, u"/2"_s}));
     EXPECT_EQ(panel().findChildren<AddTile*>().size(), 1);
     EXPECT_TRUE(panel().findChild<AddTile*>()->isVisible());
 }
 
 TEST_F(InspectorTest, TheKeyboardStaysWhereAPhotoWasRemoved) {
-    listOwn({QStringLiteral("/1"), QStringLiteral("/2"), QStringLiteral("/3")});
+    listOwn({u"/1"_s, u"/2"_s, u"/3"_s});
     panel().findChildren<RemoveButton*>()[1]->setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
-    EXPECT_EQ(Prefs::customBGs(store), QStringList({QStringLiteral("/1"), QStringLiteral("/3")}));
+    EXPECT_EQ(Prefs::customBGs(store), QStringList({u"/1"_s, u"/3"_s}));
     EXPECT_EQ(window().focusWidget(), photoSwatches().last());
-    EXPECT_EQ(photoSwatches().last()->path(), QStringLiteral("/3"));
+    EXPECT_EQ(photoSwatches().last()->path(), u"/3"_s);
     key(Qt::Key_Tab);
     key(Qt::Key_Space);
     EXPECT_EQ(window().focusWidget(), panel().findChild<AddTile*>());
-    named<PanelSlider>(QStringLiteral("Size"))->setFocus(Qt::TabFocusReason);
+    named<PanelSlider>(u"Size"_s)->setFocus(Qt::TabFocusReason);
     listOwn({});
-    EXPECT_TRUE(named<PanelSlider>(QStringLiteral("Size"))->hasFocus());
+    EXPECT_TRUE(named<PanelSlider>(u"Size"_s)->hasFocus());
 }
 
 TEST_F(InspectorTest, RemovingTheChosenPhotoDeletesItAndTheChoice) {
-    const QString own = picture(QStringLiteral("own.png"));
+    const QString own = picture(u"own.png"_s);
     listOwn({own});
     store.set(K::bgImage, own);
     store.set(K::palette, 1);
@@ -137,7 +135,7 @@ TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
     press(panel().findChild<AddTile*>());
     press(panel().findChild<AddTile*>());
     EXPECT_EQ(files.asked, 1);
-    pick(picture(QStringLiteral("new.png")));
+    pick(picture(u"new.png"_s));
     ASSERT_TRUE(await([&] { return !Prefs::bgImage(store).isEmpty(); }));
     EXPECT_EQ(Prefs::customBGs(store), QStringList{Prefs::bgImage(store)});
     EXPECT_TRUE(photoSwatches().last()->isMarked());
@@ -145,25 +143,22 @@ TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
 }
 
 TEST_F(InspectorTest, OddNamesOfPhotosAreNoHindrance) {
-    const QStringList names{
-        QStringLiteral("\u05de\u05d5\u05e8\u05d9\u05d3 \u202e right to left.png"),
-        QString(80, QChar(0x4e2d)) + QStringLiteral(".png"),
-        QStringLiteral("50% & <b>bold<b>\n#?.png")};
+    const QStringList names{u"\u05de\u05d5\u05e8\u05d9\u05d3 \u202e right to left.png"_s,
+                            QString(80, QChar(0x4e2d)) + ".png"_L1, u"50% & <b>bold<b>\n#?.png"_s};
     for (qsizetype i = 0; i < names.size(); ++i) {
         press(panel().findChild<AddTile*>());
         pick(picture(names[i]));
         ASSERT_TRUE(await([&] { return Prefs::customBGs(store).size() == i + 1; }));
         ASSERT_TRUE(await([&] { return photoSwatches().last()->isMarked(); }));
         EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
-        EXPECT_EQ(photoSwatches().last()->accessibleName(),
-                  QStringLiteral("Your photo %1").arg(i + 1));
+        EXPECT_EQ(photoSwatches().last()->accessibleName(), u"Your photo %1"_s.arg(i + 1));
     }
 }
 
 TEST_F(InspectorTest, ManyStoredPhotosAreAllListed) {
     QStringList paths;
     for (int i = 0; i < 500; ++i) {
-        paths.append(QStringLiteral("/missing/%1.jpg").arg(i));
+        paths.append(u"/missing/%1.jpg"_s.arg(i));
     }
     listOwn(paths);
     EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 500);
@@ -178,7 +173,7 @@ TEST_F(InspectorTest, ACancelledOrRefusedPhotoChangesNothing) {
     press(panel().findChild<AddTile*>());
     EXPECT_EQ(files.asked, 2);
     QSignalSpy changes(&store, &SettingsStore::changed);
-    pick(QStringLiteral("/etc/passwd"));
+    pick(u"/etc/passwd"_s);
     press(panel().findChild<AddTile*>());
     QTest::qWait(50);
     EXPECT_EQ(changes.count(), 0);
@@ -188,37 +183,37 @@ TEST_F(InspectorTest, AnnouncesADialogBeforeItOpensAndAfterItHasGone) {
     QStringList order;
     QObject::connect(&panel(), &Inspector::dialogOpening, &panel(), [&] {
         EXPECT_EQ(files.asked, 0);
-        order.append(QStringLiteral("opening"));
+        order.append(u"opening"_s);
     });
     QObject::connect(&panel(), &Inspector::dialogClosed, &panel(),
-                     [&] { order.append(QStringLiteral("closed")); });
+                     [&] { order.append(u"closed"_s); });
     press(panel().findChild<AddTile*>());
-    EXPECT_EQ(order, QStringList{QStringLiteral("opening")});
-    pick(QStringLiteral("/etc/passwd"));
-    EXPECT_EQ(order, QStringList({QStringLiteral("opening"), QStringLiteral("closed")}));
+    EXPECT_EQ(order, QStringList{u"opening"_s});
+    pick(u"/etc/passwd"_s);
+    EXPECT_EQ(order, QStringList({u"opening"_s, u"closed"_s}));
 }
 
 TEST_F(InspectorTest, KnobsGoBothWays) {
-    EXPECT_TRUE(readoutIs(QStringLiteral("Size"), QStringLiteral("100%")));
-    EXPECT_TRUE(readoutIs(QStringLiteral("Vignette"), QStringLiteral("0.55")));
-    EXPECT_TRUE(readoutIs(QStringLiteral("Transparency"), QStringLiteral("0%")));
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"100%"_s));
+    EXPECT_TRUE(readoutIs(u"Vignette"_s, u"0.55"_s));
+    EXPECT_TRUE(readoutIs(u"Transparency"_s, u"0%"_s));
     store.set(K::transparency, 0.3);
-    EXPECT_TRUE(readoutIs(QStringLiteral("Transparency"), QStringLiteral("30%")));
+    EXPECT_TRUE(readoutIs(u"Transparency"_s, u"30%"_s));
 
-    auto* size = named<PanelSlider>(QStringLiteral("Size"));
+    auto* size = named<PanelSlider>(u"Size"_s);
     QTest::keyClick(size, Qt::Key_Home);
     EXPECT_EQ(store.real(K::textScale), 0.7);
     QTest::keyClick(size, Qt::Key_End);
     EXPECT_EQ(store.real(K::textScale), 1.6);
-    EXPECT_TRUE(readoutIs(QStringLiteral("Size"), QStringLiteral("160%")));
-    auto* vignette = named<PanelSlider>(QStringLiteral("Vignette"));
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"160%"_s));
+    auto* vignette = named<PanelSlider>(u"Vignette"_s);
     QTest::keyClick(vignette, Qt::Key_End);
     EXPECT_EQ(store.real(K::vignette), 0.85);
-    EXPECT_TRUE(readoutIs(QStringLiteral("Vignette"), QStringLiteral("0.85")));
+    EXPECT_TRUE(readoutIs(u"Vignette"_s, u"0.85"_s));
 }
 
 TEST_F(InspectorTest, KnobsFollowTheMouseWithoutSteps) {
-    auto* slider = named<PanelSlider>(QStringLiteral("Transparency"));
+    auto* slider = named<PanelSlider>(u"Transparency"_s);
     const int middle = slider->height() / 2;
     QTest::mousePress(slider, Qt::LeftButton, {}, {slider->QWidget::width() / 2, middle});
     EXPECT_NEAR(store.real(K::transparency), 0.5, 0.01);
@@ -230,13 +225,13 @@ TEST_F(InspectorTest, KnobsFollowTheMouseWithoutSteps) {
 
 TEST_F(InspectorTest, ValuesOutOfRangeAreShownAndKept) {
     store.set(K::textScale, 7.0);
-    EXPECT_TRUE(readoutIs(QStringLiteral("Size"), QStringLiteral("700%")));
-    EXPECT_EQ(named<PanelSlider>(QStringLiteral("Size"))->real(), 1.6);
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"700%"_s));
+    EXPECT_EQ(named<PanelSlider>(u"Size"_s)->real(), 1.6);
     EXPECT_EQ(store.real(K::textScale), 7.0);
 }
 
 TEST_F(InspectorTest, GlassSwitchNeedsTransparency) {
-    auto* control = named<QCheckBox>(QStringLiteral("Liquid Glass"));
+    auto* control = named<QCheckBox>(u"Liquid Glass"_s);
     EXPECT_FALSE(control->isEnabled());
     store.set(K::transparency, 0.0099);
     EXPECT_FALSE(control->isEnabled());
@@ -254,11 +249,11 @@ TEST_F(InspectorTest, GlassSwitchIsAbsentWhereGlassCannotBeDrawn) {
     for (const auto* control : panel().findChildren<QCheckBox*>()) {
         switches.append(control->text());
     }
-    EXPECT_EQ(switches, QStringList{QStringLiteral("Film grain")});
+    EXPECT_EQ(switches, QStringList{u"Film grain"_s});
 }
 
 TEST_F(InspectorTest, GrainSwitchGoesBothWays) {
-    auto* control = named<QCheckBox>(QStringLiteral("Film grain"));
+    auto* control = named<QCheckBox>(u"Film grain"_s);
     EXPECT_TRUE(control->isChecked());
     press(control);
     EXPECT_EQ(store.value(K::grain), QJsonValue(false));
@@ -270,32 +265,30 @@ TEST_F(InspectorTest, PickersListTheirEntriesAndGoBothWays) {
     const auto entriesOf = [&](const QString& name) {
         QStringList texts;
         for (const auto& entry : named<MenuPicker>(name)->entries()) {
-            texts.append(entry.value + QLatin1Char('=') + entry.text);
+            texts.append(entry.value + u'=' + entry.text);
         }
         return texts;
     };
-    EXPECT_EQ(
-        entriesOf(QStringLiteral("Typeface")),
-        QStringList({QStringLiteral("fraunces=Fraunces"), QStringLiteral("serif=Serif (New York)"),
-                     QStringLiteral("sans=Sans (SF Pro)"), QStringLiteral("rounded=Rounded"),
-                     QStringLiteral("mono=Mono")}));
+    EXPECT_EQ(entriesOf(u"Typeface"_s),
+              QStringList({u"fraunces=Fraunces"_s, u"serif=Serif (New York)"_s,
+                           u"sans=Sans (SF Pro)"_s, u"rounded=Rounded"_s, u"mono=Mono"_s}));
     QStringList reveals;
     for (const auto kind : allTextAnims) {
-        reveals.append(rawValue(kind) + QLatin1Char('=') + label(kind));
+        reveals.append(rawValue(kind) + u'=' + label(kind));
     }
-    EXPECT_EQ(entriesOf(QStringLiteral("Text reveal")), reveals);
-    EXPECT_EQ(entriesOf(QStringLiteral("Screen motion")).size(), qsizetype(allScreenAnims.size()));
+    EXPECT_EQ(entriesOf(u"Text reveal"_s), reveals);
+    EXPECT_EQ(entriesOf(u"Screen motion"_s).size(), qsizetype(allScreenAnims.size()));
 
-    auto* typeface = named<MenuPicker>(QStringLiteral("Typeface"));
-    EXPECT_EQ(typeface->currentText(), QStringLiteral("Fraunces"));
+    auto* typeface = named<MenuPicker>(u"Typeface"_s);
+    EXPECT_EQ(typeface->currentText(), u"Fraunces"_s);
     typeface->choose(3);
-    EXPECT_EQ(store.text(K::font), QStringLiteral("rounded"));
-    store.set(K::font, QStringLiteral("comic"));
+    EXPECT_EQ(store.text(K::font), u"rounded"_s);
+    store.set(K::font, u"comic"_s);
     EXPECT_EQ(typeface->currentText(), QString());
-    EXPECT_EQ(store.text(K::font), QStringLiteral("comic"));
-    named<MenuPicker>(QStringLiteral("Text reveal"))->choose(1);
+    EXPECT_EQ(store.text(K::font), u"comic"_s);
+    named<MenuPicker>(u"Text reveal"_s)->choose(1);
     EXPECT_EQ(store.text(K::textAnim), rawValue(TextAnim::Handwrite));
-    named<MenuPicker>(QStringLiteral("Screen motion"))->choose(4);
+    named<MenuPicker>(u"Screen motion"_s)->choose(4);
     EXPECT_EQ(store.text(K::screenAnim), rawValue(ScreenAnim::Zoom));
 }
 
@@ -315,44 +308,43 @@ TEST_F(InspectorTest, PickersOfferWhatTheTableOfSettingsLists) {
 
 TEST_F(InspectorTest, WithoutDefaultsTheTypefaceIsSerif) {
     SettingsStore bare;
-    BGStore none(bare, QString(), folder.filePath(QStringLiteral("own")));
+    BGStore none(bare, QString(), folder.filePath(u"own"_s));
     const Inspector inspector(bare, none, files);
-    EXPECT_EQ(inspector.findChildren<MenuPicker*>().first()->currentText(),
-              QStringLiteral("Serif (New York)"));
+    EXPECT_EQ(inspector.findChildren<MenuPicker*>().first()->currentText(), u"Serif (New York)"_s);
 }
 
 TEST_F(InspectorTest, ResetWritesTenKeysInOrder) {
-    listOwn({QStringLiteral("/own.jpg")});
-    store.set(K::bgImage, QStringLiteral("/own.jpg"));
+    listOwn({u"/own.jpg"_s});
+    store.set(K::bgImage, u"/own.jpg"_s);
     store.set(K::palette, 3);
-    store.set(K::font, QStringLiteral("mono"));
+    store.set(K::font, u"mono"_s);
     store.set(K::textScale, 1.5);
     store.set(K::vignette, 0.1);
     store.set(K::transparency, 0.4);
     store.set(K::liquidGlass, false);
-    store.set(K::textAnim, QStringLiteral("blur"));
-    store.set(K::screenAnim, QStringLiteral("zoom"));
+    store.set(K::textAnim, u"blur"_s);
+    store.set(K::screenAnim, u"zoom"_s);
     store.set(K::grain, false);
     store.set(K::dismiss, 30.0);
     panel();
     QStringList written;
     QObject::connect(&store, &SettingsStore::changed, &store,
                      [&](const QString& name) { written.append(name); });
-    press(named<QPushButton>(QStringLiteral("Reset")));
+    press(named<QPushButton>(u"Reset"_s));
     EXPECT_EQ(written,
               QStringList({K::bgImage, K::palette, K::font, K::textScale, K::vignette,
                            K::transparency, K::liquidGlass, K::textAnim, K::screenAnim, K::grain}));
     EXPECT_EQ(Prefs::bgImage(store), QString());
     EXPECT_EQ(Prefs::paletteIndex(store), -1);
-    EXPECT_EQ(store.text(K::font), QStringLiteral("fraunces"));
+    EXPECT_EQ(store.text(K::font), u"fraunces"_s);
     EXPECT_EQ(store.value(K::textScale), QJsonValue(1.0));
     EXPECT_EQ(store.value(K::vignette), QJsonValue(0.55));
     EXPECT_EQ(store.value(K::transparency), QJsonValue(0.0));
     EXPECT_EQ(store.value(K::liquidGlass), QJsonValue(true));
-    EXPECT_EQ(store.text(K::textAnim), QStringLiteral("fade"));
-    EXPECT_EQ(store.text(K::screenAnim), QStringLiteral("drift"));
+    EXPECT_EQ(store.text(K::textAnim), u"fade"_s);
+    EXPECT_EQ(store.text(K::screenAnim), u"drift"_s);
     EXPECT_EQ(store.value(K::grain), QJsonValue(true));
-    EXPECT_EQ(Prefs::customBGs(store), QStringList{QStringLiteral("/own.jpg")});
+    EXPECT_EQ(Prefs::customBGs(store), QStringList{u"/own.jpg"_s});
     EXPECT_EQ(store.real(K::dismiss), 30);
     EXPECT_EQ(done, 0);
 }

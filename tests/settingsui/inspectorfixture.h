@@ -32,6 +32,8 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 class InspectorTest : public ::testing::Test {
 protected:
     InspectorTest() { registerAppDefaults(store); }
@@ -96,9 +98,7 @@ protected:
         }
         return condition();
     }
-    void listOwn(const QStringList& paths) {
-        store.set(K::customBGs, paths);
-    }
+    void listOwn(const QStringList& paths) { store.set(K::customBGs, paths); }
     bool readoutIs(const QString& name, const QString& text) {
         auto* slider = named<PanelSlider>(name);
         auto* knob = static_cast<Knob*>(slider->parentWidget());
@@ -107,8 +107,7 @@ protected:
 
     QTemporaryDir folder;
     SettingsStore store;
-    BGStore photos{store, sourcePath("resources/Backgrounds"),
-                   folder.filePath(QStringLiteral("own"))};
+    BGStore photos{store, sourcePath(u"resources/Backgrounds"_s), folder.filePath(u"own"_s)};
     bool glass = true;
     int done = 0;
     FakeFileChooser files;

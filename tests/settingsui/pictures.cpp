@@ -32,6 +32,8 @@ using namespace morrowleaf;
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 // A still backdrop, whatever lies in front.
 class Ground : public QWidget {
 public:
@@ -64,18 +66,18 @@ void drawSettings(const QString& folder, SettingsStore& store, const QString& na
     SettingsView view(
         store,
         [](const QString&, const auto& done) {
-            done(Quote{QStringLiteral("What we know is a drop, what we do not know is an ocean, "
-                                      "and the ocean is deep"),
-                       QStringLiteral("Isaac Newton")});
+            done(Quote{u"What we know is a drop, what we do not know is an ocean, "
+                       "and the ocean is deep"_s,
+                       u"Isaac Newton"_s});
         },
         *platform.loginItem, actions);
     view.show();
     settle(100);
-    view.grab().save(folder + QStringLiteral("/settings-%1.png").arg(name));
+    view.grab().save(folder + u"/settings-%1.png"_s.arg(name));
     view.test();
     view.findChild<QLineEdit*>()->setFocus(Qt::TabFocusReason);
     settle(100);
-    view.grab().save(folder + QStringLiteral("/settings-%1-tested.png").arg(name));
+    view.grab().save(folder + u"/settings-%1-tested.png"_s.arg(name));
 }
 
 } // namespace
@@ -87,20 +89,19 @@ int main(int argc, char** argv) {
     const QString folder = QString::fromLocal8Bit(argc > 1 ? argv[1] : ".");
     QDir().mkpath(folder);
     FontBook fonts;
-    fonts.registerBundledFonts(sourcePath("resources/Fonts"));
+    fonts.registerBundledFonts(sourcePath(u"resources/Fonts"_s));
     const QFont face = nsFont(fonts, 12, FontDesign::Default).face;
     SettingsStore store;
     registerAppDefaults(store);
 
     QApplication::setPalette(hostPalette(ColorPreference::Light));
-    drawSettings(folder, store, QStringLiteral("light"));
+    drawSettings(folder, store, u"light"_s);
     QApplication::setPalette(hostPalette(ColorPreference::Dark));
-    drawSettings(folder, store, QStringLiteral("dark"));
+    drawSettings(folder, store, u"dark"_s);
 
     const Platform platform = makeNullPlatform();
-    BGStore photos(store, sourcePath("resources/Backgrounds"), folder + QStringLiteral("/own"));
-    store.set(K::customBGs,
-              QStringList{photos.builtins().value(1), QStringLiteral("/missing.jpg")});
+    BGStore photos(store, sourcePath(u"resources/Backgrounds"_s), folder + "/own"_L1);
+    store.set(K::customBGs, QStringList{photos.builtins().value(1), u"/missing.jpg"_s});
     const auto draw = [&](const QString& name, const BackdropState& state, QSize size) {
         Ground ground;
         ground.state = state;
@@ -114,12 +115,12 @@ int main(int argc, char** argv) {
         inspector->setGeometry(size.width() - Inspector::width, 0, Inspector::width, size.height());
         ground.show();
         settle(400);
-        ground.grab().save(folder + QStringLiteral("/panel-%1.png").arg(name));
+        ground.grab().save(folder + u"/panel-%1.png"_s.arg(name));
         auto* picker = inspector->findChildren<MenuPicker*>().first();
         picker->setFocus(Qt::TabFocusReason);
         picker->open();
         settle(50);
-        ground.grab().save(folder + QStringLiteral("/panel-%1-menu.png").arg(name));
+        ground.grab().save(folder + u"/panel-%1-menu.png"_s.arg(name));
     };
     BackdropState state;
     state.screenAnim = ScreenAnim::Still;
@@ -129,15 +130,15 @@ int main(int argc, char** argv) {
         store.set(K::palette, index++);
         draw(palette.name.toLower(), state, {900, 982});
     }
-    draw(QStringLiteral("small"), state, {1024, 600});
+    draw(u"small"_s, state, {1024, 600});
     const QString photo = photos.builtins().value(0);
     if (const auto found = photos.image(photo)) {
         state.palette = Palette::photo();
         state.hasPhoto = true;
         store.set(K::bgImage, photo);
         state.photo = found->decodeFilling(QSize(900, 982) * app.devicePixelRatio());
-        draw(QStringLiteral("photo"), state, {900, 982});
-        draw(QStringLiteral("tall"), state, {900, 1300});
+        draw(u"photo"_s, state, {900, 982});
+        draw(u"tall"_s, state, {900, 1300});
     }
     return 0;
 }

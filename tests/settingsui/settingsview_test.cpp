@@ -42,7 +42,7 @@ private:
     std::optional<QString> change(Status wanted) {
         ++calls;
         if (refuses) {
-            return QStringLiteral("no");
+            return u"no"_s;
         }
         current = wanted;
         return std::nullopt;
@@ -118,8 +118,7 @@ TEST_F(SettingsViewTest, HasAFixedSizeAndTheTexts) {
           "Close after", "15s", "Quotes", "Source URL", help}) {
         EXPECT_TRUE(shows_(QString::fromUtf8(text))) << text;
     }
-    EXPECT_EQ(only<QLineEdit>()->placeholderText(),
-              QStringLiteral("Leave empty for the built-in 124 quotes"));
+    EXPECT_EQ(only<QLineEdit>()->placeholderText(), u"Leave empty for the built-in 124 quotes"_s);
 }
 
 TEST_F(SettingsViewTest, NothingIsCutOff) {
@@ -134,16 +133,16 @@ TEST_F(SettingsViewTest, ButtonsTriggerTheActionsOfTheMenu) {
     const QSignalSpy edits(&actions.editAppearance, &QAction::triggered);
     const QSignalSpy shows(&actions.showQuote, &QAction::triggered);
     const QSignalSpy quits(&actions.quit, &QAction::triggered);
-    click(button(QStringLiteral("Edit Appearance…")));
-    click(button(QStringLiteral("Show Today's Quote")));
-    click(button(QStringLiteral("Quit")));
+    click(button(u"Edit Appearance…"_s));
+    click(button(u"Show Today's Quote"_s));
+    click(button(u"Quit"_s));
     EXPECT_EQ(edits.count(), 1);
     EXPECT_EQ(shows.count(), 1);
     EXPECT_EQ(quits.count(), 1);
 }
 
 TEST_F(SettingsViewTest, WakeSwitchGoesBothWays) {
-    QCheckBox* wake = switchNamed(QStringLiteral("Show on wake and unlock"));
+    QCheckBox* wake = switchNamed(u"Show on wake and unlock"_s);
     ASSERT_NE(wake, nullptr);
     EXPECT_TRUE(wake->isChecked());
     click(wake);
@@ -156,23 +155,21 @@ TEST_F(SettingsViewTest, FrequencyGoesBothWays) {
     auto* box = only<QComboBox>();
     QStringList choices;
     for (int i = 0; i < box->count(); ++i) {
-        choices.append(box->itemText(i) + QLatin1Char('=') + box->itemData(i).toString());
+        choices.append(box->itemText(i) + u'=' + box->itemData(i).toString());
     }
-    EXPECT_EQ(choices,
-              QStringList({QStringLiteral("Every 6 hours=6h"), QStringLiteral("Every 12 hours=12h"),
-                           QStringLiteral("Every 24 hours=24h"),
-                           QStringLiteral("Every time it shows=every")}));
+    EXPECT_EQ(choices, QStringList({u"Every 6 hours=6h"_s, u"Every 12 hours=12h"_s,
+                                    u"Every 24 hours=24h"_s, u"Every time it shows=every"_s}));
     EXPECT_EQ(box->currentIndex(), 2);
     QTest::keyClick(box, Qt::Key_End);
-    EXPECT_EQ(store.text(K::frequency), QStringLiteral("every"));
-    store.set(K::frequency, QStringLiteral("6h"));
+    EXPECT_EQ(store.text(K::frequency), u"every"_s);
+    store.set(K::frequency, u"6h"_s);
     EXPECT_EQ(box->currentIndex(), 0);
 }
 
 TEST_F(SettingsViewTest, UnknownFrequencySelectsNothingAndStays) {
-    store.set(K::frequency, QStringLiteral("weekly"));
+    store.set(K::frequency, u"weekly"_s);
     EXPECT_EQ(only<QComboBox>()->currentIndex(), -1);
-    EXPECT_EQ(store.text(K::frequency), QStringLiteral("weekly"));
+    EXPECT_EQ(store.text(K::frequency), u"weekly"_s);
 }
 
 TEST_F(SettingsViewTest, CloseAfterStoresWholeSecondsAsReals) {
@@ -181,10 +178,10 @@ TEST_F(SettingsViewTest, CloseAfterStoresWholeSecondsAsReals) {
     EXPECT_EQ(slider->maximum(), 60);
     QTest::keyClick(slider, Qt::Key_Home);
     EXPECT_EQ(store.value(K::dismiss), QJsonValue(5.0));
-    EXPECT_TRUE(shows_(QStringLiteral("5s")));
+    EXPECT_TRUE(shows_(u"5s"_s));
     QTest::keyClick(slider, Qt::Key_End);
     EXPECT_EQ(store.value(K::dismiss), QJsonValue(60.0));
-    EXPECT_TRUE(shows_(QStringLiteral("60s")));
+    EXPECT_TRUE(shows_(u"60s"_s));
     QTest::keyClick(slider, Qt::Key_Left);
     EXPECT_EQ(store.real(K::dismiss), 59);
 }
@@ -207,15 +204,15 @@ TEST_F(SettingsViewTest, CloseAfterComesToWhereTheMousePresses) {
 TEST_F(SettingsViewTest, CloseAfterTruncatesAndRewritesNothing) {
     store.set(K::dismiss, 15.9);
     view();
-    EXPECT_TRUE(shows_(QStringLiteral("15s")));
+    EXPECT_TRUE(shows_(u"15s"_s));
     store.set(K::dismiss, 120.5);
-    EXPECT_TRUE(shows_(QStringLiteral("120s")));
+    EXPECT_TRUE(shows_(u"120s"_s));
     EXPECT_EQ(only<QSlider>()->value(), 60);
     EXPECT_EQ(store.real(K::dismiss), 120.5);
 }
 
 TEST_F(SettingsViewTest, TheWheelChangesNothingInPassing) {
-    store.set(K::frequency, QStringLiteral("12h"));
+    store.set(K::frequency, u"12h"_s);
     store.set(K::dismiss, 20.0);
     for (QWidget* control : {static_cast<QWidget*>(only<QSlider>()), //
                              static_cast<QWidget*>(only<QComboBox>())}) {
@@ -224,7 +221,7 @@ TEST_F(SettingsViewTest, TheWheelChangesNothingInPassing) {
             QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, turn}, Qt::NoButton,
                               Qt::NoModifier, Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(control, &wheel);
-            EXPECT_EQ(store.text(K::frequency), QStringLiteral("12h"));
+            EXPECT_EQ(store.text(K::frequency), u"12h"_s);
             EXPECT_EQ(store.value(K::dismiss), QJsonValue(20.0));
         }
     }
@@ -232,14 +229,14 @@ TEST_F(SettingsViewTest, TheWheelChangesNothingInPassing) {
 
 TEST_F(SettingsViewTest, SourceGoesBothWays) {
     auto* field = only<QLineEdit>();
-    QTest::keyClicks(field, QStringLiteral("/a b"));
-    EXPECT_EQ(store.text(K::source), QStringLiteral("/a b"));
-    store.set(K::source, QStringLiteral("elsewhere"));
-    EXPECT_EQ(field->text(), QStringLiteral("elsewhere"));
+    QTest::keyClicks(field, u"/a b"_s);
+    EXPECT_EQ(store.text(K::source), u"/a b"_s);
+    store.set(K::source, u"elsewhere"_s);
+    EXPECT_EQ(field->text(), u"elsewhere"_s);
 }
 
 TEST_F(SettingsViewTest, ALongSourceIsKeptWhole) {
-    const QString text(100'000, QLatin1Char('x'));
+    const QString text(100'000, u'x');
     only<QLineEdit>()->selectAll();
     only<QLineEdit>()->insert(text);
     EXPECT_EQ(store.text(K::source)->size(), only<QLineEdit>()->text().size());
@@ -249,7 +246,7 @@ TEST_F(SettingsViewTest, ALongSourceIsKeptWhole) {
 }
 
 TEST_F(SettingsViewTest, PresetsSetTheSource) {
-    auto* presets = button(QStringLiteral("Presets"));
+    auto* presets = button(u"Presets"_s);
     ASSERT_NE(presets, nullptr);
     EXPECT_EQ(presets->width(), 120);
     const auto actions = presets->menu()->actions();
@@ -261,37 +258,37 @@ TEST_F(SettingsViewTest, PresetsSetTheSource) {
         EXPECT_EQ(store.text(K::source), preset.address);
         EXPECT_EQ(only<QLineEdit>()->text(), preset.address);
     }
-    EXPECT_EQ(actions[3]->text(), QStringLiteral("Built-in list"));
+    EXPECT_EQ(actions[3]->text(), u"Built-in list"_s);
     actions[3]->trigger();
     EXPECT_EQ(store.text(K::source), QString());
 }
 
 TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
-    store.set(K::source, QStringLiteral("/somewhere"));
-    auto* test = button(QStringLiteral("Test"));
+    store.set(K::source, u"/somewhere"_s);
+    auto* test = button(u"Test"_s);
     click(test);
-    EXPECT_EQ(asked, QStringList{QStringLiteral("/somewhere")});
-    EXPECT_EQ(test->text(), QStringLiteral("Testing…"));
+    EXPECT_EQ(asked, QStringList{u"/somewhere"_s});
+    EXPECT_EQ(test->text(), u"Testing…"_s);
     EXPECT_FALSE(test->isEnabled());
     click(test);
     EXPECT_EQ(asked.size(), 1);
 
-    answer(Quote{QStringLiteral("One <b>word</b>"), QStringLiteral("Nobody")});
-    EXPECT_EQ(test->text(), QStringLiteral("Test"));
+    answer(Quote{u"One <b>word</b>"_s, u"Nobody"_s});
+    EXPECT_EQ(test->text(), u"Test"_s);
     EXPECT_TRUE(test->isEnabled());
-    EXPECT_TRUE(shows_(QStringLiteral("“One <b>word</b>” — Nobody")));
+    EXPECT_TRUE(shows_(u"“One <b>word</b>” — Nobody"_s));
     EXPECT_FALSE(store.value(K::cachedText).has_value());
 
     click(test);
-    EXPECT_FALSE(shows_(QStringLiteral("“One <b>word</b>” — Nobody")));
+    EXPECT_FALSE(shows_(u"“One <b>word</b>” — Nobody"_s));
     answer(std::nullopt);
-    EXPECT_TRUE(shows_(QStringLiteral("No quote found at that source.")));
-    EXPECT_EQ(store.text(K::source), QStringLiteral("/somewhere"));
+    EXPECT_TRUE(shows_(u"No quote found at that source."_s));
+    EXPECT_EQ(store.text(K::source), u"/somewhere"_s);
 }
 
 TEST_F(SettingsViewTest, AWordWithoutEndDoesNotWidenTheForm) {
     view().test();
-    answer(Quote{QString(3000, QLatin1Char('W')), QStringLiteral("Nobody")});
+    answer(Quote{QString(3000, u'W'), u"Nobody"_s});
     QCoreApplication::processEvents();
     for (const auto* card : view().findChildren<FormCard*>()) {
         EXPECT_LT(card->mapTo(&view(), QPoint(card->width(), 0)).x(), view().width());
@@ -301,7 +298,7 @@ TEST_F(SettingsViewTest, AWordWithoutEndDoesNotWidenTheForm) {
 TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
     view().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view(), 60'000));
-    auto* test = button(QStringLiteral("Test"));
+    auto* test = button(u"Test"_s);
     test->setFocus(Qt::TabFocusReason);
     QTest::keyClick(view().windowHandle(), Qt::Key_Space);
     EXPECT_EQ(asked.size(), 1);
@@ -311,7 +308,7 @@ TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
     answer(std::nullopt);
     EXPECT_TRUE(test->hasFocus());
     EXPECT_EQ(QAccessible::queryAccessibleInterface(test)->text(QAccessible::Description),
-              QStringLiteral("No quote found at that source."));
+              u"No quote found at that source."_s);
 
     QTest::keyClick(view().windowHandle(), Qt::Key_Space);
     only<QLineEdit>()->setFocus();
@@ -326,8 +323,7 @@ TEST_F(SettingsViewTest, SectionsAreNamedGroups) {
         EXPECT_EQ(face->role(), QAccessible::Grouping);
         names.append(face->text(QAccessible::Name));
     }
-    EXPECT_EQ(names, QStringList({QStringLiteral("Appearance"), QStringLiteral("Behaviour"),
-                                  QStringLiteral("Quotes")}));
+    EXPECT_EQ(names, QStringList({u"Appearance"_s, u"Behaviour"_s, u"Quotes"_s}));
 }
 
 TEST_F(SettingsViewTest, ResultSurvivesHiding) {
@@ -335,12 +331,12 @@ TEST_F(SettingsViewTest, ResultSurvivesHiding) {
     answer(std::nullopt);
     view().hide();
     view().show();
-    EXPECT_TRUE(shows_(QStringLiteral("No quote found at that source.")));
+    EXPECT_TRUE(shows_(u"No quote found at that source."_s));
 }
 
 TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
     login.current = LoginItem::Status::Enabled;
-    QCheckBox* control = switchNamed(QStringLiteral("Open at login"));
+    QCheckBox* control = switchNamed(u"Open at login"_s);
     EXPECT_TRUE(control->isChecked());
     EXPECT_EQ(login.calls, 0);
     const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
@@ -352,7 +348,7 @@ TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {
 
 TEST_F(SettingsViewTest, RefusedLoginFlipsBackAndIsAnnouncedOnce) {
     login.refuses = true;
-    QCheckBox* control = switchNamed(QStringLiteral("Open at login"));
+    QCheckBox* control = switchNamed(u"Open at login"_s);
     EXPECT_FALSE(control->isChecked());
     const QSignalSpy refusals(&view(), &SettingsView::loginItemRefused);
     click(control);
@@ -363,7 +359,7 @@ TEST_F(SettingsViewTest, RefusedLoginFlipsBackAndIsAnnouncedOnce) {
 
 TEST_F(SettingsViewTest, ApprovalThatIsMissingCountsAsOff) {
     login.current = LoginItem::Status::RequiresApproval;
-    EXPECT_FALSE(switchNamed(QStringLiteral("Open at login"))->isChecked());
+    EXPECT_FALSE(switchNamed(u"Open at login"_s)->isChecked());
 }
 
 TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
@@ -380,12 +376,10 @@ TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
                                           : labels.first().first->text(QAccessible::Name));
         }
     }
-    EXPECT_EQ(names, QStringList({QStringLiteral("Edit Appearance…"),
-                                  QStringLiteral("Show on wake and unlock"),
-                                  QStringLiteral("New quote"), QStringLiteral("Close after"),
-                                  QStringLiteral("Open at login"), QStringLiteral("Source URL"),
-                                  QStringLiteral("Presets"), QStringLiteral("Test"),
-                                  QStringLiteral("Show Today's Quote"), QStringLiteral("Quit")}));
+    EXPECT_EQ(names,
+              QStringList({u"Edit Appearance…"_s, u"Show on wake and unlock"_s, u"New quote"_s,
+                           u"Close after"_s, u"Open at login"_s, u"Source URL"_s, u"Presets"_s,
+                           u"Test"_s, u"Show Today's Quote"_s, u"Quit"_s}));
 }
 
 TEST_F(SettingsViewTest, TellsInOneLineWhereUnreadableSettingsAreKept) {

@@ -27,6 +27,8 @@
 namespace morrowleaf {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 int ratio() {
     return qRound(qApp->devicePixelRatio());
 }
@@ -37,14 +39,14 @@ QFont bundledFace() {
 }
 
 void expectGolden(const QString& name, const QImage& frame, int factor) {
-    const QString file = QStringLiteral("%1@%2.png").arg(name).arg(ratio());
+    const QString file = u"%1@%2.png"_s.arg(name).arg(ratio());
     const QImage picture = forRecord(frame, factor);
     const PictureDifference difference = comparePictures(goldenPicture(file, picture), picture);
     EXPECT_TRUE(difference.acceptable())
         << file.toStdString() << ": same size " << difference.sameSize << ", worst block "
         << difference.worstBlock << ", stray pixels " << difference.strayPixels;
     if (!difference.acceptable()) {
-        const QString kept = QDir::temp().filePath(QStringLiteral("morrowleaf-golden-") + file);
+        const QString kept = QDir::temp().filePath("morrowleaf-golden-"_L1 + file);
         picture.save(kept);
         ADD_FAILURE() << "the new picture is " << kept.toStdString();
     }
@@ -100,7 +102,7 @@ protected:
 private:
     SettingsStore store_;
     FakeFileChooser files_;
-    BGStore photos_{store_, sourcePath("resources/Backgrounds"), QStringLiteral("/nowhere")};
+    BGStore photos_{store_, sourcePath(u"resources/Backgrounds"_s), u"/nowhere"_s};
     Ground ground_;
 };
 
@@ -125,19 +127,19 @@ QImage settingsIn(ColorPreference preference) {
 TEST_F(EditorGolden, OverEveryPalette) {
     for (int palette = 0; palette < 9; ++palette) {
         const QString name = Palette::all()[static_cast<size_t>(palette)].name.toLower();
-        expectGolden(QStringLiteral("editor-") + name, editorOver(palette), 2 * ratio());
+        expectGolden("editor-"_L1 + name, editorOver(palette), 2 * ratio());
     }
 }
 
 TEST_F(EditorGolden, InEveryDetail) {
-    expectGolden(QStringLiteral("editor-detail"),
+    expectGolden(u"editor-detail"_s,
                  editorOver(7).copy(QRect(80 * ratio(), 0, 320 * ratio(), 540 * ratio())), 1);
 }
 
 TEST(SettingsGolden, LightAndDark) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    expectGolden(QStringLiteral("settings-light"), settingsIn(ColorPreference::Light), 1);
-    expectGolden(QStringLiteral("settings-dark"), settingsIn(ColorPreference::Dark), 1);
+    QApplication::setStyle(u"Fusion"_s);
+    expectGolden(u"settings-light"_s, settingsIn(ColorPreference::Light), 1);
+    expectGolden(u"settings-dark"_s, settingsIn(ColorPreference::Dark), 1);
 }
 
 TEST(SettingsGolden, AnotherLookIsSeen) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -50,20 +51,20 @@ TEST(FontNames, TypographicNamesComeFirst) {
                                               {3, 1, 0x409, 6, utf16("Old-Light")},
                                               {3, 1, 0x409, 16, utf16("Old")},
                                               {3, 1, 0x409, 17, utf16("Light")}}));
-    EXPECT_EQ(names, (FontNames{"Old-Light", "Old", "Light"}));
+    EXPECT_EQ(names, (FontNames{u"Old-Light"_s, u"Old"_s, u"Light"_s}));
 }
 
 TEST(FontNames, LegacyNamesStandIn) {
     const auto names = readNameTable(
         tableOf({{1, 0, 0, 1, "Mac"}, {1, 0, 0, 2, "Bold"}, {1, 0, 0, 6, "Mac-Bold"}}));
-    EXPECT_EQ(names, (FontNames{"Mac-Bold", "Mac", "Bold"}));
+    EXPECT_EQ(names, (FontNames{u"Mac-Bold"_s, u"Mac"_s, u"Bold"_s}));
 }
 
 TEST(FontNames, EnglishBeforeOthers) {
     const auto names = readNameTable(tableOf({{3, 1, 0x407, 6, utf16("Deutsch")},
                                               {3, 1, 0x409, 6, utf16("English")},
                                               {1, 0, 0, 6, "Mac"}}));
-    EXPECT_EQ(names->postScript, "English");
+    EXPECT_EQ(names->postScript, u"English"_s);
 }
 
 TEST(FontNames, NothingWithoutAPostScriptName) {

@@ -11,6 +11,7 @@
 #include <numeric>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -115,7 +116,7 @@ TEST_P(EveryStyle, ComesInWithoutJumps) {
         return; // its letters appear at once
     }
     for (const double ratio : {1.0, 1.25, 2.0}) {
-        const RevealLine line(parts(GetParam(), "A quiet office"));
+        const RevealLine line(parts(GetParam(), u"A quiet office"_s));
         const double step = (line.settledAfter() - line.delay()) / 160;
         std::vector<double> changes;
         QImage before = painted(line, line.delay(), ratio);
@@ -134,13 +135,13 @@ TEST_P(EveryStyle, ComesInWithoutJumps) {
 }
 
 TEST_P(EveryStyle, EmptyAndBlankLinesStayInvisibleAndStill) {
-    for (const char* text : {"", "   "}) {
+    for (const QString& text : {u""_s, u"   "_s}) {
         const RevealLine line(parts(GetParam(), text));
         EXPECT_FALSE(line.changesBetween(0, 10));
         EXPECT_EQ(line.settledAfter(), 0);
         EXPECT_TRUE(line.paintedRect(10).isEmpty());
         EXPECT_EQ(alphaSum(painted(line, 10)), 0);
-        EXPECT_EQ(line.size().width() > 0, text[0] != 0);
+        EXPECT_EQ(line.size().width() > 0, !text.isEmpty());
         EXPECT_GT(line.size().height(), 20);
     }
 }
@@ -161,10 +162,10 @@ TEST_P(EveryStyle, KeepsItsPlaceFromTheStart) {
 }
 
 TEST_P(EveryStyle, ForeignScriptsAndPicturesAppear) {
-    for (const char* text :
-         {"السلام عليكم", "क्षत्रिय", "e\u0301a\u0308", "👨‍👩‍👧 🇩🇪", "שלום"}) {
-        const RevealLine line(parts(GetParam(), QString::fromUtf8(text)));
-        EXPECT_GT(alphaSum(painted(line, line.settledAfter())), 500) << text;
+    for (const QString& text : {u"السلام عليكم"_s, u"क्षत्रिय"_s, u"e\u0301a\u0308"_s,
+                                u"👨‍👩‍👧 🇩🇪"_s, u"שלום"_s}) {
+        const RevealLine line(parts(GetParam(), text));
+        EXPECT_GT(alphaSum(painted(line, line.settledAfter())), 500) << text.toStdString();
         painted(line, (line.delay() + line.settledAfter()) / 2, 1.25);
     }
 }

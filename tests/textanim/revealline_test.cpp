@@ -9,6 +9,7 @@
 #include <algorithm>
 
 using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -33,7 +34,7 @@ TEST(RevealLine, TheTypewriterChangesOnItsTicksOnly) {
 
 // Typed letters do not move when further letters appear.
 TEST(RevealLine, TypedLettersDoNotJump) {
-    RevealLine::Parts bare = parts(TextAnim::Typewriter, "AVAffinity office", "serif");
+    RevealLine::Parts bare = parts(TextAnim::Typewriter, u"AVAffinity office"_s, u"serif"_s);
     bare.shadow.opacity = 0;
     const RevealLine line(bare);
     const QImage whole = painted(line, line.settledAfter());
@@ -52,7 +53,7 @@ TEST(RevealLine, TypedLettersDoNotJump) {
 }
 
 TEST(RevealLine, ArabicIsTypedFromTheRight) {
-    RevealLine::Parts bare = parts(TextAnim::Typewriter, QString::fromUtf8("السلام عليكم"));
+    RevealLine::Parts bare = parts(TextAnim::Typewriter, u"السلام عليكم"_s);
     bare.shadow.opacity = 0;
     const RevealLine line(bare);
     const QRectF whole = inkOf(painted(line, line.settledAfter()));
@@ -62,7 +63,7 @@ TEST(RevealLine, ArabicIsTypedFromTheRight) {
 }
 
 TEST(RevealLine, HalfATypedLineHasHalfAShadow) {
-    RevealLine::Parts dark = parts(TextAnim::Typewriter, "nnnnnnnnnnnnnnnn", "mono");
+    RevealLine::Parts dark = parts(TextAnim::Typewriter, u"nnnnnnnnnnnnnnnn"_s, u"mono"_s);
     dark.color = QColor(Qt::black);
     const auto shadowOf = [&](double seconds) {
         RevealLine::Parts bare = dark;
@@ -78,7 +79,7 @@ TEST(RevealLine, HalfATypedLineHasHalfAShadow) {
 }
 
 TEST(RevealLine, TheShadowIsAGaussianOfTheGivenOpacity) {
-    RevealLine::Parts dark = parts(TextAnim::Rise, "nnnnnnnn", "mono");
+    RevealLine::Parts dark = parts(TextAnim::Rise, u"nnnnnnnn"_s, u"mono"_s);
     dark.color = QColor(Qt::black);
     RevealLine::Parts bare = dark;
     bare.shadow.opacity = 0;
@@ -137,7 +138,7 @@ TEST(RevealLine, RiseOvershootsUpwards) {
 }
 
 TEST(RevealLine, HandwritingIsOutlinedFirstAndInkedLater) {
-    RevealLine::Parts bare = parts(TextAnim::Handwrite, "lllllllllllllll", "mono");
+    RevealLine::Parts bare = parts(TextAnim::Handwrite, u"lllllllllllllll"_s, u"mono"_s);
     bare.shadow.opacity = 0;
     const RevealLine line(bare);
     const QRectF whole = inkOf(painted(line, line.settledAfter()));
