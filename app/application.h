@@ -15,7 +15,7 @@ enum class Mode { SelfTest, RegisterLogin, Desktop };
 Mode modeFor(const QStringList& arguments);
 
 // Registers the login item. Gives the line that tells the user how it went.
-QString registerLogin(LoginItem& item);
+[[nodiscard]] QString registerLogin(LoginItem& item);
 
 // Runs the whole program in the mode that the arguments ask for. Gives the exit
 // status: 0, or 1 when the desktop mode finds no display.

@@ -25,8 +25,8 @@ inline constexpr std::array allScreenAnims{ScreenAnim::Drift, ScreenAnim::Still,
 // exact; an unknown name gives std::nullopt.
 QString rawValue(TextAnim kind);
 QString rawValue(ScreenAnim kind);
-std::optional<TextAnim> textAnimFromRawValue(const QString& raw);
-std::optional<ScreenAnim> screenAnimFromRawValue(const QString& raw);
+[[nodiscard]] std::optional<TextAnim> textAnimFromRawValue(const QString& raw);
+[[nodiscard]] std::optional<ScreenAnim> screenAnimFromRawValue(const QString& raw);
 
 // The kind for a stored name; an unknown name gives the first kind.
 TextAnim storedTextAnim(const QString& raw);

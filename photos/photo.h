@@ -23,6 +23,6 @@ struct Photo {
 
 // The photo at `path`, judged by its header alone; std::nullopt unless it is a
 // regular file of a known format that can be decoded within the memory limit.
-std::optional<Photo> inspectPhoto(const QString& path);
+[[nodiscard]] std::optional<Photo> inspectPhoto(const QString& path);
 
 } // namespace morrowleaf

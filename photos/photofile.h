@@ -61,7 +61,7 @@ struct PhotoHeader {
 
 // Reads the header and leaves `reader` ready to decode. std::nullopt for files
 // that are not pictures, and for formats that are documents rather than pixels.
-std::optional<PhotoHeader> readPhotoHeader(PhotoFile& file, QImageReader& reader);
+[[nodiscard]] std::optional<PhotoHeader> readPhotoHeader(PhotoFile& file, QImageReader& reader);
 
 // Whether the JPEG at the device's start comes in several scans (progressive,
 // or one component after the other), so that a decoder must hold all of it at

@@ -37,7 +37,7 @@ struct WholeFile {
 };
 
 // Reads a file of up to `sizeLimit` bytes, through a link too.
-WholeFile readWholeFile(const QString& path, qint64 sizeLimit);
+[[nodiscard]] WholeFile readWholeFile(const QString& path, qint64 sizeLimit);
 
 enum class Replaced {
     Done,
@@ -61,6 +61,6 @@ enum class Replaced {
 
 // Creates the folder that `path` lies in, for the user alone. False where there
 // is none afterwards.
-bool makeFolderOf(const QString& path);
+[[nodiscard]] bool makeFolderOf(const QString& path);
 
 } // namespace morrowleaf

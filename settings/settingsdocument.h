@@ -24,7 +24,7 @@ public:
     // std::nullopt where the text is not a JSON object in UTF-8, holds a number
     // beyond the range of a double, or is nested or populated beyond any use.
     // Of a key written twice the last value counts.
-    static std::optional<SettingsDocument> parse(const QByteArray& text);
+    [[nodiscard]] static std::optional<SettingsDocument> parse(const QByteArray& text);
 
     const QJsonObject& values() const { return values_; }
     // Indented, with a line break at its end.

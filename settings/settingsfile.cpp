@@ -12,6 +12,7 @@
 
 #include <future>
 #include <memory>
+#include <tuple>
 
 namespace morrowleaf {
 
@@ -51,7 +52,7 @@ SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* p
     connect(worker_, &SettingsWorker::found, this, &SettingsFile::adopt);
     connect(&store_, &SettingsStore::written, this, &SettingsFile::pass);
     if (QCoreApplication* app = QCoreApplication::instance()) {
-        connect(app, &QCoreApplication::aboutToQuit, this, [this] { flush(); });
+        connect(app, &QCoreApplication::aboutToQuit, this, [this] { std::ignore = flush(); });
     }
     thread_->start();
 
@@ -66,7 +67,7 @@ SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* p
 SettingsFile::~SettingsFile() {
     store_.disconnect(this);
     if (flushed_ != lastChange_) {
-        flush();
+        std::ignore = flush();
     }
     worker_->disconnect(this);
     thread_->quit();

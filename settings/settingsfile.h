@@ -47,7 +47,7 @@ public:
     // Waits until everything set so far is in the file, at most for `limit`.
     // False where that could not be done, which is known within a second unless
     // the disk does not answer. Called when the application quits.
-    bool flush(std::chrono::milliseconds limit = std::chrono::seconds(3));
+    [[nodiscard]] bool flush(std::chrono::milliseconds limit = std::chrono::seconds(3));
 
 private:
     void pass(const QString& key);

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <thread>
+#include <tuple>
 
 namespace morrowleaf {
 
@@ -189,7 +190,7 @@ bool SettingsWorker::write(milliseconds patience) {
     writing_.stop();
     retrying_.stop();
     if (!outstanding_.isEmpty()) {
-        makeFolderOf(path_);
+        std::ignore = makeFolderOf(path_);
     }
     QLockFile lock(lockPathOf(path_));
     acquire(lock, patience);

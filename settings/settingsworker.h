@@ -53,7 +53,7 @@ public:
     void change(quint64 number, const QString& key, const QJsonValue& value);
 
     // Writes what is outstanding. True when all of it is in the file.
-    bool flush(QDeadlineTimer deadline);
+    [[nodiscard]] bool flush(QDeadlineTimer deadline);
 
     // The owner's changes up to this one are in the file. Call it on any thread.
     quint64 written() const { return written_; }

@@ -15,6 +15,6 @@ namespace morrowleaf {
 // The quotation in a body: JSON of many shapes, an element of an array being
 // drawn by `random`, or else a plain text of fewer than 600 user-perceived
 // characters. Nothing where there is none. Any thread.
-std::optional<Quote> parseQuote(QByteArrayView body, const RandomIndex& random);
+[[nodiscard]] std::optional<Quote> parseQuote(QByteArrayView body, const RandomIndex& random);
 
 } // namespace morrowleaf

@@ -22,18 +22,18 @@ struct SourceAddress {
 // path as it stands ("#", "?" and "%20" are part of the name); a "file" address
 // names a local file too. std::nullopt for blanks, and for an address that is
 // malformed, has no scheme or another one, or names no host.
-std::optional<SourceAddress> sourceAddress(const QString& source);
+[[nodiscard]] std::optional<SourceAddress> sourceAddress(const QString& source);
 
 // The bytes that a source gives: a file's content, or the decoded body of an
 // answer from the web. std::nullopt if it cannot be loaded, is longer than
 // `limit` bytes, or `stop` is requested meanwhile. Blocks, as long as the
 // kernel or the resolver does; call it on a thread that may be kept for ever.
-std::optional<QByteArray> loadSource(const QString& source, qsizetype limit,
-                                     const std::stop_token& stop);
+[[nodiscard]] std::optional<QByteArray> loadSource(const QString& source, qsizetype limit,
+                                                   const std::stop_token& stop);
 
 // The same for the regular file at `path`. Pipes, devices, sockets and folders
 // are refused at once.
-std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
-                                        const std::stop_token& stop);
+[[nodiscard]] std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
+                                                      const std::stop_token& stop);
 
 } // namespace morrowleaf

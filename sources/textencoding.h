@@ -20,6 +20,6 @@ QString decodeUtf8(QByteArrayView bytes);
 // byte order mark or by the places of its first zero bytes; without the mark.
 // std::nullopt if UTF-16 or UTF-32 is ill-formed (UTF-8 is not checked here).
 // The view is of `body` or of `buffer`, whichever was needed.
-std::optional<QByteArrayView> jsonAsUtf8(QByteArrayView body, QByteArray& buffer);
+[[nodiscard]] std::optional<QByteArrayView> jsonAsUtf8(QByteArrayView body, QByteArray& buffer);
 
 } // namespace morrowleaf

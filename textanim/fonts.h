@@ -63,6 +63,6 @@ struct FontNames {
 
 // Reads an OpenType `name` table; std::nullopt when it holds no PostScript name.
 // Malformed tables are safe.
-std::optional<FontNames> readNameTable(const QByteArray& table);
+[[nodiscard]] std::optional<FontNames> readNameTable(const QByteArray& table);
 
 } // namespace morrowleaf

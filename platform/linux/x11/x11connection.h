@@ -35,7 +35,7 @@ xcb_window_t selectionOwner(const char* selection);
 bool hasCompositor();
 
 // The 32-bit values of a property, at most 1024; std::nullopt where it is not set.
-std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name);
+[[nodiscard]] std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name);
 void setCardinal(xcb_window_t window, const char* name, quint32 value);
 
 // The server's time in milliseconds, on the clock of event time stamps; 0 on
