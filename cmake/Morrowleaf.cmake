@@ -30,7 +30,8 @@ target_include_directories(morrowleaf_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(morrowleaf_options INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion>)
 target_compile_definitions(morrowleaf_options INTERFACE
-  QT_NO_CAST_FROM_BYTEARRAY QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH)
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH)
 if(MORROWLEAF_SANITIZE)
   target_compile_options(morrowleaf_options INTERFACE
     -fsanitize=${MORROWLEAF_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
