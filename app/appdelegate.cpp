@@ -118,7 +118,7 @@ void AppDelegate::present(bool preview, bool editing) {
             handleLoss(lost);
         }
     };
-    // Queued, because the sender is still at work.
+    // Queued, because the sender may still be executing.
     connect(&window->overlay(), &OverlayWindow::lost, this, handleThisLoss, Qt::QueuedConnection);
     connect(window.get(), &QuoteWindow::closed, this, handleThisLoss, Qt::QueuedConnection);
     window->orderFront();
@@ -159,7 +159,7 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
     auto* inspector = new Inspector(services_.store, services_.photos,
                                     *services_.platform.fileChooser, setup, &screen);
     connect(inspector, &Inspector::done, this, [this] { dismiss(true); });
-    // The dialog can come in front of the window only while that is lowered.
+    // A dialog can come in front of the window only while the window is lowered.
     connect(inspector, &Inspector::dialogOpening, &overlay,
             [&overlay] { overlay.setLevel(WindowLevel::Normal); });
     connect(inspector, &Inspector::dialogClosed, &overlay,
@@ -167,8 +167,8 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
     screen.setInspector(inspector);
 }
 
-// Finds out what can be shown behind the window. The desktop is captured only
-// where its picture is needed: for the glass, or to fade over it.
+// Finds out what can be shown behind the window. Captures the desktop only if its picture
+// is needed, for the glass or for the fade.
 Behind AppDelegate::captureBehind(QuoteWindow& window, QScreen& screen, bool editing) {
     const SeeThrough through = window.overlay().seeThrough();
     const bool looksThrough = editing || services_.store.get(K::transparency) > 0;
@@ -199,7 +199,7 @@ Behind AppDelegate::captureBehind(QuoteWindow& window, QScreen& screen, bool edi
 
 void AppDelegate::dismiss(bool animated) {
     autoDismiss_.reset();
-    // It may be the monitor's own signal that leads here.
+    // The monitor's own signal may have led here.
     if (EventMonitor* monitor = monitor_.release()) {
         QCoreApplication::instance()->removeEventFilter(monitor);
         monitor->deleteLater();
@@ -231,7 +231,7 @@ void AppDelegate::removeWindow(const QuoteWindow* window) {
         return;
     }
     (*found)->orderOut();
-    found->release()->deleteLater(); // a call from within it may have led here
+    found->release()->deleteLater(); // a function of the window may be the caller
     fadingOut_.erase(found);
     if (!window_ && fadingOut_.empty()) {
         emit showingEnded();

@@ -24,36 +24,36 @@ class QuoteScreen;
 struct Behind;
 struct Services;
 
-// The controller: decides when the quotation is shown and when it goes away,
-// and owns the windows, the menu's actions and the status item.
+// The controller: decides when the quotation is shown and closed, and owns the windows,
+// the menu's actions and the status item. Main thread.
 class AppDelegate : public QObject {
     Q_OBJECT
 
 public:
-    // `services` outlive the controller.
+    // `services` must outlive the controller.
     explicit AppDelegate(const Services& services);
     ~AppDelegate() override;
 
-    // Does everything of a launch except opening the first window. Call it when
-    // the launch was asked for something else.
+    // Does everything that belongs to a launch except opening the first window. Call this
+    // instead of applicationDidFinishLaunching() when a request will decide what opens.
     void prepare();
     // Prepares, then opens the settings window when "--settings" is among the
     // arguments, and shows the quotation otherwise.
     void applicationDidFinishLaunching(const QStringList& arguments);
 
-    // Shows the quotation on the main screen, in place of an earlier showing;
-    // does nothing while there is no screen. A click, a key or time ends the
-    // showing; with `editing`, Escape or the editor does; with `preview`, only
-    // the next call does.
+    // Shows the quotation on the main screen and ends an earlier showing first. Does
+    // nothing more while no monitor is on. A click, a key or the automatic close ends the
+    // showing; with `editing`, only Escape or the editor's button does; with `preview`,
+    // only the next call of present() does.
     void present(bool preview, bool editing);
-    // Ends the showing, if there is one, with or without a fade.
+    // Ends the current showing, if any, with a fade if `animated`.
     void dismiss(bool animated);
 
-    // Null while nothing is shown; a window that fades out no longer counts.
+    // Null while nothing is shown; a window that is fading out does not count.
     const QuoteWindow* window() const { return window_.get(); }
-    // Null until first opened.
+    // Null until the settings are first opened.
     const QWidget* settingsWindow() const { return settingsWindow_.get(); }
-    // Null until there is a panel to hold it.
+    // Null until the desktop has a tray.
     const StatusItem* statusItem() const { return statusItem_.get(); }
 
 public slots:
@@ -79,7 +79,7 @@ private:
     std::unique_ptr<QuoteWindow> window_;
     std::unique_ptr<EventMonitor> monitor_;
     Task autoDismiss_;
-    double lastShown_ = -std::numeric_limits<double>::infinity(); // of the timing's now()
+    double lastShown_ = -std::numeric_limits<double>::infinity(); // seconds, by now() of the timing
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<SettingsWindow> settingsWindow_;
     std::vector<std::unique_ptr<QuoteWindow>> fadingOut_;

@@ -38,7 +38,7 @@ constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 constexpr int requestPatience = 1500; // milliseconds
 
-// Prints one line. These modes work without a display.
+// Runs a mode that prints one line and needs no display.
 void runLineMode(int& argc, char** argv, Mode mode) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
@@ -61,7 +61,7 @@ LaunchRequest launchRequest(const QStringList& arguments) {
 
 void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
     if (!request.activationToken.isEmpty()) {
-        // Qt takes it from there for the next window.
+        // Qt applies the token to the next window that it shows.
         qputenv(activationToken, request.activationToken.toUtf8());
     }
     if (request.action == "settings"_L1) {
@@ -75,8 +75,8 @@ void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
     }
 }
 
-// Begins with what the arguments ask for; where the bus started the program,
-// with the request that follows at once instead.
+// Starts with what the arguments ask for or, if the bus started the program, with the
+// request that follows at once.
 void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& arguments) {
     const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
     qunsetenv(startedByBus);
@@ -100,14 +100,14 @@ void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& 
     }
 }
 
-// Runs from the making of the application object to its end.
+// Creates everything that needs the application object and runs until the program quits.
 int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& workers,
                  const QStringList& arguments) {
     Platform platform = makePlatform(windowSystem);
     if (!platform.instance->claim(launchRequest(arguments))) {
         return 0;
     }
-    // exit(), since quit() asks the windows first, which is for documents.
+    // exit(), because quit() asks all windows to close first.
     const auto quit = [] { QCoreApplication::exit(0); };
     QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, &app, quit);
     followColorScheme(*platform.colorScheme);
@@ -134,8 +134,8 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
     return QApplication::exec();
 }
 
-// Runs as the program of the desktop until the user quits, or hands the
-// arguments to the instance that runs already.
+// Runs until the user quits, or passes the arguments to the instance that is already
+// running. Returns the exit status.
 int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
     const WindowSystem windowSystem = chooseWindowSystem();
     if (!isReachable(windowSystem)) {
@@ -147,7 +147,7 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
     QApplication::setApplicationName(u"Morrowleaf"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QThreadPool workers;
-    // One core stays free for drawing.
+    // Leaves one core free for drawing.
     workers.setMaxThreadCount(std::max(QThread::idealThreadCount() - 1, 1));
     const int status = runUntilQuit(app, windowSystem, workers, arguments);
     if (!workers.waitForDone(0)) {
@@ -183,7 +183,7 @@ int runApplication(int argc, char** argv) {
     for (int i = 0; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);
     }
-    // Qt would read, and refuse, arguments of its own.
+    // Hides the arguments from Qt, which would interpret some of them.
     int programName = argc > 0 ? 1 : 0;
     const Mode mode = modeFor(arguments);
     if (mode == Mode::Desktop) {

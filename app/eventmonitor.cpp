@@ -14,7 +14,7 @@ namespace morrowleaf {
 
 namespace {
 
-// Turning the volume down is no wish to see the quotation go.
+// A user who turns the volume down does not want to dismiss the quotation.
 bool operatesMachine(int key) {
     static constexpr std::array keys{Qt::Key_VolumeDown,
                                      Qt::Key_VolumeMute,
@@ -79,7 +79,8 @@ bool isTyping(const QKeyEvent& event) {
         return false;
     case 0:
     case Qt::Key_unknown:
-        // Qt has no names for the shifts of further levels and some machines' own keys.
+        // Qt has no names for higher-level shift keys and for special keys of some
+        // machines.
         return !event.text().isEmpty();
     default:
         return !operatesMachine(event.key());
@@ -90,7 +91,7 @@ bool isBefore(quint64 timestamp, quint32 since) {
     if (since == 0 || timestamp == 0) {
         return false;
     }
-    // The server's clock wraps every 49 days.
+    // The X server's clock wraps every 49 days.
     return static_cast<qint32>(static_cast<quint32>(timestamp) - since) < 0;
 }
 

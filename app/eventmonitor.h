@@ -12,20 +12,20 @@ namespace morrowleaf {
 // What ends a showing.
 enum class EndedBy {
     AnyInput, // the left or right mouse button, a touch, or a key
-    Escape,   // that key only, and a menu or dialog in front takes it first
+    Escape,   // the Escape key, unless a menu or a dialog is in front
 };
 
-// Watches the input of the whole program while it lives. An event that ends the
-// showing is announced by a signal and reaches nobody else.
+// Watches all input events of the program during its life. Consumes every event that ends
+// the showing and announces it by a signal. Main thread.
 //
-// Keys that are no typing do not count: a modifier or lock alone, and those
-// that operate the machine, such as for volume and brightness.
+// Modifier and lock keys alone do not end a showing, nor do keys that operate the
+// machine, such as those for volume and brightness.
 class EventMonitor : public QObject {
     Q_OBJECT
 
 public:
-    // `window` is that of the showing. Events with a time stamp before `since`
-    // are ignored (milliseconds that wrap at 32 bits; 0 ignores none).
+    // `window` is the window of the showing and must outlive this. Ignores events with a
+    // time stamp before `since`, in milliseconds that wrap at 32 bits; 0 ignores none.
     EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since);
 
 signals:

@@ -22,7 +22,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Screen readers take windows for what they are only by their role.
+// Screen readers recognise a window only by its role.
 QAccessibleInterface* speakingWindow(const QString& /*className*/, QObject* object) {
     auto* window = qobject_cast<QuoteWindow*>(object);
     return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
@@ -30,17 +30,16 @@ QAccessibleInterface* speakingWindow(const QString& /*className*/, QObject* obje
 
 } // namespace
 
-// Lies over everything in a window and lends the window an alpha, without the
-// help of the window system: all widgets of a window share one backing store,
-// and this one paints last.
+// Covers everything in a window and gives it an alpha without the window system: all
+// widgets of a window share one backing store, and this one paints last.
 class Veil : public QWidget {
 public:
     explicit Veil(QWidget* window);
 
-    // With `desktop` (device pixels of the whole window) the window stays
-    // opaque, and the picture shows through instead of what lies behind.
+    // With `desktop` (device pixels of the whole window) the window stays opaque, and this
+    // picture shows through instead of the real desktop.
     void setDesktop(const QImage& desktop);
-    // 0...1; at 1 the veil is out of the way.
+    // From 0 to 1; at 1 the veil is hidden.
     void setAlpha(double alpha);
     double alpha() const { return alpha_; }
 
@@ -83,11 +82,11 @@ void Veil::paintEvent(QPaintEvent* event) {
 }
 
 QuoteWindow::QuoteWindow(OverlayMaker& overlays, QScreen& screen, const OverlaySetup& setup) {
-    QAccessible::installFactory(speakingWindow); // ignores one that it knows
+    QAccessible::installFactory(speakingWindow); // a second installation has no effect
     setObjectName(u"QuoteWindow"_s);
     setWindowTitle(u"Morrowleaf"_s);
     overlay_ = overlays.make(*this, screen, setup);
-    // Every pixel comes from the content: nothing may be filled in before it.
+    // The content paints every pixel, so Qt must not fill in a background first.
     setAttribute(Qt::WA_NoSystemBackground);
     setAttribute(Qt::WA_OpaquePaintEvent, overlay_->seeThrough() == SeeThrough::No);
     veil_ = new Veil(this);
@@ -126,7 +125,7 @@ void QuoteWindow::fadeOut(Timing& timing, std::function<void()> done) {
     fade(timing, 0, fadeOutSeconds, easeIn, std::move(done));
 }
 
-// `curve` maps the elapsed fraction 0...1 to the share of the way.
+// `curve` maps the elapsed fraction of the time (0 to 1) to the fraction of the change.
 void QuoteWindow::fade(Timing& timing, double alpha, double seconds, double (*curve)(double),
                        std::function<void()> done) {
     const double from = this->alpha();
@@ -154,7 +153,7 @@ void QuoteWindow::resizeEvent(QResizeEvent* /*event*/) {
     veil_->setGeometry(rect());
 }
 
-// A window manager asks, or the program ends.
+// The window manager asks for it, or the program is ending.
 void QuoteWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     emit closed();

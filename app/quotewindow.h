@@ -12,8 +12,8 @@ namespace morrowleaf {
 
 class Veil;
 
-// The window of one showing: borderless, with an alpha of its own, its
-// content filling it. Nothing is on screen before orderFront().
+// The window of one showing: borderless, with an alpha of its own and filled by its
+// content. orderFront() maps it. Main thread.
 class QuoteWindow : public QWidget {
     Q_OBJECT
 
@@ -23,17 +23,17 @@ public:
 
     OverlayWindow& overlay() { return *overlay_; }
 
-    // Takes the content over.
+    // Takes ownership of `content`.
     void setContent(QWidget* content);
-    // What to fade over where the window cannot be seen through.
+    // What to fade over if the desktop does not show through the window.
     void setDesktop(const QImage& desktop); // device pixels of the whole window
 
-    // 0...1. The window system is not needed for it: the window's own pixels
-    // become translucent, or those of setDesktop() show through.
+    // From 0 to 1. Works without the window system: the window's own pixels become
+    // translucent, or those of setDesktop() show through.
     void setAlpha(double alpha);
     double alpha() const;
-    // Fades from the present alpha to 1, or to 0 and then calls `done`. Another
-    // fade, or orderOut(), ends it without a call.
+    // Fades from the current alpha to 1, or to 0 and then calls `done`. Another fade or
+    // orderOut() cancels a fade without calling `done`.
     void fadeIn(Timing& timing);
     void fadeOut(Timing& timing, std::function<void()> done);
 
@@ -41,7 +41,7 @@ public:
     void orderOut();
 
 signals:
-    void closed(); // from outside; it has left the screen
+    void closed(); // by the window manager or by Qt; the window has left the screen
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

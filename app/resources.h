@@ -7,9 +7,8 @@
 
 namespace morrowleaf {
 
-// The folder that came with the program, wherever it was put: beside an
-// installed binary, or the source tree's for one that was just built. Empty
-// when there is none. Call after the application object was made.
+// The folder of the program's resources: beside an installed binary, or in the source
+// tree for one that was just built. Empty if there is none. Needs an application object.
 QString resourceFolder();
 
 QString fontFolder();

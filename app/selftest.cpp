@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int days = 400;
 
-// `days` calendar days later, at the same local time.
+// The moment `count` calendar days later, at the same local time.
 Moment daysAfter(const Moment& moment, int count) {
     const QDateTime later = moment.local().addDays(count);
     if (!later.isValid()) {

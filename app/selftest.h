@@ -11,10 +11,10 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// Runs line balancing, the schedule and the palettes over what they will meet
-// in the 400 days from `now`, and writes one line, in UTF-8, to `out`. A
-// frequency that the user had chosen is lost. A date that cannot be reckoned
-// is a fatal error; there is no other failing outcome.
+// Runs line balancing, the schedule and the palettes over the built-in quotations and the
+// 400 days from `now`, and writes one line in UTF-8 to `out`. Removes a quotation
+// frequency that the user has chosen. Ends the program (qFatal) on a date that cannot be
+// represented; it never fails otherwise.
 void selftest(SettingsStore& store, std::FILE* out = stdout, const Moment& now = Moment::now());
 
 } // namespace morrowleaf

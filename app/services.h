@@ -16,8 +16,8 @@ struct Platform;
 class SettingsStore;
 class Timing;
 
-// What lives as long as the program. It is made once, at the start, and passed
-// by reference within this room; the rooms below take from it what they need.
+// The objects that live as long as the program. Created once, at the start, and passed by
+// reference within this room; the rooms below take from it what they need.
 struct Services {
     SettingsStore& store;
     const FontBook& fonts;
@@ -25,7 +25,7 @@ struct Services {
     QuoteLoader loader; // loads one source, as the user typed it
     Platform& platform;
     Timing& timing;
-    FrameClock& frames; // of what moves on the quote screen, and of the timing
+    FrameClock& frames; // drives the quote screen and the animations of `timing`
     Clock clock = [] { return Moment::now(); };
     RandomIndex random = secureRandomIndex();
 };

@@ -38,13 +38,14 @@ SettingsWindow::SettingsWindow(QWidget* view)
 
 void SettingsWindow::place(const QRect& available) {
     available_ = available;
-    // No frame is there yet; one with a title bar of the usual height will be.
+    // The frame does not exist yet; assume a title bar of the usual height.
     moveIntoPlace(size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
 }
 
 void SettingsWindow::bringToFront() {
     if (isVisible() && !isActiveWindow()) {
-        // It may be on another workspace; shown anew, it comes up on this one.
+        // The window may be on another workspace; hiding it first makes it appear on this
+        // one.
         hide();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -56,7 +57,7 @@ void SettingsWindow::bringToFront() {
 void SettingsWindow::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     if (!available_.isEmpty()) {
-        // On screen, so the frame is known.
+        // The window is on screen now, so the size of its frame is known.
         QTimer::singleShot(0, this, [this] {
             moveIntoPlace(frameGeometry().size());
             available_ = {};

@@ -8,19 +8,19 @@
 
 namespace morrowleaf {
 
-// The window around the settings view: titled, closable, above ordinary
-// windows, as large as the view. Closing hides it and never ends the program.
+// The window around the settings view: titled, closable, above ordinary windows, of the
+// size of the view. Closing hides it and does not end the program.
 class SettingsWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit SettingsWindow(QWidget* view);
 
-    // Where it belongs in the part of a screen that panels leave free; to be
-    // said before it is first shown.
+    // Places the window in `available`, the part of a screen that panels leave free, in
+    // points. Call before it is first shown.
     void place(const QRect& available);
 
-    // Comes to the front, also out of an icon, and takes the keyboard.
+    // Restores the window if it is minimized, raises it and activates it.
     void bringToFront();
 
 protected:
@@ -29,12 +29,12 @@ protected:
 private:
     void moveIntoPlace(const QSize& frame);
 
-    QRect available_; // empty once it stands where it belongs
+    QRect available_; // empty once the window has been placed
 };
 
-// Where the top left corner of the window with its frame belongs in the part
-// of the screen that panels leave free: near the left edge, the bottom 400
-// points below the middle, moved as little as needed to lie whole in there.
+// The position of the top left corner of a window whose frame has the size `frame`: near
+// the left edge of `available`, its bottom 400 points below the middle, moved as little
+// as needed to lie inside. All in points.
 QPoint settingsWindowOrigin(const QRect& available, const QSize& frame);
 
 } // namespace morrowleaf

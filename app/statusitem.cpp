@@ -21,8 +21,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Panels ask for one of these; each is drawn from the drawing that was fitted
-// to its pixel grid.
+// The sizes that panels ask for, each with the drawing that fits its pixel grid.
 struct Size {
     int pixels;
     QLatin1StringView drawing;
@@ -47,7 +46,7 @@ QPixmap drawSymbol(const Size& size, const QColor& colour) {
     return pixmap;
 }
 
-// In one colour; empty when the files of the symbol are missing.
+// The symbol in one colour; null if its files are missing.
 QIcon symbolIn(const QColor& colour) {
     QIcon icon;
     for (const Size& size : sizes) {
@@ -59,9 +58,9 @@ QIcon symbolIn(const QColor& colour) {
     return icon;
 }
 
-// In a tone that can be read on the panels of this desktop.
+// The symbol in a colour that is legible on the panels of this desktop.
 QIcon panelSymbol() {
-    // Where the symbol is installed the panel tints it itself.
+    // KDE and GNOME tint an installed symbolic icon themselves.
     QIcon themed = QIcon::fromTheme(u"org.morrowleaf.Morrowleaf-symbolic"_s);
     const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
     if (!themed.isNull() && (desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1))) {
@@ -70,7 +69,7 @@ QIcon panelSymbol() {
     return symbolIn(QGuiApplication::palette().color(QPalette::WindowText));
 }
 
-// A menu without a parent window can be placed on X11 only.
+// Only X11 can place a menu that has no parent window.
 bool canPopUpAnywhere() {
     return !QGuiApplication::platformName().startsWith("wayland"_L1);
 }

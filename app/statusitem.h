@@ -11,19 +11,19 @@ namespace morrowleaf {
 
 struct MenuActions;
 
-// The program's symbol in the panel, with its menu. Make it only while a panel
-// is present: Qt looks for one once, when the first item is made.
+// The program's symbol in the tray, with its menu. Create it only while a tray is
+// present: Qt looks for one only once, when the first item is created.
 class StatusItem : public QObject {
     Q_OBJECT
 
 public:
-    // `actions` outlive the item.
+    // `actions` must outlive the item.
     explicit StatusItem(MenuActions& actions);
 
     const QMenu& menu() const { return menu_; }
 
 protected:
-    // Follows the desktop when it turns dark or light.
+    // Redraws the symbol when the desktop changes between light and dark.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -16,7 +16,7 @@ namespace morrowleaf {
 
 namespace {
 
-// The first frames of a new window may take long; they count as this much at most.
+// The first frames of a new window may take long; each counts as this much at most.
 constexpr double longestFirstFrames = 0.05; // seconds
 constexpr int firstFrames = 3;
 
@@ -58,7 +58,7 @@ private:
     double seconds_;
     std::function<void(double)> step_;
     std::function<void()> done_;
-    std::optional<double> last_; // of the clock, at the frame before
+    std::optional<double> last_; // of the clock, at the previous frame
     double elapsed_ = 0;
     int frame_ = 0;
 };
@@ -73,7 +73,7 @@ public:
     Task after(double seconds, std::function<void()> what) override {
         auto* timer = new QTimer;
         timer->setSingleShot(true);
-        timer->setTimerType(Qt::PreciseTimer); // others may be early by a twentieth
+        timer->setTimerType(Qt::PreciseTimer); // coarse timers may fire 5 % too early
         QObject::connect(timer, &QTimer::timeout, timer, std::move(what));
         constexpr double longest = 2e6; // seconds that a timer's milliseconds can hold
         timer->start(static_cast<int>(std::lround(std::min(seconds, longest) * 1000)));
@@ -92,7 +92,7 @@ private:
 } // namespace
 
 void EndTask::operator()(QObject* task) const {
-    // It may be running at this moment.
+    // The task may be executing at this moment.
     task->blockSignals(true);
     task->deleteLater();
 }

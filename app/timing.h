@@ -13,27 +13,26 @@ namespace morrowleaf {
 struct EndTask {
     void operator()(QObject* task) const;
 };
-// Something that will happen. Destroying it cancels it, even from within its
-// own call.
+// A pending call or a running animation. Destroying it cancels it, even from within one
+// of its own calls.
 using Task = std::unique_ptr<QObject, EndTask>;
 
 class FrameClock;
 
-// The time of the main thread, on which all calls are made: what happens later,
-// and what moves meanwhile.
+// Time on the main thread: delayed calls and animations. All calls are made there.
 class Timing {
 public:
     virtual ~Timing() = default;
     Timing(const Timing&) = delete;
     Timing& operator=(const Timing&) = delete;
 
-    // Seconds since a fixed moment, including those asleep.
+    // Seconds since a fixed moment, including those that the machine has slept.
     virtual double now() const = 0;
     // Calls `what` once after `seconds`.
     virtual Task after(double seconds, std::function<void()> what) = 0;
-    // Calls `step` in every frame with the elapsed fraction of `seconds`, the
-    // last time with 1, then `done`. It begins with the first frame, so that a
-    // slow start does not shorten it.
+    // Calls `step` in every frame with the elapsed fraction of `seconds`, at last with 1,
+    // and then `done`. The time starts with the first frame, so that a slow start does not
+    // shorten the animation.
     virtual Task animate(double seconds, std::function<void(double)> step,
                          std::function<void()> done) = 0;
 
@@ -41,8 +40,8 @@ protected:
     Timing() = default;
 };
 
-// Animates with the frames of `frames`, which outlives it: what else moves with
-// that clock is repainted together with the animation.
+// Animates on the frames of `frames`, which must outlive the result; whatever else uses
+// that clock is repainted in the same frame.
 std::unique_ptr<Timing> makeSystemTiming(FrameClock& frames);
 
 } // namespace morrowleaf

@@ -21,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// What follows the last point of a name, unless that is its first character.
+// The part after the last dot of a name, unless that dot is its first character.
 QString extensionOf(const QString& fileName) {
     const qsizetype point = fileName.lastIndexOf(u'.');
     return point > 0 ? fileName.mid(point + 1) : QString();
@@ -113,7 +113,7 @@ QStringList BGStore::builtins() const {
             names.append(name);
         }
     }
-    // By code points; UTF-8 sorts like them.
+    // Sorts by code points; UTF-8 has the same order.
     std::sort(names.begin(), names.end(),
               [](const QString& a, const QString& b) { return a.toUtf8() < b.toUtf8(); });
     for (QString& name : names) {

@@ -21,36 +21,36 @@ namespace morrowleaf {
 class SettingsStore;
 class PhotoImport;
 
-// The folder of the user's own photos. Ends the program (qFatal) on a system
-// without a folder for application data.
+// The folder of the user's own photos. Ends the program (qFatal) if the system has no
+// folder for application data.
 QString ownPhotoFolder();
 
-// The photos that can be chosen: those shipped with the program and up to
-// three of the user's own. A photo is named by its absolute path. Main thread.
+// The photos that the user can choose: those shipped with the program and up to three of
+// the user's own. A photo is identified by its absolute path. Main thread.
 class BGStore {
 public:
     static constexpr int limit = 3;
 
-    // `workers` copy and decode, and must outlive the store. The program passes
-    // a pool of its own: Qt paints with the global one, and would wait for a photo.
+    // `workers` copy and decode photos and must outlive the store. The program passes a
+    // pool of its own: Qt paints with the global one and would wait for a photo.
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
             QThreadPool& workers = *QThreadPool::globalInstance());
-    // An unfinished add leaves no file, and `done` is not called.
+    // Destroys the copy of an unfinished add() and does not call `done`.
     ~BGStore();
 
-    // Copies an image file into the own photos and lists it. `done` is called
-    // later, on this thread, with the new path, or with std::nullopt when the
-    // list is full, the copy fails or the file is not an image that can be shown.
+    // Copies an image file to the folder of own photos and adds it to the list. Calls
+    // `done` later, on this thread, with the new path, or with std::nullopt if the list is
+    // full, the copy fails or the file is not an image that can be decoded.
     void add(const QString& sourcePath, std::function<void(std::optional<QString>)> done);
-    // Deletes the file and removes the photo from the list and, if it was
-    // chosen, from the settings. Ignores errors.
+    // Deletes the file and removes the photo from the list and, if it is chosen, from the
+    // settings. Ignores errors.
     void remove(const QString& path);
-    // The built-in photos by file name, listed anew at every call.
+    // The built-in photos, sorted by file name. Reads the folder at every call.
     QStringList builtins() const;
-    // The same object at every call while the photo is readable; null if not.
+    // Returns the same object at every call while the photo is readable, else null.
     std::shared_ptr<const Photo> image(const QString& path);
-    // Records that decoding failed: image() gives null until the file at that
-    // path changes.
+    // Records that decoding failed: image() returns null until the file at that path
+    // changes.
     void markUnreadable(const QString& path);
     // For decoding photos.
     QThreadPool& workers() const { return workers_; }
@@ -71,7 +71,7 @@ private:
     QHash<QString, std::shared_ptr<const Photo>> cache_;
     QHash<QString, FileStamp> unreadable_;
     std::unique_ptr<PhotoImport> import_;
-    QObject context_; // of refusals, which are posted
+    QObject context_; // of queued calls
 };
 
 } // namespace morrowleaf

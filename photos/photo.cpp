@@ -15,15 +15,15 @@
 namespace morrowleaf {
 namespace {
 
-// A photo's header ends long before this. Photos are inspected on the main
-// thread, which must not read without end.
+// Far beyond any photo's header. Photos are inspected on the main thread, which must not
+// read without a limit.
 constexpr PhotoFile::Bounds headerBounds{std::chrono::seconds(2), Q_INT64_C(64) << 20};
 
-// Pixels, where the size that will be shown is not known yet.
+// Pixels; used while the size to show is not known yet.
 constexpr QSize largestShown(3840, 2160);
 
-// Qt's limit does not know at what size a photo is decoded and would refuse
-// ordinary ones; decodeBytes() is checked before any decoding instead.
+// Raises Qt's limit, which ignores the size at which a photo is decoded and would reject
+// ordinary photos. decodeBytes() is checked before decoding instead.
 void liftDecoderLimit() {
     static std::once_flag once;
     std::call_once(once, [] { QImageReader::setAllocationLimit(int(photoMemoryLimit >> 20)); });
@@ -41,7 +41,7 @@ QImage read(QImageReader& reader, const PhotoHeader& header, const QSize& target
     if (whole.isNull()) {
         return {};
     }
-    // The header may have declared another size.
+    // The size in the header may be wrong.
     const QRect part = fillingCrop(whole.size(), target);
     return whole.copy(part).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

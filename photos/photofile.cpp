@@ -17,8 +17,8 @@
 namespace morrowleaf {
 namespace {
 
-// Pixels only: no vector or page formats, whose cost cannot be estimated and
-// whose readers may start other programs.
+// Pixels only: the cost of vector and page formats cannot be estimated, and their readers
+// may start other programs.
 bool isPixelFormat(const QByteArray& format) {
     static constexpr std::array known{"jpeg", "png",  "webp", "tiff", "bmp", "gif", "heif", "heic",
                                       "avif", "avci", "jxl",  "jp2",  "ico", "tga", "icns", "hdr",
@@ -154,7 +154,7 @@ std::optional<PhotoHeader> readPhotoHeader(PhotoFile& file, QImageReader& reader
     const QImage::Format format = reader.imageFormat();
     if (format != QImage::Format_Invalid) {
         const int bits = QImage::toPixelFormat(format).bitsPerPixel();
-        // Scaling turns narrow pixels into wide ones first.
+        // Narrow pixels are converted to wide ones before scaling.
         header.bytesPerPixel = bits >= 32 ? bits / 8 : 4 + (bits + 7) / 8;
     }
     header.wholeInMemory = !jpeg || manyScans;
@@ -174,14 +174,14 @@ qint64 decodeBytes(const PhotoHeader& header, const QSize& target) {
     const auto area = [](const QSize& s) { return qint64(s.width()) * s.height(); };
     const qint64 result = area(target) * 4;
     if (header.format != "jpeg") {
-        // Some formats can declare more pixels than 64 bits can count the bytes of.
+        // Some formats can declare so many pixels that the number of bytes overflows.
         qint64 whole = 0;
         const bool countless = qMulOverflow(area(header.size), header.bytesPerPixel, &whole) ||
                                qAddOverflow(whole, result, &whole);
         return countless ? std::numeric_limits<qint64>::max() : whole;
     }
-    // A JPEG is read at an eighth, a quarter or half of its size where that
-    // suffices; one in several scans is first held whole, as coefficients.
+    // A JPEG is decoded at an eighth, a quarter or half of its size if that suffices; one
+    // with several scans is first held in memory as coefficients.
     const QSize crop = fillingCrop(header.size, target).size();
     const int ratio = std::min(crop.width() / target.width(), crop.height() / target.height());
     const int denominator = ratio < 2 ? 1 : ratio < 4 ? 2 : ratio < 8 ? 4 : 8;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qint64 pieceSize = 1 << 20; // bytes
 
-// Small and quick, yet it shows whether there are pixels behind the header.
+// Quick to decode, yet it shows whether the file contains pixels.
 constexpr QSize trialSize(192, 108);
 
 bool copyBytes(QFile& from, QFile& to, const std::stop_token& stop) {
@@ -40,8 +40,8 @@ bool isUsable(const QString& path) {
     return photo && !photo->decodeFilling(trialSize).isNull();
 }
 
-// Inspects the source before copying it, so that a huge file that is no
-// picture is not copied; but only the copy can be trusted.
+// Inspects the source before copying it, so that a huge file that is not a picture is not
+// copied. The copy decides, because the source may have changed.
 bool importPhoto(const QString& source, const QString& destination, std::mutex& copying,
                  const std::stop_token& stop) {
     if (!inspectPhoto(source)) {
@@ -67,7 +67,7 @@ PhotoImport::PhotoImport(QThreadPool& workers)
 
 PhotoImport::~PhotoImport() {
     job_ = {};
-    // From here on the worker makes no copy any more.
+    // The worker makes no copy once it has seen the request to stop.
     const std::scoped_lock stopped(*copying_);
     if (!requests_.empty()) {
         QFile::remove(requests_.front().destination);

@@ -17,10 +17,9 @@ class QThreadPool;
 
 namespace morrowleaf {
 
-// Copies photos on a thread of a pool, one after the other, and checks that
-// they can be decoded. Destroying it removes what has not been reported; that
-// waits for the copying to stop (at most for one piece of a file), not for a
-// decoder.
+// Copies photos on a thread of a pool, one after the other, and checks that they can be
+// decoded. The destructor removes copies that have not been reported; it waits for the
+// copying to stop (for one piece of a file at most), but not for a decoder. Main thread.
 class PhotoImport {
 public:
     using Done = std::function<void(bool)>;
@@ -30,8 +29,8 @@ public:
     PhotoImport(const PhotoImport&) = delete;
     PhotoImport& operator=(const PhotoImport&) = delete;
 
-    // Copies `source` to the new file `destination`. `done` is called later, on
-    // this thread; on false there is no copy.
+    // Copies `source` to the new file `destination`. Calls `done` later, on this thread;
+    // false means that no copy exists.
     void start(const QString& source, const QString& destination, Done done);
 
 private:
@@ -45,15 +44,14 @@ private:
     void finish(bool copied);
 
     QThreadPool& workers_;
-    std::deque<Request> requests_; // the first is being worked on
+    std::deque<Request> requests_; // the first one is in progress
     std::shared_ptr<std::mutex> copying_ = std::make_shared<std::mutex>(); // held by the worker
     Job job_;
 };
 
-// Copies a regular file byte for byte to a new file. On failure, and where
-// `stop` is requested on the way, returns false and leaves no copy. Where
-// something exists at `destination` already, that is a failure and it is left
-// alone. Any thread.
+// Copies a regular file byte for byte to a new file. Returns false and leaves no copy on
+// failure or if `stop` is requested. An existing file at `destination` is a failure and
+// stays untouched. Any thread.
 [[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
                                  const std::stop_token& stop);
 

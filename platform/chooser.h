@@ -7,8 +7,7 @@
 
 namespace morrowleaf {
 
-// How windows come onto the screen. The values are the backend's own; other
-// rooms only pass them on.
+// How windows are shown. The values belong to the backend; other rooms only pass them on.
 enum class WindowSystem : int;
 
 // Inspects the session and prepares the environment for the result. Call
@@ -19,7 +18,7 @@ WindowSystem chooseWindowSystem();
 // application object is created: without a server Qt aborts the process.
 bool isReachable(WindowSystem system);
 
-// Call after the application object was created.
+// Creates all parts. Call after the application object was created.
 Platform makePlatform(WindowSystem system);
 
 // The login item of makePlatform(); unlike the rest it needs no application object.

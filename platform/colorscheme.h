@@ -9,14 +9,14 @@ namespace morrowleaf {
 
 enum class ColorPreference { None, Light, Dark };
 
-// The user's preference for light or dark programs. Main thread.
+// The user's preference for light or dark colours. Main thread.
 class ColorScheme : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    // None until the desktop has answered, and where it has no preference.
+    // None before the desktop has answered, and if it has no preference.
     virtual ColorPreference preference() const = 0;
 
 signals:

@@ -12,7 +12,7 @@ namespace morrowleaf {
 
 struct FileQuestion {
     QString title;         // of the dialog
-    QString kindName;      // of the files to choose from, such as "Images"
+    QString kindName;      // of the files to choose from, for example "Images"
     QStringList mimeTypes; // of these files
 };
 
@@ -26,7 +26,7 @@ struct FileAnswer {
     QString path;
 };
 
-// One question on its way. It deletes itself after it was answered.
+// A question that has not been answered yet. Deletes itself after the answer.
 class FileRequest : public QObject {
     Q_OBJECT
 
@@ -45,8 +45,8 @@ public:
     FileChooser(const FileChooser&) = delete;
     FileChooser& operator=(const FileChooser&) = delete;
 
-    // Opens a dialog that belongs to `window` and returns at once. Destroying
-    // `window` closes the dialog without an answer.
+    // Opens a dialog that belongs to `window` and returns at once. Destroying `window`
+    // closes the dialog without an answer. Returns the request, never null.
     virtual FileRequest* ask(QWidget& window, const FileQuestion& question) = 0;
 
 protected:

@@ -9,14 +9,14 @@
 
 namespace morrowleaf {
 
-// Registers the program to be started when the user logs in. Reads and writes
-// small files at once; needs no application object.
+// Registers the program to be started when the user logs in. Reads and writes small files
+// synchronously; needs no application object. Main thread.
 class LoginItem {
 public:
     enum class Status {
         NotRegistered,
         Enabled,
-        RequiresApproval, // registered, but something keeps it from being started
+        RequiresApproval, // registered, but disabled or not able to start
     };
 
     virtual ~LoginItem() = default;

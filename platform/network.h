@@ -26,7 +26,7 @@ public:
 
     // Shuts down every later TCP connection of the process that has received
     // more than `limit` bytes. Returns whether there was one; always false
-    // where the system does not count.
+    // if the system does not count.
     bool end(std::uint64_t limit) const;
 
 private:

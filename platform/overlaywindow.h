@@ -12,7 +12,7 @@ class QWidget;
 
 namespace morrowleaf {
 
-// How high a window stands among those of the desktop.
+// The height of a window in the desktop's stacking order.
 enum class WindowLevel {
     Normal,      // among ordinary windows
     ScreenSaver, // above panels, docks and the windows of all other programs
@@ -21,7 +21,7 @@ enum class WindowLevel {
 // The input that an overlay takes while it is in front.
 enum class InputHold {
     FocusOnly,        // keyboard focus, without any grab
-    KeyboardIfNeeded, // keyboard focus; a keyboard grab where the focus does not stay otherwise
+    KeyboardIfNeeded, // keyboard focus; also a keyboard grab if the focus does not stay
     KeyboardAndMouse, // keyboard focus and a grab of both devices
 };
 
@@ -30,10 +30,10 @@ struct OverlaySetup {
     InputHold hold = InputHold::KeyboardAndMouse;
 };
 
-// What shows through pixels of the window that are not opaque.
+// What is visible through pixels of the window that are not opaque.
 enum class SeeThrough {
-    No,      // nothing: paint every pixel opaque
-    Plain,   // the desktop behind
+    No,      // nothing; paint every pixel opaque
+    Plain,   // the desktop behind the window
     Blurred, // the same, blurred by the compositor
 };
 
@@ -41,15 +41,15 @@ enum class SeeThrough {
 // on every workspace, in no task list or window switcher. It follows the size
 // of the screen. Main thread.
 //
-// Life: made (nothing is on screen yet), orderFront(), orderOut(), destroyed.
-// Destroying it orders the window out; the widget outlives it.
+// Order of calls: created (not mapped yet), orderFront(), orderOut(), destroyed. The
+// destructor orders the window out; the widget must outlive it.
 class OverlayWindow : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    // Constant during the life of the window.
+    // Constant during the life of this object.
     virtual SeeThrough seeThrough() const = 0;
     // Maps the window, raises it and takes focus and input as set up.
     virtual void orderFront() = 0;
@@ -61,12 +61,12 @@ public:
     // Releases all grabs until the next orderFront(); the window stays mapped.
     virtual void releaseInput() = 0;
     // When orderFront() was last called, on the clock of input events' time
-    // stamps: milliseconds that wrap at 32 bits. 0 where that is not known.
+    // stamps: milliseconds that wrap at 32 bits. 0 if that is unknown.
     virtual quint32 orderedFrontAt() const = 0;
 
 signals:
-    // The screen or the surface is gone for good. Possibly emitted from within
-    // orderFront(), so destroy the window later, not in the slot.
+    // The screen or the surface is gone for good. May be emitted from within orderFront(),
+    // so destroy the window later, not in the slot.
     void lost();
 };
 
@@ -76,8 +76,8 @@ public:
     OverlayMaker(const OverlayMaker&) = delete;
     OverlayMaker& operator=(const OverlayMaker&) = delete;
 
-    // `window` is a top-level widget that was never shown; it gets its flags,
-    // attributes, screen and geometry here.
+    // `window` is a top-level widget that was never shown and outlives the result; this
+    // sets its flags, attributes, screen and geometry.
     virtual std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
                                                 const OverlaySetup& setup) = 0;
 

@@ -8,10 +8,9 @@ class QString;
 
 namespace morrowleaf {
 
-// Opens the regular file at `path` for reading into `file`, unbuffered.
-// Returns false where no such file exists or it may not be read. Pipes, devices,
-// sockets and folders are rejected without blocking, which QFile::open() does
-// not guarantee. Any thread.
+// Opens the regular file at `path` for reading into `file`, unbuffered. Returns false if
+// there is no such file or it may not be read. Rejects pipes, devices, sockets and
+// folders without blocking, which QFile::open() does not guarantee. Any thread.
 [[nodiscard]] bool openRegularFile(QFile& file, const QString& path);
 
 } // namespace morrowleaf

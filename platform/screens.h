@@ -16,9 +16,8 @@ public:
     MainScreen(const MainScreen&) = delete;
     MainScreen& operator=(const MainScreen&) = delete;
 
-    // The screen of the window with keyboard focus. Where the desktop does not
-    // tell which that is, the screen of the pointer or the primary one. Null
-    // while no monitor is on.
+    // The screen of the window with keyboard focus. If the desktop does not report that
+    // window, the screen of the pointer or the primary screen. Null while no monitor is on.
     virtual QScreen* current() const = 0;
 
 protected:
@@ -32,9 +31,9 @@ public:
     DesktopPicture(const DesktopPicture&) = delete;
     DesktopPicture& operator=(const DesktopPicture&) = delete;
 
-    // The whole of `screen` at this moment, in device pixels and as
-    // QImage::Format_RGB32; null where the desktop does not allow it. Blocks
-    // for some tens of milliseconds, at most 250.
+    // The whole of `screen` in device pixels, as QImage::Format_RGB32; null if the desktop
+    // does not allow it. Blocks for some tens of milliseconds, on Wayland for at most about
+    // 250.
     virtual QImage capture(QScreen& screen) = 0;
 
 protected:

@@ -7,10 +7,9 @@
 
 namespace morrowleaf {
 
-// Tells when the user returns to the machine and when they leave it. While the
-// session is locked or inactive, or no monitor is on, the signals of a return
-// are held back; each kind that occurred meanwhile is emitted once when that
-// ends. Main thread.
+// Reports when the user returns to the machine and when they leave it. While the session
+// is locked or inactive, or no monitor is on, the signals of a return are held back; each
+// kind that occurred meanwhile is emitted once afterwards. Main thread.
 class SessionEvents : public QObject {
     Q_OBJECT
 
@@ -18,7 +17,7 @@ public:
     using QObject::QObject;
 
 signals:
-    // A return:
+    // Signals of a return:
     void didWake();                // the machine woke from sleep
     void sessionDidBecomeActive(); // the user switched back to this session
     void screenIsUnlocked();
@@ -27,7 +26,7 @@ signals:
     // every input grab, or the screen locker cannot take the input.
     void willLeave();
 
-    // The system asks the program to end.
+    // The system asks the program to quit.
     void quitRequested();
 };
 

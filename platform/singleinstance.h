@@ -8,7 +8,7 @@
 
 namespace morrowleaf {
 
-// What a launch asks of the running instance.
+// What a later launch asks of the running instance.
 struct LaunchRequest {
     QString action;          // "show", "settings", "edit-appearance" or "quit"
     QString activationToken; // lets a window come to the front; may be empty
@@ -21,10 +21,10 @@ class SingleInstance : public QObject {
 public:
     using QObject::QObject;
 
-    // True: this process is the instance from now on. False: another one is; it
-    // has received `request`, or it does not answer, and this process should
-    // end. True as well where neither can be found out. Call once, at launch:
-    // it blocks for some seconds where the other instance is slow to answer.
+    // Returns true if this process is the instance from now on, and also if that cannot be
+    // determined. Returns false if another process is: it has received `request` or does
+    // not answer, and this process should end. Call once, at launch; blocks for some
+    // seconds if the other instance answers slowly.
     [[nodiscard]] virtual bool claim(const LaunchRequest& request) = 0;
 
 signals:

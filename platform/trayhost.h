@@ -7,8 +7,8 @@
 
 namespace morrowleaf {
 
-// Tells whether a panel shows status items. Qt decides once whether a tray
-// exists, so create a status item only after this says so. Main thread.
+// Reports whether the desktop has a tray for status items. Qt looks for a tray only once,
+// so create a status item only after isPresent() or appeared(). Main thread.
 class TrayHost : public QObject {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     virtual bool isPresent() const = 0;
 
 signals:
-    // A host came up that does not know any item of this program: create it anew.
+    // A new host does not know the items of this program: create them again.
     void appeared();
 };
 

@@ -8,10 +8,10 @@
 
 namespace morrowleaf {
 
-// Files that are read and replaced as a whole. Call these on any thread. None
-// waits for another process, but a file system that hangs holds them up.
+// Reading and replacing files as a whole. Any thread. No function waits for another
+// process, but each blocks as long as the file system does.
 
-// Tells whether a file is still the one that was read.
+// Identifies the version of a file, to detect that another one has replaced it.
 struct FileMark {
     bool exists = false;
     quint64 device = 0;
@@ -25,10 +25,10 @@ struct FileMark {
 
 struct WholeFile {
     enum class Kind {
-        Missing,    // no file, or a link to none
+        Missing,    // no file, or a link to a missing file
         Bytes,      // a regular file within the limit
-        Unusable,   // something else stands in the place: too large, a folder, a pipe
-        Unreadable, // something may be there, but may not be read
+        Unusable,   // not a regular file, or above the limit
+        Unreadable, // may exist, but may not be read
     };
 
     Kind kind = Kind::Missing;
@@ -36,31 +36,30 @@ struct WholeFile {
     FileMark mark;
 };
 
-// Reads a file of up to `sizeLimit` bytes, through a link too.
+// Reads a regular file of up to `sizeLimit` bytes. Follows links.
 [[nodiscard]] WholeFile readWholeFile(const QString& path, qint64 sizeLimit);
 
 enum class Replaced {
     Done,
-    Overtaken, // the file is no longer the one with the mark
+    Overtaken, // the file no longer has the mark
     Failed,
 };
 
-// Puts `bytes` in the place of the file that had `mark` when it was read:
-// written beside it, flushed to the disk and renamed over it, so that no reader
-// ever sees a part of it. Through a link the file that it names is replaced.
-// Keeps the permissions and the owner; a new file is for the user alone. A file
-// whose permissions keep its owner from writing it is left alone.
+// Replaces the content of the file that had `mark` when it was read: writes a new file
+// beside it, flushes it to the disk and renames it over the old one, so that no reader
+// sees a partial file. Follows links and replaces their target. Keeps permissions and
+// owner; a new file is accessible to the user only. Fails on a file that its owner may
+// not write.
 [[nodiscard]] Replaced replaceWholeFile(const QString& path, const QByteArray& bytes,
                                         const FileMark& mark);
 
-// Renames what stands at `path` to a free name beside it and never over
-// anything; of a link the link itself, not what it names. Returns the new path,
-// empty where it still stands there: not possible, or a file whose permissions
-// keep its owner from writing it.
+// Renames the file, link or folder at `path` to a free name beside it, without ever
+// overwriting anything; of a link, the link itself and not its target. Returns the new
+// path, or an empty string if that fails or if the owner may not write the file.
 [[nodiscard]] QString setFileAside(const QString& path);
 
-// Creates the folder that `path` lies in, for the user alone. False where there
-// is none afterwards.
+// Creates the folder of `path` and missing folders above it, accessible to the user only.
+// Returns whether the folder exists afterwards.
 [[nodiscard]] bool makeFolderOf(const QString& path);
 
 } // namespace morrowleaf

@@ -11,7 +11,7 @@
 
 namespace morrowleaf {
 
-// A quotation of the program's own, as it lies in the binary.
+// A built-in quotation, as it is stored in the binary.
 struct BuiltinQuote {
     QLatin1StringView text;
     QLatin1StringView author;
@@ -21,8 +21,8 @@ struct BuiltinQuote {
 
 inline constexpr qsizetype quoteCount = 124;
 
-// The built-in collection. The schedule picks by position, so the order is
-// part of the program's behaviour.
+// The built-in collection. The schedule selects by index, so the order is part of the
+// program's behaviour.
 extern const std::array<BuiltinQuote, quoteCount> quotes;
 
 } // namespace morrowleaf

@@ -10,7 +10,7 @@
 
 namespace morrowleaf {
 
-// One quotation. The author may be empty when an outside source gives none.
+// One quotation. The author may be empty if a source gives none.
 struct Quote {
     QString text; // without quotation marks
     QString author;
@@ -18,8 +18,8 @@ struct Quote {
     bool operator==(const Quote&) const = default;
 };
 
-// Loads a quotation from a source as the user typed it. Main thread; `done` is
-// called there at most once, later, with std::nullopt on any failure.
+// Loads a quotation from a source as the user typed it. Calls `done` later and at most
+// once, on the main thread, with std::nullopt on any failure. Main thread.
 using QuoteLoader =
     std::function<void(const QString& source, std::function<void(std::optional<Quote>)> done)>;
 

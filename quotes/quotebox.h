@@ -13,15 +13,14 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// Holds the quotation on show. Its first value comes from the cache in the
-// settings (where a source is set) or from the schedule; the load of the source
-// that it starts may replace it. What a load brings is cached, also when the
-// box is gone by then. Main thread.
+// Holds the quotation on show. Its first value comes from the cache in the settings (if a
+// source is set) or from the schedule; the box then loads the source, which may replace
+// it. A loaded quotation is cached even if the box no longer exists. Main thread.
 class QuoteBox : public QObject {
     Q_OBJECT
 
 public:
-    // `store` outlives every load that the box starts.
+    // `store` must outlive every load that the box starts.
     QuoteBox(SettingsStore& store, QuoteLoader loader, const Clock& clock,
              const RandomIndex& random, QObject* parent = nullptr);
 
@@ -30,7 +29,7 @@ public:
     void refresh();
 
 signals:
-    void quoteWillChange(const Quote& next); // the old value still stands
+    void quoteWillChange(const Quote& next); // quote() is still the old one
     void quoteChanged();
 
 private:

@@ -25,7 +25,7 @@ Quote quoteNumber(qint64 number) {
 }
 
 qint64 wholeSeconds(double seconds) {
-    // Also false for NaN.
+    // The comparison is false for NaN.
     if (!(seconds >= -0x1p63 && seconds < 0x1p63)) {
         qFatal("%g is not a representable number of seconds since 1970.", seconds);
     }

@@ -11,7 +11,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Undefined for a setting that has none.
+// Undefined for a setting without a default.
 struct FactoryValue {
     QJsonValue operator()(const TextSetting* setting) const {
         return setting->initial ? QJsonValue(*setting->initial) : QJsonValue::Undefined;

@@ -10,23 +10,22 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// Registers the factory values of the table for the life of the process.
+// Registers the default values of the table with `store`, for the life of the process.
 void registerAppDefaults(SettingsStore& store);
 
-// Stores the factory value of every setting of the look, in the order that the
-// table gives.
+// Writes the default value of every setting of the look, in the order of settingsOfReset.
 void resetAppearance(SettingsStore& store);
 
-// The generic category of a typeface, where no concrete face is wanted.
+// The generic category of a typeface.
 enum class FontDesign { Default, Serif, Rounded, Monospaced };
 
-// "sans", "rounded" and "mono" have a design of their own, compared exactly;
-// every other name is serif.
+// Maps exactly "sans", "rounded" and "mono" to their own designs and every other name to
+// Serif.
 FontDesign fontDesignNamed(const QString& name);
 
-// Typed getters. Each reads the store afresh and none checks the range that the
-// table gives. Without a value, not even a registered one, numbers are zero,
-// flags are false and texts are their fallback in the table.
+// Typed getters. Each reads the store at every call, and none checks the range that the
+// table gives. If a key has neither a stored nor a registered value, numbers are 0, flags
+// are false and texts are the fallback of the table. Main thread.
 namespace Prefs {
 qint64 paletteIndex(const SettingsStore& store);
 double textScale(const SettingsStore& store);
@@ -37,7 +36,7 @@ bool showOnWake(const SettingsStore& store);
 QString source(const SettingsStore& store);
 QString frequency(const SettingsStore& store);
 QString bgImage(const SettingsStore& store);
-QStringList customBGs(const SettingsStore& store); // empty unless a list of texts
+QStringList customBGs(const SettingsStore& store); // empty unless the value is a list of texts
 FontDesign fontDesign(const SettingsStore& store);
 } // namespace Prefs
 

@@ -12,7 +12,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr int depthLimit = 512;
-// A key is looked for among all before it.
+// Keys are searched linearly.
 constexpr int keyLimit = 10'000;
 
 QJsonValue fromJson(const Json& json) {
@@ -54,7 +54,7 @@ Json toJson(const QJsonValue& value) {
     case QJsonValue::Bool:
         return value.toBool();
     case QJsonValue::Double: {
-        // Both agree only where the number is an integer.
+        // The results agree only if the number is an integer.
         const qint64 integer = value.toInteger(0);
         return integer == value.toInteger(1) ? Json(integer) : Json(value.toDouble());
     }

@@ -14,20 +14,20 @@
 
 namespace morrowleaf {
 
-// The content of a settings file. Keys that no reader knows keep their values
-// and their place; integers of 64 bits stay exact, signed or not.
+// The content of a settings file. Keys that the program does not know keep their values
+// and their order; signed and unsigned 64-bit integers stay exact.
 class SettingsDocument {
 public:
     // An object without members.
     SettingsDocument() = default;
 
-    // std::nullopt where the text is not a JSON object in UTF-8, holds a number
-    // beyond the range of a double, or is nested or populated beyond any use.
-    // Of a key written twice the last value counts.
+    // Returns std::nullopt if `text` is not a JSON object in UTF-8, contains a number
+    // beyond the range of a double, or exceeds the limits of 512 levels and 10,000 keys.
+    // The last value of a repeated key counts.
     [[nodiscard]] static std::optional<SettingsDocument> parse(const QByteArray& text);
 
     const QJsonObject& values() const { return values_; }
-    // Indented, with a line break at its end.
+    // Indented JSON that ends with a line break.
     QByteArray text() const;
 
     // Undefined removes the key; a new key comes last.
@@ -37,7 +37,7 @@ public:
 
 private:
     nlohmann::ordered_json members_ = nlohmann::ordered_json::object();
-    QJsonObject values_; // the same
+    QJsonObject values_; // of members_, as Qt's types
 };
 
 } // namespace morrowleaf

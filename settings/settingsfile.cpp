@@ -24,7 +24,7 @@ namespace {
 constexpr auto startLimit = 1000ms;
 constexpr auto endLimit = 500ms;
 
-// Calls on the worker's thread; the answer need not be waited for.
+// Queues a call on the worker's thread and returns a future of its result.
 template <typename Call>
 auto ask(SettingsWorker* worker, Call call) {
     const auto task =
@@ -58,7 +58,7 @@ SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* p
 
     auto first = ask(worker_, [worker = worker_] { return worker->start(); });
     ask(worker_, [worker = worker_] { worker->follow(); });
-    // A disk that does not answer gives its values later, as a change.
+    // If the disk does not answer in time, the values arrive later as a change.
     if (first.wait_for(startLimit) == std::future_status::ready) {
         adopt(first.get());
     }

@@ -20,7 +20,8 @@ using namespace Qt::Literals::StringLiterals;
 using Integers = std::numeric_limits<qint64>;
 
 qint64 truncated(double real) {
-    // The largest integer is no double: this is the first that is too large.
+    // The largest qint64 is not representable as a double; this is the first double above
+    // it.
     constexpr double limit = 0x1p63;
     if (std::isnan(real)) {
         return 0;
@@ -36,8 +37,7 @@ double finite(double real) {
     return std::isnan(real) ? 0 : std::clamp(real, Reals::lowest(), Reals::max());
 }
 
-// What `pattern` captures at the start of a text, behind its blanks; empty where
-// it does not match.
+// The text that `pattern` captures; empty if it does not match.
 QByteArray leading(const QRegularExpression& pattern, const QString& text) {
     return pattern.match(text).captured(1).toLatin1();
 }
@@ -61,7 +61,7 @@ double leadingReal(const QString& text) {
     std::istringstream number(leading(pattern, text).toStdString());
     number.imbue(std::locale::classic());
     double parsed = 0;
-    number >> parsed; // the largest double, or zero, where it is out of range
+    number >> parsed; // gives the largest double, or 0, if the number is out of range
     return finite(parsed);
 }
 
@@ -70,7 +70,7 @@ qint64 toInteger(const QJsonValue& value) {
     case QJsonValue::Bool:
         return value.toBool() ? 1 : 0;
     case QJsonValue::Double:
-        // Exact for integers beyond what a double can hold.
+        // Exact for integers beyond the precision of a double.
         return value.toInteger(truncated(value.toDouble()));
     case QJsonValue::String:
         return leadingInteger(value.toString());
@@ -120,7 +120,7 @@ std::optional<QStringList> toTextList(const QJsonValue& value) {
     return texts;
 }
 
-// Undefined when neither layer holds the key.
+// Undefined if neither object contains the key.
 QJsonValue lookUp(const QJsonObject& stored, const QJsonObject& defaults, const QString& key) {
     QJsonValue found = stored.value(key);
     if (!found.isUndefined() && !found.isNull()) {

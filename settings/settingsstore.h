@@ -17,25 +17,25 @@
 
 namespace morrowleaf {
 
-// The user's settings: stored values above registered defaults. Reads never
-// touch the disk; a write changes memory and is announced at once, and whoever
-// keeps the values (see settingsfile.h) follows the announcements.
+// The user's settings: stored values above registered defaults. Reads never touch the
+// disk; a write changes memory and is announced at once, so that a keeper (see
+// settingsfile.h) can store it.
 //
-// Lives on the main thread. Without a keeper it is a plain in-memory store.
+// Main thread. Without a keeper this is a plain in-memory store.
 class SettingsStore : public QObject {
     Q_OBJECT
 
 public:
     explicit SettingsStore(QObject* parent = nullptr);
 
-    // Defaults lie beneath the stored values, for this process only. Those of
-    // a second call are added to, or replace, those of the first.
+    // Registers defaults beneath the stored values, for this process only. A second call
+    // adds to the defaults of the first and replaces those with the same key.
     void registerDefaults(const QJsonObject& defaults);
 
-    // A setting as views and controls read it: the stored value, else the
-    // registered one, else the fallback of the table. A stored value of another
-    // type is converted as below; a text that is none gives the fallback, a
-    // list that is none is empty.
+    // A setting as views and controls read it: the stored value, else the registered one,
+    // else the fallback of the table. A stored value of another type is converted as
+    // described below; what is not a text gives the fallback, and what is not a list of
+    // texts gives an empty list.
     qint64 get(const IntegerSetting& setting) const;
     double get(const RealSetting& setting) const;
     bool get(const FlagSetting& setting) const;
@@ -55,46 +55,47 @@ public:
     // null counts as absent.
     std::optional<QJsonValue> value(const QString& key) const;
 
-    // Conversions of whatever value() gives, independent of the locale; zero
-    // where nothing convertible is there.
+    // Conversions of value(), independent of the locale. They return zero if there is no
+    // value or no conversion.
     //
-    // Reals are truncated and clamped to the range; a text gives its leading
-    // decimal integer ("12.7 px" is 12); true is 1.
+    // Reals are truncated and clamped to the range; a text gives its leading decimal
+    // integer ("12.7 px" gives 12); true gives 1.
     qint64 integer(const QString& key) const;
     // Always finite. A text gives its leading decimal number ("1.5e2 px" is
     // 150), clamped to the range; true is 1.
     double real(const QString& key) const;
-    // Numbers are true when not zero; of the texts, "yes", "true" and "1" in
-    // either case are, without blanks around them.
+    // A number other than 0 is true; so are the texts "yes", "true" and "1", in any case
+    // and without surrounding blanks.
     bool flag(const QString& key) const;
-    // Converted from nothing else: std::nullopt for other types.
+    // std::nullopt for values of another type.
     std::optional<QString> text(const QString& key) const;
-    // Only of a list whose every element is a text; the empty list is one.
+    // std::nullopt unless the value is a list whose every element is a text; an empty list
+    // is valid.
     std::optional<QStringList> textList(const QString& key) const;
 
-    // Null and undefined remove; a number that is not finite is ignored.
+    // Null and undefined remove the key; NaN and infinite numbers are ignored.
     void set(const QString& key, const QJsonValue& value);
     void remove(const QString& key);
 
     // The stored values alone, without the defaults.
     const QJsonObject& stored() const { return stored_; }
 
-    // The present name, without its folder, of a file of settings that could not
-    // be read and is kept; empty without one. The keeper sets it.
+    // The current name, without its folder, of a settings file that could not be read and
+    // is kept; empty if there is none. Set by the keeper.
     const QString& keptFileName() const { return keptFileName_; }
     void setKeptFileName(const QString& name);
 
-    // Exchanges all stored values for those that the keeper found. Announced
-    // by changed() alone, after all of them are in place.
+    // Replaces all stored values by those that the keeper has read. Emits changed() after
+    // all of them are in place, and never written().
     void replaceStored(const QJsonObject& stored);
 
 signals:
-    // The effective value of `key` is another one now; not emitted when a
-    // value is set that was in effect already.
+    // The effective value of `key` has changed. Not emitted when the value that is already
+    // in effect is set again.
     void changed(const QString& key);
 
-    // set() or remove() was called, whether or not that changed anything:
-    // the news for whoever keeps the values. Emitted before changed().
+    // set() or remove() was called, whether or not that changed the effective value. For
+    // the keeper. Emitted before changed().
     void written(const QString& key);
 
     void keptFileNameChanged();

@@ -14,12 +14,12 @@
 
 namespace morrowleaf {
 
-// The one table of all settings: key, type, default and range. Defaults are
-// registered, written by Reset and shown by controls from here; docs/settings.md
-// says what each setting means, and a test holds its table against this one.
+// The one table of all settings: key, type, default and range. Registered defaults, Reset
+// and the controls take their values from here; docs/settings.md says what each setting
+// means, and a test compares its table with this one.
 //
-// `initial` is the factory value. Ranges are what the controls offer: a stored
-// value outside is read as it is, and whoever uses it has to tolerate it.
+// `initial` is the default. Ranges are those that the controls offer: a stored value
+// outside is read unchanged, and its users must tolerate it.
 
 struct IntegerSetting {
     using Value = qint64;
@@ -53,14 +53,14 @@ struct TextSetting {
     using Value = QString;
     QLatin1StringView key;
     std::optional<QLatin1StringView> initial; // std::nullopt: absent until first written
-    // Read while the key has no text, not even a registered one.
+    // Read if the key has neither a stored nor a registered text.
     QLatin1StringView fallback = initial.value_or(QLatin1StringView(""));
     std::span<const QLatin1StringView> choices{}; // empty: any text
 
     operator QString() const { return key; }
 };
 
-// Absent, and read as empty, until first written.
+// Has no default; reads as empty until it is first written.
 struct TextListSetting {
     using Value = QStringList;
     QLatin1StringView key;
@@ -82,8 +82,8 @@ inline constexpr std::array frequencyChoices{"6h"_L1, "12h"_L1, "24h"_L1, "every
 
 inline constexpr IntegerSetting palette{
     .key = "paletteIndex"_L1, .initial = -1, .lowest = -1, .highest = 8};
-// The one fallback that differs from the factory value, on purpose: the typeface
-// of the factory is part of the look that the program registers at its start.
+// The only fallback that differs from the default, on purpose: the default typeface is
+// part of the look that the program registers at its start.
 inline constexpr TextSetting font{.key = "fontDesign"_L1,
                                   .initial = "fraunces"_L1,
                                   .fallback = "serif"_L1,
@@ -124,7 +124,7 @@ inline constexpr std::array<AnySetting, 17> allSettings{
     &K::showOnWake,   &K::source,      &K::frequency, &K::bgImage,    &K::customBGs,
     &K::cachedText,   &K::cachedAuthor};
 
-// What Reset sets to its factory value, in this order: the look.
+// The settings that Reset sets to their defaults, in this order.
 inline constexpr std::array<AnySetting, 10> settingsOfReset{
     &K::bgImage,      &K::palette,     &K::font,     &K::textScale,  &K::vignette,
     &K::transparency, &K::liquidGlass, &K::textAnim, &K::screenAnim, &K::grain};

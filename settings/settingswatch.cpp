@@ -37,7 +37,7 @@ SettingsWatch::SettingsWatch(QString path, QObject* parent)
     settling_.setInterval(std::chrono::milliseconds(40));
     connect(&settling_, &QTimer::timeout, this, &SettingsWatch::touched);
     const auto sign = [this] {
-        // Not restarted: a file that is written all the time is looked at too.
+        // Not restarted, so that a file that is written continuously is reported too.
         if (!settling_.isActive()) {
             settling_.start();
         }
@@ -59,8 +59,8 @@ void SettingsWatch::arm() {
     }
     folders.removeAll(QString());
 
-    // A watch on a file that was replaced goes on watching the old one, so
-    // files are always taken up anew.
+    // A watch stays with the old file when a file is replaced, so watches on files are
+    // always renewed.
     QStringList gone = watcher_.files();
     const QStringList watched = watcher_.directories();
     for (const QString& folder : watched) {

@@ -10,13 +10,12 @@
 
 namespace morrowleaf {
 
-// Tells that something may have happened to a file: written in place,
-// replaced, removed, created. Says so too often rather than too seldom, 40 ms
-// after the first sign, once for a burst.
+// Reports that a file may have been written in place, replaced, removed or created.
+// Reports too often rather than too rarely, once per burst, 40 ms after the first event.
 //
-// A watch is lost whenever the file is replaced, so arm() again before each
-// look at the file. Where its folder is missing the nearest one above is
-// watched, where the file is a link also what it names.
+// Replacing a file ends the watch on it, so call arm() before each reading of the file.
+// If the folder is missing, the nearest existing one above it is watched; if the file is
+// a link, its targets are watched too.
 class SettingsWatch : public QObject {
     Q_OBJECT
 

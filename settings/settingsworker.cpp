@@ -24,13 +24,13 @@ namespace {
 constexpr qint64 sizeLimit = qint64(16) * 1024 * 1024; // bytes
 // A slider dragged for a second makes a dozen writes, not sixty.
 constexpr auto burst = 70ms;
-// Some editors take the old file away before they put the new one there.
+// Some editors remove the old file before they create the new one.
 constexpr auto patienceWithMissing = 100ms;
-// Others write in place, and for a moment there is half a file.
+// Others write in place, so the file is incomplete for a moment.
 constexpr auto patienceWithBroken = 500ms;
 constexpr milliseconds lockPatience = 5000ms;
 constexpr milliseconds lockPatienceAtEnd = 400ms;
-// A lock whose file was never filled counts as left behind after this time.
+// An empty lock file counts as stale after this time.
 constexpr auto lockIsStale = 3000ms;
 constexpr milliseconds firstRetry = 1000ms;
 constexpr milliseconds lastRetry = 300'000ms;
@@ -42,8 +42,8 @@ void runOnce(QTimer& timer, milliseconds after) {
     timer.start(after);
 }
 
-// The work goes on without a lock that cannot be had in time: its holder is
-// stopped, or the folder takes no lock.
+// Tries to take the lock until the deadline. The caller goes on without it if that fails:
+// the holder may be stopped, or the folder may not support locks.
 void acquire(QLockFile& lock, milliseconds patience) {
     lock.setStaleLockTime(int(lockIsStale.count()));
     const QDeadlineTimer deadline(patience);
@@ -102,14 +102,14 @@ void SettingsWorker::look() {
     }
     begun_ = true;
     tell();
-    // While a retry is due nothing is hurried: failing leaves its own traces
-    // in the folder, and they bring us here.
+    // Failed writing leaves traces in the folder, which lead here. Waiting for a due retry
+    // keeps them from causing another attempt at once.
     if (!outstanding_.isEmpty() && !retrying_.isActive()) {
         writeSoon();
     }
 }
 
-// Takes over what the file holds when it is good.
+// Adopts the content of the file if it is good.
 SettingsWorker::Finding SettingsWorker::examine() {
     const WholeFile file = readWholeFile(path_, sizeLimit);
     std::optional<SettingsDocument> document;
@@ -138,7 +138,7 @@ SettingsWorker::Finding SettingsWorker::examine() {
     return {State::Good, file.mark};
 }
 
-// True while the patience lasts, so at least at the first call.
+// True until the patience ends, so always at the first call.
 bool SettingsWorker::mayBeInTheMaking(milliseconds patience) {
     if (!doubt_ || doubt_->patience != patience) {
         doubt_ = Doubt{patience, QDeadlineTimer(patience, Qt::PreciseTimer)};
@@ -199,7 +199,7 @@ bool SettingsWorker::write(milliseconds patience) {
         merged = merge();
     }
     if (merged == Merged::Later) {
-        return false; // when it has settled, look() comes back to it
+        return false; // look() retries when the file has settled
     }
     tell();
     if (merged == Merged::Done) {
@@ -211,7 +211,7 @@ bool SettingsWorker::write(milliseconds patience) {
     return merged == Merged::Done;
 }
 
-// Once, with what stands there now: another process may have come first.
+// One attempt. Reads the file again first, because another process may have written it.
 SettingsWorker::Merged SettingsWorker::merge() {
     Finding file = examine();
     if (file.state == State::InTheMaking) {
@@ -259,8 +259,8 @@ SettingsWorker::Merged SettingsWorker::merge() {
     return Merged::Done;
 }
 
-// No file holds the values in effect any more: they count as the owner's changes,
-// so that they neither vanish nor go unwritten.
+// The file with the values in effect is gone. Makes them changes of the owner, so that
+// they stay in effect and are written.
 void SettingsWorker::takeOwnership() {
     const QJsonObject values = known_.values();
     for (auto it = values.begin(); it != values.end(); ++it) {

@@ -24,19 +24,19 @@ namespace morrowleaf {
 class SettingsWatch;
 
 struct SettingsSnapshot {
-    QJsonObject values;   // what the file holds, with the owner's changes laid over it
-    quint64 upTo = 0;     // the last of the owner's changes that is among them
-    QString keptFileName; // of a file that could not be read; empty without one
+    QJsonObject values;   // what the file contains, overlaid with the owner's changes
+    quint64 upTo = 0;     // the number of the last of the owner's changes that they contain
+    QString keptFileName; // of a file that could not be read; empty if there is none
 
     bool operator==(const SettingsSnapshot&) const = default;
 };
 
-// The lock file beside a settings file, in the form of QLockFile.
+// The path of the lock file, a QLockFile, beside a settings file.
 QString lockPathOf(const QString& path);
 
-// Works on one settings file: reads it, merges the owner's changes into it and
-// tells what others did to it. Lives on a thread of its own; every call may
-// take as long as the disk does.
+// Works on one settings file for its owner, a SettingsFile: reads the file, merges the
+// owner's changes into it and reports what others change. Lives on a thread of its own;
+// every call may block as long as the disk does.
 class SettingsWorker : public QObject {
     Q_OBJECT
 
@@ -46,16 +46,16 @@ public:
 
     // Reads the file for the first time.
     SettingsSnapshot start();
-    // Begins to follow what others do to the file. Call it after start().
+    // Begins to watch the file for changes by others. Call it after start().
     void follow();
 
-    // The owner's `number`th change; undefined removes the key.
+    // Takes the owner's change with this number; undefined removes the key.
     void change(quint64 number, const QString& key, const QJsonValue& value);
 
-    // Writes what is outstanding. True when all of it is in the file.
+    // Writes the outstanding changes. Returns whether all of them are in the file.
     [[nodiscard]] bool flush(QDeadlineTimer deadline);
 
-    // The owner's changes up to this one are in the file. Call it on any thread.
+    // The number of the last of the owner's changes that is in the file. Any thread.
     quint64 written() const { return written_; }
 
 signals:
@@ -64,9 +64,9 @@ signals:
 private:
     enum class State {
         Good,
-        InTheMaking, // missing or broken, but perhaps only for a moment
+        InTheMaking, // missing or broken, but possibly only while somebody writes it
         Broken,
-        Closed, // may not be read
+        Closed, // unreadable
     };
     struct Finding {
         State state;
@@ -92,15 +92,15 @@ private:
     QString path_;
     std::unique_ptr<SettingsWatch> watch_;
 
-    SettingsDocument known_;                // what the file held when it was last good
-    std::optional<SettingsSnapshot> told_;  // what the owner has, as far as is known
+    SettingsDocument known_;                // what the file contained when it was last good
+    std::optional<SettingsSnapshot> told_;  // the last snapshot that the owner is known to have
     QMap<QString, QJsonValue> outstanding_; // the owner's changes not yet in the file
     quint64 lastChange_ = 0;
     std::atomic<quint64> written_ = 0;
     QString keptFileName_;
-    bool begun_ = false; // values of the file, or their absence, are in effect
+    bool begun_ = false; // the values of the file, or its absence, are in effect
 
-    std::optional<Doubt> doubt_; // about a file that is missing or broken
+    std::optional<Doubt> doubt_; // set while the file is missing or broken
     QTimer settling_;
     QTimer writing_;
     QTimer retrying_;

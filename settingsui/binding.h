@@ -15,18 +15,18 @@ class QLineEdit;
 
 namespace morrowleaf {
 
-// Ties a control to a key of the store in both directions: `show` brings the
-// control in line with the store, now and whenever the key changes; set()
-// stores what the user did. What the control announces while it is being
-// brought in line is not stored, and what it has just stored is not shown to
-// it again, so no change runs in a circle. Ends with the control.
+// Connects a control and a key of the store in both directions: `show` updates the
+// control from the store, now and whenever the key changes; set() stores what the user
+// has done. Signals of the control while it is being updated store nothing, and a value
+// that the control has just stored does not update it again. The binding is a child of
+// `control`.
 class Binding : public QObject {
     Q_OBJECT
 
 public:
     Binding(SettingsStore& store, QString key, QObject* control, std::function<void()> show);
 
-    // False, and nothing stored, while the control is being brought in line.
+    // Returns false and stores nothing while the control is being updated.
     bool set(const QJsonValue& value);
 
 private:
@@ -41,8 +41,7 @@ private:
 
 void bindSwitch(QAbstractButton& button, SettingsStore& store, const FlagSetting& setting);
 void bindText(QLineEdit& field, SettingsStore& store, const TextSetting& setting);
-// The items' data are the stored texts; a stored text that none of them has
-// selects no item.
+// The data of the items are the stored texts; a stored text without an item selects none.
 void bindChoice(QComboBox& box, SettingsStore& store, const TextSetting& setting);
 
 } // namespace morrowleaf

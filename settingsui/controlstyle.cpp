@@ -31,7 +31,7 @@ QColor withOpacity(QColor color, double opacity) {
     return color;
 }
 
-// Where the value stands in its range, 0...1.
+// The position of the value in its range, from 0 to 1.
 double fractionOf(const QStyleOptionSlider& option) {
     const double range = option.maximum - option.minimum;
     return range > 0 ? (option.sliderPosition - option.minimum) / range : 0;
@@ -198,7 +198,7 @@ QRect ControlStyle::subControlRect(ComplexControl control, const QStyleOptionCom
     case SC_ScrollBarGroove:
         return all.adjusted(0, 2, 0, -2);
     default:
-        return {}; // there are no arrows
+        return {}; // no arrows
     }
 }
 

@@ -10,17 +10,17 @@ class QPushButton;
 
 namespace morrowleaf {
 
-// How Qt's controls look in the appearance editor: buttons, sliders, vertical
-// scroll bars, and check boxes as switches. The colours are those of the panel,
-// but a switch takes its own from the palette and suits any window. The base is
-// Fusion, so that no desktop's style changes a size or a behaviour.
+// Draws the controls of the appearance editor: buttons, sliders, vertical scroll bars,
+// and check boxes as switches. The colours are those of the panel, except that a switch
+// takes its own from the palette and fits any window. The base is Fusion, so that no
+// desktop style changes sizes or behaviour.
 //
-// Set it on each control that shall look so: children do not inherit a style.
+// Set it on each control, because children do not inherit a style. Main thread.
 class ControlStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
-    static constexpr int buttonPadding = 14;     // points beside a button's text
+    static constexpr int buttonPadding = 14;     // points on either side of a button's text
     static constexpr int scrollBarThickness = 9; // points
     static constexpr int switchOverhang = 3;     // points right of a switch, for its focus ring
 
@@ -46,10 +46,11 @@ private:
     QSize switchTrack_; // points
 };
 
-// Buttons are reached by Tab and pressed by Space. `style` outlives its use.
+// Tab focuses a button and Space presses it. `style` must outlive the button.
 enum class ButtonKind { Plain, Filled };
 QPushButton* makeButton(const QString& text, ButtonKind kind, ControlStyle& style, QWidget* parent);
-// A check box with its text at the left edge and a switch at the right one.
+// A check box with its text at the left edge and a switch at the right one. `style` must
+// outlive it.
 QCheckBox* makeSwitch(const QString& text, ControlStyle& style, QWidget* parent);
 
 } // namespace morrowleaf

@@ -17,7 +17,7 @@
 namespace morrowleaf {
 namespace {
 
-constexpr int sideRoom = 14; // points within the frame
+constexpr int sideRoom = 14; // points inside the frame
 constexpr int rowHeight = 40;
 constexpr double radius = 8;
 
@@ -26,7 +26,7 @@ QColor withOpacity(QColor color, double opacity) {
     return color;
 }
 
-// Follows the palette of its parent at a lower opacity.
+// A label in its parent's text colour at a lower opacity.
 class QuietLabel : public QLabel {
 public:
     QuietLabel(const QString& text, double opacity, QWidget* parent)
@@ -89,7 +89,7 @@ void FormCard::addRow(QWidget* row) {
 
 void FormCard::addContinuation(QWidget* row) {
     row->setMinimumHeight(rowHeight);
-    // What is seen ends in line; a switch's focus ring reaches over the edge.
+    // Aligns the visible edges; a switch's focus ring extends beyond them.
     auto* room = new QHBoxLayout;
     room->setContentsMargins(
         0, 0, qobject_cast<QCheckBox*>(row) != nullptr ? 0 : ControlStyle::switchOverhang, 0);

@@ -10,8 +10,8 @@ class QVBoxLayout;
 
 namespace morrowleaf {
 
-// One section of a grouped form: a title, and beneath it rows in a rounded
-// frame, separated by thin lines. Takes its colours from the palette.
+// One section of a grouped form: a title and, beneath it, rows in a rounded frame,
+// separated by thin lines. Takes its colours from the palette.
 class FormCard : public QWidget {
     Q_OBJECT
 
@@ -19,9 +19,9 @@ public:
     FormCard(const QString& title, QWidget* parent = nullptr);
 
     void addRow(QWidget* row);
-    // A row of a label at the left and a control at the right.
+    // Adds a row with a label at the left and a control at the right.
     void addRow(const QString& label, QWidget* control);
-    // A row that belongs to the one above: no line between them.
+    // Adds a row that belongs to the one above, without a line between them.
     void addContinuation(QWidget* row);
 
 protected:

@@ -8,8 +8,8 @@
 
 namespace morrowleaf {
 
-// A choice among a few, in the host's style. Ignores the wheel, which scrolls
-// what lies around: a choice that changed in passing would go unnoticed.
+// A combo box in the host's style. Ignores the wheel, which scrolls the form instead: the
+// user would not notice a choice changed by scrolling.
 class FormPicker : public QComboBox {
     Q_OBJECT
 
@@ -20,8 +20,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 };
 
-// A horizontal slider in the host's style. Its handle comes to where the mouse
-// presses and can be dragged from there. Ignores the wheel, as FormPicker does.
+// A horizontal slider in the host's style. Its handle jumps to the position of a mouse
+// press and can be dragged from there. Ignores the wheel, as FormPicker does.
 class FormSlider : public QSlider {
     Q_OBJECT
 

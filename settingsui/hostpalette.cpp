@@ -58,7 +58,7 @@ QPalette hostPalette(ColorPreference preference) {
 
 void followColorScheme(ColorScheme& scheme) {
     const auto apply = [](ColorPreference preference) {
-        // An empty palette gives the colours back to style and desktop.
+        // An empty palette restores the colours of style and desktop.
         QApplication::setPalette(preference == ColorPreference::None ? QPalette()
                                                                      : hostPalette(preference));
     };

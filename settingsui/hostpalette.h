@@ -9,12 +9,12 @@
 
 namespace morrowleaf {
 
-// The colours of ordinary windows for what the user prefers; without a
-// preference, those of the style.
+// The colours of ordinary windows for a preference; without a preference, those of the
+// style.
 QPalette hostPalette(ColorPreference preference);
 
-// Keeps the application's colours in line with the desktop's preference, as
-// long as both live.
+// Keeps the application's colours in step with the desktop's preference during the life
+// of `scheme`.
 void followColorScheme(ColorScheme& scheme);
 
 } // namespace morrowleaf

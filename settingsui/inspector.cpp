@@ -31,7 +31,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr double leastGlass = 0.01; // transparency below which no glass is seen
+constexpr double leastGlass = 0.01; // transparency below which the glass is not visible
 
 template <typename Kinds>
 std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
@@ -62,7 +62,7 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
     speakAsGroup(*this, u"Appearance"_s);
-    // A shortcut, since some desktops' themes let Return press what has the focus.
+    // A shortcut, because some desktop themes let Return press the focused control.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(key, this);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -77,12 +77,12 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setWidgetResizable(true);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    // Its room stays where there is nothing to scroll, so that no edge moves.
+    // Always shown, so that the width of the content does not change.
     scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     scroll_->verticalScrollBar()->setStyle(&controlStyle_);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidget(makeGroups());
-    // Setting a widget makes it paint its ground.
+    // QScrollArea::setWidget() makes the widget fill its background.
     scroll_->viewport()->setAutoFillBackground(false);
     scroll_->widget()->setAutoFillBackground(false);
     column->addWidget(scroll_, 1);
@@ -111,7 +111,7 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
     label->setContentsMargins(PanelStyle::focusRoom, 0, 0, 0);
     group->addWidget(label);
     for (QWidget* row : rows) {
-        // What is seen stands in line; a focus ring may reach over the edge.
+        // Aligns the visible edges; a focus ring extends beyond them.
         auto* room = new QHBoxLayout;
         room->setContentsMargins(qobject_cast<Knob*>(row) != nullptr ? 0 : PanelStyle::focusRoom, 0,
                                  qobject_cast<QCheckBox*>(row) != nullptr
@@ -217,7 +217,7 @@ void Inspector::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(0, 0, 1, height(), PanelStyle::ink(0.12));
 }
 
-// A press beside the controls stays with the panel.
+// Keeps a press beside the controls from reaching the quote screen.
 void Inspector::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }
@@ -229,7 +229,7 @@ void Inspector::showEvent(QShowEvent* event) {
     }
 }
 
-// Tab stays within the panel and brings what it reaches into view.
+// Keeps Tab within the panel and scrolls to the control that it reaches.
 bool Inspector::focusNextPrevChild(bool next) {
     QWidget* at = window()->focusWidget();
     QWidget* start = at;

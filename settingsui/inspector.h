@@ -22,32 +22,33 @@ class PhotoChooser;
 class SettingsStore;
 struct TextSetting;
 
-// Where a screen is and which part of it panels leave free; points, y down.
+// The area of a screen and the part of it that panels leave free; points, y down.
 struct ScreenFrames {
     QRect whole;
     QRect visible;
 };
 
-// How the editor is laid out.
+// How the appearance editor is laid out.
 struct InspectorSetup {
     bool glassCanBeDrawn = false;         // adds the switch "Liquid Glass"
     QFont face{};                         // the system font; its size is ignored
     std::optional<ScreenFrames> screen{}; // the main screen; std::nullopt without one
 };
 
-// Points above the header, so that it clears a panel at the screen's top.
+// The space above the header in points, so that the header is below a panel at the top of
+// the screen.
 double headerTopPadding(const std::optional<ScreenFrames>& screen);
 
-// The appearance editor at the right edge of the quote screen. Every control
-// writes its setting the moment it changes. Tab goes through the controls, Space
-// presses one, Return presses "Done".
+// The appearance editor at the right edge of the quote screen. Every control writes its
+// setting as soon as it changes. Tab moves through the controls, Space presses one,
+// Return presses "Done". Main thread.
 class Inspector : public QWidget {
     Q_OBJECT
 
 public:
     static constexpr int width = 320; // points
 
-    // The referenced objects outlive the editor.
+    // The referenced objects must outlive the editor.
     Inspector(SettingsStore& store, BGStore& photos, FileChooser& files, InspectorSetup setup = {},
               QWidget* parent = nullptr);
 
@@ -55,8 +56,8 @@ public:
 
 signals:
     void done(); // the user has finished
-    // Around the dialog that adds a photo: just before it opens and once it has
-    // gone. The window must make way for it meanwhile.
+    // Emitted before and after the dialog that adds a photo. The overlay must be lowered in
+    // between.
     void dialogOpening();
     void dialogClosed();
 

@@ -14,8 +14,8 @@ namespace morrowleaf {
 class SettingsStore;
 struct RealSetting;
 
-// A slider over a closed range of reals, in millionths. Arrow keys move it by a
-// hundredth of the range, page keys by a tenth.
+// A slider over a closed range of reals with a resolution of one millionth. Arrow keys
+// move it by a hundredth of the range, page keys by a tenth.
 class PanelSlider : public FormSlider {
     Q_OBJECT
 
@@ -25,15 +25,14 @@ public:
     double lowest() const;
     double highest() const;
     double real() const;
-    // Shows a value, kept within the range; NaN shows as the lowest. Emits no
-    // signal.
+    // Shows a value, clamped to the range; NaN shows as the lowest. Emits no signal.
     void showValue(double value);
-    // Moves as the user would.
+    // Sets a value, clamped to the range, as the user would: emits moved() on a change.
     void moveTo(double value);
 
     QSize sizeHint() const override { return {120, 24}; }
 
-    // The value as assistive programs say it.
+    // The value as screen readers announce it.
     QString valueText() const { return valueText_; }
     void setValueText(const QString& text) { valueText_ = text; }
 
@@ -44,8 +43,8 @@ private:
     QString valueText_;
 };
 
-// A slider and the readout of its value, in one row, bound to a setting over its
-// range. `style` draws the slider and outlives the knob.
+// A slider and its readout in one row, bound to a setting and its range. `style` draws
+// the slider and must outlive the knob.
 class Knob : public QWidget {
     Q_OBJECT
 

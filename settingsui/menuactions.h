@@ -7,9 +7,9 @@
 
 namespace morrowleaf {
 
-// What the user can ask the program for, with titles and shortcuts. The tray
-// menu and the settings window offer the same actions; connect to their
-// triggered() to carry them out. The shortcuts work in an open menu only.
+// The actions that the tray menu and the settings window offer, with titles and
+// shortcuts. Connect to triggered() to carry them out. The shortcuts work in an open menu
+// only.
 struct MenuActions {
     MenuActions();
 

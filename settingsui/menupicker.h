@@ -12,8 +12,8 @@ class QListWidget;
 
 namespace morrowleaf {
 
-// The open menu of a MenuPicker, laid over its window. It sees keys and presses
-// before anything else in the program; those that close it do nothing else.
+// The open menu of a MenuPicker, above everything else in its window. It filters the keys
+// and presses of the whole program; those that close it have no other effect.
 class PickerMenu : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,8 @@ public:
                QWidget* picker);
 
     void popUp();
-    // Hides the menu, gives the focus back, and deletes it once no event is in it.
+    // Hides the menu, returns the focus and deletes the menu later, because one of its own
+    // event handlers may be the caller.
     void retire();
     QListWidget* list() const { return list_; }
 
@@ -43,9 +44,9 @@ private:
     QListWidget* list_;
 };
 
-// A button that shows the chosen one of several entries and opens a menu of
-// them. The menu is a child of the same window, since no other window is sure
-// to be visible above a full-screen one.
+// A button that shows the chosen entry and opens a menu of all entries. The menu is a
+// child of the same window, because another window might not be visible above a
+// full-screen one.
 class MenuPicker : public QAbstractButton {
     Q_OBJECT
 
@@ -59,11 +60,11 @@ public:
     ~MenuPicker() override;
 
     const std::vector<Entry>& entries() const { return entries_; }
-    // Empty when nothing is chosen.
+    // Empty if no entry is chosen.
     QString currentText() const;
-    // Shows the entry with that value, or none. Emits no signal.
+    // Shows the entry with that value, or none if no entry has it. Emits no signal.
     void showValue(const QString& value);
-    // Chooses as the user would; an index out of range is ignored.
+    // Chooses an entry as the user would; ignores an index out of range.
     void choose(int index);
 
     bool isOpen() const;

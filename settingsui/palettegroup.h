@@ -9,8 +9,8 @@ namespace morrowleaf {
 
 class SettingsStore;
 
-// The palettes as a grid of swatches, the automatic one first. Choosing one
-// also drops the photo.
+// The palettes as a grid of swatches, the automatic one first. Choosing one also removes
+// the photo from the backdrop.
 class PaletteGroup : public QWidget {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private:
     void mark();
 
     SettingsStore& store_;
-    QList<PaletteSwatch*> swatches_; // automatic, then by index
+    QList<PaletteSwatch*> swatches_; // the automatic one, then the palettes by index
 };
 
 } // namespace morrowleaf

@@ -13,10 +13,10 @@
 namespace morrowleaf {
 namespace {
 
-// On a widget that holds controls that belong together.
+// Set on a widget whose children are controls that belong together.
 constexpr const char* groupProperty = "morrowleafGroup";
 
-// A button of ours: can be pressed, and has a role of its own.
+// Makes a custom button pressable and gives it a role.
 class ButtonAccessible : public QAccessibleWidget {
 public:
     ButtonAccessible(QAbstractButton* button, QAccessible::Role role)
@@ -117,7 +117,7 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
 } // namespace
 
 void speakAsGroup(QWidget& group, const QString& name) {
-    QAccessible::installFactory(make); // ignores one that it knows
+    QAccessible::installFactory(make); // a second installation has no effect
     group.setProperty(groupProperty, true);
     group.setAccessibleName(name);
 }

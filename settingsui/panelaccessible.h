@@ -8,8 +8,8 @@ class QWidget;
 
 namespace morrowleaf {
 
-// Makes `group` a named group for assistive programs. From the first call on
-// they also hear what the controls of this room are.
+// Makes `group` a named group for screen readers. The first call also installs the
+// accessible interfaces of this room's controls.
 void speakAsGroup(QWidget& group, const QString& name);
 
 } // namespace morrowleaf

@@ -39,8 +39,8 @@ QStringList nameFilters() {
     return {u"Images (%1)"_s.arg(patterns.join(u' '))};
 }
 
-// Gives Escape to the dialog while it is open, before anything else in the
-// program that waits for that key.
+// Passes Escape to the dialog while it is open, before other filters of the program see
+// it.
 class EscapeCloses : public QObject {
 public:
     explicit EscapeCloses(QDialog* dialog)
@@ -58,7 +58,7 @@ protected:
         if (QWidget* popup = QApplication::activePopupWidget()) {
             popup->close();
         } else if (QApplication::activeModalWidget() != dialog_) {
-            return false; // a question of the dialog's own, which comes first
+            return false; // a dialog of the dialog's own gets the key first
         } else {
             dialog_->reject();
         }
@@ -105,10 +105,10 @@ void PhotoChooser::finish(const std::optional<QString>& path) {
 }
 
 void PhotoChooser::chooseWithQt() {
-    // Without a parent: no window manager may know the window of the quotation.
+    // Without a parent, because the window manager may not know the overlay.
     auto* dialog = new QFileDialog(nullptr, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // The settings window, which may be open, stays above ordinary ones too.
+    // The settings window, which may be open, stays above ordinary windows too.
     dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::HideNameFilterDetails);
@@ -119,8 +119,7 @@ void PhotoChooser::chooseWithQt() {
         finish(result == QDialog::Accepted && !files.isEmpty() ? std::optional(files.first())
                                                                : std::nullopt);
     });
-    // Goes with the window, unless it waits for the answer to a question of its
-    // own.
+    // The dialog closes with the window, unless a dialog of its own is open.
     const QWidget* window = static_cast<QWidget*>(parent())->window();
     connect(window, &QObject::destroyed, dialog, [dialog] {
         if (QApplication::activeModalWidget() == dialog) {

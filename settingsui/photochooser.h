@@ -13,14 +13,14 @@ namespace morrowleaf {
 
 class FileChooser;
 
-// Lets the user pick one picture file: in the desktop's dialog, or in Qt's
-// where the desktop has none. Never blocks.
+// Lets the user pick one picture file, in the desktop's dialog or, if the desktop has
+// none, in Qt's. Never blocks. Main thread.
 class PhotoChooser : public QObject {
     Q_OBJECT
 
 public:
-    // The dialog belongs to the window of `parent`, and goes with it.
-    // `desktop` outlives the chooser.
+    // The dialog belongs to the window of `parent` and closes with it. `desktop` must
+    // outlive the chooser.
     PhotoChooser(FileChooser& desktop, QWidget* parent);
 
     // Opens the dialog; does nothing while it is open.
@@ -28,8 +28,8 @@ public:
 
 signals:
     void opening(); // emitted just before the dialog opens
-    void closed();  // after it has gone, whichever way
-    // Follows closed() unless the user cancelled; an absolute local path.
+    void closed();  // emitted after the dialog has closed, whatever the outcome
+    // Emitted after closed() unless the user cancelled; an absolute local path.
     void picked(const QString& path);
 
 private:

@@ -24,7 +24,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// What a built-in photo is called: its file's name, as a word.
+// The name of a built-in photo for screen readers: that of its file, capitalised.
 QString spokenName(const QString& path) {
     QString name = QFileInfo(path).completeBaseName();
     if (!name.isEmpty()) {
@@ -45,7 +45,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     , thumbnails_(new Thumbnails(photos, this))
     , builtins_(photos.builtins())
     , anchor_(new QWidget(this)) {
-    anchor_->setFocusPolicy(Qt::TabFocus); // else it has no place in that order
+    anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
     speakAsGroup(*this, u"Your photo"_s);
     auto* grid = new QGridLayout(this);
@@ -64,7 +64,7 @@ void PhotoGroup::rebuild() {
     customBGs_ = Prefs::customBGs(store_);
     const qsizetype focused = focusedCell();
     for (QWidget* cell : std::as_const(cells_)) {
-        // The press that led here may still be running in it.
+        // The press that led here may still be executing in the cell.
         cell->hide();
         cell->setParent(nullptr);
         cell->deleteLater();
@@ -98,7 +98,7 @@ void PhotoGroup::rebuild() {
     fetchPictures();
 }
 
-// Where the keyboard is; -1: elsewhere.
+// The index of the cell with the keyboard focus, or -1.
 qsizetype PhotoGroup::focusedCell() const {
     const QWidget* at = window()->focusWidget();
     for (qsizetype i = 0; i < cells_.size(); ++i) {
@@ -119,7 +119,7 @@ PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
 
 void PhotoGroup::place() {
     auto* grid = static_cast<QGridLayout*>(layout());
-    // Tab goes from tile to tile, wherever in the panel this grid stands.
+    // Tab moves from tile to tile, wherever this grid is in the panel.
     QWidget* before = anchor_;
     for (qsizetype i = 0; i < cells_.size(); ++i) {
         QWidget* cell = cells_[i];
@@ -148,7 +148,7 @@ void PhotoGroup::fetchPictures() {
         return;
     }
     for (PhotoSwatch* swatch : std::as_const(swatches_)) {
-        // Tiles get their width when the layout has run.
+        // Tiles have no width before the layout has run.
         const QSize size = swatch->pictureSize();
         if (swatch->width() > 1) {
             swatch->setPicture(thumbnails_->picture(swatch->path(), size));

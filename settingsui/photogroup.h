@@ -14,13 +14,13 @@ class PhotoSwatch;
 class SettingsStore;
 class Thumbnails;
 
-// The photos as a grid of swatches: the built-in ones, the user's own, and the
-// tile that adds one while there is room.
+// The photos as a grid of swatches: the built-in ones, the user's own, and a tile that
+// adds one unless the list is full.
 class PhotoGroup : public QWidget {
     Q_OBJECT
 
 public:
-    // The referenced objects outlive the group.
+    // The referenced objects must outlive the group.
     PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser, const QFont& face,
                QWidget* parent = nullptr);
 
@@ -43,7 +43,7 @@ private:
     QFont face_;
     Thumbnails* thumbnails_;
     QStringList builtins_;
-    QWidget* anchor_; // never seen: holds the group's place in the order of Tab
+    QWidget* anchor_; // hidden; keeps the group's position in the tab order
     QStringList customBGs_;
     QList<QWidget*> cells_;
     QList<PhotoSwatch*> swatches_;

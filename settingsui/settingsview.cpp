@@ -52,7 +52,7 @@ QFont scaled(const QFont& font, double factor) {
     return result;
 }
 
-// A word without end may break anywhere, or it would widen the whole form.
+// Allows line breaks within long words, which would widen the form otherwise.
 QString breakable(const QString& text) {
     constexpr int longestWord = 30; // letters
     QString result;
@@ -68,7 +68,7 @@ QString breakable(const QString& text) {
     return result;
 }
 
-// With more room beside its text than the style leaves.
+// A button with more space beside its text than the style gives it.
 QPushButton* roomyButton(const QString& text, QWidget* parent) {
     auto* button = new QPushButton(text, parent);
     button->setMinimumWidth(qMax(80, button->sizeHint().width() + 18));
@@ -240,7 +240,7 @@ void SettingsView::addQuotes(FormCard& card) {
     card.addRow(u"Source URL"_s, source);
 
     auto* row = new QWidget(&card);
-    row->setAccessibleName(u"Testing…"_s); // it has the keyboard while a test runs
+    row->setAccessibleName(u"Testing…"_s); // it has the keyboard focus during a test
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makePresets());
@@ -266,7 +266,7 @@ void SettingsView::addQuotes(FormCard& card) {
     card.addRow(help);
 }
 
-// One line, only while a file of settings that could not be read is kept.
+// One line that is visible only while an unreadable settings file is kept.
 QWidget* SettingsView::makeNotice() {
     auto* notice = makeQuietLabel({}, Emphasis::Secondary, this);
     notice->setFont(scaled(font(), 0.95));
@@ -296,7 +296,7 @@ void SettingsView::test() {
         return;
     }
     if (testButton_->hasFocus()) {
-        // Not to the next button: a second press would do what that one does.
+        // Not to the next button, which a second press would trigger.
         testButton_->parentWidget()->setFocus();
     }
     testButton_->setEnabled(false);

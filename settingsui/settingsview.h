@@ -20,24 +20,24 @@ class SettingsStore;
 
 inline constexpr QSize settingsViewSize(520, 545); // points
 
-// The content of the settings window: when the quotation shows and where it
-// comes from. Every control writes its setting the moment it changes.
+// The content of the settings window: when the quotation is shown and where it comes
+// from. Every control writes its setting as soon as it changes. Main thread.
 class SettingsView : public QWidget {
     Q_OBJECT
 
 public:
-    // `loader` is called with the source that is to be tested. The referenced
-    // objects outlive the view.
+    // `loader` is called with the source to test. The referenced objects must outlive the
+    // view.
     SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& loginItem,
                  MenuActions& actions, QWidget* parent = nullptr);
 
-    // Loads a quotation from the source that is set and shows the outcome. Does
-    // nothing while a test runs.
+    // Loads a quotation from the current source and shows the outcome. Does nothing while a
+    // test is in progress.
     void test();
 
 signals:
-    // The system refused to change the start at login, and the switch has gone
-    // back to the system's state.
+    // The system refused to change the login item; the switch shows the system's state
+    // again.
     void loginItemRefused();
 
 private:

@@ -74,7 +74,7 @@ void Swatch::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(shape.adjusted(half, half, -half, -half), PanelStyle::tileRadius - half,
                             PanelStyle::tileRadius - half);
     if (hasFocus()) {
-        // Drawn inside, where the neighbours leave no room outside.
+        // Drawn inside, because the neighbours leave no space outside.
         painter.setPen(QPen(PanelStyle::focusRing(), 2));
         painter.drawRoundedRect(shape.adjusted(1, 1, -1, -1), PanelStyle::tileRadius - 1,
                                 PanelStyle::tileRadius - 1);
@@ -122,7 +122,7 @@ void PhotoSwatch::paintTile(QPainter& painter, const QRectF& tile) {
         painter.fillPath(rounded(tile), PanelStyle::ink(0.09));
         return;
     }
-    // A brush, not a clip: only a filled shape has smooth corners.
+    // A brush instead of a clip, because only filled shapes have smooth edges.
     QBrush brush(picture_);
     brush.setTransform(
         QTransform::fromScale(tile.width() / picture_.width(), tile.height() / picture_.height()));

@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// A tile that chooses something when pressed. Whether it is marked follows
-// from the settings, never from the press itself.
+// A tile that chooses something when pressed. The settings decide whether it is marked,
+// not the press itself.
 class Swatch : public QAbstractButton {
     Q_OBJECT
 
@@ -37,8 +37,7 @@ private:
     bool marked_ = false;
 };
 
-// Filled with a gradient from the top left to the bottom right corner, its
-// name beneath.
+// A gradient from the top left to the bottom right corner, with its name beneath.
 class PaletteSwatch : public Swatch {
     Q_OBJECT
 
@@ -54,7 +53,7 @@ private:
     QGradientStops stops_;
 };
 
-// Shows a photo; a plain tile until its picture is set.
+// Shows a photo, or a plain tile until its picture is set.
 class PhotoSwatch : public Swatch {
     Q_OBJECT
 
@@ -86,7 +85,7 @@ protected:
     void paintTile(QPainter& painter, const QRectF& tile) override;
 };
 
-// The small cross at the corner of a photo of the user's own.
+// The small cross at the corner of one of the user's own photos.
 class RemoveButton : public QAbstractButton {
     Q_OBJECT
 

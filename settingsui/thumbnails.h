@@ -15,16 +15,16 @@ namespace morrowleaf {
 
 class BGStore;
 
-// Small pictures of photos, decoded in a worker and kept, at the exact size
-// that they are drawn in. Going away does not wait for a decoding that runs.
+// Small pictures of photos, decoded by a worker and cached at the exact size in which
+// they are drawn. The destructor does not wait for a decoder. Main thread.
 class Thumbnails : public QObject {
     Q_OBJECT
 
 public:
     explicit Thumbnails(BGStore& photos, QObject* parent = nullptr);
 
-    // The picture filling `size` device pixels, or null: then ready() follows,
-    // unless the photo cannot be read.
+    // The picture that fills `size` device pixels, or null. If it is null, ready() follows
+    // once the picture has been decoded.
     QImage picture(const QString& path, QSize size);
 
 signals:
@@ -33,7 +33,7 @@ signals:
 private:
     struct Thumbnail {
         QSize size;
-        QImage picture; // null while it is decoded, and where that failed
+        QImage picture; // null while it is being decoded, and if that failed
         Job decoding;
     };
 

@@ -19,15 +19,15 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto deadline = 6s;                       // from the call to the answer
-constexpr auto partingTime = 200ms;                 // for all loads, when the fetcher goes
+constexpr auto partingTime = 200ms;                 // for all loads, when the fetcher is destroyed
 constexpr qsizetype bodyLimit = qsizetype{4} << 20; // bytes, decoded
 
-// Including loads that are stuck: no more than these pile up.
+// Counts loads that are stuck too, so that their threads cannot accumulate.
 constexpr int loadLimit = 32;
 
 } // namespace
 
-// One load, until it is answered.
+// One load, from the call to its answer.
 class QuoteFetcher::Load : public QObject {
 public:
     Load(QuoteFetcher& fetcher, const QString& source, Done done)
@@ -78,7 +78,7 @@ QuoteFetcher::~QuoteFetcher() {
 }
 
 void QuoteFetcher::fetchQuote(const QString& from, Done done) {
-    new Load(*this, from, std::move(done)); // its parent's, and gone once answered
+    new Load(*this, from, std::move(done)); // owned by its parent; deletes itself after the answer
 }
 
 QuoteLoader QuoteFetcher::loader() {

@@ -17,9 +17,9 @@ namespace {
 
 using Json = nlohmann::json;
 
-// Iterates over a JSON text and leaves out what follows the second digit of
-// every run of digits outside strings: the text keeps its grammar, and no number
-// in it is too large for the parser, which refuses what it cannot represent.
+// Iterates over a JSON text and skips what follows the second digit of every run of
+// digits outside strings. The text stays grammatically the same, but contains no number
+// that is too large for the parser, which rejects such numbers.
 class ShortNumbers {
 public:
     using iterator_category = std::input_iterator_tag;
@@ -128,8 +128,8 @@ private:
     bool overflowed_ = false;
 };
 
-// Whether to keep the value that comes next; an array that contains anything
-// but objects loses what was kept of it.
+// Whether to keep the next value. An array that turns out to contain anything but objects
+// loses its kept elements.
 bool JsonTreeBuilder::isWanted(Kind kind) {
     if (skippedFrom_ > 0) {
         return false;

@@ -16,10 +16,9 @@
 
 namespace morrowleaf {
 
-// The part of a JSON document that is worth keeping: containers and strings
-// under a few names, in the order of the document, in one flat list. So a
-// document of 4 MiB never takes more than about 20 MiB, however it is made, and
-// nothing here recurses.
+// The relevant part of a JSON document: containers and strings under a few names, in
+// document order, in one flat list. A document of 4 MiB therefore takes about 20 MiB at
+// most, whatever its structure, and no function recurses.
 class JsonTree {
 public:
     using Node = std::uint32_t; // an index into the list; the root is 0
@@ -33,7 +32,7 @@ public:
     };
 
     Kind kind(Node node) const { return entries_[node].kind; }
-    // Of equal names in an object the last one; std::nullopt if there is none.
+    // The last member with this name; std::nullopt if there is none.
     std::optional<Node> member(Node object, std::string_view name) const;
     // Of an ObjectList.
     qsizetype count(Node list) const { return entries_[list].text; }
@@ -64,10 +63,10 @@ struct JsonReading {
     JsonTree tree; // only when the verdict is Read
 };
 
-// Reads a strict JSON document whose top level is an array or an object, in
-// UTF-8, UTF-16 or UTF-32, with at most 512 levels. Keeps only members called
-// by one of `names` (fewer than 255, outliving the tree). Numbers may have any
-// size. TooLarge: it would need more than `entryLimit` entries.
+// Reads a strict JSON document whose top level is an array or an object, in UTF-8, UTF-16
+// or UTF-32, with at most 512 levels. Keeps only members with one of `names` (fewer than
+// 255; they must outlive the tree). Numbers may have any magnitude. TooLarge: the tree
+// would need more than `entryLimit` entries. Any thread.
 JsonReading readJson(QByteArrayView body, std::span<const std::string_view> names,
                      std::size_t entryLimit = 1'500'000);
 

@@ -20,8 +20,8 @@ using Node = JsonTree::Node;
 using namespace Qt::Literals::StringLiterals;
 using namespace std::string_view_literals;
 
-// In the order in which they are tried. "quote" stands in two lists: around an
-// object it is a wrapper, with a string it is the text.
+// In the order in which they are tried. "quote" is in two lists: with an object it is a
+// wrapper, with a string it is the text.
 constexpr std::array containerKeys{"data"sv,    "quote"sv,  "slip"sv,  "result"sv,
                                    "results"sv, "quotes"sv, "items"sv, "contents"sv};
 constexpr std::array textKeys{"q"sv,    "quote"sv,     "text"sv,   "content"sv,
@@ -59,7 +59,8 @@ std::optional<Node> container(const JsonTree& tree, Node object) {
     return std::nullopt;
 }
 
-// The object that holds the quotation: the root, or what its wrappers lead to.
+// The object that contains the quotation: the root, or the object that its wrappers lead
+// to.
 std::optional<Node> unwrap(const JsonTree& tree, const RandomIndex& random) {
     Node node = 0;
     if (!leadsToObject(tree, node)) {
@@ -73,7 +74,7 @@ std::optional<Node> unwrap(const JsonTree& tree, const RandomIndex& random) {
         node = *inner;
     }
     if (tree.kind(node) == Kind::ObjectList) {
-        return tree.element(node, random(tree.count(node))); // taken as it is
+        return tree.element(node, random(tree.count(node))); // not unwrapped any further
     }
     return node;
 }

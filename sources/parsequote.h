@@ -12,9 +12,9 @@
 
 namespace morrowleaf {
 
-// The quotation in a body: JSON of many shapes, an element of an array being
-// drawn by `random`, or else a plain text of fewer than 600 user-perceived
-// characters. Nothing where there is none. Any thread.
+// The quotation in a body: JSON of many shapes (`random` chooses an element of an array),
+// else a plain text of fewer than 600 user-perceived characters. std::nullopt if there is
+// none. Any thread.
 [[nodiscard]] std::optional<Quote> parseQuote(QByteArrayView body, const RandomIndex& random);
 
 } // namespace morrowleaf

@@ -52,7 +52,7 @@ std::optional<SourceAddress> sourceAddress(const QString& source) {
 std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
                                         const std::stop_token& stop) {
     QFile file;
-    // The size is a hint only: files of the kernel say 0, and a file may grow.
+    // The size is only a hint: files of the kernel report 0, and a file may grow.
     if (!openRegularFile(file, path) || file.size() > limit) {
         return std::nullopt;
     }

@@ -33,7 +33,7 @@ Encoding encodingOf(QByteArrayView body) {
     if (body.startsWith(QByteArrayView("\xFE\xFF"))) {
         return {"UTF-16BE", 2};
     }
-    // A JSON text begins with two ASCII characters.
+    // A JSON array or object begins with two ASCII characters.
     if (body.size() < 4) {
         return {};
     }
@@ -47,14 +47,15 @@ Encoding encodingOf(QByteArrayView body) {
     return {};
 }
 
-// Strict: false for what is ill-formed.
+// Returns false if `text` is ill-formed.
 bool convertToUtf8(QByteArrayView text, const char* encoding, QByteArray& out) {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(ucnv_open(encoding, &status),
                                                                        ucnv_close);
     ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
                         &status);
-    // Two bytes of UTF-16 become three bytes at most, four of either become four.
+    // Two bytes of UTF-16 become at most three bytes, four bytes of either encoding at most
+    // four.
     out.resize(text.size() + text.size() / 2);
     const int32_t size =
         ucnv_toAlgorithmic(UCNV_UTF8, converter.get(), out.data(), static_cast<int32_t>(out.size()),
@@ -66,7 +67,7 @@ bool convertToUtf8(QByteArrayView text, const char* encoding, QByteArray& out) {
 } // namespace
 
 QString decodeUtf8(QByteArrayView bytes) {
-    QString text(bytes.size(), Qt::Uninitialized); // no byte becomes more than one unit
+    QString text(bytes.size(), Qt::Uninitialized); // no byte becomes more than one UTF-16 code unit
     int32_t length = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strFromUTF8WithSub(reinterpret_cast<UChar*>(text.data()), static_cast<int32_t>(text.size()),

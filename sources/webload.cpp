@@ -34,8 +34,8 @@ bool isWeb(const QUrl& url) {
     return isSecure(url) || url.scheme() == "http"_L1;
 }
 
-// The proxies of the desktop or the environment, asked anew for every
-// connection. Asking may take long.
+// The proxies of the desktop or the environment, queried for every connection. A query
+// may block for long.
 class SystemProxies : public QNetworkProxyFactory {
 public:
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
@@ -49,10 +49,10 @@ QString firstHost(const QUrl& url) {
     return proxy.hostName().isEmpty() ? url.host(QUrl::FullyEncoded) : proxy.hostName();
 }
 
-// Whether the first host on the way to `url` (a proxy, or its own) has an
-// address. Blocks as long as the resolver does. Asked before a connection is
-// tried, because Qt looks names up on threads that it joins when the program
-// ends: a resolver that hangs would hang the exit.
+// Whether the first host on the way to `url` (a proxy, or its own host) has an address.
+// Blocks as long as the resolver does. Checked before connecting, because Qt resolves
+// names on threads that it joins at exit: a resolver that hangs would keep the program
+// from ending.
 bool canBeReached(const QUrl& url) {
     return hasAddress(firstHost(url).toUtf8());
 }
@@ -60,7 +60,7 @@ bool canBeReached(const QUrl& url) {
 constexpr int redirectLimit = 20;
 constexpr qint64 readBuffer = qint64{64} * 1024;
 
-// Bytes on the wire that end a connection: during the load, and once it is over.
+// Bytes received that end a connection: during the load, and after it.
 constexpr std::uint64_t floodBytes = std::uint64_t{5} << 20U;
 constexpr std::uint64_t remainderBytes = std::uint64_t{1} << 20U;
 constexpr auto guardPause = std::chrono::milliseconds(100);
@@ -77,8 +77,7 @@ QNetworkRequest requestFor(const QUrl& url) {
     return request;
 }
 
-// Every status counts as an answer, though Qt calls some of them errors; a
-// transfer that broke off does not.
+// Responses with an error status count as answers too; interrupted transfers do not.
 bool isAnswer(const QNetworkReply& reply) {
     switch (reply.error()) {
     case QNetworkReply::NoError:
@@ -102,7 +101,7 @@ bool isAnswer(const QNetworkReply& reply) {
     }
 }
 
-// Qt does not report that the body of an error status broke off.
+// Qt does not report when the body of an error response is incomplete.
 bool isComplete(const QNetworkReply& reply, qsizetype received) {
     const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
     return reply.error() == QNetworkReply::NoError || !announced.isValid() ||
@@ -123,13 +122,13 @@ public:
     }
 
     std::optional<QByteArray> run(const std::stop_token& stop) {
-        // Posted, since a loop that has not begun cannot be quit.
+        // Queued, because a loop that has not started cannot be quit.
         const std::stop_callback quit(stop, [this] {
             QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
         });
         loop_.exec();
-        // Qt reads on, on its own thread, as long as a header keeps coming,
-        // whether or not anybody waits for it.
+        // On its own thread Qt reads a header for as long as it keeps coming, even if
+        // nobody waits for it any more.
         flood_.end(remainderBytes);
         return std::move(body_);
     }
@@ -169,7 +168,7 @@ private:
         return flooded;
     }
 
-    // The next request goes out once this has returned.
+    // Qt sends the next request after this returns.
     void redirected(const QUrl& next) {
         const QUrl from = std::exchange(at_, next);
         if (!mayRedirect(from, next) || !canBeReached(next)) {
@@ -185,8 +184,8 @@ private:
     FloodGuard flood_;
     QNetworkAccessManager manager_;
     std::unique_ptr<QNetworkReply> reply_;
-    // A flood keeps this thread too busy for a timer of its own. The pool waits
-    // for the watch when this is destroyed.
+    // A flood keeps this thread too busy for a timer. The destructor of the pool waits for
+    // the watch.
     QThreadPool watchers_;
     Job watch_{watchers_, [this](const std::stop_token& stop) { return watch(stop); }, [](bool) {}};
 };

@@ -39,7 +39,7 @@ const QString hidingEntry = u"[Desktop Entry]\n"
                             "Name=Morrowleaf\n"
                             "Hidden=true\n"_s;
 
-// Returns the system's error message on failure.
+// Returns the system's error message, std::nullopt on success.
 std::optional<QString> writeEntry(const QString& path, const QString& text) {
     std::error_code error;
     std::filesystem::create_directories(
@@ -54,8 +54,8 @@ std::optional<QString> writeEntry(const QString& path, const QString& text) {
     return std::nullopt;
 }
 
-// The file of this program. Where a newer version has replaced it since the
-// start, the kernel marks the old path as deleted.
+// The path of this program. If a newer version has replaced the file since the start, the
+// kernel marks the old path as deleted.
 QString ownProgram() {
     const auto mark = " (deleted)"_L1;
     QString program = QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
@@ -125,7 +125,7 @@ private:
 } // namespace
 
 AutostartPlaces autostartPlaces() {
-    // Not QStandardPaths, which depends on the application object.
+    // QStandardPaths depends on the application object.
     QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
     if (!QDir::isAbsolutePath(config)) {
         config = QDir::homePath() + "/.config"_L1;

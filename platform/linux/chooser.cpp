@@ -23,9 +23,9 @@ namespace morrowleaf {
 
 namespace {
 
-// Without an address libdbus would start a bus of its own, which nobody else
-// uses and which outlives the program. Name the one that is, or may come, at the
-// usual place.
+// Without an address libdbus would start a bus of its own, which no other program uses
+// and which outlives this one. Set the usual address instead; a bus may appear there
+// later.
 void avoidStartingABus() {
     constexpr const char* address = "DBUS_SESSION_BUS_ADDRESS";
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -34,9 +34,9 @@ void avoidStartingABus() {
     }
 }
 
-// Large blocks, which are mostly pictures, get pages of their own and are
-// unmapped when they are freed. By default the threshold rises with every freed
-// block, and the arenas of threads keep what is below it.
+// Gives large blocks, mostly pictures, pages of their own, which are unmapped when the
+// block is freed. By default the threshold rises with every freed block, and the arenas
+// of threads keep smaller blocks.
 void unmapLargeBlocks() {
     constexpr int threshold = 1 << 20; // bytes
     mallopt(M_MMAP_THRESHOLD, threshold);
@@ -57,7 +57,7 @@ WindowSystem chooseWindowSystem() {
         qputenv("QT_QPA_PLATFORM", choice.plugin);
     }
     if (choice.system == WindowSystem::Layer) {
-        // Lets a window ask Qt for a surface without a role.
+        // Makes Qt create a surface without a role for a window that asks for it.
         qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     }
     return choice.system;

@@ -10,9 +10,9 @@
 
 namespace morrowleaf {
 
-// The keys and unescaped values of the group "Desktop Entry" of the desktop
-// file at `path`; std::nullopt where that is not a readable regular file with
-// such a group. Only the first 64 KiB are read.
+// The keys and unescaped values of the group "Desktop Entry" of the desktop file at
+// `path`; std::nullopt if that is not a readable regular file with such a group. Reads
+// only the first 64 KiB.
 [[nodiscard]] std::optional<QMap<QString, QString>> readDesktopEntry(const QString& path);
 
 // Escapes `text` as the value of a key of type string.

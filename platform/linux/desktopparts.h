@@ -11,18 +11,18 @@
 
 namespace morrowleaf {
 
-// The parts of a desktop that D-Bus, X11 and the kernel serve together.
+// The parts of a desktop that combine D-Bus, X11 and the kernel. Main thread.
 
-// Sleep and sessions from the login manager, locking from the screen savers
-// too, monitors from Qt and the X server, the end from UNIX signals.
+// Sleep and session changes come from the login manager, locking also from the screen
+// savers, monitors from Qt and the X server, and requests to quit from UNIX signals.
 std::unique_ptr<SessionEvents> makeDesktopSession();
 
-// Present where a status notifier host is on the session bus or, with `x11`, a
+// A tray is present if a status notifier host is on the session bus or, with `x11`, a
 // system tray is on the X server.
 std::unique_ptr<TrayHost> makeDesktopTray(bool x11);
 
-// By a name on the session bus or, without a bus, by a socket in the user's
-// runtime folder.
+// Uses a name on the session bus or, without a bus, a socket in the user's runtime
+// folder.
 std::unique_ptr<SingleInstance> makeDesktopInstance();
 
 } // namespace morrowleaf

@@ -22,10 +22,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Monitors that are switched on appear, move and resize one after another.
+// Monitors that are switched on appear, move and resize one after the other.
 constexpr int settleTime = 500; // milliseconds
 
-// Without any monitor a screen with an empty geometry may remain, or a made-up one.
+// With all monitors off, Qt may keep a screen with an empty geometry or a placeholder.
 bool hasScreen() {
     if (x11::connection() != nullptr && !X11Monitors::isAnyOn()) {
         return false;

@@ -30,7 +30,7 @@ std::optional<std::uint64_t> socketIdentity(int fd) {
     return info.st_ino;
 }
 
-// Passes duplicates of the descriptors, since another thread may close the originals.
+// Passes duplicates of the descriptors, because another thread may close the originals.
 void forEachSocket(const std::function<void(int, std::uint64_t)>& visit) {
     const QStringList names = QDir(u"/proc/self/fd"_s).entryList(QDir::System | QDir::Files);
     for (const QString& name : names) {

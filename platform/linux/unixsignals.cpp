@@ -12,12 +12,12 @@ namespace morrowleaf {
 
 namespace {
 
-// Global, since a signal handler can reach nothing else.
+// Global, because a signal handler can access nothing else.
 std::array<int, 2> pipeEnds{-1, -1};
 
 void writeToPipe(int /*signal*/) {
     const char byte = 0;
-    // A failure cannot be handled here; a full pipe will be read anyway.
+    // A failure cannot be handled here; if the pipe is full, it will be read anyway.
     [[maybe_unused]] const auto written = write(pipeEnds[1], &byte, 1);
 }
 

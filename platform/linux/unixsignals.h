@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal. The handlers stay
-// installed for the life of the process; use one object at a time.
+// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal. The handlers stay installed for the
+// life of the process; create only one object at a time. Main thread.
 class UnixSignals : public QObject {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ signals:
     void quitRequested();
 
 private:
-    std::unique_ptr<QSocketNotifier> notifier_; // null where there is no pipe
+    std::unique_ptr<QSocketNotifier> notifier_; // null if the pipe could not be created
 };
 
 } // namespace morrowleaf

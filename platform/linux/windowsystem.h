@@ -7,7 +7,7 @@
 
 namespace morrowleaf {
 
-// The ways in which a window can be shown above everything.
+// The ways to show a window above everything else.
 enum class WindowSystem : int {
     Null,     // the null backend; the desktop is left alone
     X11,      // a window outside the window manager's control
@@ -16,23 +16,23 @@ enum class WindowSystem : int {
     Wayland,  // an opaque full-screen window of the xdg shell
 };
 
-// What the choice depends on.
+// The facts that decide the window system.
 struct SessionFacts {
     QByteArray forced;          // MORROWLEAF_PLATFORM
     QByteArray qtPlatform;      // QT_QPA_PLATFORM
-    bool hasWayland = false;    // a compositor can be reached
-    bool hasLayerShell = false; // it offers zwlr_layer_shell_v1
+    bool hasWayland = false;    // a compositor is reachable
+    bool hasLayerShell = false; // the compositor offers zwlr_layer_shell_v1
     bool hasDisplay = false;    // DISPLAY names an X server
 };
 
 struct WindowSystemChoice {
     WindowSystem system = WindowSystem::Null;
-    const char* plugin = nullptr; // of Qt; null leaves QT_QPA_PLATFORM as it is
+    const char* plugin = nullptr; // Qt's platform; null leaves QT_QPA_PLATFORM unchanged
 };
 
-// `forced` decides where it is one of "null", "x11", "wayland" and "xwayland";
-// otherwise the best way that the session offers. A Qt platform that the user
-// has set is kept, and the way follows it.
+// Uses `forced` if it is "null", "x11", "wayland" or "xwayland", else the best way that
+// the session offers. Keeps a Qt platform that the user has set and chooses a way that
+// works with it.
 WindowSystemChoice chooseFor(const SessionFacts& facts);
 
 } // namespace morrowleaf

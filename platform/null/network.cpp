@@ -5,7 +5,7 @@
 
 namespace morrowleaf {
 
-// This backend cannot ask how much a connection has received, so it ends none.
+// This backend does not know how much a connection has received, so it ends none.
 FloodGuard::FloodGuard() = default;
 
 bool FloodGuard::end(std::uint64_t /*limit*/) const {

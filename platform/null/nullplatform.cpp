@@ -49,7 +49,7 @@ class PrimaryScreen final : public MainScreen {
 public:
     QScreen* current() const override {
         QScreen* screen = QGuiApplication::primaryScreen();
-        // No monitor at all may show up as a screen without an area.
+        // With all monitors off, Qt may keep a screen without an area.
         return screen != nullptr && !screen->geometry().isEmpty() ? screen : nullptr;
     }
 };

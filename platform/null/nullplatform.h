@@ -7,9 +7,8 @@
 
 namespace morrowleaf {
 
-// A platform that leaves the desktop alone: overlays are ordinary windows on the
-// primary screen, session events never occur, and the login item is kept in
-// memory only.
+// A platform that leaves the desktop alone: overlays are ordinary windows on the primary
+// screen, session events never occur, and the login item is kept in memory only.
 Platform makeNullPlatform();
 
 } // namespace morrowleaf

@@ -13,7 +13,7 @@ namespace morrowleaf {
 
 ScreenFollower::ScreenFollower(QWidget& window, QScreen& screen) {
     connect(&screen, &QScreen::geometryChanged, this, [this, &window](const QRect& geometry) {
-        // Without any monitor a screen with an empty geometry remains.
+        // With all monitors off, Qt keeps a screen with an empty geometry.
         if (geometry.isEmpty()) {
             loseScreen();
         } else {

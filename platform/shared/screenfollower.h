@@ -10,8 +10,8 @@ class QWidget;
 
 namespace morrowleaf {
 
-// Keeps a window as large as its screen, and tells when that screen is gone.
-// `window` and `screen` must outlive it; a screen that Qt removes may not.
+// Keeps a window as large as its screen and reports when that screen is gone. `window`
+// and `screen` must outlive it; a screen that Qt removes is an exception.
 class ScreenFollower : public QObject {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     ScreenFollower(QWidget& window, QScreen& screen);
 
 signals:
-    void lost(); // once
+    void lost(); // emitted once at most
 
 private:
     void loseScreen();

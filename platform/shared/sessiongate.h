@@ -11,8 +11,8 @@
 
 namespace morrowleaf {
 
-// Delivers events at once, or queues one per kind while an inhibitor is active
-// and delivers them, in the order of Event, when the last inhibitor ends.
+// Delivers events at once, or queues one per kind while an inhibitor is active and
+// delivers them, in the order of Event, when the last inhibitor ends. Main thread.
 class SessionGate : public QObject {
     Q_OBJECT
 
@@ -22,10 +22,10 @@ public:
     using QObject::QObject;
 
     void report(Event event);
-    // Starts and ends an inhibitor, such as a locked screen, by its name. Does
-    // nothing where it is in that state already.
+    // Starts or ends an inhibitor, such as a locked screen, identified by its name.
+    // Repeating a call has no effect.
     void setInhibited(const QString& inhibitor, bool active);
-    // The user is about to leave, whether or not an inhibitor will follow.
+    // The user is about to leave, whether or not an inhibitor follows.
     void reportLeaving();
 
 signals:

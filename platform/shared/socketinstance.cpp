@@ -22,7 +22,7 @@ constexpr qint64 longestRequest = 4096; // bytes
 SocketInstance::SocketInstance(const QString& folder)
     : socket_(folder + "/morrowleaf.socket"_L1)
     , lock_(folder + "/morrowleaf.lock"_L1) {
-    lock_.setStaleLockTime(0); // a lock never becomes stale by its age alone
+    lock_.setStaleLockTime(0); // never treat a lock as stale because of its age alone
     connect(&server_, &QLocalServer::newConnection, this, &SocketInstance::receive);
 }
 
@@ -35,7 +35,7 @@ bool SocketInstance::claim(const LaunchRequest& request) {
         if (lock_.error() != QLockFile::LockFailedError) {
             return true;
         }
-        // The first instance may hold the lock and not listen yet.
+        // The first instance may hold the lock without listening yet.
         if (handOver(request)) {
             return false;
         }
@@ -45,7 +45,7 @@ bool SocketInstance::claim(const LaunchRequest& request) {
 }
 
 void SocketInstance::listen() {
-    // A socket that is there now was left behind, since this process has the lock.
+    // An existing socket was left behind, because this process has the lock.
     QLocalServer::removeServer(socket_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     server_.listen(socket_);

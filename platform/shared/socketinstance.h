@@ -12,9 +12,9 @@ class QLocalSocket;
 
 namespace morrowleaf {
 
-// The instance is the process that holds a lock in `folder`; later launches
-// reach it by a socket beside the lock. What a killed instance leaves of either
-// does not hinder the next.
+// The instance is the process that holds a lock in `folder`; later launches reach it
+// through a socket beside the lock. A lock or a socket that a killed instance leaves
+// behind does not affect the next one.
 class SocketInstance : public SingleInstance {
     Q_OBJECT
 

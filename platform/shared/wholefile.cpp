@@ -47,7 +47,7 @@ bool ownerMayWrite(const struct stat& file) {
     return (file.st_mode & S_IWUSR) != 0;
 }
 
-// `path`, or the end of a chain of links; empty where the links form a circle.
+// The path at the end of a chain of links; empty if the links form a circle.
 QString endOfLinks(QString path) {
     for (int links = 0; links < 40; ++links) {
         const QString next = QFileInfo(path).symLinkTarget();
@@ -59,7 +59,8 @@ QString endOfLinks(QString path) {
     return {};
 }
 
-// False where the new file would belong to somebody else than the old one.
+// Gives the new file the owner, group and permissions of the old one. Returns false if
+// the owner cannot be kept.
 bool takeOver(const struct stat& old, int handle) {
     struct stat made {};
     if (::fstat(handle, &made) != 0) {
@@ -69,14 +70,14 @@ bool takeOver(const struct stat& old, int handle) {
         return false;
     }
     if (made.st_gid != old.st_gid) {
-        // Only root may give a file to any group; the others need not fail for it.
+        // Only root may set any group; failing to set it does not matter.
         [[maybe_unused]] const int given = ::fchown(handle, old.st_uid, old.st_gid);
     }
     return ::fchmod(handle, old.st_mode & ALLPERMS) == 0;
 }
 
-// A rename is on the disk once its folder is. Where a file system cannot flush
-// folders the rename counts all the same.
+// A rename is on the disk once its folder is flushed. Errors are ignored, because some
+// file systems cannot flush folders.
 void syncFolderOf(const QString& path) {
     const int folder = ::open(QFile::encodeName(QFileInfo(path).path()).constData(),
                               O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -86,7 +87,8 @@ void syncFolderOf(const QString& path) {
     }
 }
 
-// An empty file or folder of a name that was free; empty on failure.
+// Creates an empty file or folder with a free name beside `victim` and returns its path;
+// empty on failure.
 QString reserveBeside(const QFileInfo& victim, bool folder) {
     const QString stem = victim.path() + u'/' + victim.completeBaseName() + ".broken-"_L1 +
                          QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd-HHmmss"_s);
@@ -153,7 +155,7 @@ Replaced replaceWholeFile(const QString& path, const QByteArray& bytes, const Fi
         ::fsync(file.handle()) != 0) {
         return Replaced::Failed;
     }
-    // Looked at as late as can be: an editor takes no lock.
+    // Checked as late as possible, because editors take no lock.
     if ((find(target, found) ? markOf(found) : FileMark{}) != mark) {
         return Replaced::Overtaken;
     }

@@ -20,7 +20,7 @@ constexpr std::uint32_t allEdges =
     ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
 constexpr std::int32_t overPanels = -1;    // exclusive zone
 constexpr std::uint32_t exclusive = 1;     // keyboard interactivity
-constexpr int focusPatience = 150;         // milliseconds in which Qt may activate another window
+constexpr int focusPatience = 150;         // milliseconds; Qt may activate another window meanwhile
 constexpr qint64 configurePatience = 2000; // milliseconds
 
 class LayerOverlay final : public OverlayWindow {
@@ -68,7 +68,7 @@ public:
         destroySurface();
         window_.hide();
         if (auto* handle = window_.windowHandle()) {
-            // A surface keeps its role for life, so the next one needs a new surface.
+            // A surface keeps its role for ever, so the next showing needs a new surface.
             handle->destroy();
         }
     }
@@ -86,10 +86,10 @@ public:
         wl_display_flush(wayland::display());
     }
 
-    // A lock screen is above all layers and gets the keyboard anyway.
+    // A lock screen is above all layers and receives the keyboard anyway.
     void releaseInput() override {}
 
-    // A window never gets input from before it was mapped.
+    // A surface receives no input from before it was mapped.
     quint32 orderedFrontAt() const override { return 0; }
 
 private:
@@ -105,7 +105,7 @@ private:
         if (surface == nullptr) {
             return;
         }
-        // Without an output the compositor chooses the focused one.
+        // Without an output the compositor uses the focused one.
         layer_ = zwlr_layer_shell_v1_get_layer_surface(
             globals_.layerShell, surface, nullptr, ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "morrowleaf");
         // Events are dispatched on the default queue, as Qt's own are.
@@ -122,8 +122,8 @@ private:
             org_kde_kwin_blur_commit(blur_);
         }
         wl_surface_commit(surface);
-        // Wait for the size before anything is drawn. Without any output the
-        // compositor closes the surface or sends nothing.
+        // Wait for the size before drawing anything. Without any output the compositor
+        // closes the surface or sends no event.
         QElapsedTimer waiting;
         waiting.start();
         while (!configured_ && !closed_ && waiting.elapsed() < configurePatience &&

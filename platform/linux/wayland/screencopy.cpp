@@ -34,7 +34,7 @@ std::optional<QImage::Format> formatOf(std::uint32_t format) {
     }
 }
 
-// One frame on its way from the compositor.
+// One frame that the compositor copies.
 class Frame {
 public:
     Frame(wl_shm* shm, zwlr_screencopy_frame_v1* frame)
@@ -134,8 +134,8 @@ public:
 
     QImage capture(QScreen& screen) override {
         wl_output* output = wayland::outputOf(screen);
-        // With several screens the compositor chooses one for the window, and
-        // only later than this.
+        // With several screens the compositor chooses one for the window, but only after
+        // this call.
         if (globals_.screencopy == nullptr || globals_.shm == nullptr || output == nullptr ||
             QGuiApplication::screens().size() != 1) {
             return {};

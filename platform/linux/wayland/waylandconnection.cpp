@@ -26,7 +26,7 @@ void bindIf(T*& object, wl_registry* registry, std::uint32_t name, const char* o
 void onGlobal(void* data, wl_registry* registry, std::uint32_t name, const char* offered,
               std::uint32_t version) {
     auto& globals = *static_cast<Globals*>(data);
-    // A surface can change its layer since version 2.
+    // Needs version 2 to change the layer of a surface.
     constexpr std::uint32_t layerVersion = 4;
     bindIf(globals.layerShell, registry, name, offered, zwlr_layer_shell_v1_interface,
            std::min(version, layerVersion));

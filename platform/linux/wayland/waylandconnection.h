@@ -6,7 +6,7 @@
 #include <wayland-client.h>
 
 extern "C" {
-// A parameter in the generated C has this name.
+// The generated C uses this keyword as the name of a parameter.
 #define namespace ns_
 #include "wlr-layer-shell-unstable-v1.h"
 #undef namespace
@@ -20,15 +20,15 @@ class QWindow;
 namespace morrowleaf::wayland {
 
 struct Session {
-    bool isReachable = false;   // there is a compositor
-    bool hasLayerShell = false; // it can make a window an overlay
+    bool isReachable = false;   // a compositor is reachable
+    bool hasLayerShell = false; // the compositor can make a window an overlay
 };
 
-// Connects to the session's compositor for a moment. Needs no application object.
+// Connects to the session's compositor and disconnects again. Needs no application
+// object.
 Session probeSession();
 
-// The globals that this program uses of those that a compositor offers; null
-// where one is missing.
+// The globals of a compositor that this program uses; null if the compositor lacks them.
 struct Globals {
     zwlr_layer_shell_v1* layerShell = nullptr;
     zwlr_screencopy_manager_v1* screencopy = nullptr;
@@ -37,10 +37,10 @@ struct Globals {
 };
 
 // Blocks for one round trip. The objects belong to `queue`, or to the default
-// queue of `display` where that is null.
+// queue of `display` if that is null.
 Globals bindGlobals(wl_display* display, wl_event_queue* queue);
 
-// The native objects behind Qt's; null where there are none.
+// The native objects of Qt's objects; null if there are none.
 wl_display* display();
 wl_surface* surfaceOf(QWindow& window);
 wl_output* outputOf(QScreen& screen);

@@ -64,8 +64,8 @@ void setCardinal(xcb_window_t window, const char* name, quint32 value) {
                         32, 1, &value);
 }
 
-// A property change is the one request that the server answers with its time.
-// On the application's connection Qt could take the answer.
+// A property change is the one request that the server answers with its time. On the
+// application's connection Qt could receive the answer instead.
 quint32 serverTime() {
     auto* c = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(c) != 0) {

@@ -24,8 +24,8 @@ using Reply = std::unique_ptr<T, Free>;
 // application object.
 bool isServerReachable();
 
-// The connection of Qt's application object; null where that does not use X11.
-// All functions below need it.
+// The connection of Qt's application object; null if that does not use X11. All functions
+// below require a connection. Main thread.
 xcb_connection_t* connection();
 xcb_window_t rootWindow();
 xcb_atom_t atom(const char* name);
@@ -34,7 +34,7 @@ xcb_window_t selectionOwner(const char* selection);
 // Whether a compositing manager blends windows by their alpha.
 bool hasCompositor();
 
-// The 32-bit values of a property, at most 1024; std::nullopt where it is not set.
+// The 32-bit values of a property, at most 1024; std::nullopt if it is not set.
 [[nodiscard]] std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name);
 void setCardinal(xcb_window_t window, const char* name, quint32 value);
 
@@ -43,7 +43,7 @@ void setCardinal(xcb_window_t window, const char* name, quint32 value);
 quint32 serverTime();
 
 xcb_window_t inputFocus();
-// Does nothing where the window cannot take the focus, as when it is gone.
+// Does nothing if the window cannot take the focus, for example because it is gone.
 void setInputFocus(xcb_window_t window);
 
 // Whether `window` or one of its ancestors belongs to an application: window

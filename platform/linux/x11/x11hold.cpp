@@ -54,8 +54,8 @@ void X11Hold::releaseGrabs(const QWindow& window) {
         return;
     }
     retry_.stop();
-    // Regardless of keyboard_ and mouse_: closing a popup may have returned a
-    // grab to this window.
+    // Regardless of keyboard_ and mouse_, because closing a popup may have returned a grab
+    // to this window.
     holder_->setKeyboardGrabEnabled(false);
     holder_->setMouseGrabEnabled(false);
     keyboard_ = false;
@@ -69,7 +69,7 @@ void X11Hold::giveBack(const QWindow& window) {
     releaseGrabs(window);
     const auto own = static_cast<xcb_window_t>(holder_->winId());
     holder_ = nullptr;
-    // Another application may have taken the focus meanwhile, and keeps it.
+    // If another application has taken the focus meanwhile, it keeps it.
     const xcb_window_t now = x11::inputFocus();
     const bool isFree = now == own || now <= XCB_INPUT_FOCUS_POINTER_ROOT ||
                         now == x11::rootWindow() ||

@@ -10,14 +10,14 @@
 
 namespace morrowleaf {
 
-// Keyboard focus and grabs of keyboard and mouse, for one window at a time. The
-// window that had the focus before the first one gets it back after the last.
+// Keyboard focus and grabs of keyboard and mouse, for one window at a time. Returns the
+// focus at the end to the window that had it before the first take().
 class X11Hold {
 public:
     X11Hold();
 
     enum class What { Focus, FocusAndKeyboard, Everything };
-    // Takes what is free at once, and the rest when other clients release it.
+    // Takes what is free at once, and the rest as soon as other clients release it.
     void take(QWindow& window, What what);
     // Releases the grabs; remembers which window had the focus before.
     void releaseGrabs(const QWindow& window);

@@ -12,8 +12,8 @@ namespace morrowleaf {
 
 namespace {
 
-// The number of the RandR extension's first event; 0 without the extension. Qt
-// has asked the server for these events already.
+// The number of the RandR extension's first event; 0 without the extension. Qt has
+// already selected these events.
 std::uint8_t firstEvent() {
     const auto* extension = xcb_get_extension_data(x11::connection(), &xcb_randr_id);
     return extension != nullptr && extension->present != 0 ? extension->first_event : 0;

@@ -24,8 +24,8 @@ namespace morrowleaf {
 namespace {
 
 constexpr int focusPatience = 120;  // milliseconds
-constexpr int settlingTime = 1'500; // milliseconds in which managers may move the focus
-constexpr int mostRaises = 20;      // in one showing, so that two windows do not fight for ever
+constexpr int settlingTime = 1'500; // milliseconds in which window managers may move the focus
+constexpr int mostRaises = 20;      // per showing, so that two windows do not fight for ever
 
 X11Hold::What initialHold(InputHold hold) {
     return hold == InputHold::KeyboardAndMouse ? X11Hold::What::Everything : X11Hold::What::Focus;
@@ -88,8 +88,8 @@ public:
 
     void orderOut() override {
         watch_.stop();
-        // First: once the window is gone the focus falls to the root, and what
-        // the manager makes of that comes after all that is set here.
+        // First, because unmapping the window moves the focus to the root, and the window
+        // manager would react to that after the focus is set here.
         hold_->giveBack(*window_.windowHandle());
         window_.hide();
     }
@@ -145,7 +145,7 @@ private:
         xcb_change_property(x11::connection(), XCB_PROP_MODE_APPEND, id(),
                             x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, skip.size(),
                             skip.data());
-        // Redirection that stops and starts again flickers; it is needed for the fades.
+        // Keeps compositing on: stopping and resuming it flickers, and the fades need it.
         constexpr quint32 keepCompositing = 2;
         x11::setCardinal(id(), "_NET_WM_BYPASS_COMPOSITOR", keepCompositing);
     }
@@ -188,8 +188,8 @@ private:
         }
     }
 
-    // The focus did not stay with any window of the program; or, when a dialog
-    // closed, the manager gave it to the one that had it before.
+    // Takes the focus again if no window of the program has it, or if the window manager
+    // gave it to another window of the program when a dialog closed.
     void insist() {
         const QWindow* focused = QGuiApplication::focusWindow();
         const bool strayed =
@@ -211,12 +211,12 @@ private:
         } else {
             values[0] = mode;
         }
-        // The sibling may be gone by now; that is no error worth a word.
+        // The sibling may be gone by now, which is not an error here.
         const x11::Reply<xcb_generic_error_t> ignored(
             xcb_request_check(c, xcb_configure_window_checked(c, id(), mask, values.data())));
     }
 
-    // Under the dialog that came up, and still above everything else.
+    // Places the window directly below the active dialog, above everything else.
     void standBelowActive() {
         const auto active = x11::property(x11::rootWindow(), "_NET_ACTIVE_WINDOW");
         if (!active || active->empty() || active->front() == XCB_WINDOW_NONE) {
@@ -224,7 +224,7 @@ private:
         }
         const auto owner = x11::property(active->front(), "WM_TRANSIENT_FOR");
         if (owner && !owner->empty() && owner->front() == dialog_) {
-            return; // a question of the dialog's own: the dialog stays in sight
+            return; // a dialog's own message box: keep the dialog visible
         }
         dialog_ = active->front();
         const xcb_window_t frame = x11::topLevelOf(dialog_);
@@ -233,7 +233,7 @@ private:
         }
     }
 
-    // Menus of the program lie above the window and shall.
+    // Raises the window again, unless a menu of the program covers it.
     void covered() {
         const auto windows = QGuiApplication::topLevelWindows();
         const bool ownPopup = std::any_of(windows.begin(), windows.end(), [](const QWindow* w) {
@@ -251,7 +251,7 @@ private:
     bool managed_;
     bool composited_;
     bool lowered_ = false;
-    xcb_window_t dialog_ = XCB_WINDOW_NONE; // what it was lowered for
+    xcb_window_t dialog_ = XCB_WINDOW_NONE; // the dialog for which the window was lowered
     bool inputReleased_ = false;
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;

@@ -11,15 +11,15 @@
 
 namespace morrowleaf {
 
-// The parts of a platform on an X server. They need an application object of
+// The parts of a platform on an X server. Main thread; they need an application object of
 // Qt's xcb plugin.
 
 std::unique_ptr<MainScreen> makeX11MainScreen();
 
 std::unique_ptr<DesktopPicture> makeX11Picture();
 
-// Windows outside the window manager's control or, with `managed`, full-screen
-// windows under it: on Xwayland only those are shown above everything.
+// Windows outside the window manager's control or, with `managed`, full-screen windows
+// under it. On Xwayland only managed windows can be above everything.
 std::unique_ptr<OverlayMaker> makeX11Overlays(bool managed);
 
 // Present while a client owns the server's system tray selection.

@@ -15,7 +15,7 @@ namespace morrowleaf {
 
 namespace {
 
-// A screen in the pixels of the X server: Qt scales sizes, not positions.
+// The geometry of a screen in pixels of the X server. Qt scales sizes, but not positions.
 QRect nativeGeometry(const QScreen& screen) {
     const QRect r = screen.geometry();
     return {r.topLeft(), (QSizeF(r.size()) * screen.devicePixelRatio()).toSize()};
@@ -81,7 +81,7 @@ public:
         if (screen == nullptr) {
             screen = QGuiApplication::primaryScreen();
         }
-        // Without any monitor Qt has a screen with an empty geometry.
+        // With all monitors off, Qt keeps a screen with an empty geometry.
         return screen != nullptr && !screen->geometry().isEmpty() ? screen : nullptr;
     }
 };
