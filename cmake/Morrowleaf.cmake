@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# What every target of this project shares: the language, the warnings, the
-# sanitizers, and two short ways to add a library and a test.
+# What every target shares: the language, the warnings, the sanitizers, and two
+# functions that add a library and a test.
 
 include_guard(GLOBAL)
 
@@ -16,8 +16,8 @@ set(MORROWLEAF_SANITIZE "" CACHE STRING "Sanitizers for every target, such as ad
 option(MORROWLEAF_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(MORROWLEAF_FUZZ "Build the libFuzzer targets (needs clang)" OFF)
 
-# Paths below the tree are hashed as relative ones, so that what one clone has
-# compiled is found by the next, wherever that lies.
+# Makes ccache hash paths in the source tree as relative ones, so that clones in
+# different folders share its results.
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
@@ -54,14 +54,14 @@ function(morrowleaf_library name)
   endif()
 endfunction()
 
-# Everything that the tests with the label unit need; and the fuzzers.
+# Everything that tests with the label "unit" need, and all fuzzers.
 add_custom_target(unit_tests)
 add_custom_target(fuzzers)
 
 # morrowleaf_test(NAME SOURCES file... [LIBRARIES target...] [LABEL unit|system] [GUI])
-# One GoogleTest program; each of its tests is one ctest. A GUI test runs
-# inside a QApplication on Qt's offscreen platform. A system test watches other
-# processes and is given time.
+# One GoogleTest program; ctest runs each of its tests separately. A GUI test
+# runs in a QApplication on Qt's offscreen platform. A system test observes
+# other processes and has a longer timeout.
 function(morrowleaf_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "LABEL" "SOURCES;LIBRARIES")
   set(main morrowleaf_coremain)

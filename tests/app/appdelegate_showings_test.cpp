@@ -22,7 +22,7 @@ TEST_F(AppDelegateTest, SecondPresentReplacesWithoutFade) {
     delegate->show();
     EXPECT_EQ(showings(), 2);
     EXPECT_EQ(desktop.overlays[0]->outs, 1);
-    timing.pass(6); // the first timer's moment
+    timing.pass(6); // when the first timer would have fired
     EXPECT_TRUE(isShown());
     timing.pass(9.1);
     EXPECT_FALSE(isShown());
@@ -41,7 +41,7 @@ TEST_F(AppDelegateTest, PresentDuringAFadeOutLetsItFinish) {
     EXPECT_EQ(desktop.overlays[0]->outs, 1);
     EXPECT_TRUE(isShown());
     EXPECT_EQ(ended.count(), 0);
-    // The monitor of the new showing works.
+    // The monitor of the new showing is active.
     press(Qt::Key_A);
     EXPECT_FALSE(isShown());
     timing.pass(0.5);
@@ -329,7 +329,7 @@ TEST_F(AppDelegateTest, GoesWithEverythingStillRunning) {
     delegate->show();
     delegate->openSettings();
     delegate.reset();
-    // At once: what the windows draw from goes next.
+    // At once, because the objects that the windows draw from are destroyed next.
     EXPECT_EQ(desktop.overlays[0]->overlay, nullptr);
     EXPECT_EQ(desktop.overlays[1]->overlay, nullptr);
     timing.pass(20);

@@ -36,7 +36,7 @@ TEST_F(AppDelegateTest, LaunchWithSettingsOpensTheirWindowInstead) {
     EXPECT_EQ(showings(), 0);
     ASSERT_NE(delegate->settingsWindow(), nullptr);
     EXPECT_TRUE(delegate->settingsWindow()->isVisible());
-    // Nothing was shown yet, so that a wake may show at once.
+    // Nothing was shown yet, so the throttle does not hold back a wake.
     wake();
     EXPECT_EQ(showings(), 1);
 }
@@ -247,7 +247,7 @@ TEST_F(AppDelegateTest, DoneClosesTheEditor) {
     delegate->editAppearance();
     pressButton(top().window, u"Done"_s);
     EXPECT_FALSE(isShown());
-    emit editor()->done(); // while it fades out
+    emit editor()->done(); // while the window fades out
     EXPECT_EQ(top().outs, 0);
     timing.pass(1);
     EXPECT_EQ(top().outs, 1);

@@ -34,7 +34,7 @@ protected:
         delegate = std::make_unique<AppDelegate>(services);
         delegate->applicationDidFinishLaunching(arguments);
     }
-    // A launch whose showing is long over.
+    // Launches the program and ends the showing long before the test.
     void launchAndClose() {
         launch();
         delegate->dismiss(false);
@@ -45,7 +45,7 @@ protected:
         QCoreApplication::sendEvent(top().window, &event);
     }
     void click(Qt::MouseButton button) { QTest::mousePress(content(), button); }
-    // Presses the button with that text, in a window of the program.
+    // Presses the button with that text in `window`.
     static void pressButton(const QWidget* window, const QString& text) {
         for (auto* button : window->findChildren<QAbstractButton*>()) {
             if (button->text() == text) {
@@ -56,7 +56,7 @@ protected:
     }
 
     OverlayRecord& top() { return *desktop.overlays.back(); }
-    // What fills the window of the last showing, and the editor in it, if any.
+    // The content of the last showing's window, and its editor, null without one.
     QuoteScreen* content() { return top().window->findChild<QuoteScreen*>(); }
     Inspector* editor() { return top().window->findChild<Inspector*>(); }
     // Covers the content, so that the colour of every pixel is known.

@@ -27,7 +27,7 @@ TEST(SystemTiming, CallsOnceAndNeverEarly) {
         const double from = static_cast<double>(clock.nsecsElapsed()) / 1e9;
         tasks.push_back(timing->after(seconds, [&calls, &clock, from, seconds] {
             ++calls;
-            // A timer counts whole milliseconds.
+            // Timers count whole milliseconds.
             EXPECT_GE(static_cast<double>(clock.nsecsElapsed()) / 1e9 - from, seconds - 0.001);
         }));
     }
@@ -67,7 +67,7 @@ TEST(SystemTiming, AnAnimationSharesItsFramesWithWhatElseMoves) {
     FrameClock frames(steadySeconds());
     const auto timing = makeSystemTiming(frames);
     FrameTimer picture(frames);
-    // Each step follows a tick of the picture before the event loop turns.
+    // Each step must follow a tick of the picture in the same turn of the event loop.
     int apart = 0;
     int turns = 0;
     int turnOfTick = -1;

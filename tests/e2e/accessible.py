@@ -4,11 +4,11 @@
 """A small screen reader: finds, presses and sets what a program exposes.
 
 accessible.py list
-accessible.py find ROLES NAME     ROLES parted by |, empty for any; NAME may be a beginning
-accessible.py labelled ROLE NAME  what a label of that name belongs to
+accessible.py find ROLES NAME     ROLES separated by |, empty for any; NAME may be a prefix
+accessible.py labelled ROLE NAME  the control of the label with that name
 accessible.py press NAME
 accessible.py set NAME VALUE
-accessible.py places              role|name|states|x|y|width|height of all that is showing
+accessible.py places              role|name|states|x|y|width|height of everything on the screen
 """
 import sys
 

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# What a screen reader gets of the quotation, of the editor and of the settings
-# window, over an accessibility bus of its own.
+# What a screen reader gets from the quotation, the editor and the settings
+# window, over a private accessibility bus.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Started by the bus from what is installed, for whatever is asked first.
+# The installed program is started by the bus, whatever the first request is.
 #   activation.sh BUILD-FOLDER
 here=$(dirname "$0")
 . "$here/lib.sh"
@@ -42,7 +42,7 @@ check "it is the installed program" [ "$(program)" = "$installed/bin/morrowleaf"
 quit
 
 n=$(maps)
-# As a desktop does that knows the entry's actions.
+# Like a desktop that knows the entry's actions.
 exec_line=$(sed -n '/^\[Desktop Action edit-appearance\]/,/^\[/s/^Exec=//p' \
     "$installed/share/applications/$id.desktop")
 $exec_line

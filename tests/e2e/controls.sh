@@ -3,12 +3,13 @@
 
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for tests that press the program's controls with real keys and
-# clicks; needs x11.sh. The accessibility bus tells where a control is and how
-# it stands; the settings file tells what has come of it.
+# clicks; needs x11.sh. The accessibility bus gives the position and the state
+# of a control, the settings file the result.
 
 read_aloud() { /usr/bin/python3 "$here/accessible.py" "$@"; }
 
-# A session bus and an accessibility bus, before the program starts.
+# Starts a session bus and an accessibility bus; call it before the program
+# starts.
 start_reader() {
     start_session_bus
     unset NO_AT_BRIDGE
@@ -18,8 +19,8 @@ start_reader() {
         org.a11y.Bus.GetAddress || die "no accessibility bus"
 }
 
-# column ROLE NAME WHICH NUMBER: of the WHICHth control with that role whose
-# name begins so
+# column ROLE NAME WHICH NUMBER: a column of the WHICHth control with that role
+# whose name begins with NAME
 column() {
     read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="$3" -v at="$4" \
         '$1 == role && index($2, name) == 1 && ++n == nth { print $at; found = 1; exit }
@@ -32,13 +33,13 @@ focused() { stands "$1" "$2" focused "${3:-1}"; }
 checked() { stands "$1" "$2" checked "${3:-1}"; }
 enabled() { stands "$1" "$2" enabled "${3:-1}"; }
 
-# editor_listens: the keyboard is with the editor at the right edge, by focus or held
+# editor_listens: a control of the editor at the right edge has the keyboard
 editor_listens() {
     read_aloud places | awk -F'|' '$3 ~ /focused/ && $4 >= 960 { found = 1 } END { exit !found }'
 }
 
-# point ROLE NAME [WHICH [PART]]: the mouse to the middle of a control, or to
-# another part of its width
+# point ROLE NAME [WHICH [PART]]: moves the mouse to the middle of a control, or
+# to another fraction of its width
 point() {
     local box x y
     box=$(read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="${3:-1}" \
@@ -54,13 +55,13 @@ point() {
 click_on() { point "$@" && xdotool click 1; }
 
 press() { xdotool key --delay 20 "$@"; }
-# Tab leads to the control
+# tab_to ROLE NAME: presses Tab, which must lead to the control
 tab_to() {
     press Tab
     must "Tab leads to $2" focused "$@"
 }
 
-# begin_with JSON: the settings that the program finds
+# begin_with JSON: writes the settings that the program finds at its start
 begin_with() {
     settings "$1"
     printf '%s' "$1" >"$work/expected.json"
@@ -69,8 +70,8 @@ stored() {
     python3 "$here/stored.py" "$XDG_CONFIG_HOME/morrowleaf/settings.json" \
         "$work/expected.json" "$@" 2>"$work/stored.last"
 }
-# keeps SENTENCE [KEY VALUE]...: the settings file comes to hold these values,
-# and all others stay as they were
+# keeps SENTENCE [KEY VALUE]...: waits until the settings file has these values
+# and all others are unchanged
 keeps() {
     local what=$1
     shift

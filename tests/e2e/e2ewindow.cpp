@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// A plain window for sessions under test: one colour, and a line on standard
-// output for everything that happens to it.
+// A plain window for sessions under test. It has one colour and prints a line on standard
+// output for every activation, key and click.
 //   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock|grabbing]
-// A grabbing window holds keyboard and mouse from everybody, as games do.
+// A grabbing window grabs keyboard and mouse, as games do.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTimer>

@@ -2,9 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Figures of the running program on a private X server; not a test.
+# Measures the running program on a private X server; not a test.
 #   MORROWLEAF=... E2E_MAPWATCH=... figures.sh [SHOWINGS [SETTINGS [picom]]]
-# SETTINGS are more lines of the settings file, such as '"screenAnimation": "still"'.
+# SETTINGS are further members of the settings file, for example
+# '"screenAnimation": "still"'.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -18,14 +19,14 @@ settings "{\"dismissSeconds\": 15${2:+, $2}}"
 start app "$MORROWLEAF"
 app=$last
 until_true 60 opened_since 0 || die "no showing"
-# of the threads that live: idle workers end after half a minute
+# Of live threads only; idle workers end after half a minute.
 switches() { cat /proc/"$app"/task/*/status | awk '/^voluntary/ {s += $2} END {print s}'; }
 threads() { ls "/proc/$app/task" | wc -l; }
 pss() { awk '/^Pss:/ {print $2}' "/proc/$app/smaps_rollup"; }
-# What is the program's alone, whoever else uses the same libraries.
+# Memory of the program alone, without shared libraries.
 own() { awk '/^Anonymous:/ {print $2}' "/proc/$app/smaps_rollup"; }
 median() { sort -n | awk '{v[NR] = $1} END {print v[int((NR + 1) / 2)]}'; }
-# since START TICKS: the share of a core since then, in percent
+# since START TICKS: the percentage of one core used since then
 since() {
     awk -v start="$1" -v ticks="$2" -v now="${EPOCHREALTIME/./}" \
         '{printf "%.1f\n", ($14 + $15 - ticks) * 1e6 / (now - start)}' "/proc/$app/stat"

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The appearance editor under real keys and clicks: after each step the
-# settings file holds what the control says, and nothing else has changed.
+# The appearance editor under real keys and clicks: after each step the settings
+# file holds what the control shows, and nothing else has changed.
 #   inspector.sh [DESKTOP]    the name of a desktop whose theme Qt looks up
 here=$(dirname "$0")
 . "$here/lib.sh"
@@ -24,12 +24,12 @@ photos=(Aurora Dunes Forest Lake Ridges Sea)
 photo() { printf '"%s/%s.jpg"' "$folder" "${1,,}"; }
 dialog() { xdotool search --onlyvisible --name '^Add a Photo$'; }
 
-# Under some of these themes Return presses what has the focus.
+# Some of these themes let Return press the focused control.
 use_theme_of "${1:-}"
 start app "$MORROWLEAF" --settings
 app=$last
 must "the settings window opens" focus_is "Morrowleaf Settings"
-# edit: opens the editor and waits until it stands in its place
+# edit: opens the editor and waits until it is in place
 in_place() { [ "$(column panel Appearance "$1" 4)" = 960 ]; }
 edit() {
     must "the editor opens by its button" there "push button" "Edit Appearance"

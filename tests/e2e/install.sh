@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# What is installed: valid, whole, and at home in any folder.
+# The installed files: valid, complete, and usable in any folder.
 #   install.sh BUILD-FOLDER
 here=$(dirname "$0")
 . "$here/lib.sh"

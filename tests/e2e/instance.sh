@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# One instance in a session, however it is started, with and without a bus.
+# One instance per session, however it is started, with and without a bus.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -29,7 +29,8 @@ four_at_once() {
         [ "$left" -eq 1 ]
     }
     must "$round: of four launches one stays" until_true 60 three_ended
-    # The first answers launches in order, so this one is the last.
+    # The first instance answers launches in order, so this one is answered
+    # last.
     "$MORROWLEAF" --settings || fail "$round: status 0 with --settings"
     must "$round: a launch with --settings opens the settings of the first" settings_open
     check "$round: which stays" three_ended
@@ -46,7 +47,7 @@ four_at_once() {
     "$MORROWLEAF" --settings || fail "$round: status 0 with --settings"
     must "$round: another brings them back" settings_open
     check "$round: and shows nothing else" mapped_times "$n"
-    # Of both flags this one, whatever else stands there; its line is all it says.
+    # --selftest wins over --register-login and prints only its own line.
     check "$round: the self-test runs beside it" sh -c 'unset DISPLAY WAYLAND_DISPLAY
         said=$("$MORROWLEAF" --register-login -platform x --selftest) &&
         test "$said" = "selftest ok — 124 quotes, connector parsing ok"'

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Writes a PNG of 8000 x 6000 pixels that takes its time to decode.
+"""Writes a PNG of 8000 x 6000 pixels that is slow to decode.
 
 largephoto.py FILE
 """

@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 
 # shellcheck shell=bash disable=SC2034,SC2154
-# Functions for tests that run the program in a session of its own. A script
-# sources this, starts what it needs and calls the checks; everything that was
-# started ends with the script. E2E_KEEP names a folder that keeps the pictures.
+# Functions for tests that run the program in a private session. A script
+# sources this file, starts what it needs and calls the checks; everything it
+# has started ends with the script. E2E_KEEP names a folder that keeps the
+# pictures.
 set -u
 
 work=$(mktemp -d)
@@ -18,7 +19,7 @@ mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_SESSION_ID XDG_CURRENT_DESKTOP
 unset XDG_SESSION_TYPE QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR SESSION_MANAGER
-# Nothing here may reach the machine's own bus.
+# Keeps the tests away from the machine's own bus.
 export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/no-system-bus
 export NO_AT_BRIDGE=1 LC_ALL=C.UTF-8
 
@@ -36,7 +37,8 @@ cleanup() {
 trap cleanup EXIT
 trap 'exit 1' INT TERM
 
-# start NAME COMMAND...: in the background, output to NAME.log; pid in $last
+# start NAME COMMAND...: runs it in the background, output to NAME.log, pid in
+# $last
 start() {
     local name=$1
     shift
@@ -45,13 +47,14 @@ start() {
     pids+=("$last")
 }
 
-# stop PID: ends what was started, and waits for its end
+# stop PID: ends a started process and waits for its end
 stop() {
     kill "$1"
     wait "$1"
 }
 
-# until_true SECONDS COMMAND...: tries again until the command succeeds
+# until_true SECONDS COMMAND...: repeats the command until it succeeds; fails
+# after that time
 until_true() {
     local end=$((${EPOCHREALTIME/./} + ${1%.*} * 1000000))
     shift
@@ -65,13 +68,13 @@ fail() {
     echo "FAILED: $*"
     failures=$((failures + 1))
 }
-# must SENTENCE COMMAND...: within a minute
+# must SENTENCE COMMAND...: the command must succeed within a minute
 must() {
     local what=$1
     shift
     if until_true 60 "$@"; then echo "ok: $what"; else fail "$what"; fi
 }
-# check SENTENCE COMMAND...: now
+# check SENTENCE COMMAND...: the command must succeed now
 check() {
     local what=$1
     shift
@@ -92,8 +95,9 @@ settings() {
     mkdir -p "$XDG_CONFIG_HOME/morrowleaf"
     printf '%s' "$1" >"$settings_file"
 }
-# change_settings JSON: while the program runs on a session bus, until it has
-# read them. Where the file system notes no time of access, a second is given.
+# change_settings JSON: writes the settings and waits until the program, on a
+# session bus, has read them; waits a second if the file system records no
+# access times
 change_settings() {
     settings "$1"
     until_true 1 settings_are_read
@@ -101,21 +105,22 @@ change_settings() {
 }
 settings_are_read() { [ "$(stat -c %.9X "$settings_file")" \> "$(stat -c %.9Y "$settings_file")" ]; }
 
-# settle: until the program has handled all that the buses have for it, and its
-# windows are what follows from that. Whatever has not happened by then did not
-# follow from what was done before.
+# settle: waits until the program has handled all messages that the buses have
+# for it and has requested the windows that follow from them. What has not
+# happened by then is not a consequence of earlier steps.
 settle() {
     /usr/bin/python3 "$here/marker.py" || fail "the program answers on the bus"
     if [ -s "$work/mapwatch.log" ]; then mark_display; fi
 }
-# A window that is closed leaves the screen only at the end of a fade of 0.45 s.
+# A closed window leaves the screen at the end of a fade of 0.45 s.
 outlast_fade() {
     settle
     sleep 0.6
     settle
 }
 milliseconds() { echo $((${EPOCHREALTIME/./} / 1000)); }
-# outlast_throttle INSTANT: until eight seconds after it, given in milliseconds
+# outlast_throttle INSTANT: waits until eight seconds after INSTANT, in
+# milliseconds
 outlast_throttle() {
     local left=$(($1 + 8100 - $(milliseconds)))
     [ "$left" -le 0 ] || sleep "$((left / 1000)).$(printf %03d $((left % 1000)))"

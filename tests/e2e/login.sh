@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Starting at login: what is said of it, and what stands in the desktop's
-# folder. As an ordinary user, whom a folder can refuse.
+# Starting at login: the line that the program prints and the file in the
+# desktop's folder. Runs as an ordinary user, to whom a folder can deny access.
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then
     exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"
@@ -14,7 +14,8 @@ file=$XDG_CONFIG_HOME/autostart/$name
 export XDG_CONFIG_DIRS=$work/xdg
 mkdir -p "$work/xdg/autostart"
 
-# says LINE [COMMAND...]: all that the registration prints, with status 0
+# says LINE [COMMAND...]: the registration prints exactly LINE and ends with
+# status 0
 says() {
     local line=$1 said
     shift
@@ -37,7 +38,7 @@ rm "$file"
 check "the system's entry is overruled" says "login item: enabled"
 check "by one of the user's own" test -f "$file"
 
-# A program whose file is taken away while it runs, as upgrades do.
+# A program whose file is removed while it runs, as upgrades do.
 copy() {
     mkdir -p "$work/bin"
     cp "$MORROWLEAF" "$work/bin/morrowleaf"

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Prints a line each time a top-level window of a given name comes onto the
-// screen of an X server ("map") or leaves it ("unmap"). For a moment after each
-// "map" the middle of the screen is watched: "painted" when it begins to
-// change, "flash" when it is wholly white or black. "at" gives milliseconds, of
-// a map and an unmap on a line before. "mark" is printed when the property
-// E2E_MARK of the root window is set: what follows from an earlier request to
-// the server has been printed by then.
+// Prints a line each time a top-level window with a given name is mapped ("map") or
+// unmapped ("unmap") on an X server. After each "map" it watches the middle of the screen
+// for a moment: it prints "painted" when the colour begins to change and "flash" when it
+// is pure white or black. Lines that begin with "at" contain a time in milliseconds. It
+// prints "mark" when the property E2E_MARK of the root window is set: by then everything
+// that follows from earlier requests to the server has been printed.
 //   e2e_mapwatch NAME
 #include <xcb/xcb.h>
 
@@ -74,7 +73,7 @@ void say(const char* what) {
     std::fflush(stdout);
 }
 
-// Watches the middle of the screen for a moment after a window came.
+// Watches the middle of the screen for a moment after a window was mapped.
 class FirstFrames {
 public:
     FirstFrames(xcb_connection_t* c, const xcb_screen_t& screen)
@@ -106,12 +105,12 @@ public:
 private:
     xcb_connection_t* c_;
     const xcb_screen_t& screen_;
-    std::uint32_t before_; // as it was while nothing was shown
+    std::uint32_t before_; // the colour while nothing was shown
     double end_ = 0;
     bool painted_ = false;
 };
 
-// Without a `wait` null if nothing has happened.
+// Null if there is no event and `wait` is false.
 xcb_generic_event_t* nextEvent(xcb_connection_t* c, bool wait) {
     return wait ? xcb_wait_for_event(c) : xcb_poll_for_event(c);
 }
@@ -138,7 +137,7 @@ int main(int argc, char** argv) {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
             continue;
         }
-        // What was only sent, as the sign of a withdrawal is, did not happen.
+        // Ignores synthetic events, which announce a withdrawal.
         const int type = event->response_type;
         if (type == XCB_MAP_NOTIFY) {
             const auto window = reinterpret_cast<const xcb_map_notify_event_t*>(event)->window;

@@ -6,9 +6,8 @@
 
 A bus delivers in order, so a connection of the program that answers a ping has
 received all earlier signals and queued them for the main thread. Only the main
-thread can tell that its object lacks a method; the second such answer shows
-that it has gone through its event loop since, and so sent its requests to the
-display.
+thread can answer that its object lacks a method; the second such answer shows
+that it has run its event loop since and so has sent its requests to the display.
 """
 import os
 
@@ -30,7 +29,7 @@ def ping(bus, pid):
             if name.startswith(":") and daemon.GetConnectionUnixProcessID(name) == pid:
                 bus.call_blocking(name, "/", "org.freedesktop.DBus.Peer", "Ping", "", ())
         except dbus.DBusException:
-            pass  # somebody has left the bus meanwhile
+            pass  # the connection has left the bus meanwhile
 
 
 def reach_main_thread(bus):
@@ -48,7 +47,7 @@ def main():
         try:
             ping(dbus.SystemBus(), pid)
         except dbus.DBusException:
-            pass  # a bus that was ended leaves its socket
+            pass  # a bus that has ended leaves its socket behind
     ping(session, pid)
     reach_main_thread(session)
     reach_main_thread(session)

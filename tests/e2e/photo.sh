@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Photos of the user's own in the toolkit's dialog, without any portal: in
-# front of the quote screen with the keyboard, and what comes of what is chosen.
+# The user's own photos in Qt's dialog, without any portal: the dialog is in
+# front of the quote screen and has the keyboard, and the chosen file takes
+# effect.
 #   photo.sh openbox|xfwm4
 here=$(dirname "$0")
 . "$here/lib.sh"
@@ -32,12 +33,12 @@ photos = stored.get("customBackgrounds", [])
 sys.exit(not (photos and stored.get("backgroundImagePath") == photos[-1]))
 EOT
 }
-# picture_is_red: the middle of the screen shows the photo
+# picture_is EXPRESSION: holds for a pixel of the photo on the screen
 picture_is() {
     shot now
     [ "$(convert "$work/now.png" -crop 1x1+200+760 -format "%[fx:$1]" info:)" = 1 ]
 }
-# in_front [WINDOW]
+# in_front [WINDOW]: the dialog is in front
 in_front() {
     shot front
     eval "$(xdotool getwindowgeometry --shell "${1:-$(dialog)}")"
@@ -95,7 +96,7 @@ must "and becomes the background" picture_is 'r>0.4&&g<0.25&&b<0.25'
 must "its tile is marked" checked "radio button" "Your photo 1"
 shot large
 
-# A photo that goes while the editor is open.
+# The photo's file disappears while the editor is open.
 rm "$own"/*.jpg
 click_on "radio button" Noir
 must "another choice" not chosen
@@ -128,7 +129,7 @@ press Escape
 must "Escape ends the editing" is_gone
 check "the program goes on" kill -0 "$app"
 
-# The picture goes before its dialog.
+# The showing ends before its dialog is closed.
 ask_again() {
     "$MORROWLEAF" --settings
     must "the settings come back" focus_is "Morrowleaf Settings"

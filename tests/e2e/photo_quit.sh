@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The program is told to end while it decodes a photo of 48 megapixels.
+# The program is asked to quit while it decodes a photo of 48 megapixels.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -22,7 +22,7 @@ decoding() { workers | xargs -r sed 's/.*) //' | awk '{sum += $12 + $13} END {pr
 at_rest() { [ "$(decoding)" -gt 0 ] && ! workers | xargs sed 's/.*) //' | grep -q '^[RD]'; }
 is_decoded() { at_rest && sleep 0.3 && at_rest; }
 has_begun() { [ "$(decoding)" -ge 5 ]; }
-# Of the programs that have ended so far.
+# The processor time of all programs that have ended so far.
 ended_spent() {
     times >"$work/times"
     sum=$(tail -n 1 "$work/times" | tr 'ms' '  ' |

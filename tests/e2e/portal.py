@@ -1,11 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""A desktop portal as far as the program asks it.
+"""The part of a desktop portal that the program uses.
 
-portal.py serve [NUMBER]      says "serving", then writes down every question
+portal.py serve [NUMBER]      prints "serving", then every request
 portal.py scheme NUMBER       announces another color scheme
-portal.py answer CODE [URI]   answers the last question of the file chooser
+portal.py answer CODE [URI]   answers the last request to the file chooser
 """
 import sys
 

@@ -2,14 +2,15 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The desktop's portal: dark and light, and the dialog that chooses a photo.
+# The desktop portal: dark and light colours, and the dialog that chooses a
+# photo.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
 
 portal() { /usr/bin/python3 "$here/portal.py" "$@"; }
 asked() { [ "$(grep -c "$1" "$work/portal.log")" -ge "$2" ]; }
-# tone COLOUR: the settings window has this ground
+# tone COLOUR: the settings window has this background
 tone() { shot tone && shows_some_of tone "$1"; }
 dark='#262629'
 light='#f3f3f4'
@@ -40,13 +41,13 @@ window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$' | head -1
 xdotool mousemove --window "$(window)" 430 59 click 1
 must "the editor opens" is_shown
 must "and has the keyboard" focus_is Morrowleaf
-# tabs COUNT
+# tabs COUNT: presses Tab that often
 tabs() {
     local keys
     mapfile -t keys < <(yes Tab | head -n "$1")
     xdotool key --delay 20 "${keys[@]}"
 }
-# The add tile stands after ten palettes and six photos.
+# The tile that adds a photo follows ten palettes and six photos.
 add() {
     tabs 17
     xdotool key space

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # The settings window under real keys and clicks: after each step the settings
-# file holds what the control says, and nothing else has changed.
+# file holds what the control shows, and nothing else has changed.
 #   settings.sh openbox|xfwm4 [DESKTOP]    the name of a desktop whose theme Qt looks up
 here=$(dirname "$0")
 . "$here/lib.sh"
@@ -38,12 +38,12 @@ xdotool windowminimize "$id"
 must "asked for again it comes, wherever it was" focus_is "Morrowleaf Settings"
 xdotool set_num_desktops 2 set_desktop 1
 must "it stays on its workspace" not window
-# It learns a moment later that it has lost the keyboard.
+# The window learns a moment later that it has lost the keyboard.
 comes_when_asked() { "$MORROWLEAF" --settings && until_true 2 focus_is "Morrowleaf Settings"; }
 must "and comes to another that it is asked for on" comes_when_asked
 check "it cannot be resized" not sh -c "xprop -id $id _NET_WM_ALLOWED_ACTIONS | grep -q RESIZE"
 check "it has an icon" sh -c "xprop -id $id _NET_WM_ICON | grep -q 'Icon (32 x 32)'"
-# at the place and in the size of a frame with its title bar
+# The window has the position and the size of a frame with its title bar.
 frame_is() {
     local left bottom x y height
     IFS=', ' read -r left _ _ bottom < <(xprop -id "$id" _NET_FRAME_EXTENTS | sed 's/.*= //')
@@ -104,7 +104,7 @@ press ctrl+a BackSpace
 keeps "and emptied" quoteSourceURL '""'
 tab_to "push button" Presets
 preset() { press space "$@" Return; }
-# The menu's window, while no quotation is shown: no screen reader finds it by looking.
+# The menu's window while no quotation is shown; screen readers do not list it.
 menu() { xdotool search --onlyvisible --class morrowleaf | grep -vx "$id"; }
 preset Down
 keeps "the first preset" quoteSourceURL '"https://zenquotes.io/api/today"'
@@ -187,13 +187,13 @@ height=$(xwininfo -id "$(menu)" | awk '/ Height:/ {print $2}')
 xdotool mousemove --window "$(menu)" 40 $((height * 7 / 8)) click 1
 keeps "a preset by mouse" quoteSourceURL '""'
 
-# A change that the system refuses: no folder can be where a file stands.
+# The system refuses a change: a file takes the place of the folder.
 rm -r "$XDG_CONFIG_HOME/autostart"
 touch "$XDG_CONFIG_HOME/autostart"
 click_on "check box" "Open at login"
 must "a refused switch goes back" not checked "check box" "Open at login"
 
-# Another program's change shows in the open window.
+# Changes by another program appear in the open window.
 settings '{"dismissSeconds": 31.9, "showOnWake": true, "quoteFrequency": "weekly",
            "quoteSourceURL": "/elsewhere"}'
 must "a change of the file shows" there label 31s

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# A quotation from a source: the scheduled one stands first, the loaded one
-# replaces it, and once the server is gone the cached one is shown.
+# A quotation from a source: the scheduled one is shown first, the loaded one
+# replaces it, and after the server is gone the cached one is shown.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -17,7 +17,7 @@ server=$last
 until_true 60 test -s "$work/port" || die "no server"
 address=http://127.0.0.1:$(cat "$work/port")/quote
 
-# Nothing moves once the entrance is over, so pictures can be compared.
+# Without motion after the entrance, pictures can be compared.
 look='"dismissSeconds": 600, "screenAnimation": "still", "paletteIndex": 4'
 store=$XDG_CONFIG_HOME/morrowleaf/settings.json
 
@@ -33,14 +33,14 @@ leave() {
     wait "$app"
     check "it ends with status 0" test $? -eq 0
 }
-# A picture of the column, which stands still before header and hint do.
+# A picture of the column, which comes to rest before header and hint do.
 column() { import -window root -crop 1000x420+140+190 +repage "$work/$1.png"; }
 differing() {
     local n
     n=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
     printf '%.0f' "$n"
 }
-# column_at_rest NAME: once eight pictures in a row are the same
+# column_at_rest NAME: waits until eight pictures in a row are the same
 column_at_rest() { until_true 60 has_come_to_rest "$1" || fail "the picture comes to rest"; }
 has_come_to_rest() {
     local i
@@ -50,7 +50,7 @@ has_come_to_rest() {
         same "$1" next || return 1
     done
 }
-# column_becomes NAME OTHER
+# column_becomes NAME OTHER: a new picture of the column equals OTHER
 column_becomes() { column "$1" && same "$1" "$2"; }
 same() { [ "$(differing "$1" "$2")" -eq 0 ]; }
 cached() { grep -q '"cachedQuoteText": *"The lamp that is lit' "$store"; }

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The program is told to end while its source keeps silent.
+# The program is asked to quit while its source does not answer.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -17,7 +17,7 @@ store=$XDG_CONFIG_HOME/morrowleaf/settings.json
 asked() { [ "$(grep -c 'asked for' "$work/server.log")" -ge "$1" ]; }
 ended() { ! kill -0 "$1"; }
 
-# quits_quickly SIGNAL: a launch, a request, and the end of it
+# quits_quickly SIGNAL: launches the program, waits for its request and ends it
 loads=0
 quits_quickly() {
     local signal=$1 app began took
@@ -31,7 +31,7 @@ quits_quickly() {
     check "it ends with status 0 after $signal" test $? -eq 0
     took=$(((${EPOCHREALTIME/./} - began) / 1000))
     echo "after $took ms"
-    # The load would last six seconds; a busy machine needs some of them.
+    # The load would last six seconds; a busy machine needs some time to quit.
     check "without waiting for its source" test "$took" -lt 3000
 }
 

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Compares the whole settings file with what it should hold.
+"""Compares the whole settings file with its expected content.
 
 stored.py FILE EXPECTED [KEY VALUE]...
 
-EXPECTED is a file of what the settings file should hold. Each VALUE is JSON
-that a key should hold by now; A..B means a number from A to B. Ends with
-status 0, and notes the new values in EXPECTED, when all is as it should be.
+EXPECTED is a file with the expected content. Each VALUE is the JSON that a key
+should have by now; A..B means a number from A to B. If everything is as
+expected, stores the new values in EXPECTED and ends with status 0.
 """
 import json
 import sys

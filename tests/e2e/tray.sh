@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The status item: without a host, with one that comes late, that restarts, and
-# that is there from the start.
+# The status item: without a host, with a host that comes late, that restarts,
+# or that is there from the start.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -57,7 +57,8 @@ check "which other keys leave open" is_shown
 shot editor
 xdotool key Escape
 must "and Escape closes" is_gone
-# Sent to the window itself, the keys would stay pressed when it goes.
+# Activated first: keys sent to the window itself would stay pressed when it
+# closes.
 xdotool windowactivate --sync "$(xdotool search --onlyvisible --name '^Morrowleaf Settings$')"
 xdotool key alt+F4
 must "the settings window can be closed" \
@@ -67,7 +68,7 @@ host click "Settings…"
 must "the third opens the settings" xdotool search --onlyvisible --name '^Morrowleaf Settings$'
 settle
 shot settings
-# The menu is a window of the program besides the one of the settings.
+# The menu is a window of the program in addition to the settings window.
 windows() { xdotool search --onlyvisible --class morrowleaf | wc -l; }
 alone=$(windows)
 menu_open() { [ "$(windows)" -gt "$alone" ]; }

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# The status item in a tray of X11's old kind, which comes after the program
-# and goes before it.
+# The status item in a tray of the old X11 protocol, which starts after the
+# program and ends before it.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -17,13 +17,13 @@ start_tray() {
     tray_pid=$last
     until_true 60 xdotool search --onlyvisible --name '^panel$' || die "no tray"
 }
-# The tray grows with the first symbol and gives it a window inside its own.
+# The tray grows with its first symbol and embeds it in a window of its own.
 symbol() {
     xwininfo -tree -id "$(xdotool search --onlyvisible --name '^panel$' | tail -1)" |
         awk '/"Morrowleaf"/ {print $1}'
 }
 has_symbol() { [ -n "$(symbol)" ]; }
-# The menu is the one window of this width with a white ground.
+# Only the menu shows white.
 menu_open() { shot menu && shows_some_of menu '#ffffff'; }
 pixels_of_symbol() {
     import -window "$(symbol)" "$work/symbol.png" &&

@@ -2,10 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Waking and unlocking, in every order they come in: one showing each.
+# Waking and unlocking, in every order: one showing each.
 #   triggers.sh [orders|signals|services]
-# Without an argument all three, each in a session of its own at the same time:
-# most of it is waiting.
+# Without an argument it runs all three at the same time, each in a session of
+# its own, because they mostly wait.
 here=$(dirname "$0")
 if [ $# = 0 ]; then
     logs=$(mktemp -d)
@@ -78,7 +78,7 @@ wake_while_locked() {
     settle
     set_hint false
 }
-# Nothing has said before that the session was locked.
+# No earlier event reports that the session was locked.
 hint_alone() { session_call c1 "$mock.UpdateProperties" "$login.Session" '{"LockedHint": <false>}'; }
 hint_goes() { set_hint true; set_hint false; }
 saver_ends() { saver_active true; saver_active false; }
@@ -119,7 +119,7 @@ services() {
     stop "$logind_pid"
     settle
     start_logind
-    # The program looks its session up again before it hears of it.
+    # The program looks up its session before it can receive signals again.
     woken() { wake && until_true 2 opened_since "$1"; }
     must "a restarted login manager is heard" woken "$n"
     close_it

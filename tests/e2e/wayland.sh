@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# One showing after another on Wayland, under a compositor with layer surfaces.
-# Such a compositor refuses to run as root.
+# One showing after another on Wayland, under a compositor with layer surfaces,
+# which refuses to run as root.
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then
     exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"

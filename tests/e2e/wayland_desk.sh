@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# Outputs that come late and change, a tray, and starting by the bus on Wayland.
+# Outputs that appear late and change, a tray, and starting by the bus on
+# Wayland.
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then
     exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"
@@ -24,7 +25,7 @@ start_system_bus
 start_logind
 settings '{"dismissSeconds": 600}'
 
-# What the program asks of the compositor is all in its log.
+# The log contains all requests of the program to the compositor.
 log=$work/app.log
 count() { grep -c "$1" "$log"; }
 opened() { count 'get_layer_surface('; }

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# An output that goes while the quotation is on it. The compositor draws its
-# outputs into windows of an X server; closing one unplugs it.
+# An output disappears while it shows the quotation. The compositor draws its
+# outputs in windows of an X server; closing one of them unplugs the output.
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then
     exec setpriv --reuid=nobody --regid=nogroup --clear-groups "$0" "$@"
@@ -32,7 +32,7 @@ gone() { [ "$(grep -c ' -> zwlr_layer_surface_v1@[0-9]*\.destroy(' "$log")" -eq 
 drawn() { grep -q ' -> wl_surface@[0-9]*\.attach(wl_buffer' "$log"; }
 focused() { swaymsg -t get_outputs -r | jq -e ".[] | select(.name == \"$1\") | .focused"; }
 focus() { swaymsg focus output "$1" && focused "$1"; }
-# The second output's window came last; its name is not to be relied on.
+# The window of the second output is the last one; its name is not reliable.
 close_window() {
     local window
     window=$(DISPLAY=$outside xprop -root _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*' | tail -1)

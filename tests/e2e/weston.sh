@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 
 # A Wayland compositor without layer surfaces: the quotation is a full-screen
-# window of Xwayland, or of the compositor where there is no Xwayland. The
-# compositor draws into a window of an X server that sees all.
+# window on Xwayland or, without Xwayland, of the compositor. The compositor
+# draws in a window of an X server, of which the test takes pictures.
 #   weston.sh [xwayland]
 here=$(dirname "$0")
 if [ "$(id -u)" = 0 ]; then

@@ -47,10 +47,11 @@ mapped_times() { [ "$(maps)" -eq "$1" ]; }
 last_map() { awk '$1 == "at" && $3 == "map" { at = $2 } END { printf "%.0f", at }' "$work/mapwatch.log"; }
 is_shown() { [ "$(maps)" -gt "$(unmaps)" ]; }
 is_gone() { [ "$(maps)" -eq "$(unmaps)" ]; }
-# opened_since N: the N+1st showing has come
+# opened_since N: more than N showings have opened
 opened_since() { [ "$(maps)" -gt "$1" ]; }
 
-# mark_display: until the watcher has seen all that the X server did before
+# mark_display: waits until the watcher has seen all earlier events of the X
+# server
 mark_display() {
     local n
     n=$(marks)
@@ -61,13 +62,14 @@ marks() { grep -c '^mark$' "$work/mapwatch.log"; }
 marked_since() { [ "$(marks)" -gt "$1" ]; }
 
 shot() { import -window root "$work/$1.png"; }
-# share NAME COLOUR: the part of the picture's pixels that have exactly this colour
+# share NAME COLOUR: the fraction of the picture's pixels that have exactly this
+# colour
 share() {
     convert "$work/$1.png" -fill black +opaque "$2" -fill white -opaque "$2" \
         -colorspace gray -format '%[fx:mean]' info:
 }
 shows_none_of() { [ "$(share "$1" "$2")" = 0 ]; }
-# now_shows_none_of NAME COLOUR: with a picture taken at that moment
+# now_shows_none_of NAME COLOUR: takes the picture first
 now_shows_none_of() { shot "$1" && shows_none_of "$1" "$2"; }
 now_shows_some_of() { shot "$1" && shows_some_of "$1" "$2"; }
 shows_some_of() { [ "$(share "$1" "$2")" != 0 ]; }

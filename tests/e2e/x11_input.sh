@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# What closes a showing and what does not, and who holds keyboard and mouse.
+# What closes a showing and what does not, and who grabs keyboard and mouse.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -25,8 +25,8 @@ show_again() {
     must "it shows again" opened_since "$n"
 }
 stays() { outlast_fade && is_shown; }
-# A key that the keyboard lacks gets a place on it for a moment, which a busy
-# program may learn too late.
+# A key that the keyboard lacks is mapped for a moment, of which a busy program
+# may learn too late.
 closes() {
     xdotool key "$1"
     until_true 5 is_gone
@@ -50,7 +50,7 @@ check "none of them ended the program" kill -0 "$app"
 xdotool key Escape
 must "nor Escape" is_gone
 
-# A game in full screen that holds everything.
+# A full-screen game that grabs keyboard and mouse.
 put_window game '#00ff00' 0 0 640 480 grabbing
 game=$last
 until_true 60 grep -q grabbed "$work/window-game.log" || die "no grab"
@@ -66,7 +66,7 @@ held_again() {
 must "let go of, it closes it" held_again
 check "and no window below has had the key" not grep -q '^key w' "$work/window-typing.log"
 
-# A screen locker must get what the quotation holds.
+# A screen locker must be able to take the grabs of the quotation.
 sleeps() {
     call_login -o /org/freedesktop/login1 -m "$mock.EmitSignal" "$login.Manager" PrepareForSleep b \
         '[<true>]' >/dev/null
@@ -93,7 +93,7 @@ for leaving in lock sleeps "set_hint true"; do
 done
 set_hint false
 
-# Whoever types has the new window in front.
+# The settings window comes to the front even while the user types elsewhere.
 xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc
 "$MORROWLEAF" --settings
 must "the settings come to the front" focus_is "Morrowleaf Settings"

@@ -19,7 +19,7 @@ settings '{"dismissSeconds": 600}'
 put_window onleft '#ffff00' 100 100 300 300
 put_window onright '#ff00ff' 1000 100 300 300
 
-# A window manager may pass over a request that comes early, so ask again.
+# A window manager may ignore an early request, so ask again.
 activate() {
     timeout 2 xdotool windowactivate "$(xdotool search --name "^$1\$")"
     focus_is "$1"
@@ -73,7 +73,7 @@ xrandr --output screen --mode 1600x600
 must "and a larger one" geometry_is "0 0 1600 600"
 check "all in one showing" mapped_times $((n + 1))
 
-# With --fb the server keeps its size, as it does when a lid is closed.
+# With --fb the server keeps its size, as when a lid is closed.
 off() { xrandr --output screen --off --fb 1600x600; }
 on() { xrandr --output screen --mode 1600x600; }
 n=$(maps)

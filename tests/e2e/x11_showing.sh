@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# One showing after another on X11: it covers everything and goes away by
-# click, key and time, and whoever had the focus has it again.
+# One showing after another on X11: it covers everything, ends by click, key and
+# time, and returns the focus.
 #   x11_showing.sh MANAGER [picom]
 here=$(dirname "$0")
 . "$here/lib.sh"
@@ -56,7 +56,7 @@ must "a later window stays below" now_shows_none_of late '#00ffff'
 xdotool key Escape
 must "a key closes it" is_gone
 
-# Window managers differ in whether the later window has it now.
+# Window managers differ in whether the later window has the focus now.
 focus_is_back() { focus_is typing || focus_is late; }
 must "the focus is back" focus_is_back
 xdotool key x

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""A web server on the loopback address that behaves as badly as it is asked to.
+"""A web server on the loopback address with the faults that a request asks for.
 
 Prints one line of ports, "http IPv4, http IPv6, never accepting", and serves
 until its standard input is closed. The path of a request names the behaviour;
@@ -419,7 +419,7 @@ def listen(family, address):
 
 
 def listen_without_accepting():
-    """Its queue is full, so that connecting takes for ever."""
+    """A port whose queue is full, so that connecting never ends."""
     listener = socket.socket()
     listener.bind(("127.0.0.1", 0))
     listener.listen(0)

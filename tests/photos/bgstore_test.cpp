@@ -64,7 +64,7 @@ protected:
         }
         ASSERT_EQ(results.size(), count);
     }
-    // The new path, or "" when refused.
+    // The new path, or "" if the photo was refused.
     QString add(const QString& source) {
         start(source);
         await(results.size() + 1);

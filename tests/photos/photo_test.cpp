@@ -28,7 +28,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Left half red, right half blue; the top left quarter is green.
+// The left half is red and the right half blue; the top left quarter is green.
 QImage quarters(QSize size, QImage::Format format = QImage::Format_RGB32) {
     QImage image(size, format);
     image.fill(Qt::red);
@@ -59,7 +59,7 @@ QByteArray encoded(const QImage& image, const char* format, int quality = 95,
     return buffer.data();
 }
 
-// A JPEG whose EXIF data turn it.
+// A JPEG whose EXIF data rotate it.
 QByteArray turned(const QByteArray& jpeg, char orientation) {
     QByteArray exif = QByteArray::fromHex("ffe10022457869660000"
                                           "4d4d002a00000008"
@@ -120,7 +120,7 @@ TEST_F(PhotoTest, StripsAndNeedlesCostNoMoreThanTheTarget) {
     EXPECT_EQ(needle.size(), QSize(1920, 1080));
 }
 
-// The orientations of EXIF, by where the stored top left quarter ends up.
+// The orientations of EXIF, with the position of the stored top left quarter.
 TEST_F(PhotoTest, HonoursTheOrientation) {
     const QByteArray jpeg = encoded(quarters({80, 40}), "jpg");
     const QRect ends[] = {{0, 0, 1, 1}, {1, 0, 1, 1}, {1, 1, 1, 1}, {0, 1, 1, 1},
@@ -216,12 +216,12 @@ TEST_F(PhotoTest, TellsJpegsInSeveralScans) {
     }
 }
 
-// A picture's header that claims more pixels than there are.
+// A picture whose header claims more pixels than the file has.
 QByteArray pngClaiming(QSize size) {
     QByteArray png = encoded(quarters({8, 8}), "png");
     setBigEndian(png, 16, quint32(size.width()), 4);
     setBigEndian(png, 20, quint32(size.height()), 4);
-    return png; // its checksum is wrong too, which readers of sizes pass over
+    return png; // the checksum is wrong too, but readers of the size ignore it
 }
 
 QByteArray jpegClaiming(QSize size, bool progressive) {
@@ -232,7 +232,7 @@ QByteArray jpegClaiming(QSize size, bool progressive) {
     return jpeg;
 }
 
-// Its header has room for numbers that no product of two of them has.
+// The header of a BMP can hold sizes whose product overflows.
 QByteArray bmpClaiming(quint32 side) {
     QByteArray bmp = encoded(quarters({8, 8}), "bmp");
     qToLittleEndian(side, bmp.data() + 18);
@@ -249,7 +249,7 @@ TEST_F(PhotoTest, RefusesBombs) {
 }
 
 TEST_F(PhotoTest, TakesALargePhotoThatCanBeReadSmaller) {
-    // 48 megapixels, above what the decoder allows by itself.
+    // 48 megapixels, more than Qt's default limit allows.
     const QByteArray large = encoded(QImage(8000, 6000, QImage::Format_Grayscale8), "jpg", 50);
     const auto photo = inspectPhoto(file(large));
     ASSERT_TRUE(photo);

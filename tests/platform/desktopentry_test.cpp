@@ -23,7 +23,7 @@ protected:
         file.close();
         return readDesktopEntry(path);
     }
-    // The value of the key "Name" with that spelling.
+    // The value of the key "Name" that is spelled in this way.
     QString valueOf(const QByteArray& spelling) {
         return read("[Desktop Entry]\nName=" + spelling + '\n')->value(u"Name"_s);
     }

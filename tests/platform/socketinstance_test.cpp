@@ -23,7 +23,7 @@ TEST(SocketInstance, TheSecondHandsItsRequestToTheFirst) {
         action = r.action;
         token = r.activationToken;
     });
-    // A lock file keeps a second lock out in the same process, too.
+    // A lock file also excludes a second lock in the same process.
     SocketInstance second(dir.path());
     EXPECT_FALSE(second.claim({.action = u"settings"_s, .activationToken = u"abc"_s}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !action.isEmpty(); }));

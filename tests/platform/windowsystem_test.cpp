@@ -14,10 +14,10 @@ struct Case {
     const char* name;
     SessionFacts facts;
     WindowSystem system;
-    QByteArray plugin; // empty: the environment stays as it is
+    QByteArray plugin; // empty if the environment stays unchanged
 };
 
-// GoogleTest names a parameter by this.
+// GoogleTest uses this as the name of a parameter.
 void PrintTo(const Case& one, std::ostream* to) { // NOLINT: the name is GoogleTest's
     *to << one.name;
 }

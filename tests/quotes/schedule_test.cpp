@@ -24,7 +24,7 @@ qsizetype neverDrawn(qsizetype) {
     return 0;
 }
 
-// The texts are distinct, so a text tells its number.
+// The texts are distinct, so a text identifies its number.
 qsizetype numberOf(const Quote& quote) {
     for (size_t number = 0; number < quotes.size(); ++number) {
         if (quotes[number].text == quote.text && quotes[number].author == quote.author) {
@@ -75,7 +75,7 @@ TEST(Schedule, SecondsAndSlotsTruncateTowardZero) {
     EXPECT_EQ(scheduled(u"12h"_s, -0.5), 0);
     EXPECT_EQ(scheduled(u"12h"_s, -21600), 0);
     EXPECT_EQ(scheduled(u"12h"_s, -43199), 0);
-    // The remainder of a whole number of rounds is no negative number.
+    // The remainder of a multiple of the collection's size is 0, not negative.
     EXPECT_EQ(scheduled(u"6h"_s, -124 * 21600.0), 0);
 }
 
@@ -90,7 +90,7 @@ TEST(Schedule, OneQuotationForEachLocalDay) {
         return static_cast<double>(
             QDateTime(QDate(2024, 5, 10), QTime(hour, minute), tokyo).toSecsSinceEpoch());
     };
-    const double morning = local(0, 0); // 15:00 UTC of the day before
+    const double morning = local(0, 0); // 15:00 UTC of the previous day
     const double night = local(23, 59);
     EXPECT_EQ(ofTheDay(morning, tokyo), ofTheDay(night, tokyo));
     EXPECT_NE(ofTheDay(morning), ofTheDay(night)) << "other days in UTC";
@@ -99,7 +99,7 @@ TEST(Schedule, OneQuotationForEachLocalDay) {
 }
 
 TEST(Schedule, WalksTheWholeCollectionADayAtATime) {
-    const QTimeZone zone("Europe/London"); // 400 days hold both changes of the clocks
+    const QTimeZone zone("Europe/London"); // 400 days contain both changes of the clocks
     const QDateTime noon(QDate(2023, 12, 20), QTime(12, 0), zone);
     qsizetype previous = -1;
     QSet<qsizetype> seen;
@@ -166,7 +166,7 @@ TEST(Schedule, TheSecureSourceCoversEveryNumberEvenly) {
         ++hits[static_cast<size_t>(number)];
     }
     for (const int count : hits) {
-        // Some eight standard deviations to either side.
+        // About eight standard deviations to either side.
         EXPECT_NEAR(count, rounds, 110);
     }
     EXPECT_EQ(random(1), 0);

@@ -26,7 +26,7 @@ QByteArray after(const QByteArray& text, const QString& key, const QJsonValue& v
     return changed;
 }
 
-// Without the blanks, where none stands in a text.
+// Removes blanks and line breaks; only for JSON whose strings have none.
 QByteArray packed(QByteArray text) {
     return text.replace(' ', "").replace('\n', "");
 }

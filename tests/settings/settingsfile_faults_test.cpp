@@ -212,7 +212,7 @@ TEST_F(SettingsFileTest, WritesThroughALink) {
     const QString target = home.filePath(u"dotfiles/morrowleaf.json"_s);
     ASSERT_TRUE(QFile::link(u"dotfiles/morrowleaf.json"_s, path));
     {
-        SettingsFile file(store, path); // a link to nothing as yet
+        SettingsFile file(store, path); // a link to a missing file
         store.set(u"x"_s, 1);
         EXPECT_TRUE(file.flush());
         EXPECT_EQ(QJsonDocument::fromJson(read(target)).object().value("x"_L1), 1);
@@ -303,7 +303,7 @@ TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     holder.kill();
     holder.waitForFinished();
     QLockFile lock(lockPathOf(path));
-    EXPECT_TRUE(lock.tryLock(5s / 1ms)); // the dead hold no lock
+    EXPECT_TRUE(lock.tryLock(5s / 1ms)); // a dead process holds no lock
 }
 
 TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {

@@ -137,7 +137,7 @@ TEST_F(SettingsFileTest, LosesNoOwnChangeToAForeignOne) {
         spend(std::chrono::milliseconds(7 * i % 50));
         EXPECT_EQ(store.integer(u"a"_s), i);
         EXPECT_TRUE(file.flush());
-        // The editor may have come between; its file is then the later one.
+        // The editor may have written in between; its file is then the later one.
         EXPECT_EQ(json().value("b"_L1), i);
         EXPECT_EQ(json().value("a"_L1), i);
     }

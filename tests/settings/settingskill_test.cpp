@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// A process that writes settings is killed again and again, wherever it is.
+// A process that writes settings is killed again and again at random moments.
 
 #include "tests/settings/settingsfilefixture.h"
 
@@ -26,7 +26,7 @@ TEST_F(SettingsFileTest, LosesNothingWhenItIsKilled) {
         const QJsonDocument document = QJsonDocument::fromJson(read());
         ASSERT_TRUE(document.isObject()) << "torn by kill " << kill;
         const QJsonObject values = document.object();
-        for (qsizetype i = 0; i + 1 < lines.size(); ++i) { // each has a line break behind it
+        for (qsizetype i = 0; i + 1 < lines.size(); ++i) { // each ends with a line break
             ASSERT_TRUE(values.contains(prefix + QString::fromLatin1(lines[i])))
                 << "lost by kill " << kill;
             ++confirmed;

@@ -32,7 +32,7 @@ QString range(QString lowest, QString highest) {
     return lowest.append(u" to "_s).append(highest);
 }
 
-// The cells of a setting's row in the page: key, type, default, range.
+// The first four cells of a setting's row in the page: key, type, default, range.
 QStringList cells(const IntegerSetting& setting) {
     return {code(setting.key), u"integer"_s, number(double(setting.initial)),
             range(number(double(setting.lowest)), number(double(setting.highest)))};

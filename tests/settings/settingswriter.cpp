@@ -6,7 +6,7 @@
 //   settings_writer FILE count PREFIX N    sets PREFIX0 to PREFIXN-1, one by one
 //   settings_writer FILE confirm PREFIX    sets PREFIX0, PREFIX1, ... and prints each
 //                                          number once it is in the file, for ever
-//   settings_writer FILE hold              takes the lock, says so, waits for its end
+//   settings_writer FILE hold              takes the lock, prints a line, waits for its end
 //   settings_writer FILE quit              sets "quit" as the event loop ends
 
 #include "settings/settingsfile.h"
@@ -64,7 +64,7 @@ int main(int argc, char** argv) {
             QCoreApplication::quit();
         });
         QCoreApplication::exec();
-        // As a program that never comes back from its event loop.
+        // Exits like a program that never returns from its event loop.
         std::_Exit(0);
     }
     return 0;

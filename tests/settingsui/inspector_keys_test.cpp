@@ -28,7 +28,7 @@ TEST_F(InspectorTest, ReturnRunsDoneFromAnywhereButAMenu) {
     EXPECT_TRUE(picker->hasFocus());
 }
 
-// Stands for whatever waits for Escape in the program.
+// Stands for any other filter in the program that waits for Escape.
 class EscapeCounter : public QObject {
 public:
     EscapeCounter() { qApp->installEventFilter(this); }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Draws the appearance editor and the settings window into picture files, to
-// be looked at: pictures FOLDER [light|dark]
+// Draws the appearance editor and the settings window into picture files for inspection:
+// pictures FOLDER [light|dark]
 
 #include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
@@ -34,7 +34,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// A still backdrop, whatever lies in front.
+// A backdrop that does not move, behind the editor.
 class Ground : public QWidget {
 public:
     BackdropState state;

@@ -370,7 +370,7 @@ TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
             next->focusProxy() == nullptr) {
             const auto* face = QAccessible::queryAccessibleInterface(next);
             ASSERT_NE(face, nullptr);
-            // A box of choices is named by its label.
+            // A combo box is named by its label.
             const auto labels = face->relations(QAccessible::Label);
             names.append(labels.isEmpty() ? face->text(QAccessible::Name)
                                           : labels.first().first->text(QAccessible::Name));

@@ -33,7 +33,7 @@ int ratio() {
     return qRound(qApp->devicePixelRatio());
 }
 
-// The bundled face instead of the host's, so that every machine draws the same.
+// Uses the bundled face instead of the host's, so that every machine draws the same.
 QFont bundledFace() {
     return nsFont(shippedFonts(), 13, FontDesign::Default).face;
 }
@@ -52,7 +52,7 @@ void expectGolden(const QString& name, const QImage& frame, int factor) {
     }
 }
 
-// The end of a screen where the editor stands.
+// The right end of a screen, where the editor is.
 class Ground : public QWidget {
 public:
     Ground() {

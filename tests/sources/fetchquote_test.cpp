@@ -148,7 +148,7 @@ TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
     ::close(listener);
 }
 
-// In a child, since root reads everything and has to become somebody else.
+// In a child process, because root can read everything and must become another user.
 TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
     const QByteArray open = QFile::encodeName(file(u"open"_s, R"({"q":"A"})"));
     const QByteArray secret = QFile::encodeName(file(u"secret"_s, R"({"q":"A"})"));

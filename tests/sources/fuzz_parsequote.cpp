@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-// Any bytes either give nothing or a quotation whose parts are trimmed and not
-// blank.
+// Any bytes give either std::nullopt or a quotation whose text and author are trimmed and
+// not blank.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArrayView body(data, static_cast<qsizetype>(size));
     qsizetype drawn = 0;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// The corpus and mutations of it, run through the fuzzing entry in an
-// ordinary build.
+// Runs the corpus and mutations of it through the fuzzer's entry point in an ordinary
+// build.
 
 #include "tools/sourcepath.h"
 

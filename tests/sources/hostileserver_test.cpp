@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Loads from a server that means harm, each load in a process of its own so
-// that its time, memory and main thread can be watched; several at once, for
-// most of them last until the deadline.
+// Loads from a malicious server. Each load runs in a process of its own, so that its
+// time, memory and main thread can be measured; several run at once, because most of them
+// last until the deadline.
 
 #include "tools/sourcepath.h"
 
@@ -30,9 +30,9 @@ constexpr const char* nothing = nullptr;
 constexpr const char* anything = "*";
 
 struct Case {
-    const char* place; // a path, or an address with the ports' places in it
-    const char* text;  // what is shown of it
-    int count = 1;     // loads at once
+    const char* place; // a path, or an address with placeholders for the ports
+    const char* text;  // the text of the quotation
+    int count = 1;     // simultaneous loads
 };
 
 constexpr std::array cases{
@@ -58,7 +58,7 @@ constexpr std::array cases{
     Case{"endless-status", nothing},
     Case{"endless-continue", nothing},
     Case{"endless-chunk-extension", nothing},
-    Case{"endless-trailer", anything}, // what came before it may count
+    Case{"endless-trailer", anything}, // the body before the trailer may count
     Case{"reset-at-once", nothing},
     Case{"reset-in-body", nothing},
     Case{"close-at-once", nothing},
@@ -115,7 +115,7 @@ protected:
         }
         ports = QString::fromLatin1(server.readLine()).simplified().split(u' ');
         ASSERT_EQ(ports.size(), 3);
-        // A proxy of the machine has no business with the loopback address.
+        // Keeps a proxy of the machine away from the loopback address.
         qputenv("no_proxy", "127.0.0.1,::1,nothing.invalid");
     }
     void TearDown() override {
@@ -151,7 +151,7 @@ protected:
     QStringList ports;
 };
 
-// What is wrong with a load; empty if nothing is.
+// What is wrong with a load; empty if everything is right.
 QString complaint(const Case& one, const QJsonObject& report) {
     QStringList wrong;
     const auto most = [&](QLatin1StringView what, int limit) {
@@ -176,8 +176,8 @@ QString complaint(const Case& one, const QJsonObject& report) {
                            : wrong.join(", "_L1) + u' ' + report["errors"_L1].toString();
 }
 
-// A busy machine is late now and then, so that what went wrong is tried again,
-// with less and less beside it; the fourth time it is us.
+// A busy machine is late now and then, so failed loads are repeated with fewer and fewer
+// beside them; the fourth failure counts.
 TEST_F(HostileServer, CannotHangCrashBloatOrStallTheProgram) {
     QList<std::size_t> waiting(cases.size());
     std::iota(waiting.begin(), waiting.end(), std::size_t{0});
@@ -232,7 +232,7 @@ TEST_F(HostileServer, SeesOnlyOneHeaderOfOurs) {
             names << line.section(u':', 0, 0);
         }
     }
-    // All but "Accept" are Qt's own.
+    // Qt adds all headers but "Accept".
     EXPECT_EQ(names, QStringList({u"Accept-Encoding"_s, u"Accept-Language"_s, u"Accept"_s,
                                   u"Connection"_s, u"Host"_s, u"User-Agent"_s}));
     EXPECT_TRUE(text.contains("Accept: application/json\n"_L1)) << text.toStdString();

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Loads one source as the program would and prints, as one JSON object, what
-// came of it: the quotation, the time, the memory and the longest gap of a
-// 16 ms timer on the main thread, with the gap of the same run without a load.
+// Loads one source as the program would and prints the outcome as one JSON object: the
+// quotation, the time, the memory and the longest gap of a 16 ms timer on the main
+// thread, with the gap of the same run without a load.
 //
-// loadprobe WARM-UP-SOURCE SOURCE [COUNT]: COUNT loads at once, 1 by default
+// loadprobe WARM-UP-SOURCE SOURCE [COUNT]: COUNT simultaneous loads, 1 by default
 
 #include "sources/fetchquote.h"
 
@@ -45,7 +45,7 @@ void forgetPeak() {
     }
 }
 
-// Milliseconds that the calling thread has been ready and waited for a processor.
+// Milliseconds that the calling thread has waited for a processor while it was ready.
 qint64 waitedForProcessor() {
     QFile statistics(u"/proc/thread-self/schedstat"_s);
     if (!statistics.open(QIODevice::ReadOnly)) {
@@ -54,8 +54,8 @@ qint64 waitedForProcessor() {
     return statistics.readAll().simplified().split(' ').value(1).toLongLong() / 1'000'000;
 }
 
-// The longest time between two ticks of a 16 ms timer while it lives, without
-// what other programs took of it.
+// The longest time between two ticks of a 16 ms timer during its life, without the time
+// that other programs took.
 class Gap {
 public:
     Gap() {

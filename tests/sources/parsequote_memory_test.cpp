@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// What the largest bodies cost while they are read, each in a child process of
-// its own, as the peak of a process only grows.
+// The memory that the largest bodies need while they are read. Each is read in a child
+// process of its own, because the peak of a process never falls.
 
 #include "sources/parsequote.h"
 
@@ -46,7 +46,7 @@ QByteArray filled(const Body& body) {
 
 class ParseQuoteMemory : public testing::TestWithParam<Body> {};
 
-// The exit status of a child that reads the body: 0 within the budget.
+// The child exits with status 0 if the body was read within the budget.
 TEST_P(ParseQuoteMemory, StaysWithinItsBudget) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "the sanitizer has memory of its own";

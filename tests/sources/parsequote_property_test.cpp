@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// Random bodies, read by parseQuote and by a second, plain formulation of the
-// same rules that knows the document it was written from. The seed is printed;
-// PARSEQUOTE_SEED tries another one.
+// Reads random bodies with parseQuote and with a second, simple implementation of the
+// same rules that knows the document behind the body. The seed is printed;
+// PARSEQUOTE_SEED sets another one.
 
 #include "sources/parsequote.h"
 
@@ -26,7 +26,7 @@ struct Member;
 
 struct Value {
     enum Type { Object, Array, Text, Other } type = Other;
-    std::vector<Member> members; // as written, maybe with equal keys
+    std::vector<Member> members; // as written, possibly with equal keys
     std::vector<Value> elements;
     QString text;
     std::string literal; // of Other
@@ -47,7 +47,7 @@ const Value* find(const Value& object, const std::string& key) {
     return found;
 }
 
-// The plain formulation.
+// The simple implementation.
 
 bool isWhite(QChar c) {
     const auto category = c.category();
@@ -133,7 +133,7 @@ std::optional<Quote> plainQuote(const QString& body, int characters) {
     return Quote{text, u"Unknown"_s};
 }
 
-// The documents.
+// The random documents.
 
 using Engine = std::mt19937;
 
@@ -156,9 +156,9 @@ const std::vector<std::string> leaves{
     "q", "quote", "text",        "content",    "body",       "quoteText", "advice", "value", "a",
     "a", "by",    "quoteAuthor", "originator", "authorSlug", "name",      "author", "Data",  "x"};
 
-const QString joiner = QChar(0xFEFF); // from a literal of bytes it would be dropped
+const QString joiner = QChar(0xFEFF); // a conversion from a byte literal would drop it
 
-// Every character of these is one to the eye.
+// Each of these pieces is one user-perceived character.
 QString randomText(Engine& engine) {
     static const std::vector<QString> pieces{
         u"A"_s,      u"B"_s,      u"<"_s,  u"\""_s,     u"\\"_s,     u"/"_s,
@@ -264,7 +264,7 @@ std::string shown(const std::optional<Quote>& quote) {
     return quote ? (quote->text + u'|' + quote->author).toStdString() : "nothing";
 }
 
-// Both readers draw the same elements, and equally many.
+// Both readers draw the same elements, and the same number of them.
 struct Draws {
     explicit Draws(unsigned seed)
         : engine(seed) {}
@@ -303,7 +303,7 @@ TEST_F(ParseQuoteProperty, ReadsDocumentsAsThePlainRulesDo) {
         found += expected ? 1 : 0;
         drawn += mine.made;
     }
-    // Documents that hold nothing prove little.
+    // Documents without a quotation prove little.
     EXPECT_GT(found, 400);
     EXPECT_GT(drawn, 400);
 }

@@ -19,7 +19,7 @@ namespace {
 
 const RandomIndex first = [](qsizetype) { return qsizetype{0}; };
 
-// "text|author", or "nothing".
+// "text|author", or "nothing" for std::nullopt.
 std::string parsed(QByteArrayView body, const RandomIndex& random = first) {
     const std::optional<Quote> quote = parseQuote(body, random);
     return quote ? (quote->text + u'|' + quote->author).toStdString() : "nothing";
@@ -126,7 +126,7 @@ TEST(ParseQuoteBytes, ReadsTheWideEncodings) {
             EXPECT_NE(parsed(body + 'x'), result) << encoding;
         }
     }
-    // Half a pair is no text, in any encoding.
+    // An unpaired surrogate is not valid in any encoding.
     EXPECT_NE(parsed(QByteArrayView("[\0{\0\"\0q\0\"\0:\0\"\0\x00\xD8\"\0}\0]\0", 22)), "nothing");
 }
 
@@ -154,7 +154,7 @@ TEST(ParseQuoteBytes, DrawsOneElementOnce) {
 }
 
 TEST(ParseQuoteBytes, CountsPerceivedCharacters) {
-    const QByteArray family = "\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7"; // one to the eye
+    const QByteArray family = "\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7"; // one character
     EXPECT_NE(parsed(QByteArray(599, 'a')), "nothing");
     EXPECT_EQ(parsed(QByteArray(600, 'a')), "nothing");
     EXPECT_NE(parsed("  " + QByteArray(599, 'a') + "\n"), "nothing");

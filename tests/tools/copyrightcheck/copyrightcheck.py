@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Holds the files of the repository against packaging/copyright.
+"""Checks the files of the repository against packaging/copyright.
 
-licensecheck says which holders and licence a file states itself. Checked is that
+licensecheck reports the holders and the licence that a file states. This checks that
 
 - packaging/copyright is well formed and every pattern in it matches a file
 - the holders that a file states are those of its paragraph, no more and no fewer
@@ -12,7 +12,7 @@ licensecheck says which holders and licence a file states itself. Checked is tha
 - a file without a statement, such as a picture, is listed by a paragraph of
   its own: "Files: *" does not cover it
 
-    copyrightcheck.py ROOT      one line for each fault; status 1 if there is one
+    copyrightcheck.py ROOT      prints one line per fault; status 1 if there is any
 
 Needs the Debian packages licensecheck and python3-debian.
 """
@@ -26,7 +26,7 @@ from pathlib import Path
 from debian.copyright import Copyright
 
 TABLE = "packaging/copyright"
-# They contain the notices of other files as data.
+# These contain the notices of other files as data.
 QUOTES_OTHERS = {
     TABLE,
     "LICENSE",
@@ -35,9 +35,9 @@ QUOTES_OTHERS = {
 }
 BINARY = {".png", ".jpg", ".ttf", ".otf"}
 NO_LICENCE, NO_HOLDER = "UNKNOWN", "*No copyright*"
-# What licensecheck takes for a holder where code has the word "copyright".
+# Code with the word "copyright", which licensecheck mistakes for a holder.
 CODE = re.compile(r"[a-z(]|\d{1,3}:|.*[${};=]")
-# licensecheck finds this one, too, in the text of the other.
+# licensecheck also finds the first licence in the text of the second.
 PART_OF = {"NTP~disclaimer": "HPND-sell-variant"}
 
 

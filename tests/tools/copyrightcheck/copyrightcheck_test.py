@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Puts deliberate faults into a small repository and sees that each is found."""
+"""Puts deliberate faults into a small repository and checks that each is found."""
 
 import subprocess
 import sys

@@ -2,20 +2,20 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Holds the sources against the table of rooms in ARCHITECTURE.md.
+"""Checks the sources against the table of rooms in ARCHITECTURE.md.
 
-A room is a folder with a row in that table. Checked is that
+A room is a folder with a row in that table. This checks that
 
-- every source lies in a room, in tests/, in bench/ or in tools/
+- every source is in a room, in tests/, in bench/ or in tools/
 - an include stays in its room or goes to one that the room stands on; the
   interfaces platform/*.h may be included from everywhere
-- the table has no circle, and neither have files nor units (a header with its
-  sources counts as one)
+- neither the table nor the files nor the units (a header with its sources) form
+  cycles
 - includes are written from the root
 - only platform/ uses headers, names and libraries of an operating system
 - the CMake files have the same rooms, and link what is included
 
-    includecheck.py ROOT        one line a fault; status 1 when there is one
+    includecheck.py ROOT        prints one line per fault; status 1 if there is any
 """
 
 import posixpath
@@ -23,9 +23,9 @@ import re
 import sys
 from pathlib import Path
 
-# They stand above every room and may include what they like.
+# These are above every room and may include anything.
 ABOVE = ("tools", "bench", "tests")
-# Tests act as the outside world, and this file measures the process.
+# Tests act as the outside world, and this benchmark measures the process.
 MAY_ASK_THE_SYSTEM = ("platform/", "tests/", "bench/photo_bench.cpp")
 # A backend may fall back on the null backend, in this one file.
 CHOOSER, FALLBACK = re.compile(r"platform/(?!shared/|null/)\w+/chooser\.cpp$"), "platform/null"
@@ -91,7 +91,7 @@ def read(file):
 
 
 def without_comments(text):
-    """The text with comments and raw strings blanked out and spliced lines joined; every line
+    """The text without comments and raw strings, with spliced lines joined; every line
     keeps its number."""
     def blank(match):
         found = match.group(0)
@@ -104,7 +104,7 @@ def without_comments(text):
 
 
 def find_circle(edges):
-    """One circle as a list of nodes, or None."""
+    """One cycle as a list of nodes, or None."""
     done, trail = set(), []
 
     def visit(node):
@@ -131,9 +131,9 @@ def find_circle(edges):
 class Check:
     def __init__(self, root):
         self.root = root
-        self.rooms = {}  # room to the rooms that it stands on
+        self.rooms = {}  # room to the rooms that it may include
         self.found = []
-        self.edges = {}  # file to the files of ours that it includes
+        self.edges = {}  # file to the project's files that it includes
         self.needs = {}  # room to the libraries of the headers that it includes
         system = dict(LIBRARY.findall(read(root / "platform/CMakeLists.txt"))).get("system", "")
         self.system_interfaces = set(re.findall(r"\w+\.h\b", system))
@@ -159,8 +159,8 @@ class Check:
         return folder.split("/")[0] if folder.split("/")[0] in ABOVE else folder
 
     def unit_of(self, path):
-        """A source belongs to the header of its name, with or without what follows an
-        underscore; one of a backend may belong to an interface."""
+        """The header of a source has the same name, possibly without what follows an
+        underscore; a backend's source may belong to an interface."""
         stem, _, ending = path.rpartition(".")
         interface = "platform/" + stem.rpartition("/")[2]
         if stem.startswith("platform/") and ending != "h" and (self.root / f"{interface}.h").is_file():
@@ -173,7 +173,7 @@ class Check:
         return header
 
     def library_of(self, path):
-        """The library that has what a header of ours declares."""
+        """The library that defines what a header of the project declares."""
         if path.startswith("platform/"):
             return "system" if path.rpartition("/")[2] in self.system_interfaces else "platform"
         return path.split("/")[0]
@@ -263,7 +263,7 @@ class Check:
                 return
 
     def check_links(self, folder):
-        """What a room, the tools or the benchmarks link: our libraries by name."""
+        """The project's libraries that a room, the tools or the benchmarks link, by name."""
         own = set()
         for file in sorted((self.root / folder).rglob("CMakeLists.txt")):
             place = file.relative_to(self.root).as_posix()
@@ -279,7 +279,7 @@ class Check:
         return own
 
     def check_cmake(self):
-        """Every room at the top is a library that links what it includes."""
+        """Checks that every room at the top is a library that links what it includes."""
         tops = [room for room in self.rooms if "/" not in room]
         added = re.sub(r"#[^\n]*", "", read(self.root / "CMakeLists.txt"))
         for room in tops:
@@ -293,7 +293,7 @@ class Check:
                 allowed.add("protocols")
             for other in sorted(links - allowed):
                 self.found.append(f"{place}: may not link morrowleaf_{other}")
-            # The platform brings the system with it.
+            # morrowleaf_platform links morrowleaf_system.
             has = links | {room} | ({"system"} if "platform" in links else set())
             for other in sorted(self.needs.get(room, set()) - has):
                 if room != "platform":
