@@ -3,20 +3,23 @@
 
 #include "platform/linux/dbus/businstance.h"
 
+#include "application_interface.h"
+
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QDBusReply>
 #include <QDeadlineTimer>
 #include <QThread>
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString name = "org.morrowleaf.Morrowleaf";
-const QString path = "/org/morrowleaf/Morrowleaf";
-const QString interface = "org.freedesktop.Application";
-const QString tokenKey = "activation-token";
+const QString name = u"org.morrowleaf.Morrowleaf"_s;
+const QString path = u"/org/morrowleaf/Morrowleaf"_s;
+const QString show = u"show"_s;
+const QString tokenKey = u"activation-token"_s;
 constexpr int answerTimeout = 5000; // milliseconds
 constexpr int retryTime = 2000;     // milliseconds that another instance may take to end
 constexpr int pause = 50;           // milliseconds between attempts
@@ -24,7 +27,7 @@ constexpr int pause = 50;           // milliseconds between attempts
 } // namespace
 
 void BusApplication::Activate(const QVariantMap& platformData) {
-    ActivateAction("show", {}, platformData);
+    ActivateAction(show, {}, platformData);
 }
 
 void BusApplication::Open(const QStringList& /*uris*/, const QVariantMap& platformData) {
@@ -57,13 +60,14 @@ bool BusInstance::claim(const LaunchRequest& request) {
             return false;
         }
         QThread::msleep(pause);
-    } while (!retries.hasExpired()); // one that hangs has the request, and once is enough
+    } while (!retries.hasExpired());
+    // An instance that does not answer has the request nevertheless.
     return false;
 }
 
 bool BusInstance::takeName() {
     auto bus = link_.bus();
-    // The object first: whoever finds the name may call at once.
+    // The object comes first: a client that finds the name may call at once.
     bus.registerObject(path, &application_, QDBusConnection::ExportAllSlots);
     const auto reply =
         bus.interface()->registerService(name, QDBusConnectionInterface::DontQueueService,
@@ -72,20 +76,22 @@ bool BusInstance::takeName() {
 }
 
 bool BusInstance::handOver(const LaunchRequest& request) {
+    // By the unique name: the bus does not start another instance for that.
+    const QDBusReply<QString> owner = link_.bus().interface()->serviceOwner(name);
+    if (!owner.isValid()) {
+        return false;
+    }
+    OrgFreedesktopApplicationInterface running(owner.value(), path, link_.bus());
+    running.setTimeout(answerTimeout);
     QVariantMap platformData;
     if (!request.activationToken.isEmpty()) {
         platformData[tokenKey] = request.activationToken;
     }
-    const bool plain = request.action == "show";
-    auto call = QDBusMessage::createMethodCall(name, path, interface,
-                                               plain ? "Activate" : "ActivateAction");
-    call.setAutoStartService(false);
-    if (plain) {
-        call.setArguments({platformData});
-    } else {
-        call.setArguments({request.action, QVariantList(), platformData});
-    }
-    return link_.bus().call(call, QDBus::Block, answerTimeout).type() == QDBusMessage::ReplyMessage;
+    QDBusPendingReply<> reply = request.action == show
+                                    ? running.Activate(platformData)
+                                    : running.ActivateAction(request.action, {}, platformData);
+    reply.waitForFinished();
+    return reply.isValid();
 }
 
 } // namespace morrowleaf

@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// The interface org.freedesktop.Application, by which the desktop and later
-// launches speak with the running instance.
+// The interface org.freedesktop.Application, by which desktops and later
+// launches talk to the running instance.
 class BusApplication : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -29,6 +29,7 @@ signals:
     void requested(const morrowleaf::LaunchRequest& request);
 };
 
+// The instance is the process that owns the program's name on the session bus.
 class BusInstance : public SingleInstance {
     Q_OBJECT
 

@@ -9,24 +9,27 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-constexpr int settleTime = 100; // milliseconds from a folder's change to the next attempt
+constexpr int settleTime = 100; // milliseconds from a change of the folder to the next attempt
 
-// The path of a bus of the common form "unix:path=/..."; other forms have none.
+// The path of the socket of a bus; empty where the address does not begin with
+// "unix:path=".
 QString socketOf(QDBusConnection::BusType type) {
     const bool system = type == QDBusConnection::SystemBus;
     const QString address =
         qEnvironmentVariable(system ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
-    const QString prefix = "unix:path=";
+    const auto prefix = "unix:path="_L1;
     if (address.startsWith(prefix)) {
-        return address.section(',', 0, 0).mid(prefix.size());
+        return address.section(u',', 0, 0).mid(prefix.size());
     }
     if (!address.isEmpty()) {
         return {};
     }
-    return system ? QString("/run/dbus/system_bus_socket")
-                  : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/bus";
+    return system ? u"/run/dbus/system_bus_socket"_s
+                  : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/bus"_L1;
 }
 
 } // namespace
@@ -50,8 +53,8 @@ void BusLink::open() {
     if (!name_.isEmpty()) {
         QDBusConnection::disconnectFromBus(name_);
     }
-    // A name is good for one connection: a dead one stays dead under it.
-    name_ = "morrowleaf-" + QUuid::createUuid().toString(QUuid::Id128);
+    // Qt never reconnects under the same name.
+    name_ = u"morrowleaf-"_s + QUuid::createUuid().toString(QUuid::Id128);
     QDBusConnection bus = QDBusConnection::connectToBus(type_, name_);
     if (!bus.isConnected()) {
         watchForSocket();
@@ -60,8 +63,9 @@ void BusLink::open() {
     if (!watcher_.directories().isEmpty()) {
         watcher_.removePaths(watcher_.directories());
     }
-    bus.connect({}, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected",
-                this, SLOT(wentDown()));
+    // libdbus sends this signal itself, within the process.
+    bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                u"Disconnected"_s, this, SLOT(wentDown()));
     emit up();
 }
 

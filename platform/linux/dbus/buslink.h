@@ -10,8 +10,8 @@
 
 namespace morrowleaf {
 
-// A connection to a message bus that comes back after the bus was gone. It
-// does not ask again and again: it waits for the bus's socket to appear.
+// A connection to a message bus that is made anew after the bus was gone. It
+// does not poll: it waits until the socket of the bus appears. Main thread.
 class BusLink : public QObject {
     Q_OBJECT
 
@@ -19,12 +19,13 @@ public:
     explicit BusLink(QDBusConnection::BusType type, QObject* parent = nullptr);
     ~BusLink() override;
 
-    // Connects if it can; `up` follows on success.
+    // Connects, and emits up() on success; otherwise that follows later. Blocks
+    // until the bus has answered.
     void open();
     QDBusConnection bus() const { return QDBusConnection(name_); }
 
 signals:
-    void up(); // a fresh connection: subscribe to everything anew
+    void up(); // bus() is a new connection: subscribe to everything again
 
 private slots:
     void wentDown();

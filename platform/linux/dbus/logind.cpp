@@ -3,53 +3,41 @@
 
 #include "platform/linux/dbus/logind.h"
 
+#include "bus_interface.h"
+#include "login1_interface.h"
+
 #include <QDBusArgument>
-#include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
+#include <QDBusMessage>
 
 #include <optional>
 #include <unistd.h>
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString service = "org.freedesktop.login1";
-const QString managerPath = "/org/freedesktop/login1";
-const QString managerInterface = "org.freedesktop.login1.Manager";
-const QString sessionInterface = "org.freedesktop.login1.Session";
-const QString userInterface = "org.freedesktop.login1.User";
-const QString propertiesInterface = "org.freedesktop.DBus.Properties";
-const QString lockedInhibitor = "locked";
-const QString inactiveInhibitor = "inactive";
+using Manager = OrgFreedesktopLogin1ManagerInterface;
+using Session = OrgFreedesktopLogin1SessionInterface;
+using Properties = OrgFreedesktopDBusPropertiesInterface;
+using PathReply = QDBusPendingReply<QDBusObjectPath>;
 
-template <typename Answer>
-void whenAnswered(QObject* owner, const QDBusPendingCall& call, Answer answer) {
-    auto* watcher = new QDBusPendingCallWatcher(call, owner);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner,
-                     [answer](QDBusPendingCallWatcher* finished) {
-                         finished->deleteLater();
-                         answer(finished->reply());
-                     });
-}
+const QString managerPath = u"/org/freedesktop/login1"_s;
+const QString sessionInterface = QString::fromLatin1(Session::staticInterfaceName());
+const QString lockedHint = u"LockedHint"_s;
+const QString active = u"Active"_s;
+const QString lockedInhibitor = u"locked"_s;
+const QString inactiveInhibitor = u"inactive"_s;
 
-QString pathIn(const QDBusMessage& reply) {
-    if (reply.type() != QDBusMessage::ReplyMessage) {
+// The path in a user's "Display", a pair of name and path; empty where the user
+// has no graphical session.
+QString displayPath(const QVariant& display) {
+    if (!display.canConvert<QDBusArgument>()) {
         return {};
     }
-    return reply.arguments().value(0).value<QDBusObjectPath>().path();
-}
-
-// The second half of the pair (name, path) that a user's "Display" is.
-QString displaySession(const QDBusMessage& reply) {
-    const QVariant value = reply.arguments().value(0).value<QDBusVariant>().variant();
-    if (reply.type() != QDBusMessage::ReplyMessage || !value.canConvert<QDBusArgument>()) {
-        return {};
-    }
-    const auto pair = value.value<QDBusArgument>();
-    if (pair.currentSignature() != "(so)") {
+    const auto pair = display.value<QDBusArgument>();
+    if (pair.currentSignature() != "(so)"_L1) {
         return {};
     }
     QString name;
@@ -57,7 +45,13 @@ QString displaySession(const QDBusMessage& reply) {
     pair.beginStructure();
     pair >> name >> path;
     pair.endStructure();
-    return path.path() == "/" ? QString() : path.path();
+    return path.path() == "/"_L1 ? QString() : path.path();
+}
+
+// A property of type boolean, where it is among `properties`.
+std::optional<bool> flagIn(const QVariantMap& properties, const QString& name) {
+    const QVariant value = properties.value(name);
+    return value.typeId() == QMetaType::Bool ? std::optional(value.toBool()) : std::nullopt;
 }
 
 } // namespace
@@ -65,153 +59,145 @@ QString displaySession(const QDBusMessage& reply) {
 Logind::Logind(SessionGate& gate, QObject* parent)
     : QObject(parent)
     , gate_(gate)
-    , link_(QDBusConnection::SystemBus) {
+    , link_(QDBusConnection::SystemBus)
+    , service_(u"org.freedesktop.login1"_s) {
     connect(&link_, &BusLink::up, this, &Logind::subscribe);
-    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &Logind::findSession);
-    connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-        // Nobody would lift what a vanished manager has said.
-        gate_.setInhibited(lockedInhibitor, false);
-        gate_.setInhibited(inactiveInhibitor, false);
-    });
+    connect(&service_, &BusService::appeared, this, &Logind::findSession);
+    // A login manager that is gone cannot report the end of a state.
+    connect(&service_, &BusService::vanished, this, &Logind::liftInhibitors);
     link_.open();
 }
 
 void Logind::subscribe() {
-    QDBusConnection bus = link_.bus();
-    watcher_.setConnection(bus);
-    watcher_.setWatchedServices({service});
-    bus.connect(service, managerPath, managerInterface, "PrepareForSleep", this,
-                SLOT(prepareForSleep(bool)));
-    // Without a path: which session is ours may be known only later.
-    bus.connect(service, {}, sessionInterface, "Lock", this, SLOT(lockAsked(QDBusMessage)));
-    bus.connect(service, {}, sessionInterface, "Unlock", this, SLOT(unlockAsked(QDBusMessage)));
-    bus.connect(service, {}, propertiesInterface, "PropertiesChanged", this,
-                SLOT(propertiesChanged(QString, QVariantMap, QStringList, QDBusMessage)));
-    findSession();
+    sessionSubscription_.reset();
+    subscription_ = std::make_unique<QObject>();
+    auto* manager = new BusSignals<Manager>(managerPath, link_.bus(), subscription_.get());
+    connect(manager, &Manager::PrepareForSleep, this, [this, manager](bool begins) {
+        if (!service_.sent(*manager)) {
+            return;
+        }
+        if (begins) {
+            gate_.reportLeaving();
+        } else {
+            gate_.report(SessionGate::Event::Wake);
+        }
+    });
+    service_.follow(link_.bus());
 }
 
-QDBusPendingCall Logind::ask(const QString& path, const QString& interface, const QString& method,
-                             const QVariantList& arguments) {
-    auto message = QDBusMessage::createMethodCall(service, path, interface, method);
-    message.setAutoStartService(false);
-    message.setArguments(arguments);
-    return link_.bus().asyncCall(message);
-}
-
+// The session that the environment names, else the one of this process, else
+// the user's graphical one: a program that a service manager started is in none.
 void Logind::findSession() {
-    session_.clear();
+    sessionSubscription_.reset();
     const QString id = qEnvironmentVariable("XDG_SESSION_ID");
     if (id.isEmpty()) {
         findSessionByProcess();
         return;
     }
-    whenAnswered(this, ask(managerPath, managerInterface, "GetSession", {id}),
-                 [this](const QDBusMessage& reply) {
-                     const QString path = pathIn(reply);
-                     path.isEmpty() ? findSessionByProcess() : foundSession(path);
-                 });
+    Manager manager(service_.owner(), managerPath, link_.bus());
+    whenFinished(this, manager.GetSession(id), [this](const PathReply& reply) {
+        reply.isValid() ? followSession(reply.value().path()) : findSessionByProcess();
+    });
 }
 
 void Logind::findSessionByProcess() {
-    whenAnswered(
-        this, ask(managerPath, managerInterface, "GetSessionByPID", {static_cast<uint>(getpid())}),
-        [this](const QDBusMessage& reply) {
-            const QString path = pathIn(reply);
-            path.isEmpty() ? findSessionOfUser() : foundSession(path);
-        });
+    Manager manager(service_.owner(), managerPath, link_.bus());
+    whenFinished(this, manager.GetSessionByPID(static_cast<uint>(getpid())),
+                 [this](const PathReply& reply) {
+                     reply.isValid() ? followSession(reply.value().path()) : findSessionOfUser();
+                 });
 }
 
 void Logind::findSessionOfUser() {
-    whenAnswered(this, ask(managerPath, managerInterface, "GetUser", {static_cast<uint>(getuid())}),
-                 [this](const QDBusMessage& reply) {
-                     const QString user = pathIn(reply);
-                     if (user.isEmpty()) {
-                         return;
+    Manager manager(service_.owner(), managerPath, link_.bus());
+    whenFinished(this, manager.GetUser(static_cast<uint>(getuid())),
+                 [this](const PathReply& reply) {
+                     if (reply.isValid()) {
+                         findDisplayOf(reply.value().path());
                      }
-                     whenAnswered(this,
-                                  ask(user, propertiesInterface, "Get", {userInterface, "Display"}),
-                                  [this](const QDBusMessage& display) {
-                                      foundSession(displaySession(display));
-                                  });
                  });
 }
 
-void Logind::foundSession(const QString& path) {
+void Logind::findDisplayOf(const QString& user) {
+    Properties properties(service_.owner(), user, link_.bus());
+    whenFinished(this, properties.Get(u"org.freedesktop.login1.User"_s, u"Display"_s),
+                 [this](const QDBusPendingReply<QDBusVariant>& reply) {
+                     const QString path =
+                         reply.isValid() ? displayPath(reply.value().variant()) : QString();
+                     if (!path.isEmpty()) {
+                         followSession(path);
+                     }
+                 });
+}
+
+void Logind::followSession(const QString& path) {
     session_ = path;
-    if (!path.isEmpty()) {
-        readState();
-    }
+    sessionSubscription_ = std::make_unique<QObject>();
+    auto* session = new BusSignals<Session>(path, link_.bus(), sessionSubscription_.get());
+    connect(session, &Session::Lock, this, [this, session] {
+        if (service_.sent(*session)) {
+            gate_.reportLeaving();
+        }
+    });
+    connect(session, &Session::Unlock, this, [this, session] {
+        if (service_.sent(*session)) {
+            gate_.report(SessionGate::Event::Unlocked);
+            gate_.setInhibited(lockedInhibitor, false);
+        }
+    });
+    auto* properties = new BusSignals<Properties>(path, link_.bus(), sessionSubscription_.get());
+    connect(properties, &Properties::PropertiesChanged, this,
+            [this, properties](const QString& interface, const QVariantMap& changed,
+                               const QStringList& invalidated) {
+                if (interface != sessionInterface || !service_.sent(*properties)) {
+                    return;
+                }
+                apply(changed, Origin::Change);
+                if (invalidated.contains(lockedHint) || invalidated.contains(active)) {
+                    readState();
+                }
+            });
+    readState();
 }
 
 void Logind::readState() {
-    whenAnswered(this, ask(session_, propertiesInterface, "GetAll", {sessionInterface}),
-                 [this](const QDBusMessage& reply) {
-                     if (reply.type() == QDBusMessage::ReplyMessage) {
-                         apply(qdbus_cast<QVariantMap>(reply.arguments().value(0)), false);
+    Properties properties(service_.owner(), session_, link_.bus());
+    whenFinished(this, properties.GetAll(sessionInterface),
+                 [this](const QDBusPendingReply<QVariantMap>& reply) {
+                     if (reply.isValid()) {
+                         apply(reply.value(), Origin::Reading);
                      }
                  });
 }
 
-void Logind::prepareForSleep(bool begins) {
-    if (begins) {
-        gate_.reportLeaving();
-    } else {
-        gate_.report(SessionGate::Event::Wake);
-    }
-}
-
-void Logind::lockAsked(const QDBusMessage& message) {
-    if (message.path() == session_) {
-        gate_.reportLeaving();
-    }
-}
-
-void Logind::unlockAsked(const QDBusMessage& message) {
-    if (message.path() == session_) {
-        gate_.report(SessionGate::Event::Unlocked);
-        gate_.setInhibited(lockedInhibitor, false);
-    }
-}
-
-void Logind::propertiesChanged(const QString& interface, const QVariantMap& changed,
-                               const QStringList& invalidated, const QDBusMessage& message) {
-    if (interface != sessionInterface || message.path() != session_) {
-        return;
-    }
-    apply(changed, true);
-    if (invalidated.contains("LockedHint") || invalidated.contains("Active")) {
-        readState();
-    }
-}
-
-void Logind::apply(const QVariantMap& properties, bool isChange) {
-    const auto told = [&properties](const char* name) -> std::optional<bool> {
-        const auto found = properties.find(name);
-        return found == properties.end() || found->typeId() != QMetaType::Bool
-                   ? std::nullopt
-                   : std::optional(found->toBool());
-    };
-    const auto lockedHint = told("LockedHint");
-    const auto active = told("Active");
-    // What bars comes first: both may be told at once.
-    if (lockedHint == true) {
+void Logind::apply(const QVariantMap& properties, Origin origin) {
+    const auto isLocked = flagIn(properties, lockedHint);
+    const auto isActive = flagIn(properties, active);
+    // Inhibitors start first, since one message may contain both properties:
+    // unlocking a session that is switched away must be queued.
+    if (isLocked == true) {
         gate_.setInhibited(lockedInhibitor, true);
     }
-    if (active == false) {
+    if (isActive == false) {
         gate_.setInhibited(inactiveInhibitor, true);
     }
-    if (lockedHint == false) {
-        if (isChange) {
+    if (isLocked == false) {
+        if (origin == Origin::Change) {
             gate_.report(SessionGate::Event::Unlocked);
         }
         gate_.setInhibited(lockedInhibitor, false);
     }
-    if (active == true) {
-        if (isChange) {
+    if (isActive == true) {
+        if (origin == Origin::Change) {
             gate_.report(SessionGate::Event::Active);
         }
         gate_.setInhibited(inactiveInhibitor, false);
     }
+}
+
+void Logind::liftInhibitors() {
+    gate_.setInhibited(lockedInhibitor, false);
+    gate_.setInhibited(inactiveInhibitor, false);
 }
 
 } // namespace morrowleaf

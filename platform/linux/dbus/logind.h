@@ -4,45 +4,42 @@
 #pragma once
 
 #include "platform/linux/dbus/buslink.h"
+#include "platform/linux/dbus/busservice.h"
 #include "platform/shared/sessiongate.h"
 
-#include <QDBusMessage>
-#include <QDBusServiceWatcher>
-#include <QObject>
 #include <QVariantMap>
+
+#include <memory>
 
 namespace morrowleaf {
 
 // Reports to the gate what the login manager says about sleep and about the
-// session of this process.
+// session of this process. A locked and an inactive session are inhibitors.
 class Logind : public QObject {
     Q_OBJECT
 
 public:
     explicit Logind(SessionGate& gate, QObject* parent = nullptr);
 
-private slots:
-    void prepareForSleep(bool begins);
-    void lockAsked(const QDBusMessage& message);
-    void unlockAsked(const QDBusMessage& message);
-    void propertiesChanged(const QString& interface, const QVariantMap& changed,
-                           const QStringList& invalidated, const QDBusMessage& message);
-
 private:
     void subscribe();
     void findSession();
     void findSessionByProcess();
     void findSessionOfUser();
-    void foundSession(const QString& path);
+    void findDisplayOf(const QString& user);
+    void followSession(const QString& path);
     void readState();
-    void apply(const QVariantMap& properties, bool isChange);
-    QDBusPendingCall ask(const QString& path, const QString& interface, const QString& method,
-                         const QVariantList& arguments);
+    // A change is an event for the gate; what is merely read is not.
+    enum class Origin { Reading, Change };
+    void apply(const QVariantMap& properties, Origin origin);
+    void liftInhibitors();
 
     SessionGate& gate_;
     BusLink link_;
-    QDBusServiceWatcher watcher_;
-    QString session_; // object path, empty while unknown
+    BusService service_;
+    std::unique_ptr<QObject> subscription_;        // to the manager
+    std::unique_ptr<QObject> sessionSubscription_; // null while the session is unknown
+    QString session_;                              // its object path
 };
 
 } // namespace morrowleaf

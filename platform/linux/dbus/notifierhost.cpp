@@ -3,60 +3,54 @@
 
 #include "platform/linux/dbus/notifierhost.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include "bus_interface.h"
+#include "statusnotifierwatcher_interface.h"
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString service = "org.kde.StatusNotifierWatcher";
-const QString path = "/StatusNotifierWatcher";
-const QString hostRegistered = "IsStatusNotifierHostRegistered";
+using Watcher = OrgKdeStatusNotifierWatcherInterface;
+const QString path = u"/StatusNotifierWatcher"_s;
 
 } // namespace
 
 NotifierHost::NotifierHost()
-    : link_(QDBusConnection::SessionBus) {
+    : link_(QDBusConnection::SessionBus)
+    , service_(QString::fromLatin1(Watcher::staticInterfaceName())) {
     connect(&link_, &BusLink::up, this, &NotifierHost::subscribe);
-    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &NotifierHost::look);
+    connect(&service_, &BusService::appeared, this, &NotifierHost::lookForHost);
     link_.open();
 }
 
 void NotifierHost::subscribe() {
-    auto bus = link_.bus();
-    // Hosts of a bus that came back know nothing of items on the old one.
     present_ = false;
-    watcher_.setConnection(bus);
-    watcher_.setWatchedServices({service});
-    bus.connect(service, path, service, "StatusNotifierHostRegistered", this, SLOT(look()));
-    look();
+    subscription_ = std::make_unique<QObject>();
+    auto* watcher = new BusSignals<Watcher>(path, link_.bus(), subscription_.get());
+    connect(watcher, &Watcher::StatusNotifierHostRegistered, this, [this, watcher] {
+        if (service_.sent(*watcher)) {
+            lookForHost();
+        }
+    });
+    service_.follow(link_.bus());
 }
 
-void NotifierHost::look() {
+void NotifierHost::lookForHost() {
     if (present_) {
         return;
     }
-    auto call =
-        QDBusMessage::createMethodCall(service, path, "org.freedesktop.DBus.Properties", "Get");
-    call.setAutoStartService(false);
-    call.setArguments({service, hostRegistered});
-    auto* answer = new QDBusPendingCallWatcher(link_.bus().asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid() && reply.value().variant().toBool()) {
-            found();
-        }
-    });
-}
-
-void NotifierHost::found() {
-    if (!present_) {
-        present_ = true;
-        emit appeared();
-    }
+    OrgFreedesktopDBusPropertiesInterface properties(service_.owner(), path, link_.bus());
+    whenFinished(this,
+                 properties.Get(QString::fromLatin1(Watcher::staticInterfaceName()),
+                                u"IsStatusNotifierHostRegistered"_s),
+                 [this](const QDBusPendingReply<QDBusVariant>& reply) {
+                     if (!present_ && reply.isValid() && reply.value().variant().toBool()) {
+                         present_ = true;
+                         emit appeared();
+                     }
+                 });
 }
 
 } // namespace morrowleaf

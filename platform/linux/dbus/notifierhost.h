@@ -4,14 +4,15 @@
 #pragma once
 
 #include "platform/linux/dbus/buslink.h"
+#include "platform/linux/dbus/busservice.h"
 #include "platform/trayhost.h"
 
-#include <QDBusServiceWatcher>
+#include <memory>
 
 namespace morrowleaf {
 
-// Present once a status notifier watcher says that a host has registered; anew
-// on a bus that comes back.
+// Present once a status notifier watcher says that a host has registered. On a
+// bus that comes back the host has to register again.
 class NotifierHost : public TrayHost {
     Q_OBJECT
 
@@ -19,15 +20,13 @@ public:
     NotifierHost();
     bool isPresent() const override { return present_; }
 
-private slots:
-    void look();
-
 private:
     void subscribe();
-    void found();
+    void lookForHost();
 
     BusLink link_;
-    QDBusServiceWatcher watcher_;
+    BusService service_;
+    std::unique_ptr<QObject> subscription_; // of the present connection
     bool present_ = false;
 };
 

@@ -3,62 +3,69 @@
 
 #include "platform/linux/dbus/portalcolorscheme.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include "portal_interface.h"
+
 #include <QDBusVariant>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-constexpr QLatin1StringView service{"org.freedesktop.portal.Desktop"};
-constexpr QLatin1StringView path{"/org/freedesktop/portal/desktop"};
-constexpr QLatin1StringView interface { "org.freedesktop.portal.Settings" };
-constexpr QLatin1StringView appearance{"org.freedesktop.appearance"};
-constexpr QLatin1StringView colorScheme{"color-scheme"};
+using Settings = OrgFreedesktopPortalSettingsInterface;
 
-// The old call of the portal wraps its answer twice.
-QVariant unwrapped(QVariant value) {
-    while (value.canConvert<QDBusVariant>()) {
-        value = value.value<QDBusVariant>().variant();
+const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString appearance = u"org.freedesktop.appearance"_s;
+const QString colorScheme = u"color-scheme"_s;
+
+// Read() of the portal wraps its value twice.
+QVariant unwrapped(const QDBusVariant& value) {
+    QVariant inner = value.variant();
+    while (inner.canConvert<QDBusVariant>()) {
+        inner = inner.value<QDBusVariant>().variant();
     }
-    return value;
+    return inner;
 }
 
 } // namespace
 
-PortalColorScheme::PortalColorScheme(QDBusConnection bus) {
-    if (!bus.isConnected()) {
+PortalColorScheme::PortalColorScheme(const QDBusConnection& bus)
+    : bus_(bus)
+    , portal_(u"org.freedesktop.portal.Desktop"_s) {
+    if (!bus_.isConnected()) {
         return;
     }
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QDBusMessage)));
-    QDBusMessage ask =
-        QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
-    ask << QString(appearance) << QString(colorScheme);
-    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(ask), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        watcher->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        if (reply.isValid()) {
-            take(QVariant::fromValue(reply.value()));
-        }
-    });
+    auto* settings = new BusSignals<Settings>(path, bus_, this);
+    connect(settings, &Settings::SettingChanged, this,
+            [this, settings](const QString& group, const QString& key, const QDBusVariant& value) {
+                if (group == appearance && key == colorScheme && portal_.sent(*settings)) {
+                    apply(value);
+                }
+            });
+    connect(&portal_, &BusService::appeared, this, &PortalColorScheme::read);
+    portal_.follow(bus_);
+    portal_.activate();
 }
 
-void PortalColorScheme::settingChanged(const QDBusMessage& signal) {
-    const QVariantList told = signal.arguments();
-    if (told.value(0).toString() == appearance && told.value(1).toString() == colorScheme) {
-        take(told.value(2));
-    }
+void PortalColorScheme::read() {
+    Settings settings(portal_.owner(), path, bus_);
+    whenFinished(this, settings.Read(appearance, colorScheme),
+                 [this](const QDBusPendingReply<QDBusVariant>& reply) {
+                     if (reply.isValid()) {
+                         apply(reply.value());
+                     }
+                 });
 }
 
-void PortalColorScheme::take(const QVariant& value) {
+void PortalColorScheme::apply(const QDBusVariant& value) {
+    constexpr uint dark = 1;
+    constexpr uint light = 2;
     bool isNumber = false;
     const uint number = unwrapped(value).toUInt(&isNumber);
-    const auto next = isNumber && number == 1   ? ColorPreference::Dark
-                      : isNumber && number == 2 ? ColorPreference::Light
-                                                : ColorPreference::None;
+    const auto next = isNumber && number == dark    ? ColorPreference::Dark
+                      : isNumber && number == light ? ColorPreference::Light
+                                                    : ColorPreference::None;
     if (next != preference_) {
         preference_ = next;
         emit changed(next);

@@ -4,29 +4,28 @@
 #pragma once
 
 #include "platform/colorscheme.h"
+#include "platform/linux/dbus/busservice.h"
 
-#include <QDBusConnection>
-
-class QDBusMessage;
+class QDBusVariant;
 
 namespace morrowleaf {
 
-// Asks the desktop's settings portal, and follows its announcements. The
-// answer comes later; without a portal there is none.
+// The preference by the desktop portal's settings, which it starts if needed.
+// It arrives asynchronously; without a portal it stays None.
 class PortalColorScheme : public ColorScheme {
     Q_OBJECT
 
 public:
-    explicit PortalColorScheme(QDBusConnection bus = QDBusConnection::sessionBus());
+    explicit PortalColorScheme(const QDBusConnection& bus = QDBusConnection::sessionBus());
 
     ColorPreference preference() const override { return preference_; }
 
-private slots:
-    void settingChanged(const QDBusMessage& signal);
-
 private:
-    void take(const QVariant& value);
+    void read();
+    void apply(const QDBusVariant& value);
 
+    QDBusConnection bus_;
+    BusService portal_;
     ColorPreference preference_ = ColorPreference::None;
 };
 

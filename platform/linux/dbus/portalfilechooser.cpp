@@ -3,13 +3,11 @@
 
 #include "platform/linux/dbus/portalfilechooser.h"
 
+#include "platform/linux/dbus/busservice.h"
+#include "portal_interface.h"
+
 #include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QUrl>
@@ -22,7 +20,9 @@
 
 namespace morrowleaf {
 
-// The portal's filters: a name, and rules of which one has to hold.
+using namespace Qt::Literals::StringLiterals;
+
+// The portal's filters: a name, and rules of which at least one must match.
 struct FileRule {
     uint kind; // 1: a MIME type
     QString pattern;
@@ -59,110 +59,123 @@ const QDBusArgument& operator>>(const QDBusArgument& from, FileFilter& filter) {
 
 namespace {
 
-constexpr QLatin1StringView service{"org.freedesktop.portal.Desktop"};
-constexpr QLatin1StringView objectPath{"/org/freedesktop/portal/desktop"};
-constexpr QLatin1StringView chooserInterface{"org.freedesktop.portal.FileChooser"};
-constexpr QLatin1StringView requestInterface{"org.freedesktop.portal.Request"};
+using Chooser = OrgFreedesktopPortalFileChooserInterface;
+using Request = OrgFreedesktopPortalRequestInterface;
+
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 constexpr int patience = 8000; // milliseconds for the portal to start and open its dialog
 constexpr uint mimeRule = 1;
 
-// How the portal is told which window the dialog belongs to; nothing for one
+// The portal's name for the window that the dialog belongs to; empty for one
 // that no window manager knows.
 QString handleOf(const QWidget& window) {
     const bool managed = !window.windowFlags().testFlag(Qt::BypassWindowManagerHint);
-    return managed && QGuiApplication::platformName() == QLatin1String("xcb") &&
+    return managed && QGuiApplication::platformName() == "xcb"_L1 &&
                    window.windowHandle() != nullptr
-               ? QStringLiteral("x11:%1").arg(window.windowHandle()->winId(), 0, 16)
+               ? u"x11:%1"_s.arg(window.windowHandle()->winId(), 0, 16)
                : QString();
 }
 
 // One question to the portal. It deletes itself once answered, and closes the
 // dialog when its parent, the window, goes.
 class PortalRequest : public FileRequest {
-    Q_OBJECT
-
 public:
-    PortalRequest(const QDBusConnection& bus, QWidget& window);
-    ~PortalRequest() override;
-
-    void openFile(const QString& window, const QString& title, QVariantMap options);
-
-private slots:
-    void response(uint code, const QVariantMap& results);
+    PortalRequest(const QDBusConnection& bus, QWidget& window, const QString& title,
+                  const QVariantMap& options)
+        : FileRequest(&window)
+        , bus_(bus)
+        , portal_(u"org.freedesktop.portal.Desktop"_s)
+        , token_(u"morrowleaf"_s + QUuid::createUuid().toString(QUuid::Id128))
+        , window_(handleOf(window))
+        , title_(title)
+        , options_(options) {
+        options_.insert(u"handle_token"_s, token_);
+        connect(&portal_, &BusService::appeared, this, &PortalRequest::openFile);
+        connect(&portal_, &BusService::vanished, this,
+                [this] { finish({.kind = FileAnswer::Kind::Cancelled, .path = {}}); });
+        connect(&portal_, &BusService::activationFailed, this, &PortalRequest::giveUp);
+        connect(&timeout_, &QTimer::timeout, this, &PortalRequest::giveUp);
+        timeout_.setSingleShot(true);
+        timeout_.start(bus_.isConnected() ? patience : 0);
+        if (bus_.isConnected()) {
+            portal_.follow(bus_);
+            portal_.activate();
+        }
+    }
+    ~PortalRequest() override {
+        if (!finished_) {
+            closeDialog();
+        }
+    }
 
 private:
-    void listenAt(const QString& path);
-    void finish(const FileAnswer& answer);
-    void closeDialog();
+    void openFile() {
+        // The path is agreed upon by the token: the answer may be faster than
+        // the return of the call.
+        const QString sender = bus_.baseService().mid(1).replace('.'_L1, '_'_L1);
+        listenAt(portalPath + u"/request/%1/%2"_s.arg(sender, token_));
+        Chooser chooser(portal_.owner(), portalPath, bus_);
+        whenFinished(this, chooser.OpenFile(window_, title_, options_),
+                     [this](const QDBusPendingReply<QDBusObjectPath>& reply) {
+                         timeout_.stop();
+                         if (reply.isError()) {
+                             giveUp();
+                         } else if (reply.value().path() != path_) {
+                             listenAt(reply.value().path());
+                         }
+                     });
+    }
+
+    void listenAt(const QString& path) {
+        path_ = path;
+        auto* request = new BusSignals<Request>(path, bus_, this);
+        connect(request, &Request::Response, this,
+                [this, request](uint code, const QVariantMap& results) {
+                    if (portal_.sent(*request)) {
+                        finish(answerIn(code, results));
+                    }
+                });
+    }
+
+    static FileAnswer answerIn(uint code, const QVariantMap& results) {
+        constexpr uint success = 0;
+        const QStringList addresses = results.value(u"uris"_s).toStringList();
+        const QString path = code == success && !addresses.isEmpty()
+                                 ? QUrl(addresses.first(), QUrl::StrictMode).toLocalFile()
+                                 : QString();
+        return {.kind = path.isEmpty() ? FileAnswer::Kind::Cancelled : FileAnswer::Kind::Chosen,
+                .path = path};
+    }
+
+    void giveUp() {
+        closeDialog();
+        finish({.kind = FileAnswer::Kind::Unavailable, .path = {}});
+    }
+
+    void finish(const FileAnswer& answer) {
+        if (!std::exchange(finished_, true)) {
+            timeout_.stop();
+            deleteLater();
+            emit answered(answer);
+        }
+    }
+
+    void closeDialog() {
+        if (!portal_.owner().isEmpty()) {
+            Request(portal_.owner(), path_, bus_).Close();
+        }
+    }
 
     QDBusConnection bus_;
+    BusService portal_;
     QString token_;
-    QString path_;
+    QString window_;
+    QString title_;
+    QVariantMap options_;
+    QString path_; // of the request's object, empty before the call
+    QTimer timeout_;
     bool finished_ = false;
 };
-
-PortalRequest::PortalRequest(const QDBusConnection& bus, QWidget& window)
-    : FileRequest(&window)
-    , bus_(bus)
-    , token_(QStringLiteral("morrowleaf") + QUuid::createUuid().toString(QUuid::Id128)) {
-    auto* watcher =
-        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this] { finish({.kind = FileAnswer::Kind::Cancelled, .path = {}}); });
-}
-
-PortalRequest::~PortalRequest() {
-    if (!finished_) {
-        closeDialog();
-    }
-}
-
-void PortalRequest::openFile(const QString& window, const QString& title, QVariantMap options) {
-    options.insert(QStringLiteral("handle_token"), token_);
-    // The answer may be faster than the call's own return.
-    const QString sender = bus_.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
-    listenAt(objectPath + QStringLiteral("/request/%1/%2").arg(sender, token_));
-    QDBusMessage call = QDBusMessage::createMethodCall(service, objectPath, chooserInterface,
-                                                       QStringLiteral("OpenFile"));
-    call << window << title << options;
-    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, patience), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
-        if (reply.isError()) {
-            closeDialog();
-            finish({});
-        } else if (reply.value().path() != path_) {
-            listenAt(reply.value().path());
-        }
-    });
-}
-
-void PortalRequest::listenAt(const QString& path) {
-    path_ = path;
-    bus_.connect(service, path_, requestInterface, QStringLiteral("Response"), this,
-                 SLOT(response(uint, QVariantMap)));
-}
-
-void PortalRequest::response(uint code, const QVariantMap& results) {
-    const QStringList addresses = results.value(QStringLiteral("uris")).toStringList();
-    const QString path = code == 0 && !addresses.isEmpty()
-                             ? QUrl(addresses.first(), QUrl::StrictMode).toLocalFile()
-                             : QString();
-    finish({.kind = path.isEmpty() ? FileAnswer::Kind::Cancelled : FileAnswer::Kind::Chosen,
-            .path = path});
-}
-
-void PortalRequest::finish(const FileAnswer& answer) {
-    if (!std::exchange(finished_, true)) {
-        deleteLater();
-        emit answered(answer);
-    }
-}
-
-void PortalRequest::closeDialog() {
-    bus_.asyncCall(
-        QDBusMessage::createMethodCall(service, path_, requestInterface, QStringLiteral("Close")));
-}
 
 } // namespace
 
@@ -175,21 +188,16 @@ PortalFileChooser::PortalFileChooser(QDBusConnection bus)
 }
 
 FileRequest* PortalFileChooser::ask(QWidget& window, const FileQuestion& question) {
-    auto* request = new PortalRequest(bus_, window);
     FileFilter filter{.name = question.kindName, .rules = {}};
     for (const QString& type : question.mimeTypes) {
         filter.rules.append({.kind = mimeRule, .pattern = type});
     }
-    request->openFile(
-        handleOf(window), question.title,
-        {
-            {QStringLiteral("multiple"), false},
-            {QStringLiteral("modal"), true},
-            {QStringLiteral("filters"), QVariant::fromValue(QList<FileFilter>{filter})},
-        });
-    return request;
+    const QVariantMap options{
+        {u"multiple"_s, false},
+        {u"modal"_s, true},
+        {u"filters"_s, QVariant::fromValue(QList<FileFilter>{filter})},
+    };
+    return new PortalRequest(bus_, window, question.title, options);
 }
 
 } // namespace morrowleaf
-
-#include "portalfilechooser.moc"

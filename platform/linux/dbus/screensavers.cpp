@@ -3,56 +3,54 @@
 
 #include "platform/linux/dbus/screensavers.h"
 
-#include <array>
+#include "screensavers_interface.h"
 
 namespace morrowleaf {
 
-namespace {
-
-struct Saver {
-    const char* service; // and interface
-    const char* path;
-};
-constexpr std::array savers{
-    Saver{"org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver"},
-    Saver{"org.freedesktop.ScreenSaver", "/ScreenSaver"},
-    Saver{"org.gnome.ScreenSaver", "/org/gnome/ScreenSaver"},
-    Saver{"org.cinnamon.ScreenSaver", "/org/cinnamon/ScreenSaver"},
-    Saver{"org.mate.ScreenSaver", "/org/mate/ScreenSaver"},
-    Saver{"org.xfce.ScreenSaver", "/org/xfce/ScreenSaver"},
-};
-
-} // namespace
+using namespace Qt::Literals::StringLiterals;
 
 ScreenSavers::ScreenSavers(SessionGate& gate, QObject* parent)
     : QObject(parent)
     , gate_(gate)
     , link_(QDBusConnection::SessionBus) {
     connect(&link_, &BusLink::up, this, &ScreenSavers::subscribe);
-    // A screen saver that is gone covers nothing.
-    connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
-            [this](const QString& service) { gate_.setInhibited(service, false); });
     link_.open();
 }
 
 void ScreenSavers::subscribe() {
-    QDBusConnection bus = link_.bus();
-    watcher_.setConnection(bus);
-    QStringList services;
-    for (const Saver& saver : savers) {
-        services << saver.service;
-        bus.connect(saver.service, saver.path, saver.service, "ActiveChanged", this,
-                    SLOT(activeChanged(bool, QDBusMessage)));
+    subscriptions_ = std::make_unique<QObject>();
+    listen<OrgFreedesktopScreenSaverInterface>(u"/org/freedesktop/ScreenSaver"_s);
+    listen<OrgFreedesktopScreenSaverInterface>(u"/ScreenSaver"_s);
+    listen<OrgGnomeScreenSaverInterface>(u"/org/gnome/ScreenSaver"_s);
+    listen<OrgCinnamonScreenSaverInterface>(u"/org/cinnamon/ScreenSaver"_s);
+    listen<OrgMateScreenSaverInterface>(u"/org/mate/ScreenSaver"_s);
+    listen<OrgXfceScreenSaverInterface>(u"/org/xfce/ScreenSaver"_s);
+    for (auto& [name, service] : services_) {
+        service.follow(link_.bus());
     }
-    services.removeDuplicates();
-    watcher_.setWatchedServices(services);
 }
 
-void ScreenSavers::activeChanged(bool active, const QDBusMessage& message) {
-    if (!active) {
-        gate_.report(SessionGate::Event::Unlocked);
+template <typename Saver>
+void ScreenSavers::listen(const QString& path) {
+    // Each service has the name of its interface.
+    const QString name = QString::fromLatin1(Saver::staticInterfaceName());
+    const auto [found, isNew] = services_.try_emplace(name, name);
+    BusService& service = found->second;
+    if (isNew) {
+        // A screen saver that is gone no longer covers the screen.
+        connect(&service, &BusService::vanished, this,
+                [this, name] { gate_.setInhibited(name, false); });
     }
-    gate_.setInhibited(message.interface(), active);
+    auto* saver = new BusSignals<Saver>(path, link_.bus(), subscriptions_.get());
+    connect(saver, &Saver::ActiveChanged, this, [this, name, saver, &service](bool active) {
+        if (!service.sent(*saver)) {
+            return;
+        }
+        if (!active) {
+            gate_.report(SessionGate::Event::Unlocked);
+        }
+        gate_.setInhibited(name, active);
+    });
 }
 
 } // namespace morrowleaf

@@ -4,30 +4,31 @@
 #pragma once
 
 #include "platform/linux/dbus/buslink.h"
+#include "platform/linux/dbus/busservice.h"
 #include "platform/shared/sessiongate.h"
 
-#include <QDBusMessage>
-#include <QDBusServiceWatcher>
-#include <QObject>
+#include <map>
+#include <memory>
 
 namespace morrowleaf {
 
-// Reports to the gate when a screen saver of the desktop begins and ends.
+// Reports to the gate when a screen saver of the desktop starts and ends: it is
+// an inhibitor by its name on the bus, and its end unlocks the screen.
 class ScreenSavers : public QObject {
     Q_OBJECT
 
 public:
     explicit ScreenSavers(SessionGate& gate, QObject* parent = nullptr);
 
-private slots:
-    void activeChanged(bool active, const QDBusMessage& message);
-
 private:
     void subscribe();
+    template <typename Saver>
+    void listen(const QString& path);
 
     SessionGate& gate_;
     BusLink link_;
-    QDBusServiceWatcher watcher_;
+    std::map<QString, BusService> services_; // by name
+    std::unique_ptr<QObject> subscriptions_; // of the present connection
 };
 
 } // namespace morrowleaf

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/dbus/busservice.h"
+
+#include "bus_interface.h"
+
+#include <QDBusMessage>
+#include <QMetaMethod>
+
+namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Qt does not look up the owner of this one name.
+class Bus : public OrgFreedesktopDBusInterface {
+public:
+    explicit Bus(const QDBusConnection& connection)
+        : OrgFreedesktopDBusInterface(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                      connection) {}
+};
+
+} // namespace
+
+BusService::BusService(const QString& name, QObject* parent)
+    : QObject(parent)
+    , name_(name)
+    , bus_(QString()) {
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString& /*name*/, const QString& /*old*/, const QString& owner) {
+                setOwner(owner);
+            });
+}
+
+void BusService::follow(const QDBusConnection& bus) {
+    bus_ = bus;
+    owner_.clear();
+    watcher_.setConnection(bus);
+    watcher_.setWatchedServices({name_});
+    whenFinished(this, Bus(bus).GetNameOwner(name_),
+                 [this](const QDBusPendingReply<QString>& reply) {
+                     if (reply.isValid()) {
+                         setOwner(reply.value());
+                     }
+                 });
+}
+
+void BusService::activate() {
+    constexpr uint noFlags = 0;
+    whenFinished(this, Bus(bus_).StartServiceByName(name_, noFlags),
+                 [this](const QDBusPendingReply<uint>& reply) {
+                     if (reply.isError() && owner_.isEmpty()) {
+                         emit activationFailed();
+                     }
+                 });
+}
+
+bool BusService::sent(const QDBusContext& signal) const {
+    return signal.calledFromDBus() && !owner_.isEmpty() && signal.message().service() == owner_;
+}
+
+void BusService::setOwner(const QString& owner) {
+    if (owner == owner_) {
+        return;
+    }
+    const bool hadOwner = !owner_.isEmpty();
+    owner_ = owner;
+    if (hadOwner) {
+        emit vanished();
+    }
+    if (!owner_.isEmpty()) {
+        emit appeared();
+    }
+}
+
+void registerSignalTypes(const QMetaObject& proxy) {
+    for (int i = proxy.methodOffset(); i < proxy.methodCount(); ++i) {
+        const QMetaMethod method = proxy.method(i);
+        if (method.methodType() != QMetaMethod::Signal) {
+            continue;
+        }
+        for (int j = 0; j < method.parameterCount(); ++j) {
+            method.parameterMetaType(j).id(); // registers it
+        }
+    }
+}
+
+} // namespace morrowleaf

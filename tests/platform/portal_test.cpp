@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/dbus/portalcolorscheme.h"
+#include "platform/linux/dbus/portalfilechooser.h"
+
+#include "tests/platform/privatebus.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusArgument>
+#include <QDBusContext>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QSignalSpy>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace morrowleaf {
+namespace {
+
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
+const QString requestInterface = u"org.freedesktop.portal.Request"_s;
+
+// One dialog, by its request object.
+class FakeDialog : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+public:
+    QString path;
+    QString title;
+    QVariantMap options;
+    bool closed = false;
+
+public slots:
+    void Close() { closed = true; } // NOLINT: a name on the bus
+};
+
+// The portal's settings and its file chooser.
+class FakePortal : public QObject, public QDBusContext {
+    Q_OBJECT
+
+public:
+    FakePortal();
+
+    void registerName() {
+        EXPECT_TRUE(service.bus.registerService(u"org.freedesktop.portal.Desktop"_s));
+    }
+    void respond(uint code, const QStringList& addresses) {
+        service.send(dialog.path, requestInterface, u"Response"_s,
+                     {code, QVariantMap{{u"uris"_s, addresses}}});
+    }
+    void changeScheme(uint value, const QString& key = u"color-scheme"_s) {
+        scheme = value;
+        service.send(
+            portalPath, settingsInterface, u"SettingChanged"_s,
+            {u"org.freedesktop.appearance"_s, key, QVariant::fromValue(QDBusVariant(value))});
+    }
+
+    FakeService service{{}};
+    FakeDialog dialog;
+    bool refuses = false;
+    bool choosesPath = false; // as an old portal did
+    uint scheme = 0;
+};
+
+class FakeChooser : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+
+public:
+    explicit FakeChooser(FakePortal& portal)
+        : QDBusAbstractAdaptor(&portal)
+        , portal_(portal) {}
+
+public slots:
+    // NOLINTNEXTLINE: a name on the bus
+    QDBusObjectPath OpenFile(const QString& /*window*/, const QString& title,
+                             const QVariantMap& options) {
+        if (portal_.refuses) {
+            portal_.sendErrorReply(QDBusError::Failed);
+            return QDBusObjectPath(u"/"_s);
+        }
+        QString sender = portal_.message().service().mid(1);
+        sender.replace('.'_L1, '_'_L1);
+        const QString token =
+            portal_.choosesPath ? u"own"_s : options[u"handle_token"_s].toString();
+        FakeDialog& dialog = portal_.dialog;
+        dialog.path = portalPath + u"/request/%1/%2"_s.arg(sender, token);
+        dialog.title = title;
+        dialog.options = options;
+        portal_.service.bus.registerObject(dialog.path, &dialog, QDBusConnection::ExportAllSlots);
+        return QDBusObjectPath(dialog.path);
+    }
+
+private:
+    FakePortal& portal_;
+};
+
+class FakeSettings : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    explicit FakeSettings(FakePortal& portal)
+        : QDBusAbstractAdaptor(&portal)
+        , portal_(portal) {}
+
+public slots:
+    // NOLINTNEXTLINE: a name on the bus
+    QDBusVariant Read(const QString& /*group*/, const QString& /*key*/) {
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(portal_.scheme)));
+    }
+
+private:
+    FakePortal& portal_;
+};
+
+FakePortal::FakePortal() {
+    new FakeChooser(*this);
+    new FakeSettings(*this);
+    service.bus.registerObject(portalPath, this);
+}
+
+class PortalTest : public testing::Test {
+protected:
+    void ask() {
+        const FileQuestion question{.title = u"Add a Photo"_s,
+                                    .kindName = u"Images"_s,
+                                    .mimeTypes = {u"image/png"_s, u"image/jpeg"_s}};
+        FileRequest* request = chooser.ask(*window, question);
+        QObject::connect(request, &FileRequest::answered, request, [this](const FileAnswer& given) {
+            EXPECT_FALSE(answer) << "answered twice";
+            answer = given;
+        });
+        EXPECT_FALSE(answer);
+    }
+    bool dialogOpens() {
+        return becomesTrue([this] { return !portal->dialog.path.isEmpty(); });
+    }
+    bool isAnswered(FileAnswer::Kind kind) {
+        return becomesTrue([this] { return answer.has_value(); }) && answer->kind == kind;
+    }
+
+    PrivateBus daemon;
+    QDBusConnection bus = PrivateBus::connect();
+    std::unique_ptr<FakePortal> portal = std::make_unique<FakePortal>();
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    PortalFileChooser chooser{bus};
+    std::optional<FileAnswer> answer;
+};
+
+TEST_F(PortalTest, AsksForOneFileOfTheGivenTypes) {
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    EXPECT_EQ(portal->dialog.title, u"Add a Photo"_s);
+    EXPECT_EQ(portal->dialog.options[u"multiple"_s], false);
+    EXPECT_EQ(portal->dialog.options[u"modal"_s], true);
+    const auto filters = portal->dialog.options[u"filters"_s].value<QDBusArgument>();
+    EXPECT_EQ(filters.currentSignature(), "a(sa(us))"_L1);
+}
+
+TEST_F(PortalTest, GivesTheChosenFile) {
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    portal->respond(0, {u"file:///home/me/a%20b.png"_s});
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Chosen));
+    EXPECT_EQ(answer->path, u"/home/me/a b.png"_s);
+    EXPECT_FALSE(portal->dialog.closed);
+}
+
+TEST_F(PortalTest, FollowsAPortalThatChoosesThePathItself) {
+    portal->choosesPath = true;
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    // Until the reply of OpenFile has arrived the answer would be missed.
+    ASSERT_TRUE(becomesTrue([this] {
+        portal->respond(0, {u"file:///a.png"_s});
+        return answer.has_value();
+    }));
+    EXPECT_EQ(answer->path, u"/a.png"_s);
+}
+
+TEST_F(PortalTest, CancelledByTheUserOrWithoutALocalFile) {
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    portal->respond(1, {});
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+    answer.reset();
+    portal->dialog.path.clear();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    portal->respond(0, {u"https://example.org/a.png"_s});
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+}
+
+TEST_F(PortalTest, CancelledWhenThePortalVanishes) {
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    portal.reset();
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+}
+
+TEST_F(PortalTest, UnavailableWithoutAPortal) {
+    ask();
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Unavailable));
+}
+
+TEST_F(PortalTest, UnavailableWhereThePortalRefuses) {
+    portal->refuses = true;
+    portal->registerName();
+    ask();
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Unavailable));
+}
+
+TEST_F(PortalTest, UnavailableWithoutABus) {
+    daemon.stop();
+    EXPECT_TRUE(becomesTrue([this] { return !bus.isConnected(); }));
+    ask();
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Unavailable));
+}
+
+TEST_F(PortalTest, ClosesTheDialogWithItsWindow) {
+    portal->registerName();
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    window.reset();
+    EXPECT_TRUE(becomesTrue([this] { return portal->dialog.closed; }));
+    EXPECT_FALSE(answer);
+}
+
+TEST_F(PortalTest, ReadsTheColorScheme) {
+    portal->scheme = 1;
+    portal->registerName();
+    const PortalColorScheme scheme(bus);
+    EXPECT_EQ(scheme.preference(), ColorPreference::None);
+    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Dark; }));
+}
+
+TEST_F(PortalTest, FollowsTheColorScheme) {
+    portal->registerName();
+    PortalColorScheme scheme(bus);
+    QList<ColorPreference> changes;
+    QObject::connect(&scheme, &ColorScheme::changed, &scheme,
+                     [&](ColorPreference preference) { changes << preference; });
+    EXPECT_TRUE(becomesTrue([&] {
+        portal->changeScheme(1);
+        return !changes.isEmpty();
+    }));
+    portal->changeScheme(1, u"accent-color"_s);
+    portal->changeScheme(2);
+    portal->changeScheme(7); // not a value that exists
+    EXPECT_TRUE(becomesTrue([&] { return changes.size() == 3; }));
+    EXPECT_EQ(changes,
+              (QList{ColorPreference::Dark, ColorPreference::Light, ColorPreference::None}));
+}
+
+TEST_F(PortalTest, AsksAPortalThatStartsLater) {
+    const PortalColorScheme withoutPortal(bus);
+    const PortalColorScheme withoutBus{QDBusConnection(u"not connected"_s)};
+    portal->registerName();
+    portal->scheme = 2;
+    EXPECT_TRUE(becomesTrue([&] { return withoutPortal.preference() == ColorPreference::Light; }));
+    EXPECT_EQ(withoutBus.preference(), ColorPreference::None);
+}
+
+} // namespace
+} // namespace morrowleaf
+
+#include "portal_test.moc"
