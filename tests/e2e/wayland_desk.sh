@@ -52,7 +52,9 @@ unlock c1
 settle
 check "nor at a wake" opened_times 0
 swaymsg create_output
-must "an output that comes has the quotation on it" covered
+# A new output is black until it has a background: that alone shows nothing.
+must "an output that comes has a showing" open_now 1
+must "all over" covered
 settle
 check "once" opened_times 1
 
