@@ -107,7 +107,7 @@ void AppDelegate::present(bool preview, bool editing) {
     }
     auto window = std::make_unique<QuoteWindow>(*services_.platform.overlays, *screen,
                                                 overlaySetup(preview, editing));
-    QuoteScreen* content = makeQuoteScreen(captureBehind(*window, *screen, editing));
+    QuoteScreen* content = makeQuoteScreen(captureDesktop(*window, *screen, editing));
     if (editing) {
         addInspector(*content, window->overlay());
     }
@@ -139,17 +139,17 @@ void AppDelegate::present(bool preview, bool editing) {
     }
 }
 
-QuoteScreen* AppDelegate::makeQuoteScreen(const Behind& behind) {
+QuoteScreen* AppDelegate::makeQuoteScreen(const DesktopView& desktop) {
     auto box = std::make_unique<QuoteBox>(services_.store, services_.loader, services_.clock,
                                           services_.random);
     auto* screen = new QuoteScreen(services_.store, services_.fonts, services_.photos,
                                    std::move(box), services_.clock, services_.frames);
-    screen->setBehind(behind);
+    screen->setDesktopView(desktop);
     return screen;
 }
 
 void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
-    InspectorSetup setup{.glassCanBeDrawn = glassAvailable(screen.behind()),
+    InspectorSetup setup{.glassCanBeDrawn = glassAvailable(screen.desktopView()),
                          .face =
                              nsFont(services_.fonts, inspectorFaceSize, FontDesign::Default).face};
     if (const QScreen* main = services_.platform.mainScreen->current()) {
@@ -169,32 +169,32 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
 
 // Finds out what can be shown behind the window. Captures the desktop only if its picture
 // is needed, for the glass or for the fade.
-Behind AppDelegate::captureBehind(QuoteWindow& window, QScreen& screen, bool editing) {
+DesktopView AppDelegate::captureDesktop(QuoteWindow& window, QScreen& screen, bool editing) {
     const SeeThrough through = window.overlay().seeThrough();
     const bool looksThrough = editing || services_.store.get(K::transparency) > 0;
-    Behind behind;
+    DesktopView desktop;
     if (looksThrough || through == SeeThrough::No) {
         const QImage picture = services_.platform.desktopPicture->capture(screen);
         if (through == SeeThrough::No) {
             window.setDesktop(picture);
         }
         if (!picture.isNull() && looksThrough) {
-            behind.kind = Behind::Kind::Captured;
-            behind.picture = picture;
-            return behind;
+            desktop.kind = DesktopView::Kind::Captured;
+            desktop.picture = picture;
+            return desktop;
         }
     }
     switch (through) {
     case SeeThrough::Plain:
-        behind.kind = Behind::Kind::Plain;
+        desktop.kind = DesktopView::Kind::Plain;
         break;
     case SeeThrough::Blurred:
-        behind.kind = Behind::Kind::LiveBlur;
+        desktop.kind = DesktopView::Kind::LiveBlur;
         break;
     case SeeThrough::No:
         break;
     }
-    return behind;
+    return desktop;
 }
 
 void AppDelegate::dismiss(bool animated) {

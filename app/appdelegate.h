@@ -21,7 +21,7 @@ namespace morrowleaf {
 
 class OverlayWindow;
 class QuoteScreen;
-struct Behind;
+struct DesktopView;
 struct Services;
 
 // The controller: decides when the quotation is shown and closed, and owns the windows,
@@ -68,8 +68,8 @@ signals:
 private:
     void trigger();
     void installStatusItem();
-    Behind captureBehind(QuoteWindow& window, QScreen& screen, bool editing);
-    QuoteScreen* makeQuoteScreen(const Behind& behind);
+    DesktopView captureDesktop(QuoteWindow& window, QScreen& screen, bool editing);
+    QuoteScreen* makeQuoteScreen(const DesktopView& desktop);
     void addInspector(QuoteScreen& screen, OverlayWindow& overlay);
     void handleLoss(const QuoteWindow* window);
     void removeWindow(const QuoteWindow* window);

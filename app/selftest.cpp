@@ -37,7 +37,7 @@ void balanceEveryText() {
     }
 }
 
-void walkTheDays(const Moment& now) {
+void checkEachDay(const Moment& now) {
     QSet<QString> texts;
     for (int day = 0; day < days; ++day) {
         const Moment date = daysAfter(now, day);
@@ -46,7 +46,7 @@ void walkTheDays(const Moment& now) {
     }
 }
 
-void crossASlot(SettingsStore& store) {
+void checkSlotBoundary(SettingsStore& store) {
     store.set(K::frequency, u"6h"_s);
     for (const double seconds : {0.0, 21599.0, 21600.0}) {
         scheduledQuote({seconds, QTimeZone::utc()}, Prefs::frequency(store), secureRandomIndex());
@@ -58,8 +58,8 @@ void crossASlot(SettingsStore& store) {
 
 void selftest(SettingsStore& store, std::FILE* out, const Moment& now) {
     balanceEveryText();
-    walkTheDays(now);
-    crossASlot(store);
+    checkEachDay(now);
+    checkSlotBoundary(store);
     std::fprintf(out, "selftest ok \u2014 %zu quotes, connector parsing ok\n", quotes.size());
     std::fflush(out);
 }

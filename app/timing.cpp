@@ -30,7 +30,7 @@ public:
         , step_(std::move(step))
         , done_(std::move(done)) {
         connect(this, &FrameTimer::tick, this, [this] { advance(); });
-        wakeAt(frames_.now());
+        requestAt(frames_.now());
     }
 
 private:
@@ -45,7 +45,7 @@ private:
         elapsed_ += since;
         const double fraction = std::min(elapsed_ / seconds_, 1.0);
         if (fraction < 1) {
-            wakeAt(now);
+            requestAt(now);
         }
         step_(fraction);
         if (!signalsBlocked() && fraction >= 1) {
@@ -91,7 +91,7 @@ private:
 
 } // namespace
 
-void EndTask::operator()(QObject* task) const {
+void CancelTask::operator()(QObject* task) const {
     // The task may be executing at this moment.
     task->blockSignals(true);
     task->deleteLater();

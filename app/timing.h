@@ -10,12 +10,12 @@
 
 namespace morrowleaf {
 
-struct EndTask {
+struct CancelTask {
     void operator()(QObject* task) const;
 };
 // A pending call or a running animation. Destroying it cancels it, even from within one
 // of its own calls.
-using Task = std::unique_ptr<QObject, EndTask>;
+using Task = std::unique_ptr<QObject, CancelTask>;
 
 class FrameClock;
 

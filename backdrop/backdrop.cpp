@@ -37,17 +37,17 @@ void clear(QImage& target, const QRect& clip) {
 } // namespace
 
 Layers layersOf(const BackdropState& state, bool hasPicture, bool hasGlass) {
-    const Behind::Kind kind = state.behind.kind;
+    const DesktopView::Kind kind = state.desktop.kind;
     const double t = clampToUnit(state.transparency);
-    if (kind == Behind::Kind::Nothing || (kind == Behind::Kind::Captured && !hasPicture) ||
-        t <= 0) {
+    if (kind == DesktopView::Kind::Nothing ||
+        (kind == DesktopView::Kind::Captured && !hasPicture) || t <= 0) {
         return {};
     }
     const double glass = glassOpacity(t);
     const double tint = glassTint(t);
     Layers layers{.ground = 1 - t, .tint = t * glass * tint};
     if (hasPicture) {
-        const double ready = hasGlass ? clampToUnit(state.behind.glassOpacity) : 0;
+        const double ready = hasGlass ? clampToUnit(state.desktop.glassOpacity) : 0;
         layers.glass = t * glass * (1 - tint) * ready;
         layers.sharp = t * (1 - glass * tint) - layers.glass;
         layers.rim = state.liquidGlass ? t * glass * ready : 0;
@@ -124,12 +124,12 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const QSize size = target.size();
 
     const bool hasDesktop =
-        state.behind.kind == Behind::Kind::Captured && !state.behind.picture.isNull();
+        state.desktop.kind == DesktopView::Kind::Captured && !state.desktop.picture.isNull();
     const std::shared_ptr<const Glass> glass =
-        hasDesktop && state.behind.glass && state.behind.glass->size == size ? state.behind.glass
-                                                                             : nullptr;
+        hasDesktop && state.desktop.glass && state.desktop.glass->size == size ? state.desktop.glass
+                                                                               : nullptr;
     const Layers layers = layersOf(state, hasDesktop, glass != nullptr);
-    const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.behind.picture : QImage(), size);
+    const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.desktop.picture : QImage(), size);
     if (layers.ground <= 0 && layers.tint <= 0) {
         if (hasDesktop) {
             copyRows(target, area, desktop);

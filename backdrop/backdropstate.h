@@ -16,7 +16,7 @@ namespace morrowleaf {
 struct Glass; // glass.h
 
 // What shows behind the window, which depends on the desktop.
-struct Behind {
+struct DesktopView {
     enum class Kind {
         Nothing,  // the window cannot be transparent: the ground is drawn opaque
         Plain,    // the desktop shows through the window's alpha, unblurred
@@ -44,12 +44,12 @@ struct BackdropState {
     bool hasPhoto = false;   // a photo is chosen and readable
     QImage photo;            // its pixels at the size shown; null while they are decoded
     double photoOpacity = 1; // 0...1 while it fades in over the photo palette's colour
-    Behind behind;
+    DesktopView desktop;
 };
 
 // Whether glass can be drawn, which needs a picture of what is behind the window.
-inline bool glassAvailable(const Behind& behind) {
-    return behind.kind == Behind::Kind::Captured;
+inline bool glassAvailable(const DesktopView& desktop) {
+    return desktop.kind == DesktopView::Kind::Captured;
 }
 
 // `value` clamped to 0...1; NaN gives 0.

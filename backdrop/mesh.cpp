@@ -14,7 +14,7 @@ namespace {
 
 constexpr int probes = 21; // in each direction
 
-MeshPoints drawnBack(const MeshPoints& points, float swing) {
+MeshPoints scaledTowardsRest(const MeshPoints& points, float swing) {
     MeshPoints drawn = points;
     for (std::size_t i = 0; i < drawn.size(); ++i) {
         const float restX = 0.5F * static_cast<float>(i % 3);
@@ -97,9 +97,10 @@ MeshPoints unfolded(const MeshPoints& points) {
     float folding = 1;
     for (int step = 0; step < 14; ++step) {
         const float swing = (whole + folding) / 2;
-        (lowestDeterminant(drawnBack(points, swing)) >= leastDeterminant ? whole : folding) = swing;
+        (lowestDeterminant(scaledTowardsRest(points, swing)) >= leastDeterminant ? whole
+                                                                                 : folding) = swing;
     }
-    return drawnBack(points, whole);
+    return scaledTowardsRest(points, whole);
 }
 
 MeshPoints meshDrift(double t, double amplitude) {

@@ -4,8 +4,12 @@
 #include "base/job.h"
 
 #include <QObject>
+#include <QSemaphore>
+#include <QThread>
 #include <QThreadPool>
 
+#include <algorithm>
+#include <atomic>
 #include <mutex>
 
 namespace morrowleaf {
@@ -66,6 +70,26 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
         }
     };
     pool.start(std::move(run), priority);
+}
+
+void inParallel(int count, const std::function<void(int)>& work) {
+    std::atomic<int> next = 0;
+    const auto run = [&] {
+        for (int i = next++; i < count; i = next++) {
+            work(i);
+        }
+    };
+    QSemaphore ended;
+    const int wanted = std::min(count, QThread::idealThreadCount()) - 1;
+    int helpers = 0;
+    while (helpers < wanted && QThreadPool::globalInstance()->tryStart([&] {
+        run();
+        ended.release();
+    })) {
+        ++helpers;
+    }
+    run();
+    ended.acquire(helpers);
 }
 
 } // namespace morrowleaf

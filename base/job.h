@@ -65,4 +65,8 @@ private:
     std::unique_ptr<Delivery> delivery_;
 };
 
+// Calls `work` once with each of 0...count - 1, in any order, on this thread and
+// on free threads of Qt's global pool. Returns when all calls have returned.
+void inParallel(int count, const std::function<void(int)>& work);
+
 } // namespace morrowleaf

@@ -3,7 +3,7 @@
 
 #include "photos/photofile.h"
 
-#include "platform/regularfile.h"
+#include "platform/files.h"
 
 #include <QImageReader>
 #include <QPixelFormat>

@@ -4,7 +4,7 @@
 #include "photos/photoimport.h"
 
 #include "photos/photo.h"
-#include "platform/regularfile.h"
+#include "platform/files.h"
 
 #include <QFile>
 #include <QThreadPool>

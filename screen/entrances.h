@@ -41,9 +41,9 @@ double end(); // from here on the mark is at rest
 // The appearance editor slides in from the right edge.
 inline constexpr Entrance inspectorEntrance{0, 0.28};
 
-// A photo or glass that takes longer than photoPatience seconds fades in over
+// A photo or glass that takes longer than photoFadeThreshold seconds fades in over
 // photoFade seconds.
-inline constexpr double photoPatience = 0.1;
+inline constexpr double photoFadeThreshold = 0.1;
 inline constexpr double photoFade = 0.3;
 
 } // namespace morrowleaf

@@ -32,7 +32,7 @@ FrameClock::FrameClock(Monotonic monotonic, QObject* parent)
     , interval_(1 / usualRate) {
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this, &FrameClock::serve);
+    connect(&timer_, &QTimer::timeout, this, &FrameClock::fireDueTimers);
 }
 
 void FrameClock::setRate(double framesPerSecond) {
@@ -61,7 +61,7 @@ void FrameClock::schedule() {
     timer_.start(static_cast<int>(std::ceil(wait * 1000)));
 }
 
-void FrameClock::serve() {
+void FrameClock::fireDueTimers() {
     const double reached = std::max(armedFor_, now()) + gridSlack * interval_;
     std::vector<QPointer<FrameTimer>> due;
     for (FrameTimer* timer : timers_) {
@@ -91,14 +91,14 @@ FrameTimer::~FrameTimer() {
     }
 }
 
-void FrameTimer::wakeAt(double instant) {
+void FrameTimer::requestAt(double instant) {
     if (clock_) {
         due_ = clock_->frameFor(instant);
         clock_->schedule();
     }
 }
 
-void FrameTimer::sleep() {
+void FrameTimer::cancel() {
     due_.reset();
     if (clock_) {
         clock_->schedule();

@@ -42,7 +42,7 @@ private:
     // not begin before `instant`.
     double frameFor(double instant) const;
     void schedule();
-    void serve();
+    void fireDueTimers();
 
     Monotonic monotonic_;
     double interval_;
@@ -61,10 +61,10 @@ public:
 
     // Requests one tick() in the first frame that does not begin before `instant` (seconds
     // of the clock), in the next frame at the earliest. Replaces an earlier request.
-    void wakeAt(double instant);
+    void requestAt(double instant);
     // Cancels the request.
-    void sleep();
-    bool awake() const { return due_.has_value(); }
+    void cancel();
+    bool isActive() const { return due_.has_value(); }
 
 signals:
     void tick();

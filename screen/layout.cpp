@@ -107,7 +107,7 @@ ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBot
     return place;
 }
 
-qsizetype seenCharacters(double viewHeight, double quoteSize, int perLine) {
+qsizetype visibleCharacterLimit(double viewHeight, double quoteSize, int perLine) {
     const double size = std::min(quoteSize, measure::leastQuoteSize);
     const double advance = size * (1 + measure::lineSpacing / measure::quoteSize);
     const double characters = std::ceil(viewHeight / advance) * (perLine + slack);

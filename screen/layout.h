@@ -94,7 +94,7 @@ ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBot
 // with the quotation set in `quoteSize` points (above 0) or smaller and `perLine`
 // characters in a line; any others are below the bottom edge. Clamped to [2000,
 // 20000]; NaN gives 2000.
-qsizetype seenCharacters(double viewHeight, double quoteSize, int perLine);
+qsizetype visibleCharacterLimit(double viewHeight, double quoteSize, int perLine);
 
 // The first `limit` (above 0) user-perceived characters of `text`, or all of it
 // when there are no more. If the first character is extremely long, only its

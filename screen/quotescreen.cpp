@@ -7,10 +7,9 @@
 #include "backdrop/glass.h"
 #include "photos/bgstore.h"
 #include "quotes/quotebox.h"
-#include "screen/glassshowing.h"
 #include "screen/greeting.h"
 #include "screen/layout.h"
-#include "screen/photoshowing.h"
+#include "screen/pictureloaders.h"
 #include "screen/quoteview.h"
 #include "screen/windowpixels.h"
 #include "settings/settingsstore.h"
@@ -67,15 +66,15 @@ struct QuoteScreen::Private {
     bool exposed() const;
 
     void appear();
-    void evaluate();
-    void followPhoto();
+    void rebuildView();
+    void startPhotoFade();
     void showPhoto(double progress);
     void advance(double seconds, bool freshBackdrop);
     void tick();
     void schedule();
     std::optional<double> nextFrame(double seconds) const;
     bool photoFades(double seconds) const;
-    void followGlass();
+    void startGlassFade();
     bool glassFades(double seconds) const;
     void placeInspector(double seconds);
     void draw(QImage& target, const QRegion& region);
@@ -87,14 +86,14 @@ struct QuoteScreen::Private {
     std::unique_ptr<QuoteBox> box;
     FrameClock& frameClock;
     FrameTimer frames;
-    PhotoShowing photo;
-    GlassShowing glass;
+    PhotoLoader photo;
+    GlassLoader glass;
     QWidget* inspector = nullptr;
 
     std::optional<QuoteView> view;
     BackdropState backdrop;
     BackdropPainter backdropPainter;
-    Behind behind;
+    DesktopView desktop;
     bool stale = true;       // settings, quotation, size or desktop have changed
     bool wholeAsked = false; // the next paint event shows a new instant everywhere
 
@@ -140,14 +139,15 @@ void QuoteScreen::Private::appear() {
     placeInspector(0);
 }
 
-void QuoteScreen::Private::evaluate() {
+void QuoteScreen::Private::rebuildView() {
     const ViewSettings settings = readViewSettings(store);
     const double seconds = sinceAppearance();
     if (settings.bgImagePath != photoWanted) {
         photoWanted = settings.bgImagePath;
         photoWantedAt = seconds;
     }
-    photo.want(settings.bgImagePath, (QSizeF(screen.size()) * screen.devicePixelRatioF()).toSize());
+    photo.setPhoto(settings.bgImagePath,
+                   (QSizeF(screen.size()) * screen.devicePixelRatioF()).toSize());
     const QuoteViewState state = viewState(clock(), settings);
     if (view) {
         view->update(state, seconds);
@@ -155,30 +155,30 @@ void QuoteScreen::Private::evaluate() {
         view.emplace(state, fonts);
     }
     backdrop = backdropFor(settings, state.palette, photo.readable());
-    backdrop.behind = behind;
+    backdrop.desktop = desktop;
     const bool seenThrough =
-        behind.kind == Behind::Kind::Captured && backdrop.transparency > leastTransparency;
-    glass.want(seenThrough ? behind.picture : QImage(), screen.devicePixelRatioF());
-    backdrop.behind.glass = glass.glass();
+        desktop.kind == DesktopView::Kind::Captured && backdrop.transparency > leastTransparency;
+    glass.setPicture(seenThrough ? desktop.picture : QImage(), screen.devicePixelRatioF());
+    backdrop.desktop.glass = glass.glass();
     stale = false;
 }
 
 // Photos that were decoded quickly appear at once; others fade in.
-void QuoteScreen::Private::followPhoto() {
+void QuoteScreen::Private::startPhotoFade() {
     const double seconds = sinceAppearance();
-    const bool late = seconds - photoWantedAt > photoPatience;
+    const bool late = seconds - photoWantedAt > photoFadeThreshold;
     photoFadesFrom = late ? seconds : seconds - photoFade;
 }
 
-// Glass that is made within photoPatience seconds of the appearance is shown at
+// Glass that is made within photoFadeThreshold seconds of the appearance is shown at
 // once; otherwise it fades in.
-void QuoteScreen::Private::followGlass() {
+void QuoteScreen::Private::startGlassFade() {
     const double seconds = sinceAppearance();
-    glassFadesFrom = seconds > photoPatience ? seconds : seconds - photoFade;
+    glassFadesFrom = seconds > photoFadeThreshold ? seconds : seconds - photoFade;
 }
 
 bool QuoteScreen::Private::glassFades(double seconds) const {
-    return backdrop.behind.glass && seconds < glassFadesFrom + photoFade;
+    return backdrop.desktop.glass && seconds < glassFadesFrom + photoFade;
 }
 
 bool QuoteScreen::Private::photoFades(double seconds) const {
@@ -204,7 +204,7 @@ void QuoteScreen::Private::showPhoto(double progress) {
 void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
     frameSeconds = seconds;
     showPhoto(std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0));
-    backdrop.behind.glassOpacity = std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
+    backdrop.desktop.glassOpacity = std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
     if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
         backdropTickShown = backdropTick(seconds);
         backdropInstant = clock().unixSeconds - unixToReference;
@@ -258,9 +258,9 @@ std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
 
 void QuoteScreen::Private::schedule() {
     if (const std::optional<double> next = nextFrame(sinceAppearance())) {
-        frames.wakeAt(appearedAt + *next);
+        frames.requestAt(appearedAt + *next);
     } else {
-        frames.sleep();
+        frames.cancel();
     }
 }
 
@@ -301,12 +301,12 @@ QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& p
         refresh();
         announceSpokenTexts(*this);
     });
-    connect(&d_->photo, &PhotoShowing::changed, this, [this, refresh] {
-        d_->followPhoto();
+    connect(&d_->photo, &PhotoLoader::changed, this, [this, refresh] {
+        d_->startPhotoFade();
         refresh();
     });
-    connect(&d_->glass, &GlassShowing::made, this, [this, refresh] {
-        d_->followGlass();
+    connect(&d_->glass, &GlassLoader::made, this, [this, refresh] {
+        d_->startGlassFade();
         refresh();
     });
     connect(&d_->frames, &FrameTimer::tick, this, [this] { d_->tick(); });
@@ -321,22 +321,22 @@ void QuoteScreen::setInspector(QWidget* inspector) {
     d_->placeInspector(0);
 }
 
-void QuoteScreen::setBehind(const Behind& behind) {
-    d_->behind = behind;
+void QuoteScreen::setDesktopView(const DesktopView& desktop) {
+    d_->desktop = desktop;
     d_->stale = true;
     update();
 }
 
-const Behind& QuoteScreen::behind() const {
-    return d_->behind;
+const DesktopView& QuoteScreen::desktopView() const {
+    return d_->desktop;
 }
 
 const QuoteView* QuoteScreen::view() const {
     return d_->view ? &*d_->view : nullptr;
 }
 
-bool QuoteScreen::awake() const {
-    return d_->frames.awake();
+bool QuoteScreen::isAnimating() const {
+    return d_->frames.isActive();
 }
 
 SpokenTexts QuoteScreen::spokenTexts() const {
@@ -370,9 +370,9 @@ void QuoteScreen::paintEvent(QPaintEvent* event) {
         d_->stale = true;
     }
     // A repaint of a part must show the same instant as the rest of the screen.
-    const bool freshInstant = d_->stale || d_->wholeAsked || !d_->frames.awake();
+    const bool freshInstant = d_->stale || d_->wholeAsked || !d_->frames.isActive();
     if (d_->stale) {
-        d_->evaluate();
+        d_->rebuildView();
     }
     if (freshInstant) {
         d_->advance(d_->sinceAppearance(), true);
@@ -384,7 +384,7 @@ void QuoteScreen::paintEvent(QPaintEvent* event) {
     WindowPixels pixels(*this, device, -offset);
     d_->draw(pixels.image(), event->region());
     pixels.finish(*this, event->region());
-    if (!d_->frames.awake()) {
+    if (!d_->frames.isActive()) {
         d_->schedule();
     }
 }

@@ -41,13 +41,13 @@ public:
     // the quotation is laid out to the left of it. Call before the first frame.
     void setInspector(QWidget* inspector);
     // Sets what shows behind the window. May be called again when a capture arrives.
-    void setBehind(const Behind& behind);
-    const Behind& behind() const;
+    void setDesktopView(const DesktopView& desktop);
+    const DesktopView& desktopView() const;
 
     // Null before the first frame.
     const QuoteView* view() const;
     // Whether another frame is scheduled.
-    bool awake() const;
+    bool isAnimating() const;
 
     SpokenTexts spokenTexts() const override;
     QList<QRect> spokenRects() const override;

@@ -44,9 +44,9 @@ QString lineIdentity(const QString& textAnimRaw, qsizetype index, const QString&
 }
 
 // The scale, sizes and fonts that follow from a state.
-class QuoteView::Setting {
+class QuoteView::Metrics {
 public:
-    Setting(const QuoteViewState& state, const FontBook& fonts)
+    Metrics(const QuoteViewState& state, const FontBook& fonts)
         : fonts_(fonts)
         , fontName_(state.settings.fontName)
         , scale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
@@ -55,7 +55,7 @@ public:
         , wrap_(
               wrapTarget(state.mainScreen ? std::optional(state.mainScreen->width()) : std::nullopt,
                          state.sideInset, scale_))
-        , seen_(seenCharacters(state.size.height(), quoteSize(), wrap_)) {}
+        , seen_(visibleCharacterLimit(state.size.height(), quoteSize(), wrap_)) {}
 
     int wrap() const { return wrap_; } // characters
     qsizetype seen() const { return seen_; }
@@ -98,35 +98,35 @@ void QuoteView::update(const QuoteViewState& state, double seconds) {
 }
 
 void QuoteView::compose(double seconds) {
-    const Setting setting(state_, *fonts_);
-    cutQuotation(setting);
+    const Metrics metrics(state_, *fonts_);
+    cutQuotation(metrics);
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
-    composeLines(setting, width, seconds);
+    composeLines(metrics, width, seconds);
     if (!closing_) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
-    layOut(mark_, {u"\u201C"_s, setting.mark()});
+    layOut(mark_, {u"\u201C"_s, metrics.mark()});
     // Independent of the locale: a name is the same on every desktop.
     layOut(author_,
-           {state_.quote.author.toUpper(), setting.author(), measure::authorTracking, width});
-    layOut(sample_, {u"x"_s, setting.quote()});
-    composeOverlays(setting, box);
-    placeTexts(setting, box);
+           {state_.quote.author.toUpper(), metrics.author(), measure::authorTracking, width});
+    layOut(sample_, {u"x"_s, metrics.quote()});
+    composeOverlays(metrics, box);
+    placeTexts(metrics, box);
 }
 
 // Cuts off what cannot be seen: a source may deliver millions of characters, even
 // as a single word.
-void QuoteView::cutQuotation(const Setting& setting) {
-    if (work_.cuts == 0 || cut_.quote != state_.quote || cut_.wrap != setting.wrap() ||
-        cut_.seen != setting.seen()) {
-        cut_ = {state_.quote, setting.wrap(), setting.seen(), {}, {}};
-        cut_.seenQuote = {beginningOf(state_.quote.text, setting.seen()),
-                          beginningOf(state_.quote.author, setting.seenInOne())};
-        cut_.lines = balancedLines(cut_.seenQuote.text, setting.wrap());
+void QuoteView::cutQuotation(const Metrics& metrics) {
+    if (work_.cuts == 0 || cut_.quote != state_.quote || cut_.wrap != metrics.wrap() ||
+        cut_.seen != metrics.seen()) {
+        cut_ = {state_.quote, metrics.wrap(), metrics.seen(), {}, {}};
+        cut_.seenQuote = {beginningOf(state_.quote.text, metrics.seen()),
+                          beginningOf(state_.quote.author, metrics.seenInOne())};
+        cut_.lines = balancedLines(cut_.seenQuote.text, metrics.wrap());
         for (QString& line : cut_.lines) {
-            line = beginningOf(line, setting.seenInOne());
+            line = beginningOf(line, metrics.seenInOne());
         }
         ++work_.cuts;
     }
@@ -144,11 +144,11 @@ void QuoteView::layOut(Text& text, const Typesetting& typesetting) {
     ++work_.layouts;
 }
 
-void QuoteView::composeLines(const Setting& setting, double width, double seconds) {
+void QuoteView::composeLines(const Metrics& metrics, double width, double seconds) {
     const QString& raw = state_.settings.textAnimRaw;
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);
-    parts.font = setting.quote();
+    parts.font = metrics.quote();
     parts.strokeFont = parts.font;
     parts.color = state_.palette.ink;
     parts.shadow = {state_.palette.light ? 0.08 : 0.35, measure::shadowRadius,
@@ -177,8 +177,8 @@ void QuoteView::composeLines(const Setting& setting, double width, double second
 
 // The header row and the hint are scaled down when a large text scale leaves too
 // little width for them.
-void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
-    const TextFont font = setting.overlay();
+void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
+    const TextFont font = metrics.overlay();
     layOut(greeting_, {greeting(state_.moment), font});
     layOut(today_, {today(state_.moment, state_.locale), font, measure::dateTracking});
     layOut(hint_, {hintText(state_.sideInset), font, measure::hintTracking});
@@ -211,18 +211,18 @@ void QuoteView::composeOverlays(const Setting& setting, const QRectF& box) {
                state_.size.height() - measure::hintBottom - hint_.rect().height());
 }
 
-void QuoteView::placeTexts(const Setting& setting, const QRectF& box) {
+void QuoteView::placeTexts(const Metrics& metrics, const QRectF& box) {
     ColumnSizes sizes{mark_.shape.size(), {}, author_.shape.size()};
     for (const Line& line : lines_) {
         sizes.lines.append(line.line.size());
     }
     const Leading leading = state_.quote.text.isRightToLeft() ? Leading::Right : Leading::Left;
-    const Column column = stackColumn(sizes, setting.scale(), leading);
+    const Column column = stackColumn(sizes, metrics.scale(), leading);
     const double headerBottom =
         measure::headerTop + std::max(greeting_.rect().height(), today_.rect().height());
     const double hintTop = state_.size.height() - measure::hintBottom - hint_.rect().height();
     place_ = placeColumn(column.height, state_.size.height(), headerBottom, hintTop,
-                         setting.quoteSize());
+                         metrics.quoteSize());
 
     const double ratio = state_.devicePixelRatio;
     const auto placed = [&](QPointF inColumn, double baseline) {

@@ -117,14 +117,14 @@ private:
         RevealLine line;
         QPointF topLeft;
     };
-    class Setting;
+    class Metrics;
 
     void compose(double seconds);
-    void cutQuotation(const Setting& setting);
+    void cutQuotation(const Metrics& metrics);
     void layOut(Text& text, const Typesetting& typesetting);
-    void composeLines(const Setting& setting, double width, double seconds);
-    void composeOverlays(const Setting& setting, const QRectF& box);
-    void placeTexts(const Setting& setting, const QRectF& box);
+    void composeLines(const Metrics& metrics, double width, double seconds);
+    void composeOverlays(const Metrics& metrics, const QRectF& box);
+    void placeTexts(const Metrics& metrics, const QRectF& box);
     void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;

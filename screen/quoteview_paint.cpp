@@ -3,7 +3,7 @@
 
 // How the quote view looks at an instant, and which parts of it change.
 #include "backdrop/backdrop.h"
-#include "base/parallel.h"
+#include "base/job.h"
 #include "screen/quoteview.h"
 
 #include <QImage>

@@ -50,14 +50,14 @@ SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* p
     worker_->moveToThread(thread_);
     connect(thread_, &QThread::finished, worker_, &QObject::deleteLater);
     connect(worker_, &SettingsWorker::found, this, &SettingsFile::adopt);
-    connect(&store_, &SettingsStore::written, this, &SettingsFile::pass);
+    connect(&store_, &SettingsStore::written, this, &SettingsFile::forwardChange);
     if (QCoreApplication* app = QCoreApplication::instance()) {
         connect(app, &QCoreApplication::aboutToQuit, this, [this] { std::ignore = flush(); });
     }
     thread_->start();
 
     auto first = ask(worker_, [worker = worker_] { return worker->start(); });
-    ask(worker_, [worker = worker_] { worker->follow(); });
+    ask(worker_, [worker = worker_] { worker->watchFile(); });
     // If the disk does not answer in time, the values arrive later as a change.
     if (first.wait_for(startLimit) == std::future_status::ready) {
         adopt(first.get());
@@ -86,9 +86,9 @@ bool SettingsFile::flush(std::chrono::milliseconds limit) {
     return flushed.wait_for(limit + 100ms) == std::future_status::ready && flushed.get();
 }
 
-void SettingsFile::pass(const QString& key) {
+void SettingsFile::forwardChange(const QString& key) {
     const quint64 number = ++lastChange_;
-    underway_.insert(key, number);
+    pending_.insert(key, number);
     ask(worker_, [worker = worker_, number, key, value = store_.stored().value(key)] {
         worker->change(number, key, value);
     });
@@ -96,8 +96,8 @@ void SettingsFile::pass(const QString& key) {
 
 void SettingsFile::adopt(const SettingsSnapshot& snapshot) {
     QJsonObject values = snapshot.values;
-    underway_.removeIf([&snapshot](const auto& own) { return own.value() <= snapshot.upTo; });
-    for (auto own = underway_.begin(); own != underway_.end(); ++own) {
+    pending_.removeIf([&snapshot](const auto& own) { return own.value() <= snapshot.upTo; });
+    for (auto own = pending_.begin(); own != pending_.end(); ++own) {
         const QJsonValue value = store_.stored().value(own.key());
         if (value.isUndefined()) {
             values.remove(own.key());

@@ -50,7 +50,7 @@ public:
     [[nodiscard]] bool flush(std::chrono::milliseconds limit = std::chrono::seconds(3));
 
 private:
-    void pass(const QString& key);
+    void forwardChange(const QString& key);
     void adopt(const SettingsSnapshot& snapshot);
 
     SettingsStore& store_;
@@ -60,8 +60,8 @@ private:
     SettingsWorker* worker_;
 
     quint64 lastChange_ = 0;
-    quint64 flushed_ = 0;              // the last change at the time of the last flush
-    QHash<QString, quint64> underway_; // own changes that no snapshot contains yet
+    quint64 flushed_ = 0;             // the last change at the time of the last flush
+    QHash<QString, quint64> pending_; // own changes that no snapshot contains yet
 };
 
 } // namespace morrowleaf

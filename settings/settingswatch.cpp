@@ -35,7 +35,7 @@ SettingsWatch::SettingsWatch(QString path, QObject* parent)
     , settling_(this) {
     settling_.setSingleShot(true);
     settling_.setInterval(std::chrono::milliseconds(40));
-    connect(&settling_, &QTimer::timeout, this, &SettingsWatch::touched);
+    connect(&settling_, &QTimer::timeout, this, &SettingsWatch::mayHaveChanged);
     const auto sign = [this] {
         // Not restarted, so that a file that is written continuously is reported too.
         if (!settling_.isActive()) {

@@ -25,7 +25,7 @@ public:
     void arm();
 
 signals:
-    void touched();
+    void mayHaveChanged();
 
 private:
     QString path_;

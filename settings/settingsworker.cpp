@@ -66,7 +66,7 @@ SettingsWorker::SettingsWorker(QString path)
     , writing_(this)
     , retrying_(this)
     , retryAfter_(firstRetry) {
-    connect(&settling_, &QTimer::timeout, this, &SettingsWorker::look);
+    connect(&settling_, &QTimer::timeout, this, &SettingsWorker::checkFile);
     connect(&writing_, &QTimer::timeout, this, [this] { write(lockPatience); });
     connect(&retrying_, &QTimer::timeout, this, [this] { write(lockPatience); });
 }
@@ -74,23 +74,23 @@ SettingsWorker::SettingsWorker(QString path)
 SettingsWorker::~SettingsWorker() = default;
 
 SettingsSnapshot SettingsWorker::start() {
-    examine();
-    tell();
+    readFile();
+    reportSnapshot();
     return snapshot();
 }
 
-void SettingsWorker::follow() {
+void SettingsWorker::watchFile() {
     watch_ = std::make_unique<SettingsWatch>(path_);
-    connect(watch_.get(), &SettingsWatch::touched, this, &SettingsWorker::look);
-    look();
+    connect(watch_.get(), &SettingsWatch::mayHaveChanged, this, &SettingsWorker::checkFile);
+    checkFile();
 }
 
-void SettingsWorker::look() {
+void SettingsWorker::checkFile() {
     if (watch_) {
         watch_->arm();
     }
-    const State state = examine().state;
-    if (state == State::InTheMaking) {
+    const State state = readFile().state;
+    if (state == State::Unsettled) {
         return;
     }
     if (state == State::Broken) {
@@ -101,7 +101,7 @@ void SettingsWorker::look() {
         }
     }
     begun_ = true;
-    tell();
+    reportSnapshot();
     // Failed writing leaves traces in the folder, which lead here. Waiting for a due retry
     // keeps them from causing another attempt at once.
     if (!outstanding_.isEmpty() && !retrying_.isActive()) {
@@ -110,22 +110,21 @@ void SettingsWorker::look() {
 }
 
 // Adopts the content of the file if it is good.
-SettingsWorker::Finding SettingsWorker::examine() {
+SettingsWorker::Finding SettingsWorker::readFile() {
     const WholeFile file = readWholeFile(path_, sizeLimit);
     std::optional<SettingsDocument> document;
     if (file.kind == WholeFile::Kind::Bytes) {
         document = SettingsDocument::parse(file.bytes);
     } else if (file.kind == WholeFile::Kind::Missing) {
-        if (!known_.values().isEmpty() && mayBeInTheMaking(patienceWithMissing)) {
-            return {State::InTheMaking, file.mark};
+        if (!known_.values().isEmpty() && mayStillSettle(patienceWithMissing)) {
+            return {State::Unsettled, file.mark};
         }
         document.emplace();
     }
     if (!document && file.kind != WholeFile::Kind::Unreadable) {
-        return {mayBeInTheMaking(patienceWithBroken) ? State::InTheMaking : State::Broken,
-                file.mark};
+        return {mayStillSettle(patienceWithBroken) ? State::Unsettled : State::Broken, file.mark};
     }
-    doubt_.reset();
+    grace_.reset();
     settling_.stop();
     if (!document) {
         return {State::Closed, file.mark};
@@ -139,14 +138,14 @@ SettingsWorker::Finding SettingsWorker::examine() {
 }
 
 // True until the patience ends, so always at the first call.
-bool SettingsWorker::mayBeInTheMaking(milliseconds patience) {
-    if (!doubt_ || doubt_->patience != patience) {
-        doubt_ = Doubt{patience, QDeadlineTimer(patience, Qt::PreciseTimer)};
+bool SettingsWorker::mayStillSettle(milliseconds length) {
+    if (!grace_ || grace_->length != length) {
+        grace_ = GracePeriod{length, QDeadlineTimer(length, Qt::PreciseTimer)};
     }
-    if (doubt_->until.hasExpired()) {
+    if (grace_->until.hasExpired()) {
         return false;
     }
-    runOnce(settling_, milliseconds(doubt_->until.remainingTime() + 1));
+    runOnce(settling_, milliseconds(grace_->until.remainingTime() + 1));
     return true;
 }
 
@@ -162,20 +161,20 @@ SettingsSnapshot SettingsWorker::snapshot() const {
     return {values, lastChange_, keptFileName_};
 }
 
-void SettingsWorker::tell() {
+void SettingsWorker::reportSnapshot() {
     const SettingsSnapshot now = snapshot();
-    if (told_ != now) {
-        told_ = now;
+    if (reported_ != now) {
+        reported_ = now;
         emit found(now);
     }
 }
 
 void SettingsWorker::change(quint64 number, const QString& key, const QJsonValue& value) {
-    const bool upToDate = told_ == snapshot();
+    const bool upToDate = reported_ == snapshot();
     lastChange_ = number;
     outstanding_.insert(key, value);
     if (upToDate) {
-        told_ = snapshot(); // the owner has it already
+        reported_ = snapshot(); // the owner has it already
     }
     writeSoon();
 }
@@ -199,9 +198,9 @@ bool SettingsWorker::write(milliseconds patience) {
         merged = merge();
     }
     if (merged == Merged::Later) {
-        return false; // look() retries when the file has settled
+        return false; // checkFile() retries when the file has settled
     }
-    tell();
+    reportSnapshot();
     if (merged == Merged::Done) {
         retryAfter_ = firstRetry;
     } else if (!outstanding_.isEmpty()) {
@@ -213,8 +212,8 @@ bool SettingsWorker::write(milliseconds patience) {
 
 // One attempt. Reads the file again first, because another process may have written it.
 SettingsWorker::Merged SettingsWorker::merge() {
-    Finding file = examine();
-    if (file.state == State::InTheMaking) {
+    Finding file = readFile();
+    if (file.state == State::Unsettled) {
         return Merged::Later;
     }
     if (file.state == State::Closed) {
@@ -226,7 +225,7 @@ SettingsWorker::Merged SettingsWorker::merge() {
         if (aside.isEmpty()) {
             return Merged::Failed;
         }
-        doubt_.reset();
+        grace_.reset();
         file.mark = {};
     }
     const bool gone = file.state == State::Broken;
@@ -273,10 +272,10 @@ void SettingsWorker::takeOwnership() {
 bool SettingsWorker::flush(QDeadlineTimer deadline) {
     while (!outstanding_.isEmpty() &&
            !write(std::min(lockPatienceAtEnd, milliseconds(deadline.remainingTime() * 2 / 3)))) {
-        if (!doubt_ || doubt_->until.hasExpired() || deadline.hasExpired()) {
+        if (!grace_ || grace_->until.hasExpired() || deadline.hasExpired()) {
             return false;
         }
-        const qint64 rest = std::min(doubt_->until.remainingTime(), deadline.remainingTime());
+        const qint64 rest = std::min(grace_->until.remainingTime(), deadline.remainingTime());
         std::this_thread::sleep_for(milliseconds(rest + 1));
     }
     return true;

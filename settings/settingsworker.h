@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/wholefile.h"
+#include "platform/files.h"
 #include "settings/settingsdocument.h"
 
 #include <QDeadlineTimer>
@@ -47,7 +47,7 @@ public:
     // Reads the file for the first time.
     SettingsSnapshot start();
     // Begins to watch the file for changes by others. Call it after start().
-    void follow();
+    void watchFile();
 
     // Takes the owner's change with this number; undefined removes the key.
     void change(quint64 number, const QString& key, const QJsonValue& value);
@@ -64,7 +64,7 @@ signals:
 private:
     enum class State {
         Good,
-        InTheMaking, // missing or broken, but possibly only while somebody writes it
+        Unsettled, // missing or broken, but possibly only while somebody writes it
         Broken,
         Closed, // unreadable
     };
@@ -72,17 +72,17 @@ private:
         State state;
         FileMark mark;
     };
-    struct Doubt {
-        std::chrono::milliseconds patience;
+    struct GracePeriod {
+        std::chrono::milliseconds length;
         QDeadlineTimer until;
     };
     enum class Merged { Done, Again, Later, Failed };
 
-    void look();
-    Finding examine();
-    bool mayBeInTheMaking(std::chrono::milliseconds patience);
+    void checkFile();
+    Finding readFile();
+    bool mayStillSettle(std::chrono::milliseconds length);
     SettingsSnapshot snapshot() const;
-    void tell();
+    void reportSnapshot();
 
     void writeSoon();
     bool write(std::chrono::milliseconds lockPatience);
@@ -92,15 +92,15 @@ private:
     QString path_;
     std::unique_ptr<SettingsWatch> watch_;
 
-    SettingsDocument known_;                // what the file contained when it was last good
-    std::optional<SettingsSnapshot> told_;  // the last snapshot that the owner is known to have
-    QMap<QString, QJsonValue> outstanding_; // the owner's changes not yet in the file
+    SettingsDocument known_;                   // what the file contained when it was last good
+    std::optional<SettingsSnapshot> reported_; // the last snapshot that the owner is known to have
+    QMap<QString, QJsonValue> outstanding_;    // the owner's changes not yet in the file
     quint64 lastChange_ = 0;
     std::atomic<quint64> written_ = 0;
     QString keptFileName_;
     bool begun_ = false; // the values of the file, or its absence, are in effect
 
-    std::optional<Doubt> doubt_; // set while the file is missing or broken
+    std::optional<GracePeriod> grace_; // set while the file is missing or broken
     QTimer settling_;
     QTimer writing_;
     QTimer retrying_;

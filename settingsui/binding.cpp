@@ -16,7 +16,7 @@ Binding::Binding(SettingsStore& store, QString key, QObject* control, std::funct
     , key_(std::move(key))
     , show_(std::move(show)) {
     connect(&store_, &SettingsStore::changed, this, &Binding::changed);
-    bringInLine();
+    updateControl();
 }
 
 bool Binding::set(const QJsonValue& value) {
@@ -30,11 +30,11 @@ bool Binding::set(const QJsonValue& value) {
 
 void Binding::changed(const QString& key) {
     if (key == key_ && !busy_) {
-        bringInLine();
+        updateControl();
     }
 }
 
-void Binding::bringInLine() {
+void Binding::updateControl() {
     const QScopedValueRollback busy(busy_, true);
     show_();
 }

@@ -31,7 +31,7 @@ public:
 
 private:
     void changed(const QString& key);
-    void bringInLine();
+    void updateControl();
 
     SettingsStore& store_;
     QString key_;

@@ -65,7 +65,7 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     : QWidget(parent)
     , column_(new QVBoxLayout(this))
     , frame_(new QWidget(this)) {
-    speakAsGroup(*this, title);
+    makeAccessibleGroup(*this, title);
     column_->setContentsMargins(0, 0, 0, 0);
     column_->setSpacing(6);
     auto* heading = new QLabel(title, this);

@@ -61,7 +61,7 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setFixedWidth(width);
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
-    speakAsGroup(*this, u"Appearance"_s);
+    makeAccessibleGroup(*this, u"Appearance"_s);
     // A shortcut, because some desktop themes let Return press the focused control.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* shortcut = new QShortcut(key, this);

@@ -21,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store) {
-    speakAsGroup(*this, u"Palette"_s);
+    makeAccessibleGroup(*this, u"Palette"_s);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);

@@ -116,7 +116,7 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
 
 } // namespace
 
-void speakAsGroup(QWidget& group, const QString& name) {
+void makeAccessibleGroup(QWidget& group, const QString& name) {
     QAccessible::installFactory(make); // a second installation has no effect
     group.setProperty(groupProperty, true);
     group.setAccessibleName(name);

@@ -10,6 +10,6 @@ namespace morrowleaf {
 
 // Makes `group` a named group for screen readers. The first call also installs the
 // accessible interfaces of this room's controls.
-void speakAsGroup(QWidget& group, const QString& name);
+void makeAccessibleGroup(QWidget& group, const QString& name);
 
 } // namespace morrowleaf

@@ -11,7 +11,6 @@
 #include "settingsui/panelstyle.h"
 #include "settingsui/photochooser.h"
 #include "settingsui/swatch.h"
-#include "settingsui/thumbnails.h"
 
 #include <QEvent>
 #include <QFileInfo>
@@ -20,9 +19,39 @@
 #include <QTimer>
 
 namespace morrowleaf {
-namespace {
 
 using namespace Qt::Literals::StringLiterals;
+
+Thumbnails::Thumbnails(BGStore& photos, QObject* parent)
+    : QObject(parent)
+    , photos_(photos) {}
+
+QImage Thumbnails::picture(const QString& path, QSize size) {
+    if (const auto known = thumbnails_.find(path);
+        known != thumbnails_.end() && known->second.size == size) {
+        return known->second.picture;
+    }
+    const auto photo = photos_.image(path);
+    if (!photo) {
+        return {};
+    }
+    const auto decode = [photo, size](const std::stop_token&) {
+        return photo->decodeFilling(size);
+    };
+    const auto done = [this, path](const QImage& picture) { take(path, picture); };
+    thumbnails_[path] = {size, {}, Job(photos_.workers(), decode, done)};
+    return {};
+}
+
+void Thumbnails::take(const QString& path, const QImage& picture) {
+    if (picture.isNull()) {
+        photos_.markUnreadable(path);
+    }
+    thumbnails_[path].picture = picture;
+    emit ready(path);
+}
+
+namespace {
 
 // The name of a built-in photo for screen readers: that of its file, capitalised.
 QString spokenName(const QString& path) {
@@ -47,7 +76,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     , anchor_(new QWidget(this)) {
     anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
-    speakAsGroup(*this, u"Your photo"_s);
+    makeAccessibleGroup(*this, u"Your photo"_s);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(PanelStyle::gutter);

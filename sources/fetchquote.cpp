@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto deadline = 6s;                       // from the call to the answer
-constexpr auto partingTime = 200ms;                 // for all loads, when the fetcher is destroyed
+constexpr auto shutdownTimeout = 200ms;             // for all loads, when the fetcher is destroyed
 constexpr qsizetype bodyLimit = qsizetype{4} << 20; // bytes, decoded
 
 // Counts loads that are stuck too, so that their threads cannot accumulate.
@@ -72,7 +72,7 @@ QuoteFetcher::QuoteFetcher(RandomIndex random, QObject* parent)
 QuoteFetcher::~QuoteFetcher() {
     const QObjectList loads = children();
     qDeleteAll(loads);
-    if (!pool_->waitForDone(static_cast<int>(std::chrono::milliseconds(partingTime).count()))) {
+    if (!pool_->waitForDone(static_cast<int>(std::chrono::milliseconds(shutdownTimeout).count()))) {
         static_cast<void>(pool_.release()); // its destructor would wait
     }
 }

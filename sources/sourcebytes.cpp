@@ -3,7 +3,7 @@
 
 #include "sources/sourcebytes.h"
 
-#include "platform/regularfile.h"
+#include "platform/files.h"
 #include "sources/webload.h"
 
 #include <QFile>

@@ -4,8 +4,7 @@
 #include "platform/chooser.h"
 
 #include "platform/linux/autostart.h"
-#include "platform/linux/dbus/portalcolorscheme.h"
-#include "platform/linux/dbus/portalfilechooser.h"
+#include "platform/linux/dbus/portals.h"
 #include "platform/linux/desktopparts.h"
 #include "platform/linux/wayland/waylandconnection.h"
 #include "platform/linux/wayland/waylandparts.h"

@@ -3,6 +3,8 @@
 
 #include "platform/system.h"
 
+#include "platform/network.h"
+
 #include <chrono>
 
 namespace morrowleaf {
@@ -13,5 +15,12 @@ double uptime() {
 }
 
 void releaseFreeMemory() {}
+
+// This backend does not know how much a connection has received, so it ends none.
+FloodGuard::FloodGuard() = default;
+
+bool FloodGuard::end(std::uint64_t /*limit*/) const {
+    return false;
+}
 
 } // namespace morrowleaf

@@ -139,15 +139,15 @@ TEST_F(AppDelegateTest, DesktopIsCapturedOnlyWhereItIsSeen) {
     desktop.picture = QImage(8, 8, QImage::Format_RGB32);
     launch();
     EXPECT_EQ(desktop.captures, 0);
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::Plain);
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::Plain);
     store.set(K::transparency, 0.5);
     delegate->show();
     EXPECT_EQ(desktop.captures, 1);
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::Captured);
-    EXPECT_FALSE(content()->behind().picture.isNull());
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::Captured);
+    EXPECT_FALSE(content()->desktopView().picture.isNull());
     store.set(K::transparency, 0.0);
     delegate->editAppearance();
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::Captured);
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::Captured);
 }
 
 TEST_F(AppDelegateTest, TheEditorKnowsWhetherGlassCanBeDrawn) {
@@ -183,13 +183,13 @@ TEST_F(AppDelegateTest, WithoutACaptureTheNextRungHolds) {
     store.set(K::transparency, 0.5);
     desktop.seeThrough = SeeThrough::Blurred;
     launch();
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::LiveBlur);
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::LiveBlur);
     desktop.seeThrough = SeeThrough::Plain;
     delegate->show();
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::Plain);
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::Plain);
     desktop.seeThrough = SeeThrough::No;
     delegate->show();
-    EXPECT_EQ(content()->behind().kind, Behind::Kind::Nothing);
+    EXPECT_EQ(content()->desktopView().kind, DesktopView::Kind::Nothing);
 }
 
 TEST_F(AppDelegateTest, AnOpaqueWindowFadesOverTheDesktop) {

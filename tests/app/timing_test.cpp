@@ -72,12 +72,12 @@ TEST(SystemTiming, AnAnimationSharesItsFramesWithWhatElseMoves) {
     int turns = 0;
     int turnOfTick = -1;
     QObject::connect(&picture, &FrameTimer::tick, &picture, [&] {
-        picture.wakeAt(frames.now());
+        picture.requestAt(frames.now());
         turnOfTick = turns;
         QMetaObject::invokeMethod(
             &picture, [&] { ++turns; }, Qt::QueuedConnection);
     });
-    picture.wakeAt(frames.now());
+    picture.requestAt(frames.now());
     int ends = 0;
     int steps = 0;
     const Task task = timing->animate(

@@ -85,10 +85,10 @@ TEST(Backdrop, WhatIsKeptNeverOutlivesWhatItCameFrom) {
     expectFresh(state, now);
     state.transparency = 0.4;
     expectFresh(state, now);
-    state.behind.glassOpacity = 0.5;
+    state.desktop.glassOpacity = 0.5;
     expectFresh(state, now);
-    state.behind.picture.fill(Qt::red);
-    state.behind.glass = makeGlass(state.behind.picture, 1);
+    state.desktop.picture.fill(Qt::red);
+    state.desktop.glass = makeGlass(state.desktop.picture, 1);
     expectFresh(state, now);
     state.palette = Palette::all()[5];
     expectFresh(state, now);
@@ -158,7 +158,7 @@ TEST(Backdrop, SettingsBeyondTheirRangesAreHarmless) {
         BackdropState state = captured(wild, true);
         state.vignette = wild;
         state.photoOpacity = wild;
-        state.behind.glassOpacity = wild;
+        state.desktop.glassOpacity = wild;
         const QImage image = drawn(state, wild, {64, 40});
         EXPECT_EQ(qAlpha(raw(image, 20, 20)), 255);
     }
@@ -167,8 +167,8 @@ TEST(Backdrop, SettingsBeyondTheirRangesAreHarmless) {
 TEST(Backdrop, DrawsTheSmallestWindows) {
     for (const QSize size : {QSize(1, 1), QSize(2, 1), QSize(1, 300), QSize(17, 5)}) {
         BackdropState state = captured(0.7, false);
-        state.behind.picture = busy(size);
-        state.behind.glass = makeGlass(state.behind.picture, 1);
+        state.desktop.picture = busy(size);
+        state.desktop.glass = makeGlass(state.desktop.picture, 1);
         EXPECT_EQ(qAlpha(raw(drawn(state, now, size), 0, 0)), 255);
         state.transparency = 0.3;
         EXPECT_EQ(qAlpha(raw(drawn(state, now, size), 0, 0)), 255);

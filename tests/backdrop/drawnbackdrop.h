@@ -34,10 +34,10 @@ inline QImage busy(const QSize& size) {
 inline BackdropState captured(double transparency, bool withGlass) {
     BackdropState state = plainState(0);
     state.transparency = transparency;
-    state.behind.kind = Behind::Kind::Captured;
-    state.behind.picture = busy(small);
+    state.desktop.kind = DesktopView::Kind::Captured;
+    state.desktop.picture = busy(small);
     if (withGlass) {
-        state.behind.glass = makeGlass(state.behind.picture, 1);
+        state.desktop.glass = makeGlass(state.desktop.picture, 1);
     }
     return state;
 }

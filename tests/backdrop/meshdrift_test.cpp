@@ -60,15 +60,15 @@ bool same(const MeshPoints& a, const MeshPoints& b) {
 }
 
 TEST(MeshSurface, OnlyTheWidestSwingsAreEverDrawnBack) {
-    int drawnBack = 0;
+    int scaledTowardsRest = 0;
     for (int step = 0; step < 1260; ++step) { // one period: all rates are multiples of 0.1
         const double t = 0.05 * step;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.1)), meshDrift(t, 0.1))) << t;
         EXPECT_TRUE(same(unfolded(meshDrift(t, 0.16)), meshDrift(t, 0.16))) << t;
-        drawnBack += same(unfolded(meshDrift(t, 0.26)), meshDrift(t, 0.26)) ? 0 : 1;
+        scaledTowardsRest += same(unfolded(meshDrift(t, 0.26)), meshDrift(t, 0.26)) ? 0 : 1;
     }
-    EXPECT_GT(drawnBack, 0);
-    EXPECT_LT(drawnBack, 63 * 20 / 10);
+    EXPECT_GT(scaledTowardsRest, 0);
+    EXPECT_LT(scaledTowardsRest, 63 * 20 / 10);
 }
 
 TEST(MeshSurface, NeverFoldsAndNeverJumpsOnceDrawnBack) {

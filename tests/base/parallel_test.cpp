@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "base/parallel.h"
+#include "base/job.h"
 
 #include <QSemaphore>
 #include <QThreadPool>

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/dbus/portalcolorscheme.h"
-#include "platform/linux/dbus/portalfilechooser.h"
+#include "platform/linux/dbus/portals.h"
 
 #include "tests/platform/privatebus.h"
 

@@ -33,22 +33,22 @@ TEST_F(FrameClocks, TicksTimersOfOneFrameInOneTurn) {
                 &clock, [&] { ++turn; }, Qt::QueuedConnection);
         });
     }
-    one.wakeAt(time + 0.003);
-    other.wakeAt(time + 0.012);
+    one.requestAt(time + 0.003);
+    other.requestAt(time + 0.012);
     EXPECT_TRUE(QTest::qWaitFor([&] { return turns.size() == 2; }));
     EXPECT_EQ(turns.front(), turns.back());
-    EXPECT_FALSE(one.awake());
-    EXPECT_FALSE(other.awake());
+    EXPECT_FALSE(one.isActive());
+    EXPECT_FALSE(other.isActive());
 }
 
 TEST_F(FrameClocks, TicksInTheNextFrameAtTheEarliest) {
     FrameTimer timer(clock);
     const QSignalSpy ticks(&timer, &FrameTimer::tick);
-    timer.wakeAt(time - 100);
-    EXPECT_TRUE(timer.awake());
+    timer.requestAt(time - 100);
+    EXPECT_TRUE(timer.isActive());
     EXPECT_EQ(ticks.count(), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks.count() == 1; }));
-    EXPECT_FALSE(timer.awake());
+    EXPECT_FALSE(timer.isActive());
 }
 
 TEST_F(FrameClocks, ReplacesAWishAndForgetsItAsleep) {
@@ -58,16 +58,16 @@ TEST_F(FrameClocks, ReplacesAWishAndForgetsItAsleep) {
     const QSignalSpy late(&patient, &FrameTimer::tick);
     const QSignalSpy never(&sleeping, &FrameTimer::tick);
     const QSignalSpy done(&last, &FrameTimer::tick);
-    patient.wakeAt(time);
-    patient.wakeAt(time + 1000);
-    sleeping.wakeAt(time);
-    sleeping.sleep();
-    last.wakeAt(time + 0.05);
+    patient.requestAt(time);
+    patient.requestAt(time + 1000);
+    sleeping.requestAt(time);
+    sleeping.cancel();
+    last.requestAt(time + 0.05);
     EXPECT_TRUE(QTest::qWaitFor([&] { return done.count() == 1; }));
     EXPECT_EQ(late.count(), 0);
     EXPECT_EQ(never.count(), 0);
-    EXPECT_TRUE(patient.awake());
-    EXPECT_FALSE(sleeping.awake());
+    EXPECT_TRUE(patient.isActive());
+    EXPECT_FALSE(sleeping.isActive());
 }
 
 TEST_F(FrameClocks, ATickMayDestroyTheOtherTimers) {
@@ -82,8 +82,8 @@ TEST_F(FrameClocks, ATickMayDestroyTheOtherTimers) {
         ++ticks;
         one.reset();
     });
-    one->wakeAt(time);
-    other->wakeAt(time);
+    one->requestAt(time);
+    other->requestAt(time);
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
     QTest::qWait(40);
     EXPECT_EQ(ticks, 1);
@@ -92,11 +92,11 @@ TEST_F(FrameClocks, ATickMayDestroyTheOtherTimers) {
 TEST_F(FrameClocks, ATimerMayOutliveItsClock) {
     auto shortLived = std::make_unique<FrameClock>([this] { return time; });
     FrameTimer timer(*shortLived);
-    timer.wakeAt(time);
+    timer.requestAt(time);
     shortLived.reset();
-    timer.wakeAt(time);
-    timer.sleep();
-    EXPECT_FALSE(timer.awake());
+    timer.requestAt(time);
+    timer.cancel();
+    EXPECT_FALSE(timer.isActive());
 }
 
 TEST_F(FrameClocks, TakesARateOnlyWithinReason) {

@@ -82,8 +82,9 @@ protected:
     void jumpTo(CountingScreen& screen, double seconds) {
         time = seconds;
         const int before = screen.frames;
-        if (screen.awake()) {
-            EXPECT_TRUE(QTest::qWaitFor([&] { return screen.frames > before || !screen.awake(); }));
+        if (screen.isAnimating()) {
+            EXPECT_TRUE(
+                QTest::qWaitFor([&] { return screen.frames > before || !screen.isAnimating(); }));
         }
     }
 
@@ -91,7 +92,7 @@ protected:
         time += 100;
         EXPECT_TRUE(QTest::qWaitFor([&] {
             time += 1; // a photo may still arrive
-            return !screen.awake();
+            return !screen.isAnimating();
         }));
         QTest::qWait(20);
     }
@@ -132,12 +133,12 @@ int differing(const QImage& a, const QImage& b) {
 
 TEST_F(QuoteScreens, AsksForNoFramesOnceAStillScreenIsFinished) {
     const auto screen = shown();
-    EXPECT_TRUE(screen->awake());
+    EXPECT_TRUE(screen->isAnimating());
     settle(*screen);
     const int frames = screen->frames;
     QTest::qWait(200);
     EXPECT_EQ(screen->frames, frames);
-    EXPECT_FALSE(screen->awake());
+    EXPECT_FALSE(screen->isAnimating());
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
 }
 
@@ -157,7 +158,7 @@ TEST_F(QuoteScreens, SleepsUntilSomethingMoves) {
     const int frames = screen->frames;
     QTest::qWait(150);
     EXPECT_EQ(screen->frames, frames);
-    EXPECT_TRUE(screen->awake());
+    EXPECT_TRUE(screen->isAnimating());
 }
 
 TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
@@ -177,17 +178,17 @@ TEST_F(QuoteScreens, SleepsWhileHidden) {
     store.set(K::screenAnim, u"aurora"_s);
     const auto screen = shown();
     jumpTo(*screen, 60);
-    EXPECT_TRUE(screen->awake());
+    EXPECT_TRUE(screen->isAnimating());
     screen->hide();
     ASSERT_TRUE(QTest::qWaitFor([&] {
         time += 1;
-        return !screen->awake();
+        return !screen->isAnimating();
     }));
     const int frames = screen->frames;
     QTest::qWait(100);
     EXPECT_EQ(screen->frames, frames);
     screen->show();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames && screen->awake(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames && screen->isAnimating(); }));
 }
 
 TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
@@ -201,11 +202,11 @@ TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
         EXPECT_EQ(screen->view()->lineAppearedAt(0), 0);
         EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
     }
-    EXPECT_FALSE(screen->awake());
+    EXPECT_FALSE(screen->isAnimating());
     store.set(K::textAnim, u"rise"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->lineAppearedAt(0) > 0; }));
     EXPECT_EQ(screen->view()->lineAppearedAt(0), time - 50);
-    EXPECT_TRUE(screen->awake());
+    EXPECT_TRUE(screen->isAnimating());
 }
 
 TEST_F(QuoteScreens, TakesALateQuotationAndItsAuthor) {
@@ -306,7 +307,7 @@ TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
     store.set(K::bgImage, folder.filePath(u"second.png"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames; }));
     time += 5; // the decoder took its time
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->awake(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->isAnimating(); }));
     EXPECT_GT(ground().red(), 130);
     time += 0.15;
     ASSERT_TRUE(QTest::qWaitFor([&] { return ground().red() < 110; }));
@@ -359,7 +360,7 @@ TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view() != nullptr; }));
     time += 100;
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !screen->awake(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !screen->isAnimating(); }));
     QTest::qWait(20);
     const QImage whole = QApplication::primaryScreen()->grabWindow(window.winId()).toImage();
     ASSERT_FALSE(whole.isNull());

@@ -67,11 +67,11 @@ TEST(BeginningOf, CutsACharacterBeyondAllBounds) {
 }
 
 TEST(SeenCharacters, FollowTheViewWithinBounds) {
-    EXPECT_EQ(seenCharacters(982, 44, 41), 65 * 43);
-    EXPECT_EQ(seenCharacters(982, 68, 26), 2000);
-    EXPECT_EQ(seenCharacters(2160, 4, 48), 20000);
-    EXPECT_EQ(seenCharacters(0, 44, 41), 2000);
-    EXPECT_EQ(seenCharacters(std::nan(""), 44, 41), 2000);
+    EXPECT_EQ(visibleCharacterLimit(982, 44, 41), 65 * 43);
+    EXPECT_EQ(visibleCharacterLimit(982, 68, 26), 2000);
+    EXPECT_EQ(visibleCharacterLimit(2160, 4, 48), 20000);
+    EXPECT_EQ(visibleCharacterLimit(0, 44, 41), 2000);
+    EXPECT_EQ(visibleCharacterLimit(std::nan(""), 44, 41), 2000);
 }
 
 TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
@@ -81,7 +81,7 @@ TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
         state.quote.text = hostile.piece.repeated(hostileSize / hostile.piece.size());
         state.quote.author = state.quote.text;
         const QuoteView view(state, shippedFonts());
-        const qsizetype seen = seenCharacters(982, 44, 48);
+        const qsizetype seen = visibleCharacterLimit(982, 44, 48);
         qsizetype units = 0;
         for (qsizetype i = 0; i < view.lineCount(); ++i) {
             units += view.lineText(i).size();

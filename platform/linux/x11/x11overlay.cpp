@@ -4,7 +4,7 @@
 #include "platform/linux/x11/x11parts.h"
 
 #include "platform/linux/x11/x11connection.h"
-#include "platform/linux/x11/x11hold.h"
+#include "platform/linux/x11/x11grab.h"
 #include "platform/linux/x11/x11monitors.h"
 #include "platform/shared/screenfollower.h"
 
@@ -27,19 +27,19 @@ constexpr int focusPatience = 120;  // milliseconds
 constexpr int settlingTime = 1'500; // milliseconds in which window managers may move the focus
 constexpr int mostRaises = 20;      // per showing, so that two windows do not fight for ever
 
-X11Hold::What initialHold(InputHold hold) {
-    return hold == InputHold::KeyboardAndMouse ? X11Hold::What::Everything : X11Hold::What::Focus;
+X11Grab::What initialHold(InputHold hold) {
+    return hold == InputHold::KeyboardAndMouse ? X11Grab::What::Everything : X11Grab::What::Focus;
 }
 
 class X11Overlay final : public OverlayWindow, public QAbstractNativeEventFilter {
 public:
     X11Overlay(QWidget& window, QScreen& screen, const OverlaySetup& setup, bool managed,
-               std::shared_ptr<X11Hold> hold)
+               std::shared_ptr<X11Grab> hold)
         : window_(window)
         , setup_(setup)
         , managed_(managed || setup.level != WindowLevel::ScreenSaver)
         , composited_(x11::hasCompositor())
-        , hold_(std::move(hold))
+        , grab_(std::move(hold))
         , follower_(window, screen) {
         connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
         Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
@@ -54,7 +54,7 @@ public:
         window.setScreen(&screen);
         window.setGeometry(screen.geometry());
         window.winId();
-        describe();
+        setWindowProperties();
         listen();
         connect(&monitors_, &X11Monitors::changed, this, [this] {
             if (!X11Monitors::isAnyOn()) {
@@ -68,7 +68,7 @@ public:
         if (window_.isVisible()) {
             orderOut();
         }
-        hold_->giveBack(*window_.windowHandle());
+        grab_->giveBack(*window_.windowHandle());
     }
 
     SeeThrough seeThrough() const override {
@@ -90,7 +90,7 @@ public:
         watch_.stop();
         // First, because unmapping the window moves the focus to the root, and the window
         // manager would react to that after the focus is set here.
-        hold_->giveBack(*window_.windowHandle());
+        grab_->giveBack(*window_.windowHandle());
         window_.hide();
     }
 
@@ -100,7 +100,7 @@ public:
         }
         lowered_ = level == WindowLevel::Normal;
         if (lowered_) {
-            hold_->releaseGrabs(*window_.windowHandle());
+            grab_->releaseGrabs(*window_.windowHandle());
             stack(XCB_STACK_MODE_BELOW, XCB_WINDOW_NONE);
             standBelowActive();
         } else {
@@ -111,7 +111,7 @@ public:
     void releaseInput() override {
         inputReleased_ = true;
         watch_.stop();
-        hold_->releaseGrabs(*window_.windowHandle());
+        grab_->releaseGrabs(*window_.windowHandle());
     }
 
     quint32 orderedFrontAt() const override { return orderedFrontAt_; }
@@ -128,7 +128,7 @@ public:
         } else if (type == XCB_VISIBILITY_NOTIFY) {
             const auto* change = reinterpret_cast<const xcb_visibility_notify_event_t*>(event);
             if (change->window == id() && change->state != XCB_VISIBILITY_UNOBSCURED) {
-                covered();
+                raiseIfCovered();
             }
         }
         return false;
@@ -137,7 +137,7 @@ public:
 private:
     xcb_window_t id() const { return static_cast<xcb_window_t>(window_.winId()); }
 
-    void describe() {
+    void setWindowProperties() {
         constexpr quint32 allDesktops = 0xFFFFFFFF;
         x11::setCardinal(id(), "_NET_WM_DESKTOP", allDesktops);
         const std::array<xcb_atom_t, 2> skip{x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
@@ -166,7 +166,7 @@ private:
         if (setup_.hold == InputHold::KeyboardIfNeeded) {
             watch_.setSingleShot(true);
             watch_.setInterval(focusPatience);
-            connect(&watch_, &QTimer::timeout, this, [this] { insist(); });
+            connect(&watch_, &QTimer::timeout, this, [this] { retakeFocus(); });
             connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this] {
                 if (window_.isVisible() && !lowered_ && !inputReleased_) {
                     watch_.start();
@@ -181,8 +181,8 @@ private:
         }
         movedToFront_.start();
         window_.raise();
-        hold_->take(*window_.windowHandle(),
-                    managed_ ? X11Hold::What::Focus : initialHold(setup_.hold));
+        grab_->take(*window_.windowHandle(),
+                    managed_ ? X11Grab::What::Focus : initialHold(setup_.hold));
         if (setup_.hold == InputHold::KeyboardIfNeeded && !managed_) {
             watch_.start();
         }
@@ -190,15 +190,15 @@ private:
 
     // Takes the focus again if no window of the program has it, or if the window manager
     // gave it to another window of the program when a dialog closed.
-    void insist() {
+    void retakeFocus() {
         const QWindow* focused = QGuiApplication::focusWindow();
         const bool strayed =
             focused != window_.windowHandle() && movedToFront_.elapsed() < settlingTime;
         if (window_.isVisible() && !lowered_ && !inputReleased_ &&
             (focused == nullptr || strayed)) {
-            hold_->take(*window_.windowHandle(), focused == nullptr
-                                                     ? X11Hold::What::FocusAndKeyboard
-                                                     : X11Hold::What::Focus);
+            grab_->take(*window_.windowHandle(), focused == nullptr
+                                                     ? X11Grab::What::FocusAndKeyboard
+                                                     : X11Grab::What::Focus);
         }
     }
 
@@ -234,13 +234,13 @@ private:
     }
 
     // Raises the window again, unless a menu of the program covers it.
-    void covered() {
+    void raiseIfCovered() {
         const auto windows = QGuiApplication::topLevelWindows();
         const bool ownPopup = std::any_of(windows.begin(), windows.end(), [](const QWindow* w) {
             return w->isVisible() && (w->type() == Qt::Popup || w->type() == Qt::ToolTip);
         });
         if (!lowered_ && !inputReleased_ && !ownPopup && window_.isVisible() &&
-            hold_->isHolder(*window_.windowHandle()) && raises_ < mostRaises) {
+            grab_->isHolder(*window_.windowHandle()) && raises_ < mostRaises) {
             ++raises_;
             stack(XCB_STACK_MODE_ABOVE, XCB_WINDOW_NONE);
         }
@@ -256,7 +256,7 @@ private:
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;
     xcb_atom_t activeWindowAtom_ = XCB_ATOM_NONE;
-    std::shared_ptr<X11Hold> hold_;
+    std::shared_ptr<X11Grab> grab_;
     ScreenFollower follower_;
     X11Monitors monitors_;
     QTimer watch_;
@@ -267,16 +267,16 @@ class X11Overlays final : public OverlayMaker {
 public:
     explicit X11Overlays(bool managed)
         : managed_(managed)
-        , hold_(std::make_shared<X11Hold>()) {}
+        , grab_(std::make_shared<X11Grab>()) {}
 
     std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
                                         const OverlaySetup& setup) override {
-        return std::make_unique<X11Overlay>(window, screen, setup, managed_, hold_);
+        return std::make_unique<X11Overlay>(window, screen, setup, managed_, grab_);
     }
 
 private:
     bool managed_;
-    std::shared_ptr<X11Hold> hold_;
+    std::shared_ptr<X11Grab> grab_;
 };
 
 } // namespace

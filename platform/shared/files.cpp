@@ -1,27 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/wholefile.h"
-
-#include "platform/regularfile.h"
+#include "platform/files.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QString>
+
+#include <cerrno>
+#include <cstdio>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstdio>
-
 namespace morrowleaf {
 
-namespace {
-
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
 
 constexpr mode_t ownFile = S_IRUSR | S_IWUSR;
 constexpr mode_t ownFolder = S_IRWXU;
@@ -61,7 +60,7 @@ QString endOfLinks(QString path) {
 
 // Gives the new file the owner, group and permissions of the old one. Returns false if
 // the owner cannot be kept.
-bool takeOver(const struct stat& old, int handle) {
+bool copyOwnership(const struct stat& old, int handle) {
     struct stat made {};
     if (::fstat(handle, &made) != 0) {
         return false;
@@ -151,7 +150,7 @@ Replaced replaceWholeFile(const QString& path, const QByteArray& bytes, const Fi
     }
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !(exists ? takeOver(found, file.handle()) : ::fchmod(file.handle(), ownFile) == 0) ||
+        !(exists ? copyOwnership(found, file.handle()) : ::fchmod(file.handle(), ownFile) == 0) ||
         ::fsync(file.handle()) != 0) {
         return Replaced::Failed;
     }
@@ -194,6 +193,24 @@ bool makeFolderOf(const QString& path) {
         return false;
     }
     return ::mkdir(QFile::encodeName(folder).constData(), ownFolder) == 0 || errno == EEXIST;
+}
+
+bool openRegularFile(QFile& file, const QString& path) {
+    if (path.isEmpty() || path.contains(QChar(0))) {
+        return false;
+    }
+    const int fd =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        return false;
+    }
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) ||
+        !file.open(fd, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return false;
+    }
+    return true;
 }
 
 } // namespace morrowleaf

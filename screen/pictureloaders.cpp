@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "screen/photoshowing.h"
+#include "screen/pictureloaders.h"
 
+#include "backdrop/glass.h"
 #include "photos/bgstore.h"
 
 namespace morrowleaf {
@@ -11,11 +12,11 @@ namespace {
 constexpr int beforeThumbnails = 1; // priority of the job
 }
 
-PhotoShowing::PhotoShowing(BGStore& photos, QObject* parent)
+PhotoLoader::PhotoLoader(BGStore& photos, QObject* parent)
     : QObject(parent)
     , photos_(photos) {}
 
-void PhotoShowing::want(const QString& path, QSize pixels) {
+void PhotoLoader::setPhoto(const QString& path, QSize pixels) {
     const std::shared_ptr<const Photo> photo = path.isEmpty() ? nullptr : photos_.image(path);
     readable_ = photo != nullptr;
     if (!photo || pixels.isEmpty()) {
@@ -40,7 +41,7 @@ void PhotoShowing::want(const QString& path, QSize pixels) {
         [this](const QImage& image) { take(image); }, beforeThumbnails);
 }
 
-void PhotoShowing::take(const QImage& image) {
+void PhotoLoader::take(const QImage& image) {
     if (image.isNull()) {
         photos_.markUnreadable(path_);
         readable_ = false;
@@ -50,6 +51,33 @@ void PhotoShowing::take(const QImage& image) {
     replaced_ = image.isNull() ? QImage() : pixels_;
     pixels_ = image;
     emit changed();
+}
+
+GlassLoader::GlassLoader(QThreadPool& workers, QObject* parent)
+    : QObject(parent)
+    , workers_(workers) {}
+
+void GlassLoader::setPicture(const QImage& picture, double devicePixelRatio) {
+    const qint64 key = picture.isNull() ? 0 : picture.cacheKey();
+    if (key == key_ && devicePixelRatio == ratio_) {
+        return;
+    }
+    key_ = key;
+    ratio_ = devicePixelRatio;
+    glass_.reset();
+    if (picture.isNull()) {
+        making_ = {};
+        return;
+    }
+    making_ = Job(
+        workers_,
+        [picture, devicePixelRatio](const std::stop_token&) {
+            return makeGlass(picture, devicePixelRatio);
+        },
+        [this](const std::shared_ptr<const Glass>& glass) {
+            glass_ = glass;
+            emit made();
+        });
 }
 
 } // namespace morrowleaf

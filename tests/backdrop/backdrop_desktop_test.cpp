@@ -14,7 +14,7 @@ namespace {
 
 TEST(Backdrop, TheGlassLayerBeginsAboveAHundredth) {
     BackdropState state = plainState();
-    state.behind.kind = Behind::Kind::Plain;
+    state.desktop.kind = DesktopView::Kind::Plain;
     state.transparency = 0.01;
     EXPECT_EQ(layersOf(state, false, false).tint, 0);
     state.transparency = 0.02;
@@ -25,7 +25,7 @@ TEST(Backdrop, TheGlassLayerBeginsAboveAHundredth) {
     state.transparency = 1;
     EXPECT_EQ(layersOf(state, false, false).ground, 0);
     EXPECT_EQ(layersOf(state, false, false).tint, 0);
-    state.behind.kind = Behind::Kind::Captured;
+    state.desktop.kind = DesktopView::Kind::Captured;
     for (const double t : {0.005, 0.02, 0.3, 0.7, 0.8, 0.97, 1.0}) {
         state.transparency = t;
         for (const bool glass : {false, true}) {
@@ -41,15 +41,15 @@ TEST(Backdrop, TransparencyWithoutAnythingBehindIsOpaque) {
     const QImage opaque = drawn(state);
     state.transparency = 0.7;
     EXPECT_EQ(drawn(state), opaque);
-    state.behind.kind = Behind::Kind::Captured; // without a picture
+    state.desktop.kind = DesktopView::Kind::Captured; // without a picture
     EXPECT_EQ(drawn(state), opaque);
 }
 
 TEST(Backdrop, TransparentPixelsArePremultiplied) {
-    for (const auto kind : {Behind::Kind::Plain, Behind::Kind::LiveBlur}) {
+    for (const auto kind : {DesktopView::Kind::Plain, DesktopView::Kind::LiveBlur}) {
         for (const double t : {0.02, 0.3, 0.8, 0.99, 1.0}) {
             BackdropState state = plainState(7);
-            state.behind.kind = kind;
+            state.desktop.kind = kind;
             state.transparency = t;
             const QImage image = drawn(state);
             const Layers layers = layersOf(state, false, false);
@@ -67,9 +67,9 @@ TEST(Backdrop, TransparentPixelsArePremultiplied) {
 
 TEST(Backdrop, FullTransparencyShowsTheDesktopItself) {
     const BackdropState state = captured(1, true);
-    EXPECT_EQ(drawn(state).convertToFormat(QImage::Format_RGB32), state.behind.picture);
+    EXPECT_EQ(drawn(state).convertToFormat(QImage::Format_RGB32), state.desktop.picture);
     BackdropState plain = plainState();
-    plain.behind.kind = Behind::Kind::Plain;
+    plain.desktop.kind = DesktopView::Kind::Plain;
     plain.transparency = 1;
     EXPECT_EQ(raw(drawn(plain), 100, 100), 0U);
 }
@@ -89,7 +89,7 @@ TEST(Backdrop, GlassFrostsTheDesktopAndClearGlassBarely) {
     BackdropState frosted = captured(0.6, true);
     frosted.grainOn = false;
     BackdropState waiting = frosted;
-    waiting.behind.glass = nullptr;
+    waiting.desktop.glass = nullptr;
     BackdropState clear = frosted;
     clear.transparency = 0.61;
     EXPECT_GT(roughness(drawn(waiting)), 50);
@@ -102,20 +102,20 @@ TEST(Backdrop, GlassFrostsTheDesktopAndClearGlassBarely) {
 TEST(Backdrop, GlassFadesInOverTheSharpPicture) {
     BackdropState state = captured(0.5, true);
     BackdropState without = state;
-    without.behind.glass = nullptr;
-    state.behind.glassOpacity = 0;
+    without.desktop.glass = nullptr;
+    state.desktop.glassOpacity = 0;
     EXPECT_EQ(drawn(state), drawn(without));
-    state.behind.glassOpacity = 0.5;
+    state.desktop.glassOpacity = 0.5;
     const QImage half = drawn(state);
-    state.behind.glassOpacity = 1;
+    state.desktop.glassOpacity = 1;
     EXPECT_GT(meanDifference(half, drawn(state)), 3);
     EXPECT_GT(meanDifference(half, drawn(without)), 3);
 }
 
 TEST(Backdrop, TheRimIsBrighterThanTheMiddleAndOnlyOfLiquidGlass) {
     BackdropState state = captured(0.6, true);
-    state.behind.picture.fill(qRgb(100, 100, 100));
-    state.behind.glass = makeGlass(state.behind.picture, 1);
+    state.desktop.picture.fill(qRgb(100, 100, 100));
+    state.desktop.glass = makeGlass(state.desktop.picture, 1);
     state.grainOn = false;
     BackdropState flat = state;
     flat.liquidGlass = false;
@@ -127,11 +127,11 @@ TEST(Backdrop, TheRimIsBrighterThanTheMiddleAndOnlyOfLiquidGlass) {
 }
 
 TEST(Backdrop, GlassIsAvailableExactlyOverACapture) {
-    for (const auto kind : {Behind::Kind::Nothing, Behind::Kind::Plain, Behind::Kind::LiveBlur,
-                            Behind::Kind::Captured}) {
-        Behind behind;
-        behind.kind = kind;
-        EXPECT_EQ(glassAvailable(behind), kind == Behind::Kind::Captured);
+    for (const auto kind : {DesktopView::Kind::Nothing, DesktopView::Kind::Plain,
+                            DesktopView::Kind::LiveBlur, DesktopView::Kind::Captured}) {
+        DesktopView desktop;
+        desktop.kind = kind;
+        EXPECT_EQ(glassAvailable(desktop), kind == DesktopView::Kind::Captured);
     }
     EXPECT_EQ(makeGlass(QImage(), 1), nullptr);
 }
@@ -176,7 +176,7 @@ TEST(Backdrop, APhotoTakesGrainVignetteAndTransparency) {
     EXPECT_EQ(raw(dark, 10, 150), 0xFF000000U);
     state.vignette = 0;
     state.transparency = 0.8;
-    state.behind.kind = Behind::Kind::Plain;
+    state.desktop.kind = DesktopView::Kind::Plain;
     const Layers layers = layersOf(state, false, false);
     EXPECT_NEAR(qAlpha(raw(drawn(state), 9, 9)), 255 * (layers.ground + layers.tint), 1.1);
 }

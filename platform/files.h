@@ -6,6 +6,9 @@
 #include <QByteArray>
 #include <QString>
 
+class QFile;
+class QString;
+
 namespace morrowleaf {
 
 // Reading and replacing files as a whole. Any thread. No function waits for another
@@ -61,5 +64,10 @@ enum class Replaced {
 // Creates the folder of `path` and missing folders above it, accessible to the user only.
 // Returns whether the folder exists afterwards.
 [[nodiscard]] bool makeFolderOf(const QString& path);
+
+// Opens the regular file at `path` for reading into `file`, unbuffered. Returns false if
+// there is no such file or it may not be read. Rejects pipes, devices, sockets and
+// folders without blocking, which QFile::open() does not guarantee. Any thread.
+[[nodiscard]] bool openRegularFile(QFile& file, const QString& path);
 
 } // namespace morrowleaf

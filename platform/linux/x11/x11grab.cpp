@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/x11/x11hold.h"
+#include "platform/linux/x11/x11grab.h"
 
 #include "platform/linux/x11/x11connection.h"
 
@@ -11,14 +11,14 @@ namespace {
 constexpr int retryInterval = 50; // milliseconds
 }
 
-X11Hold::X11Hold() {
+X11Grab::X11Grab() {
     retry_.setInterval(retryInterval);
     QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { grab(); });
 }
 
-void X11Hold::take(QWindow& window, What what) {
+void X11Grab::take(QWindow& window, What what) {
     if (holder_ == nullptr) {
-        before_ = x11::inputFocus();
+        previousFocus_ = x11::inputFocus();
     }
     holder_ = &window;
     what_ = what;
@@ -33,7 +33,7 @@ void X11Hold::take(QWindow& window, What what) {
     }
 }
 
-void X11Hold::grab() {
+void X11Grab::grab() {
     if (holder_ == nullptr) {
         retry_.stop();
         return;
@@ -49,7 +49,7 @@ void X11Hold::grab() {
     }
 }
 
-void X11Hold::releaseGrabs(const QWindow& window) {
+void X11Grab::releaseGrabs(const QWindow& window) {
     if (!isHolder(window)) {
         return;
     }
@@ -62,7 +62,7 @@ void X11Hold::releaseGrabs(const QWindow& window) {
     mouse_ = false;
 }
 
-void X11Hold::giveBack(const QWindow& window) {
+void X11Grab::giveBack(const QWindow& window) {
     if (!isHolder(window)) {
         return;
     }
@@ -71,13 +71,13 @@ void X11Hold::giveBack(const QWindow& window) {
     holder_ = nullptr;
     // If another application has taken the focus meanwhile, it keeps it.
     const xcb_window_t now = x11::inputFocus();
-    const bool isFree = now == own || now <= XCB_INPUT_FOCUS_POINTER_ROOT ||
-                        now == x11::rootWindow() ||
-                        (x11::belongsToApplication(before_) && !x11::belongsToApplication(now));
-    if (isFree && before_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
-        x11::setInputFocus(before_);
+    const bool isFree =
+        now == own || now <= XCB_INPUT_FOCUS_POINTER_ROOT || now == x11::rootWindow() ||
+        (x11::belongsToApplication(previousFocus_) && !x11::belongsToApplication(now));
+    if (isFree && previousFocus_ > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        x11::setInputFocus(previousFocus_);
     }
-    before_ = XCB_WINDOW_NONE;
+    previousFocus_ = XCB_WINDOW_NONE;
 }
 
 } // namespace morrowleaf

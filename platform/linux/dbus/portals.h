@@ -4,11 +4,25 @@
 #pragma once
 
 #include "platform/colorscheme.h"
+#include "platform/filechooser.h"
 #include "platform/linux/dbus/busservice.h"
+
+#include <QDBusConnection>
 
 class QDBusVariant;
 
 namespace morrowleaf {
+
+// The dialog of the desktop's portal.
+class PortalFileChooser : public FileChooser {
+public:
+    explicit PortalFileChooser(QDBusConnection bus = QDBusConnection::sessionBus());
+
+    FileRequest* ask(QWidget& window, const FileQuestion& question) override;
+
+private:
+    QDBusConnection bus_;
+};
 
 // The preference by the desktop portal's settings, which it starts if needed.
 // It arrives asynchronously; without a portal it stays None.

@@ -10,21 +10,26 @@
 #include <QSize>
 #include <QString>
 
+#include <memory>
+
+class QThreadPool;
+
 namespace morrowleaf {
 
 class BGStore;
+struct Glass;
 
 // The photo of one quote screen. It is decoded on a worker thread at the size
 // shown, and its pixels are kept while it is wanted.
-class PhotoShowing : public QObject {
+class PhotoLoader : public QObject {
     Q_OBJECT
 
 public:
-    explicit PhotoShowing(BGStore& photos, QObject* parent = nullptr);
+    explicit PhotoLoader(BGStore& photos, QObject* parent = nullptr);
 
     // Sets the photo to show and its size in device pixels; an empty path means
     // no photo. Repeating a call does not decode the photo again.
-    void want(const QString& path, QSize pixels);
+    void setPhoto(const QString& path, QSize pixels);
 
     // Whether a photo is wanted and has not turned out to be unreadable.
     bool readable() const { return readable_; }
@@ -49,6 +54,32 @@ private:
     QImage pixels_;
     QImage replaced_;
     Job decoding_;
+};
+
+// The glass for one captured picture: made on a worker thread when it is first
+// wanted, and released as soon as another picture or none is wanted.
+class GlassLoader : public QObject {
+    Q_OBJECT
+
+public:
+    explicit GlassLoader(QThreadPool& workers, QObject* parent = nullptr);
+
+    // Sets the picture to show through glass; a null picture means none.
+    // Repeating a call with the same picture and ratio has no effect.
+    void setPicture(const QImage& picture, double devicePixelRatio);
+
+    // Null until made() has been emitted for the wanted picture.
+    const std::shared_ptr<const Glass>& glass() const { return glass_; }
+
+signals:
+    void made();
+
+private:
+    QThreadPool& workers_;
+    qint64 key_ = 0;
+    double ratio_ = 0;
+    std::shared_ptr<const Glass> glass_;
+    Job making_;
 };
 
 } // namespace morrowleaf

@@ -12,9 +12,9 @@ namespace morrowleaf {
 
 // Keyboard focus and grabs of keyboard and mouse, for one window at a time. Returns the
 // focus at the end to the window that had it before the first take().
-class X11Hold {
+class X11Grab {
 public:
-    X11Hold();
+    X11Grab();
 
     enum class What { Focus, FocusAndKeyboard, Everything };
     // Takes what is free at once, and the rest as soon as other clients release it.
@@ -33,7 +33,7 @@ private:
     What what_ = What::Focus;
     bool keyboard_ = false;
     bool mouse_ = false;
-    xcb_window_t before_ = XCB_WINDOW_NONE;
+    xcb_window_t previousFocus_ = XCB_WINDOW_NONE;
     QTimer retry_;
 };
 
