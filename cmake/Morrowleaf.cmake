@@ -76,6 +76,7 @@ function(morrowleaf_test name)
   if(arg_LABEL STREQUAL unit)
     add_dependencies(unit_tests ${name})
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}."
+  # The printed values of parameters may contain addresses, which change in every run.
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_PREFIX "${name}." NO_PRETTY_VALUES
     PROPERTIES LABELS ${arg_LABEL} TIMEOUT $<IF:$<STREQUAL:${arg_LABEL},system>,600,120>)
 endfunction()

@@ -95,8 +95,10 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Paths, KernelTest,
-                         testing::Values(KernelPath::Portable, KernelPath::Avx2));
+INSTANTIATE_TEST_SUITE_P(Paths, KernelTest, testing::Values(KernelPath::Portable, KernelPath::Avx2),
+                         [](const auto& info) {
+                             return info.param == KernelPath::Avx2 ? "Avx2" : "Portable";
+                         });
 
 TEST_P(KernelTest, StaysCloseToTheReferenceForRandomMeshes) {
     std::mt19937 random(20261121);
