@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -25,7 +26,7 @@ Result snapshot(const QStringList& arguments) {
         environment.remove(name);
     }
     process.setProcessEnvironment(environment);
-    process.start(QString::fromUtf8(SNAPSHOT_PROGRAM), arguments);
+    process.start(QCoreApplication::applicationDirPath() + "/../../tools/snapshot"_L1, arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         return {};
     }

@@ -290,7 +290,7 @@ TEST_F(SettingsFileTest, WritesOnceTheObstacleIsGone) {
 TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     write("{}");
     QProcess holder;
-    holder.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"hold"_s});
+    holder.start(settingsWriter(), {path, u"hold"_s});
     ASSERT_TRUE(holder.waitForReadyRead(20'000));
     ASSERT_EQ(holder.readAllStandardOutput(), "held\n");
     SettingsFile file(store, path);
@@ -310,8 +310,8 @@ TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
     SettingsFile file(store, path);
     QProcess one;
     QProcess two;
-    one.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"count"_s, u"a"_s, u"60"_s});
-    two.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"count"_s, u"b"_s, u"60"_s});
+    one.start(settingsWriter(), {path, u"count"_s, u"a"_s, u"60"_s});
+    two.start(settingsWriter(), {path, u"count"_s, u"b"_s, u"60"_s});
     for (int i = 0; i < 60; ++i) {
         store.set(u"c%1"_s.arg(i), i);
         spend(5ms);
@@ -331,22 +331,21 @@ TEST_F(SettingsFileTest, ASelfTestBesideIsSeen) {
     store.set(K::frequency, u"6h"_s);
     store.set(K::palette, 2);
     ASSERT_TRUE(file.flush());
-    EXPECT_EQ(QProcess::execute(QString::fromUtf8(SETTINGS_WRITER), {path, u"selftest"_s}), 0);
+    EXPECT_EQ(QProcess::execute(settingsWriter(), {path, u"selftest"_s}), 0);
     EXPECT_EQ(json(), QJsonObject({{K::palette, 2}}));
     EXPECT_TRUE(waitFor([&] { return !store.value(K::frequency); }));
     EXPECT_EQ(store.integer(K::palette), 2);
 }
 
 TEST_F(SettingsFileTest, FlushesWhenTheApplicationQuits) {
-    EXPECT_EQ(QProcess::execute(QString::fromUtf8(SETTINGS_WRITER), {path, u"quit"_s}), 0);
+    EXPECT_EQ(QProcess::execute(settingsWriter(), {path, u"quit"_s}), 0);
     EXPECT_EQ(json().value("quit"_L1), true);
 }
 
 TEST_F(SettingsFileTest, NoReaderSeesHalfAFile) {
     write("{}");
     QProcess writer;
-    writer.start(QString::fromUtf8(SETTINGS_WRITER),
-                 {path, u"count"_s, QString(3000, u'k'), u"100"_s});
+    writer.start(settingsWriter(), {path, u"count"_s, QString(3000, u'k'), u"100"_s});
     int seen = 0;
     while (writer.state() != QProcess::NotRunning) {
         const QByteArray text = read();

@@ -33,6 +33,11 @@ using namespace Qt::Literals::StringLiterals;
 
 using namespace std::chrono_literals;
 
+// The program that uses a settings file in a process of its own.
+inline QString settingsWriter() {
+    return QCoreApplication::applicationDirPath() + "/settings_writer"_L1;
+}
+
 inline bool waitFor(const std::function<bool()>& condition) {
     QElapsedTimer since;
     since.start();

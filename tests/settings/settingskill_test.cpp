@@ -17,7 +17,7 @@ TEST_F(SettingsFileTest, LosesNothingWhenItIsKilled) {
     for (int kill = 0; kill < kills; ++kill) {
         const QString prefix = QString::number(kill) + u'_';
         QProcess writer;
-        writer.start(QString::fromUtf8(SETTINGS_WRITER), {path, u"confirm"_s, prefix});
+        writer.start(settingsWriter(), {path, u"confirm"_s, prefix});
         ASSERT_TRUE(writer.waitForReadyRead(60'000));
         QThread::msleep(static_cast<unsigned long>(moment(random)));
         writer.kill();

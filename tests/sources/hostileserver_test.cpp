@@ -143,7 +143,7 @@ protected:
             probe->deleteLater();
             done(report);
         });
-        probe->start(QString::fromUtf8(LOADPROBE),
+        probe->start(QCoreApplication::applicationDirPath() + "/loadprobe"_L1,
                      {address("ok"), address(one.place), QString::number(one.count)});
     }
 
