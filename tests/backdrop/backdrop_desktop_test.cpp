@@ -12,7 +12,7 @@
 namespace morrowleaf {
 namespace {
 
-TEST(Backdrop, TheGlassLayerBeginsAboveAHundredth) {
+TEST(Backdrop, ThereIsGlassOnlyAboveATransparencyOfAHundredth) {
     BackdropState state = plainState();
     state.desktop.kind = DesktopView::Kind::Plain;
     state.transparency = 0.01;
@@ -36,7 +36,7 @@ TEST(Backdrop, TheGlassLayerBeginsAboveAHundredth) {
     }
 }
 
-TEST(Backdrop, TransparencyWithoutAnythingBehindIsOpaque) {
+TEST(Backdrop, IsOpaqueIfTheWindowCannotBeTransparent) {
     BackdropState state = plainState();
     const QImage opaque = drawn(state);
     state.transparency = 0.7;

@@ -43,7 +43,7 @@ TEST(Backdrop, DrawsTheMeshOfTheInstantWithItsAnimation) {
     }
 }
 
-TEST(Backdrop, StandsStillOnlyWhenToldTo) {
+TEST(Backdrop, MovesUnlessStillPausedOrBehindAPhoto) {
     BackdropState state = plainState();
     EXPECT_TRUE(BackdropPainter::moves(state));
     EXPECT_NE(drawn(state), drawn(state, now + 60));
@@ -58,7 +58,7 @@ TEST(Backdrop, StandsStillOnlyWhenToldTo) {
     EXPECT_FALSE(BackdropPainter::moves(state));
 }
 
-TEST(Backdrop, TheSamePictureComesFromAFreshAndFromAUsedPainter) {
+TEST(Backdrop, AFreshAndAUsedPainterDrawTheSame) {
     BackdropPainter used;
     QImage image(small, QImage::Format_ARGB32_Premultiplied);
     BackdropState state = plainState();
@@ -70,7 +70,7 @@ TEST(Backdrop, TheSamePictureComesFromAFreshAndFromAUsedPainter) {
     EXPECT_EQ(image, drawn(state));
 }
 
-TEST(Backdrop, WhatIsKeptNeverOutlivesWhatItCameFrom) {
+TEST(Backdrop, CachesFollowEveryChangeOfTheState) {
     BackdropPainter used;
     QImage image(small, QImage::Format_ARGB32_Premultiplied);
     const auto expectFresh = [&](const BackdropState& state, double at) {
@@ -151,7 +151,7 @@ TEST(Backdrop, ALightPaletteTakesAFaintVignette) {
                                               1400 + 250, 300)); // within 260
 }
 
-TEST(Backdrop, SettingsBeyondTheirRangesAreHarmless) {
+TEST(Backdrop, SettingsOutsideTheirRangesAreHarmless) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double wild : {nan, infinity, -infinity, -7.0, 1e300}) {

@@ -167,7 +167,7 @@ TEST_P(KernelTest, WhiteWithGrainAndDitherSaturates) {
     }
 }
 
-TEST_P(KernelTest, NothingIsDrawnAsNothing) {
+TEST_P(KernelTest, ATransparentFrameIsClear) {
     Reference what;
     what.points = meshDrift(0, 0.16);
     what.colors = Palette::all()[0].colors;

@@ -10,7 +10,7 @@
 namespace morrowleaf {
 namespace {
 
-TEST(MeshDrift, PutsTheTopCentreWhereItsSineSays) {
+TEST(MeshDrift, TheTopCentreFollowsItsSine) {
     EXPECT_FLOAT_EQ(meshDrift(0)[1].x, 0.5F + float(0.16 * std::sin(1.7)));
     EXPECT_NEAR(meshDrift(0, 0.16)[1].x, 0.659, 0.0005);
 }
@@ -43,7 +43,7 @@ TEST(MeshDrift, LeavesCornersAndEdgesInPlace) {
     }
 }
 
-TEST(MeshDrift, MovesSmoothlyAtThePhasesOfToday) {
+TEST(MeshDrift, MovesSmoothlyAtPhasesAround1e8) {
     // At a phase near 1e8, single precision would not change for seconds.
     const double t = 8.1e8 * 0.11;
     EXPECT_NE(meshDrift(t)[4].x, meshDrift(t + 0.11 / 30)[4].x);

@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
         return name.replace(u' ', u'_').toStdString();
     });
 
-TEST(CharacterEnds, StandInUnitsOfTheText) {
+TEST(CharacterEnds, AreInUtf16Units) {
     EXPECT_EQ(characterEnds(u"a\U0001F600e\u0301\r\n"_s), (QList<qsizetype>{1, 3, 5, 7}));
     EXPECT_EQ(characterEnds(QString()), QList<qsizetype>());
 }

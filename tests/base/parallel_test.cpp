@@ -25,7 +25,7 @@ TEST(InParallel, CallsEachOnceAndWaitsForAll) {
     }
 }
 
-TEST(InParallel, DoesNothingForNothing) {
+TEST(InParallel, DoesNothingForACountOfZero) {
     inParallel(0, [](int) { FAIL(); });
 }
 

@@ -42,7 +42,7 @@ TEST(AnimationKinds, ScreenNamesInOrder) {
     EXPECT_EQ(labels, (QStringList{u"Drift"_s, u"Still"_s, u"Breathe"_s, u"Aurora"_s, u"Zoom"_s}));
 }
 
-TEST(AnimationKinds, UnknownNamesAreNone) {
+TEST(AnimationKinds, UnknownNamesGiveNoKind) {
     for (const QString& raw :
          {QString(), u""_s, u"Handwrite"_s, u"fade "_s, u"drifting"_s, u"0"_s}) {
         EXPECT_FALSE(textAnimFromRawValue(raw)) << raw.toStdString();
@@ -52,7 +52,7 @@ TEST(AnimationKinds, UnknownNamesAreNone) {
     EXPECT_FALSE(screenAnimFromRawValue(u"fade"_s));
 }
 
-TEST(AnimationKinds, AStoredUnknownReadsAsTheFirst) {
+TEST(AnimationKinds, AnUnknownStoredNameGivesTheFirstKind) {
     EXPECT_EQ(storedTextAnim(u"Handwrite"_s), TextAnim::Fade);
     EXPECT_EQ(storedTextAnim(u""_s), TextAnim::Fade);
     EXPECT_EQ(storedTextAnim(u"blur"_s), TextAnim::Blur);

@@ -23,7 +23,7 @@ TEST(GaussianKernel, IsSymmetricAndSumsToOne) {
     }
 }
 
-TEST(Convolve, ContinuesExtendedEdgesAndLosesWhatLeavesZeroOnes) {
+TEST(Convolve, RepeatsValuesAtExtendedEdgesAndLosesThemAtZeroEdges) {
     const std::vector<float> kernel = gaussianKernel(2, 6);
     Plane flat(9, 5);
     std::ranges::fill(flat.values, 80.0F);
@@ -56,7 +56,7 @@ TEST(GaussianBlur, KeepsTheSumAndTheVariance) {
     }
 }
 
-TEST(GaussianBlur, DoesNothingWithoutASigmaOrAPlane) {
+TEST(GaussianBlur, IgnoresASigmaOfZeroAndAnEmptyPlane) {
     Plane plane(3, 1);
     plane.values = {1, 2, 3};
     gaussianBlur(plane, 0);

@@ -87,7 +87,7 @@ TEST(Palettes, ThePhotoPaletteIsOneDarkGround) {
     EXPECT_EQ(&photo, &Palette::photo());
 }
 
-TEST(Palettes, HexTakesTwentyFourBits) {
+TEST(Palettes, HexUsesTwentyFourBits) {
     const QColor color = Palette::hex(0x102030);
     EXPECT_EQ(color, QColor(0x10, 0x20, 0x30));
     EXPECT_EQ(color.alpha(), 255);
@@ -131,7 +131,7 @@ TEST(Palettes, DaysBeforeYearOneHaveOneToo) {
     EXPECT_EQ(Palette::ofTheDay({yearOne - 2 * 86400, QTimeZone::utc()}).name, u"Noir"_s);
 }
 
-TEST(Palettes, AChosenOneHolds) {
+TEST(Palettes, AChosenPaletteDoesNotChange) {
     const Moment moment = berlin(2024, 5, 10, 12);
     EXPECT_EQ(Palette::current(0, moment).name, u"Midnight"_s);
     EXPECT_EQ(Palette::current(7, moment).name, u"Paper"_s);

@@ -117,7 +117,7 @@ TEST_F(BGStoreTest, RefusesAFourthPhotoAndCopiesNothing) {
     EXPECT_EQ(listed().size(), 3);
 }
 
-TEST_F(BGStoreTest, CountsTheListAgainAfterTheCopy) {
+TEST_F(BGStoreTest, ChecksTheLimitAgainAfterTheCopy) {
     list({u"/1"_s, u"/2"_s});
     const QString source = picture(u"a.png"_s);
     start(source);
@@ -128,33 +128,33 @@ TEST_F(BGStoreTest, CountsTheListAgainAfterTheCopy) {
     EXPECT_EQ(ownFiles().size(), 1);
 }
 
-TEST_F(BGStoreTest, KeepsWhatWasListedWhileItCopied) {
+TEST_F(BGStoreTest, KeepsPhotosListedDuringTheCopy) {
     start(picture(u"a.png"_s));
     list({u"/meanwhile"_s});
     await(1);
     EXPECT_EQ(listed(), QStringList({u"/meanwhile"_s, results.first()}));
 }
 
-TEST_F(BGStoreTest, RefusesTextUnderThePictureName) {
+TEST_F(BGStoreTest, RefusesATextFileNamedLikeAPicture) {
     EXPECT_EQ(add(textFile(u"a.png"_s)), QString());
     EXPECT_EQ(add(textFile(u"empty.png"_s, {})), QString());
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_FALSE(store.value(K::customBGs).has_value());
 }
 
-TEST_F(BGStoreTest, RefusesADrawingThatIsNoPixels) {
+TEST_F(BGStoreTest, RefusesAVectorGraphic) {
     const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
     EXPECT_EQ(add(textFile(u"a.svg"_s, drawing)), QString());
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
-TEST_F(BGStoreTest, RefusesAPictureWithoutPixelsBehindItsHeader) {
+TEST_F(BGStoreTest, RefusesAPictureThatEndsAfterItsHeader) {
     const QByteArray whole = contentOf(picture(u"a.png"_s, "png", {400, 300}));
     EXPECT_EQ(add(textFile(u"b.png"_s, whole.left(40))), QString());
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
-TEST_F(BGStoreTest, RefusesWhatIsNoRegularFileAtOnce) {
+TEST_F(BGStoreTest, RefusesWhatIsNotARegularFileAtOnce) {
     const QString pipe = path(u"pipe.png"_s);
     ASSERT_EQ(::mkfifo(qPrintable(pipe), 0600), 0);
     const QString door = path(u"socket.png"_s);
@@ -177,7 +177,7 @@ TEST_F(BGStoreTest, AddsNothingWhereTheFolderCannotBeMade) {
     EXPECT_EQ(add(picture(u"a.png"_s)), QString());
 }
 
-TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
+TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCopy) {
     start(picture(u"a.png"_s, "png", {2000, 1500}));
     photos.reset();
     QCoreApplication::processEvents();
@@ -185,7 +185,7 @@ TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsInTheMiddle) {
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
-TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
+TEST_F(BGStoreTest, DoesNotUseTheGlobalPool) {
     const QString source = picture(u"a.png"_s, "png", {3000, 2000});
     QThreadPool workers;
     photos = std::make_unique<BGStore>(store, QString(), own, workers);
@@ -197,7 +197,7 @@ TEST_F(BGStoreTest, KeepsTheToolkitsWorkersFree) {
     EXPECT_EQ(listed().size(), 1);
 }
 
-TEST_F(BGStoreTest, LeavesNothingBehindWhenItEndsWhileItChecksTheCopy) {
+TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCheck) {
     const QString source = picture(u"a.png"_s, "png", {6000, 4000});
     const qint64 size = QFileInfo(source).size();
     start(source);
@@ -289,7 +289,7 @@ TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
     EXPECT_EQ(photos->image(file), first);
 }
 
-TEST_F(BGStoreTest, RemembersNoFailure) {
+TEST_F(BGStoreTest, DoesNotCacheFailures) {
     const QString file = textFile(u"a.png"_s);
     EXPECT_EQ(photos->image(file), nullptr);
     picture(u"a.png"_s);

@@ -107,13 +107,13 @@ TEST_F(PhotoTest, FillsTheTargetCroppedAboutTheCentre) {
     EXPECT_TRUE(isNear(tall.pixelColor(5, 17), Qt::red, 20));
 }
 
-TEST_F(PhotoTest, GrowsASmallPicture) {
+TEST_F(PhotoTest, EnlargesASmallPicture) {
     const QImage image = filling(encoded(quarters({4, 4}), "png"), {64, 64});
     ASSERT_EQ(image.size(), QSize(64, 64));
     EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::green));
 }
 
-TEST_F(PhotoTest, StripsAndNeedlesCostNoMoreThanTheTarget) {
+TEST_F(PhotoTest, DecodesExtremeAspectRatios) {
     const QImage strip = filling(encoded(quarters({20'000, 2}), "png"), {1920, 1080});
     EXPECT_EQ(strip.size(), QSize(1920, 1080));
     const QImage needle = filling(encoded(quarters({2, 20'000}), "jpg"), {1920, 1080});
@@ -140,7 +140,7 @@ TEST_F(PhotoTest, HonoursTheOrientation) {
     }
 }
 
-TEST_F(PhotoTest, ConvertsAWideGamutToOurs) {
+TEST_F(PhotoTest, ConvertsAWideGamutToSrgb) {
     QImage image(16, 16, QImage::Format_RGB32);
     image.fill(QColor(200, 100, 50));
     image.setColorSpace(QColorSpace::DisplayP3);
@@ -180,7 +180,7 @@ TEST_F(PhotoTest, ReadsPicturesMadeForPrinting) {
         << shown.pixelColor(8, 8).name().toStdString();
 }
 
-TEST_F(PhotoTest, PutsBlackBehindWhatIsTransparent) {
+TEST_F(PhotoTest, DrawsTransparentPixelsOverBlack) {
     QImage image(16, 16, QImage::Format_ARGB32);
     image.fill(QColor(200, 100, 0, 128));
     const QImage shown = filling(encoded(image, "png"), {16, 16});
@@ -188,7 +188,7 @@ TEST_F(PhotoTest, PutsBlackBehindWhatIsTransparent) {
     EXPECT_TRUE(isNear(shown.pixelColor(3, 3), QColor(100, 50, 0), 2));
 }
 
-TEST_F(PhotoTest, ReadsWebpWhereThePluginIs) {
+TEST_F(PhotoTest, ReadsWebpIfThePluginIsInstalled) {
     if (!QImageReader::supportedImageFormats().contains("webp")) {
         GTEST_SKIP() << "no reader for WebP";
     }
@@ -197,7 +197,7 @@ TEST_F(PhotoTest, ReadsWebpWhereThePluginIs) {
     EXPECT_TRUE(isNear(shown.pixelColor(4, 4), Qt::green, 12));
 }
 
-TEST_F(PhotoTest, TellsJpegsInSeveralScans) {
+TEST_F(PhotoTest, RecognisesJpegsWithSeveralScans) {
     QByteArray plain = encoded(quarters({64, 64}), "jpg");
     QByteArray layered = encoded(quarters({64, 64}), "jpg", 95, true);
     QBuffer one(&plain);
@@ -240,7 +240,7 @@ QByteArray bmpClaiming(quint32 side) {
     return bmp;
 }
 
-TEST_F(PhotoTest, RefusesBombs) {
+TEST_F(PhotoTest, RefusesDecompressionBombs) {
     EXPECT_TRUE(inspectPhoto(file(bmpClaiming(8))));
     EXPECT_FALSE(inspectPhoto(file(bmpClaiming(30'000))));
     EXPECT_FALSE(inspectPhoto(file(bmpClaiming(0x7FFFFFFF))));
@@ -248,7 +248,7 @@ TEST_F(PhotoTest, RefusesBombs) {
     EXPECT_FALSE(inspectPhoto(file(jpegClaiming({65'000, 65'000}, true))));
 }
 
-TEST_F(PhotoTest, TakesALargePhotoThatCanBeReadSmaller) {
+TEST_F(PhotoTest, AcceptsALargePhotoThatCanBeDecodedSmaller) {
     // 48 megapixels, more than Qt's default limit allows.
     const QByteArray large = encoded(QImage(8000, 6000, QImage::Format_Grayscale8), "jpg", 50);
     const auto photo = inspectPhoto(file(large));
@@ -256,7 +256,7 @@ TEST_F(PhotoTest, TakesALargePhotoThatCanBeReadSmaller) {
     EXPECT_EQ(photo->decodeFilling({192, 108}).size(), QSize(192, 108));
 }
 
-TEST_F(PhotoTest, GivesNothingForNonsense) {
+TEST_F(PhotoTest, IsNullForInvalidFilesAndSizes) {
     EXPECT_FALSE(inspectPhoto(file({})));
     EXPECT_FALSE(inspectPhoto(file("GIF89a")));
     EXPECT_FALSE(inspectPhoto(file(QByteArray(100'000, '\xff'))));
@@ -289,7 +289,7 @@ TEST_F(PhotoTest, CropsFillTheTargetsShape) {
     EXPECT_EQ(fillingCrop({1, 1000}, {1920, 1080}), QRect(0, 499, 1, 1));
 }
 
-TEST_F(PhotoTest, TheDeviceEndsAfterItsBytes) {
+TEST_F(PhotoTest, TheInputEndsAfterItsBytes) {
     const QString path = file(QByteArray(100'000, 'x'));
     PhotoFile device(path, {.time = std::chrono::hours(1), .bytes = 40'000});
     ASSERT_TRUE(device.isOpen());
@@ -297,7 +297,7 @@ TEST_F(PhotoTest, TheDeviceEndsAfterItsBytes) {
     EXPECT_TRUE(device.exhausted());
 }
 
-TEST_F(PhotoTest, TheDeviceEndsAfterItsTime) {
+TEST_F(PhotoTest, TheInputEndsAfterItsTime) {
     PhotoFile device(file(QByteArray(100, 'x')), {.time = std::chrono::milliseconds(0)});
     ASSERT_TRUE(device.isOpen());
     char byte = 0;
@@ -305,7 +305,7 @@ TEST_F(PhotoTest, TheDeviceEndsAfterItsTime) {
     EXPECT_TRUE(device.exhausted());
 }
 
-TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
+TEST_F(PhotoTest, DoesNotCopyOverAFileOrWhenCancelled) {
     const std::stop_token going;
     std::stop_source stopped;
     stopped.request_stop();
@@ -321,7 +321,7 @@ TEST_F(PhotoTest, CopiesNothingOntoAnotherFileOrWhenCancelled) {
     EXPECT_TRUE(copyPhotoFile(source, fresh, going));
 }
 
-TEST_F(PhotoTest, LeavesNothingOnAFullDisk) {
+TEST_F(PhotoTest, LeavesNoFileOnAFullDisk) {
     const QString small = folder.filePath(u"small"_s);
     ASSERT_TRUE(QDir().mkpath(small));
     if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {

@@ -23,7 +23,7 @@ TEST(Collection, HoldsEveryTextAndCreditInOrder) {
               QByteArray("a3edf82be5f698acf5692145fa0020a7108d423bc93aa0811bcc6590f82c33a4"));
 }
 
-TEST(Collection, BeginsAndEndsAsItShould) {
+TEST(Collection, BeginsAndEndsWithTheGivenQuotations) {
     ASSERT_EQ(quotes.size(), 124u);
     EXPECT_EQ(quotes[0].text, "The wound is the place where the light enters you."_L1);
     EXPECT_EQ(quotes[0].author, "Rumi"_L1);

@@ -47,7 +47,7 @@ TEST_F(QuoteBoxTest, WithoutASourceShowsTheScheduleAndLoadsNothing) {
     EXPECT_TRUE(sources.isEmpty());
 }
 
-TEST_F(QuoteBoxTest, TheCacheStandsFirstWhereASourceIsSet) {
+TEST_F(QuoteBoxTest, TheCacheIsShownFirstIfASourceIsSet) {
     set(K::source, "  ");
     EXPECT_EQ(box()->quote().text, quoteOfTheDay(moment).text);
     set(K::cachedText, "");
@@ -88,14 +88,14 @@ TEST_F(QuoteBoxTest, AFailureChangesNothing) {
     EXPECT_EQ(cache(), "C|-");
 }
 
-TEST_F(QuoteBoxTest, AnAnswerAfterTheEndStillWritesTheCache) {
+TEST_F(QuoteBoxTest, AnAnswerAfterTheBoxIsDestroyedStillWritesTheCache) {
     set(K::source, "/x");
     box().reset();
     answer(Quote{u"A"_s, u""_s});
     EXPECT_EQ(cache(), "A|");
 }
 
-TEST_F(QuoteBoxTest, AnObserverMayEndTheHolder) {
+TEST_F(QuoteBoxTest, AnObserverMayDestroyTheBox) {
     set(K::source, "/x");
     auto holder = box();
     QObject::connect(holder.get(), &QuoteBox::quoteChanged, [&] { holder.reset(); });

@@ -43,7 +43,7 @@ qsizetype ofTheDay(double seconds, const QTimeZone& zone = QTimeZone::utc()) {
     return numberOf(quoteOfTheDay({seconds, zone}));
 }
 
-TEST(Schedule, EverySixHoursTheNextOne) {
+TEST(Schedule, EverySixHoursGivesTheNextQuotation) {
     EXPECT_EQ(scheduled(u"6h"_s, 0), 0);
     EXPECT_EQ(scheduled(u"6h"_s, 21599), 0);
     EXPECT_EQ(scheduled(u"6h"_s, 21599.999), 0);
@@ -54,7 +54,7 @@ TEST(Schedule, EverySixHoursTheNextOne) {
     EXPECT_EQ(scheduled(u"6h"_s, 1700000000), 1700000000 / 21600 % 124);
 }
 
-TEST(Schedule, EveryTwelveHoursTheNextOne) {
+TEST(Schedule, EveryTwelveHoursGivesTheNextQuotation) {
     EXPECT_EQ(scheduled(u"12h"_s, 43199), 0);
     EXPECT_EQ(scheduled(u"12h"_s, 43200), 1);
     EXPECT_EQ(scheduled(u"12h"_s, 124 * 43200.0 - 1), 123);
@@ -141,7 +141,7 @@ TEST(Schedule, AnyOtherFrequencyIsDaily) {
     }
 }
 
-TEST(Schedule, EveryDrawsAnewAmongAll) {
+TEST(Schedule, EveryShowingDrawsAmongAllQuotations) {
     std::vector<qsizetype> draws{123, 0, 0, 57};
     size_t next = 0;
     const RandomIndex random = [&](qsizetype count) {
@@ -172,7 +172,7 @@ TEST(Schedule, TheSecureSourceCoversEveryNumberEvenly) {
     EXPECT_EQ(random(1), 0);
 }
 
-TEST(ScheduleDeathTest, NoQuotationStandsInASlotBefore1970) {
+TEST(ScheduleDeathTest, ASlotBefore1970IsFatal) {
     EXPECT_DEATH(scheduled(u"6h"_s, -21600), "no built-in quotation with the number -1");
     EXPECT_DEATH(scheduled(u"12h"_s, -43200), "no built-in quotation with the number -1");
     EXPECT_DEATH(scheduled(u"6h"_s, -1e9), "no built-in quotation");

@@ -119,18 +119,18 @@ INSTANTIATE_TEST_SUITE_P(Golden, ContactSheet, testing::ValuesIn(sheets), [](con
     return QString::fromUtf8(info.param.name).remove(u'-').toStdString();
 });
 
-TEST_P(ContactSheet, IsAsRecorded) {
+TEST_P(ContactSheet, MatchesTheRecordedPicture) {
     expectGolden(GetParam());
 }
 
-TEST_P(ContactSheet, ShowsAMovedLineAndAnotherOpacity) {
+TEST_P(ContactSheet, DetectsAMovedLineAndAnotherOpacity) {
     const QImage right = draw(GetParam());
     EXPECT_FALSE(comparePictures(right, draw(GetParam(), {2, 1})).acceptable());
     EXPECT_FALSE(comparePictures(right, draw(GetParam(), {0, 0.9})).acceptable());
 }
 
 // Another rasteriser may draw the same outlines a fraction of a pixel away.
-TEST_P(ContactSheet, ForgivesAnotherRasteriser) {
+TEST_P(ContactSheet, AcceptsAnotherRasteriser) {
     const QImage right = draw(GetParam());
     EXPECT_TRUE(
         comparePictures(right, draw(GetParam(), {0.12 / GetParam().ratio, 1})).acceptable());

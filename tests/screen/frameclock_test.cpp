@@ -21,7 +21,7 @@ protected:
 
 } // namespace
 
-TEST_F(FrameClocks, TicksTimersOfOneFrameInOneTurn) {
+TEST_F(FrameClocks, TicksAllTimersOfAFrameTogether) {
     FrameTimer one(clock);
     FrameTimer other(clock);
     int turn = 0;
@@ -51,7 +51,7 @@ TEST_F(FrameClocks, TicksInTheNextFrameAtTheEarliest) {
     EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(FrameClocks, ReplacesAWishAndForgetsItAsleep) {
+TEST_F(FrameClocks, ANewRequestReplacesTheLastAndSleepCancelsIt) {
     FrameTimer patient(clock);
     FrameTimer sleeping(clock);
     FrameTimer last(clock);
@@ -99,7 +99,7 @@ TEST_F(FrameClocks, ATimerMayOutliveItsClock) {
     EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(FrameClocks, TakesARateOnlyWithinReason) {
+TEST_F(FrameClocks, ARateOutsideItsRangeCountsAs60) {
     clock.setRate(120);
     EXPECT_DOUBLE_EQ(clock.frameInterval(), 1 / 120.0);
     for (const double strange : {0.0, -1.0, 23.0, 481.0}) {
@@ -108,7 +108,7 @@ TEST_F(FrameClocks, TakesARateOnlyWithinReason) {
     }
 }
 
-TEST(BackdropTicks, LieOnAGridOfThirtyASecond) {
+TEST(BackdropTicks, AreMultiplesOfAThirtiethOfASecond) {
     EXPECT_EQ(backdropTick(0), 0);
     EXPECT_EQ(backdropTick(0.033), 0);
     EXPECT_EQ(backdropTick(1.0 / 30), 1);

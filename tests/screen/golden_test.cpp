@@ -48,7 +48,7 @@ void expectGolden(const QString& name, const QuoteViewState& state, int factor,
     }
 }
 
-class Faults : public ::testing::Test {
+class PictureComparison : public ::testing::Test {
 protected:
     // The palette, size and ratio of one picture on record.
     static QuoteViewState recorded() { return quotedState({1024, 600}, 0); }
@@ -88,7 +88,7 @@ TEST(Golden, SizesAndPixelRatios) {
     }
 }
 
-TEST(Golden, EditingPaperHandwritingAndLength) {
+TEST(Golden, EditingHandwritingEntranceAndALongQuotation) {
     QuoteViewState editing = quotedState({1440, 900}, 2);
     editing.sideInset = 320;
     editing.settings.fontName = u"mono"_s;
@@ -108,14 +108,14 @@ TEST(Golden, EditingPaperHandwritingAndLength) {
     expectGolden(u"long.png"_s, longer, 2);
 }
 
-TEST_F(Faults, NoneIsNone) {
+TEST_F(PictureComparison, TheSamePictureIsAccepted) {
     const PictureDifference same = difference(frameOf(recorded()));
     EXPECT_EQ(same.worstBlock, 0);
     EXPECT_EQ(same.strayPixels, 0);
 }
 
 // Another rasteriser may draw the same outlines a fraction of a pixel away.
-TEST_F(Faults, AnotherRasteriserIsNone) {
+TEST_F(PictureComparison, AnotherRasteriserIsAccepted) {
     const QImage frame = frameOf(recorded());
     QImage softened(frame.size(), frame.format());
     softened.fill(Qt::black);
@@ -129,26 +129,26 @@ TEST_F(Faults, AnotherRasteriserIsNone) {
     EXPECT_TRUE(found.acceptable()) << found.worstBlock << ' ' << found.strayPixels;
 }
 
-TEST_F(Faults, AMovedLineIsSeen) {
+TEST_F(PictureComparison, AMovedLineIsRejected) {
     const QuoteView view(recorded(), shippedFonts());
     for (qsizetype line = 0; line < view.lineCount(); ++line) {
         EXPECT_FALSE(difference(moved(view.lineRect(line), 3)).acceptable()) << line;
     }
 }
 
-TEST_F(Faults, AnotherInkIsSeen) {
+TEST_F(PictureComparison, AnotherInkIsRejected) {
     QuoteViewState state = recorded();
     state.palette.ink = Palette::hex(0xFFEEDD);
     EXPECT_FALSE(difference(frameOf(state)).acceptable());
 }
 
-TEST_F(Faults, AnotherGroundIsSeen) {
+TEST_F(PictureComparison, AnotherGroundIsRejected) {
     QuoteViewState state = recorded();
     state.palette.colors[4] = Palette::hex(0x4B3E8C);
     EXPECT_FALSE(difference(frameOf(state)).acceptable());
 }
 
-TEST_F(Faults, AMissingElementIsSeen) {
+TEST_F(PictureComparison, AMissingElementIsRejected) {
     const QuoteView view(recorded(), shippedFonts());
     QuoteViewState anonymous = recorded();
     anonymous.quote.author.clear();

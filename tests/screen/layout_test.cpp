@@ -79,7 +79,7 @@ TEST(Column, KeepsTheSpaceOfAnEmptyQuotation) {
     EXPECT_EQ(column.rule.top(), 80 + 30 + 46);
 }
 
-TEST(ColumnPlace, LeavesAloneWhatFits) {
+TEST(ColumnPlace, CentresAColumnThatFits) {
     const ColumnPlace place = placeColumn(500, 982, 53, 927, 44);
     EXPECT_EQ(place.scale, 1);
     EXPECT_EQ(place.top, 241);
@@ -90,7 +90,7 @@ TEST(ColumnPlace, LeavesAloneWhatFits) {
     EXPECT_LT(placeColumn(room + 1, 982, 53, 927, 44).scale, 1);
 }
 
-TEST(ColumnPlace, ShrinksWhatDoesNotFit) {
+TEST(ColumnPlace, ScalesDownAColumnThatDoesNotFit) {
     const ColumnPlace place = placeColumn(1700, 982, 53, 927, 44);
     EXPECT_FALSE(place.overflows);
     EXPECT_GE(place.top, 53 + 20);

@@ -142,7 +142,7 @@ TEST_F(QuoteScreens, AsksForNoFramesOnceAStillScreenIsFinished) {
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 100)), 0);
 }
 
-TEST_F(QuoteScreens, GrabsAndWindowFramesAreTheSameAsThoseWithoutAWindow) {
+TEST_F(QuoteScreens, DrawsTheSameInAWindowAsWithoutOne) {
     const auto screen = shown();
     for (const double after : {0.4, 0.8, 1.2, 2.0, 3.1}) {
         jumpTo(*screen, 50 + after);
@@ -209,7 +209,7 @@ TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
     EXPECT_TRUE(screen->isAnimating());
 }
 
-TEST_F(QuoteScreens, TakesALateQuotationAndItsAuthor) {
+TEST_F(QuoteScreens, ShowsALateQuotationAndItsAuthor) {
     store.set(K::source, u"https://quotes.example/"_s);
     const auto screen = shown();
     settle(*screen);
@@ -225,14 +225,14 @@ TEST_F(QuoteScreens, TakesALateQuotationAndItsAuthor) {
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
 
-TEST_F(QuoteScreens, LetsALoadEndAfterItIsGone) {
+TEST_F(QuoteScreens, ALoadMayEndAfterTheScreenIsDestroyed) {
     store.set(K::source, u"https://quotes.example/"_s);
     { const auto screen = shown(); }
     loaded(Quote{u"Too late to be seen"_s, u"Source"_s});
     EXPECT_EQ(store.text(K::cachedText), u"Too late to be seen"_s);
 }
 
-TEST_F(QuoteScreens, SlidesTheEditorInBesideAColumnThatStandsStill) {
+TEST_F(QuoteScreens, SlidesTheEditorInWithoutMovingTheColumn) {
     auto* panel = new QWidget;
     const auto screen = shown(panel);
     EXPECT_EQ(panel->parentWidget(), screen.get());
@@ -369,7 +369,7 @@ TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {
     EXPECT_EQ(differing(whole.copy(place), expected(*screen, 100)), 0);
 }
 
-TEST_F(QuoteScreens, SpeaksToThoseWhoDoNotSeeIt) {
+TEST_F(QuoteScreens, ExposesItsTextsToScreenReaders) {
     const auto screen = shown();
     settle(*screen);
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(screen.get());

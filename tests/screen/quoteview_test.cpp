@@ -13,7 +13,7 @@ using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
 using Element = QuoteView::Element;
 
-TEST(QuoteView, PlacesEverythingByTheNumbers) {
+TEST(QuoteView, PlacesItsElementsAtTheSpecifiedDistances) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
@@ -72,7 +72,7 @@ TEST(QuoteView, ScalesWithTheMainScreenAndTheUser) {
     EXPECT_NEAR(heightWith(QSizeF(1512, 982), 1.3), 1.3, 0.001);
 }
 
-TEST(QuoteView, BringsEachElementInAtItsTime) {
+TEST(QuoteView, EachElementEntersAtItsTime) {
     QuoteViewState state = plainState({1280, 720});
     state.quote = {u"Now"_s, u"Then"_s};
     const QuoteView view(state, shippedFonts());
@@ -94,7 +94,7 @@ TEST(QuoteView, BringsEachElementInAtItsTime) {
     EXPECT_FALSE(view.nextMotion(10).has_value());
 }
 
-TEST(QuoteView, NamesEverythingThatChanges) {
+TEST(QuoteView, ReportsEveryPixelThatChanges) {
     for (const QString& animation :
          {u"fade"_s, u"handwrite"_s, u"typewriter"_s, u"rise"_s, u"blur"_s}) {
         QuoteViewState state = plainState({1024, 600});
@@ -122,7 +122,7 @@ TEST(QuoteView, NamesEverythingThatChanges) {
     }
 }
 
-TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
+TEST(QuoteView, DrawsAPartAsInTheWholePicture) {
     QuoteViewState state = plainState({1024, 600});
     state.quote = {threeLines, u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
@@ -137,7 +137,7 @@ TEST(QuoteView, DrawsAPartAsItDrawsTheWhole) {
     EXPECT_EQ(image.copy(part), whole.copy(part));
 }
 
-TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
+TEST(QuoteView, ScalesDownALongQuotationAsAWhole) {
     QuoteViewState state = plainState();
     state.quote = {u"A sentence that goes on and on. "_s.repeated(30), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
@@ -150,7 +150,7 @@ TEST(QuoteView, ScalesAQuotationTooLongAsAWhole) {
     EXPECT_FALSE(inkWithin(drawn(view, 20), view.rect(Element::Author).toAlignedRect()).isEmpty());
 }
 
-TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
+TEST(QuoteView, FadesOutWhatDoesNotFitAtTwelvePoints) {
     QuoteViewState state = plainState();
     state.quote = {u"Thousands of characters may arrive here. "_s.repeated(200), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
@@ -162,7 +162,7 @@ TEST(QuoteView, FadesOutWhatDoesNotFitInTwelvePoints) {
     EXPECT_FALSE(inkWithin(image, view.rect(Element::Hint).toAlignedRect()).isEmpty());
 }
 
-TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
+TEST(QuoteView, WrapsALineThatIsWiderThanTheColumn) {
     QuoteViewState state = plainState({1024, 600});
     state.settings.fontName = u"mono"_s;
     state.settings.sizeScale = 1.6;
@@ -181,7 +181,7 @@ TEST(QuoteView, WrapsALineTooWideInsideItsEntry) {
     EXPECT_GT(ink.width(), width * 0.95);
 }
 
-TEST(QuoteView, AlignsRightToLeftTextAtItsOwnLeadingEdge) {
+TEST(QuoteView, AlignsRightToLeftTextAtTheRight) {
     QuoteViewState state = plainState();
     state.quote = {u"السلام عليكم ورحمة الله وبركاته وكل يوم هو بداية جديدة لمن "
                    "أراد أن يمشي في طريقه بهدوء وصبر"_s,
@@ -193,7 +193,7 @@ TEST(QuoteView, AlignsRightToLeftTextAtItsOwnLeadingEdge) {
     }
 }
 
-TEST(QuoteView, StandsOnWholePixels) {
+TEST(QuoteView, AlignsTheRuleWithWholePixels) {
     for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
         QuoteViewState state = plainState();
         state.devicePixelRatio = ratio;
@@ -212,7 +212,7 @@ TEST(QuoteView, StandsOnWholePixels) {
     }
 }
 
-TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
+TEST(QuoteView, UppercasesTheAuthorIndependentlyOfTheLocale) {
     QuoteViewState state = plainState();
     state.quote = {u"Be here"_s, u"Virginia Wilde"_s};
     state.locale = QLocale(u"en_US"_s);
@@ -225,7 +225,7 @@ TEST(QuoteView, SpellsTheAuthorAlikeInEveryLocale) {
     EXPECT_EQ(drawn(turkish, 9).copy(author), drawn(english, 9).copy(author));
 }
 
-TEST(QuoteView, SurvivesAbsurdStates) {
+TEST(QuoteView, SurvivesExtremeStates) {
     for (const double sizeScale : {0.0, -4.0, 1e9, 1e-12, std::nan(""), double(INFINITY)}) {
         for (const QSizeF size : {QSizeF(1024, 600), QSizeF(40, 30), QSizeF(1, 1)}) {
             for (const QString& animation : {u"fade"_s, u"handwrite"_s, u"typewriter"_s}) {

@@ -20,7 +20,7 @@ TEST(LineIdentity, IsMadeOfAnimationIndexAndLength) {
     EXPECT_EQ(lineIdentity(u"x"_s, 11, u"e\u0301👨‍👩‍👧"_s), u"x-11-2"_s);
 }
 
-TEST(QuoteView, RestartsLinesWithTheirIdentityOnly) {
+TEST(QuoteView, RestartsALineOnlyWhenItsIdentityChanges) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
@@ -102,7 +102,7 @@ TEST(QuoteView, DrawsAfterAnUpdateWhatAFreshViewDraws) {
     }
 }
 
-TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
+TEST(QuoteView, ATextOfTheSameLengthDoesNotRestartItsLine) {
     QuoteViewState state = plainState();
     state.quote = {u"aaaa bbbb"_s, u"A"_s};
     QuoteView view(state, shippedFonts());
@@ -115,7 +115,7 @@ TEST(QuoteView, RestartsOnlyTheLinesThatANewWrappingChanges) {
     EXPECT_EQ(view.lineAppearedAt(0), 4);
 }
 
-TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
+TEST(QuoteView, ANewSizeRestartsOnlyLinesWhoseLengthChanges) {
     QuoteViewState state = plainState();
     state.quote = {threeLines, u"Anonymous"_s};
     QuoteView view(state, shippedFonts());
@@ -144,7 +144,7 @@ TEST(QuoteView, ASizeRestartsOnlyTheLinesThatItWrapsAnew) {
 
 // Colour, typeface and another text of the same length apply at once, at the
 // stage that the line has reached, in every style.
-TEST(QuoteView, AnUnchangedIdentityTakesNewLooksWhereItStands) {
+TEST(QuoteView, NewLooksDoNotRestartTheEntrance) {
     for (const TextAnim kind : allTextAnims) {
         QuoteViewState state = plainState({1024, 600});
         state.settings.textAnimRaw = rawValue(kind);

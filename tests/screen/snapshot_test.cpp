@@ -52,7 +52,7 @@ TEST(Snapshot, DrawsAFrameForEachInstantWithoutADisplay) {
     EXPECT_EQ(result.output.count(u'\n'), 3);
 }
 
-TEST(Snapshot, TakesASettingsFileAndSingleSettings) {
+TEST(Snapshot, AcceptsASettingsFileAndSingleSettings) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"settings.json"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -80,7 +80,7 @@ TEST(Snapshot, LaysOutAContactSheet) {
     EXPECT_GT(QImage(sheet).height(), 2 * 100);
 }
 
-TEST(Snapshot, SaysWhatIsWrong) {
+TEST(Snapshot, ReportsInvalidArguments) {
     for (const QStringList& arguments :
          {QStringList{u"--size"_s, u"big"_s}, QStringList{u"--at"_s, u"soon"_s},
           QStringList{u"--date"_s, u"never"_s}, QStringList{u"--settings"_s, u"/nonexistent"_s},

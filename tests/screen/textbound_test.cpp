@@ -40,7 +40,7 @@ std::vector<Hostile> hostileTexts() {
 
 } // namespace
 
-TEST(BeginningOf, KeepsWhatIsOfOrdinaryLength) {
+TEST(BeginningOf, CutsAfterTheGivenNumberOfCharacters) {
     const QString family = u"👨‍👩‍👧‍👦"_s;
     EXPECT_EQ(beginningOf(u""_s, 5), u""_s);
     EXPECT_EQ(beginningOf(u"abcde"_s, 5), u"abcde"_s);
@@ -49,13 +49,13 @@ TEST(BeginningOf, KeepsWhatIsOfOrdinaryLength) {
     EXPECT_EQ(beginningOf(u"e\u0301"_s.repeated(6), 5), u"e\u0301"_s.repeated(5));
 }
 
-TEST(BeginningOf, CutsNoCharacterThrough) {
+TEST(BeginningOf, NeverSplitsACharacter) {
     const QString family = u"👨‍👩‍👧‍👦"_s; // 11 units
     EXPECT_EQ(beginningOf(family.repeated(9), 4), family);
     EXPECT_EQ(beginningOf(u"ab"_s + QString(100, QChar(0x0301)), 5), u"a"_s);
 }
 
-TEST(BeginningOf, CutsACharacterBeyondAllBounds) {
+TEST(BeginningOf, CutsACharacterOfExtremeLength) {
     const QString start = beginningOf(u"a"_s + QString(1000, QChar(0x0301)), 100);
     EXPECT_EQ(start, u"a"_s + QString(63, QChar(0x0301)));
     const QString pairs =
@@ -66,7 +66,7 @@ TEST(BeginningOf, CutsACharacterBeyondAllBounds) {
     EXPECT_EQ(beginningOf(u"a"_s + QString(1000, QChar(0x0301)), 1).size(), 4);
 }
 
-TEST(SeenCharacters, FollowTheViewWithinBounds) {
+TEST(VisibleCharacterLimit, GrowsWithTheViewWithinItsBounds) {
     EXPECT_EQ(visibleCharacterLimit(982, 44, 41), 65 * 43);
     EXPECT_EQ(visibleCharacterLimit(982, 68, 26), 2000);
     EXPECT_EQ(visibleCharacterLimit(2160, 4, 48), 20000);
@@ -74,7 +74,7 @@ TEST(SeenCharacters, FollowTheViewWithinBounds) {
     EXPECT_EQ(visibleCharacterLimit(std::nan(""), 44, 41), 2000);
 }
 
-TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
+TEST(QuoteViewBounds, LaysOutNoMoreThanCanBeSeen) {
     for (const Hostile& hostile : hostileTexts()) {
         SCOPED_TRACE(hostile.name);
         QuoteViewState state = plainState();
@@ -94,7 +94,7 @@ TEST(QuoteViewBounds, LayOutNoMoreThanCanBeSeen) {
 }
 
 // The lines reach the bottom edge, so the part that is cut off could not be seen.
-TEST(QuoteViewBounds, FillTheViewToItsEnd) {
+TEST(QuoteViewBounds, LinesReachTheBottomOfTheView) {
     for (const QSizeF size : {QSizeF(1512, 982), QSizeF(3840, 2160), QSizeF(1080, 1920)}) {
         for (const double textScale : {0.5, 1.0, 1.6}) {
             QuoteViewState state = plainState(size);

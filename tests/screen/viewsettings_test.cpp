@@ -32,7 +32,7 @@ TEST(ViewSettings, HasItsOwnFallbacksWithoutRegisteredDefaults) {
     EXPECT_EQ(readViewSettings(store).paletteIndex, -1);
 }
 
-TEST(ViewSettings, ShowsTheRegisteredDefaults) {
+TEST(ViewSettings, ReadsTheRegisteredDefaults) {
     SettingsStore store;
     registerAppDefaults(store);
     ViewSettings expected;
@@ -40,7 +40,7 @@ TEST(ViewSettings, ShowsTheRegisteredDefaults) {
     EXPECT_EQ(readViewSettings(store), expected);
 }
 
-TEST(ViewSettings, TakesWhatIsStored) {
+TEST(ViewSettings, ReadsStoredValues) {
     SettingsStore store;
     store.set(K::palette, 7);
     store.set(K::textScale.key, u"1.5"_s);
@@ -69,7 +69,7 @@ TEST(ViewSettings, ToleratesAnySizeScale) {
     EXPECT_EQ(usableSizeScale(1e-9), 0.1);
 }
 
-TEST(ViewPalette, IsThePhotosWhileOneIsReadable) {
+TEST(ViewPalette, IsThatForPhotosIfOneIsReadable) {
     ViewSettings settings;
     settings.paletteIndex = 7;
     EXPECT_EQ(viewPalette(settings, true, at(9, 0)).name, u"Photo"_s);
@@ -90,14 +90,14 @@ TEST(Greeting, FollowsTheHour) {
     EXPECT_EQ(greeting(at(0, 0)), u"Still awake"_s);
 }
 
-TEST(Greeting, TakesTheLocalHour) {
+TEST(Greeting, UsesTheLocalHour) {
     Moment moment = at(23, 30);
     moment.zone = QTimeZone("Asia/Tokyo");
     EXPECT_EQ(greeting(moment), u"Good morning"_s);
     EXPECT_EQ(today(moment, QLocale(u"en_US"_s)), u"SATURDAY, 15 NOVEMBER"_s);
 }
 
-TEST(Today, SpeaksTheLocale) {
+TEST(Today, FollowsTheLocale) {
     EXPECT_EQ(today(at(9, 0), QLocale(u"en_US"_s)), u"FRIDAY, 14 NOVEMBER"_s);
     EXPECT_EQ(today(at(9, 0, {2025, 11, 4}), QLocale::c()), u"TUESDAY, 4 NOVEMBER"_s);
     EXPECT_EQ(today(at(9, 0), QLocale(u"de_DE"_s)), u"FREITAG, 14 NOVEMBER"_s);
@@ -105,7 +105,7 @@ TEST(Today, SpeaksTheLocale) {
     EXPECT_EQ(today(at(9, 0, {2025, 6, 2}), QLocale(u"tr_TR"_s)), u"PAZARTESİ, 2 HAZİRAN"_s);
 }
 
-TEST(Hint, TellsHowToEnd) {
+TEST(Hint, SaysHowToEndTheShowing) {
     EXPECT_EQ(hintText(0), u"press any key"_s);
     EXPECT_EQ(hintText(320), u"esc to finish"_s);
 }

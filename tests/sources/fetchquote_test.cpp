@@ -27,7 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-TEST(SourceAddress, NeverGuesses) {
+TEST(SourceAddress, RejectsIncompleteAndOtherAddresses) {
     for (const char* source : {"",
                                " \t\n",
                                "example.org",
@@ -53,7 +53,7 @@ TEST(SourceAddress, NeverGuesses) {
     }
 }
 
-TEST(SourceAddress, ReadsPathsAsTheyStand) {
+TEST(SourceAddress, KeepsPathsUnchanged) {
     EXPECT_EQ(sourceAddress(u" /a b#c?d%20e "_s)->path, "/a b#c?d%20e"_L1);
     EXPECT_EQ(sourceAddress(u"//example.org/x"_s)->path, "//example.org/x"_L1);
     EXPECT_EQ(sourceAddress(u"file:///a%20b"_s)->path, "/a b"_L1);
@@ -62,7 +62,7 @@ TEST(SourceAddress, ReadsPathsAsTheyStand) {
     EXPECT_EQ(sourceAddress(u"data:,x"_s)->url.scheme(), "data"_L1);
 }
 
-TEST(Redirects, NeverLeaveTheWebOrGoDown) {
+TEST(Redirects, NeverLeaveTheWebOrEncryption) {
     const auto may = [](const char* from, const char* to) {
         return mayRedirect(QUrl(QString::fromUtf8(from)), QUrl(QString::fromUtf8(to)));
     };
@@ -121,7 +121,7 @@ TEST_F(FetchQuote, ReadsLocalFiles) {
     EXPECT_EQ(fetch(u"data:;base64,eyJxIjoiQSJ9"_s), "A|Unknown");
 }
 
-TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
+TEST_F(FetchQuote, RejectsWhatIsNotARegularFileAtOnce) {
     const QByteArray fifo = QFile::encodeName(folder.filePath(u"fifo"_s));
     ASSERT_EQ(::mkfifo(fifo.constData(), 0600), 0);
     const QByteArray loop = QFile::encodeName(folder.filePath(u"loop"_s));
@@ -149,7 +149,7 @@ TEST_F(FetchQuote, RefusesWhatIsNoReadableFileAtOnce) {
 }
 
 // In a child process, because root can read everything and must become another user.
-TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
+TEST_F(FetchQuote, RejectsAFileThatItMayNotRead) {
     const QByteArray open = QFile::encodeName(file(u"open"_s, R"({"q":"A"})"));
     const QByteArray secret = QFile::encodeName(file(u"secret"_s, R"({"q":"A"})"));
     ASSERT_EQ(::chmod(secret.constData(), 0), 0);
@@ -173,14 +173,14 @@ TEST_F(FetchQuote, RefusesAFileThatItMayNotRead) {
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-TEST_F(FetchQuote, CountsTheBytesOfAFile) {
+TEST_F(FetchQuote, LimitsTheSizeOfAFile) {
     const QByteArray start = R"({"q":"A")";
     const QByteArray full = start + QByteArray((4 << 20) - start.size() - 1, ' ') + "}";
     EXPECT_EQ(fetch(file(u"full"_s, full)), "A|Unknown");
     EXPECT_EQ(fetch(file(u"over"_s, full + " ")), "nothing");
 }
 
-TEST_F(FetchQuote, EndingTheFetcherInAnAnswerIsSafe) {
+TEST_F(FetchQuote, TheFetcherMayBeDestroyedInAnAnswer) {
     auto own = std::make_unique<QuoteFetcher>();
     QEventLoop loop;
     own->fetchQuote(file(u"q"_s, R"({"q":"A"})"), [&](const std::optional<Quote>& quote) {
@@ -192,7 +192,7 @@ TEST_F(FetchQuote, EndingTheFetcherInAnAnswerIsSafe) {
     EXPECT_FALSE(own);
 }
 
-TEST_F(FetchQuote, NoAnswerComesAfterTheFetcher) {
+TEST_F(FetchQuote, NoAnswerComesAfterTheFetcherIsDestroyed) {
     auto own = std::make_unique<QuoteFetcher>();
     for (int i = 0; i < 50; ++i) {
         own->fetchQuote(u"/proc/version"_s, [](const std::optional<Quote>&) { FAIL(); });

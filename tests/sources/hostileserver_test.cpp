@@ -218,7 +218,7 @@ TEST_F(HostileServer, CannotHangCrashBloatOrStallTheProgram) {
     }
 }
 
-TEST_F(HostileServer, SeesOnlyOneHeaderOfOurs) {
+TEST_F(HostileServer, GetsNoHeadersBeyondAcceptAndQts) {
     QEventLoop loop;
     QString text;
     start({"echo", nothing}, [&](const QJsonObject& report) {

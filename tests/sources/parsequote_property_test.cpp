@@ -287,7 +287,7 @@ protected:
     unsigned seed = firstSeed();
 };
 
-TEST_F(ParseQuoteProperty, ReadsDocumentsAsThePlainRulesDo) {
+TEST_F(ParseQuoteProperty, AgreesWithTheSimpleImplementation) {
     int found = 0;
     int drawn = 0;
     for (const unsigned end = seed + 4000; seed != end; ++seed) {
@@ -308,7 +308,7 @@ TEST_F(ParseQuoteProperty, ReadsDocumentsAsThePlainRulesDo) {
     EXPECT_GT(drawn, 400);
 }
 
-TEST_F(ParseQuoteProperty, TakesBrokenDocumentsForPlainText) {
+TEST_F(ParseQuoteProperty, ReadsBrokenDocumentsAsPlainText) {
     int found = 0;
     for (const unsigned end = seed + 2000; seed != end; ++seed) {
         Engine engine(seed);
@@ -337,7 +337,7 @@ TEST_F(ParseQuoteProperty, TakesBrokenDocumentsForPlainText) {
     EXPECT_GT(found, 400);
 }
 
-TEST_F(ParseQuoteProperty, CountsCharactersOfPlainTextByEye) {
+TEST_F(ParseQuoteProperty, CountsPerceivedCharactersOfPlainText) {
     const std::vector<QString> characters{u"a"_s,
                                           u"e\u0301"_s,
                                           u"\u0928\u093F"_s,

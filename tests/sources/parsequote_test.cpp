@@ -32,7 +32,7 @@ struct Row {
 
 class ParseQuote : public testing::TestWithParam<Row> {};
 
-TEST_P(ParseQuote, Gives) {
+TEST_P(ParseQuote, ReadsTheQuotation) {
     EXPECT_EQ(parsed(GetParam().body), GetParam().result) << GetParam().body;
 }
 
@@ -106,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
                         "A\xE2\x80\x8B|Unknown"},
                     Row{"{\"q\":\"\xFF\"}", "{\"q\":\"\xEF\xBF\xBD\"}|Unknown"}));
 
-TEST(ParseQuoteBytes, AZeroByteIsNoEndOfADocument) {
+TEST(ParseQuoteBytes, AZeroByteDoesNotEndADocument) {
     EXPECT_EQ(parsed(QByteArrayView("{\"q\":\"A\"}\0x", 11)),
               std::string("{\"q\":\"A\"}\0x|Unknown", 19));
     EXPECT_EQ(parsed(R"({"q":"A\u0000B","a\u0000":"C"})"), std::string("A\0B|Unknown", 11));
@@ -130,7 +130,7 @@ TEST(ParseQuoteBytes, ReadsTheWideEncodings) {
     EXPECT_NE(parsed(QByteArrayView("[\0{\0\"\0q\0\"\0:\0\"\0\x00\xD8\"\0}\0]\0", 22)), "nothing");
 }
 
-TEST(ParseQuoteBytes, NestsUpTo512Levels) {
+TEST(ParseQuoteBytes, Accepts512Levels) {
     const auto nested = [](int levels) {
         return R"({"q":"A","x":)" + std::string(std::size_t(levels), '[') +
                std::string(std::size_t(levels), ']') + "}";
@@ -165,7 +165,7 @@ TEST(ParseQuoteBytes, CountsPerceivedCharacters) {
     EXPECT_NE(parsed(R"({"q":")" + QByteArray(5000, 'a') + "\"}"), "nothing");
 }
 
-TEST(Trimming, TakesExactlyTheWhitespaceOfUnicode) {
+TEST(Trimming, RemovesExactlyUnicodeWhitespace) {
     for (char32_t code = 1; code <= QChar::LastValidCodePoint; ++code) {
         if (QChar::isSurrogate(code)) {
             continue;
@@ -179,7 +179,7 @@ TEST(Trimming, TakesExactlyTheWhitespaceOfUnicode) {
     }
 }
 
-TEST(Utf8, ReplacesEachMaximalPiece) {
+TEST(Utf8, ReplacesEachMaximalSubpart) {
     const auto decoded = [](const char* bytes) { return decodeUtf8(bytes).toStdU16String(); };
     EXPECT_EQ(decoded("a\xF1\x80\x80\xE1\x80\xC2"
                       "b\x80"
@@ -202,7 +202,7 @@ TEST(Utf8, ReplacesEachMaximalPiece) {
     EXPECT_EQ(decoded("\xEF\xBB\xBFx\xF0\x90\x80\x80"), u"\uFEFFx\U00010000");
 }
 
-TEST(JsonTree, RefusesATreeThatWouldBeTooLarge) {
+TEST(JsonTree, RejectsATreeThatWouldBeTooLarge) {
     static constexpr std::array<std::string_view, 1> names{"q"};
     EXPECT_EQ(readJson("[{},{}]", names, 3).verdict, JsonVerdict::Read);
     EXPECT_EQ(readJson("[{},{},{}]", names, 3).verdict, JsonVerdict::TooLarge);

@@ -56,7 +56,7 @@ QImage someLetters() {
     return picture;
 }
 
-TEST(BlurredLayer, LooksLikeTheGaussianAtEveryStrength) {
+TEST(BlurredLayer, IsCloseToTheGaussianAtEveryStrength) {
     const QImage letters = someLetters();
     for (const double sigma : {0.7, 1.5, 2.4, 3.0, 4.9, 6.0, 9.0, 14.0, 18.0, 26.0, 52.0}) {
         const int cell = BlurredLayer::cellSize(sigma);

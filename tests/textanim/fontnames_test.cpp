@@ -45,7 +45,7 @@ QByteArray tableOf(const std::vector<Entry>& entries) {
     return table + texts;
 }
 
-TEST(FontNames, TypographicNamesComeFirst) {
+TEST(FontNames, TypographicNamesArePreferred) {
     const auto names = readNameTable(tableOf({{3, 1, 0x409, 1, utf16("Old Light")},
                                               {3, 1, 0x409, 2, utf16("Regular")},
                                               {3, 1, 0x409, 6, utf16("Old-Light")},
@@ -54,20 +54,20 @@ TEST(FontNames, TypographicNamesComeFirst) {
     EXPECT_EQ(names, (FontNames{u"Old-Light"_s, u"Old"_s, u"Light"_s}));
 }
 
-TEST(FontNames, LegacyNamesStandIn) {
+TEST(FontNames, LegacyNamesAreTheFallback) {
     const auto names = readNameTable(
         tableOf({{1, 0, 0, 1, "Mac"}, {1, 0, 0, 2, "Bold"}, {1, 0, 0, 6, "Mac-Bold"}}));
     EXPECT_EQ(names, (FontNames{u"Mac-Bold"_s, u"Mac"_s, u"Bold"_s}));
 }
 
-TEST(FontNames, EnglishBeforeOthers) {
+TEST(FontNames, EnglishNamesArePreferred) {
     const auto names = readNameTable(tableOf({{3, 1, 0x407, 6, utf16("Deutsch")},
                                               {3, 1, 0x409, 6, utf16("English")},
                                               {1, 0, 0, 6, "Mac"}}));
     EXPECT_EQ(names->postScript, u"English"_s);
 }
 
-TEST(FontNames, NothingWithoutAPostScriptName) {
+TEST(FontNames, APostScriptNameIsRequired) {
     EXPECT_EQ(readNameTable({}), std::nullopt);
     EXPECT_EQ(readNameTable("x"), std::nullopt);
     EXPECT_EQ(readNameTable(tableOf({{3, 1, 0x409, 1, utf16("Family")}})), std::nullopt);

@@ -45,7 +45,7 @@ TEST(FontBook, FindsEveryShippedFaceByItsPostScriptName) {
     EXPECT_EQ(shippedBook().named(u"Fraunces"_s, 12), std::nullopt);
 }
 
-TEST(FontBook, TakesFontFilesOnlyAndPassesOverBrokenOnes) {
+TEST(FontBook, SkipsOtherFilesAndBrokenFonts) {
     const QTemporaryDir folder;
     QFile::copy(shipped + "/Nunito-Regular.ttf"_L1, folder.filePath(u"A.TtF"_s));
     QFile::copy(shipped + "/EBGaramond-Regular.ttf"_L1, folder.filePath(u"b.txt"_s));
@@ -68,7 +68,7 @@ TEST(FontBook, TakesFontFilesOnlyAndPassesOverBrokenOnes) {
     EXPECT_FALSE(book.named(u"IBMPlexMono-Regular"_s, 10));
 }
 
-TEST(FontBook, AMissingFolderIsPassedOver) {
+TEST(FontBook, IgnoresAMissingFolder) {
     FontBook book;
     book.registerBundledFonts(u"/nowhere/Fonts"_s);
     EXPECT_FALSE(book.named(u"Nunito-Regular"_s, 10));
@@ -84,7 +84,7 @@ TEST(SystemFont, EachDesignHasItsShippedFace) {
               u"IBMPlexMono-Medium"_s);
 }
 
-TEST(SystemFont, WithoutShippedFacesTheSystemHasOne) {
+TEST(SystemFont, FallsBackOnAFaceOfTheSystem) {
     const FontBook nothing;
     for (const auto design :
          {FontDesign::Default, FontDesign::Serif, FontDesign::Rounded, FontDesign::Monospaced}) {
@@ -108,7 +108,7 @@ TEST(QuoteFont, NamesAreComparedExactly) {
     }
 }
 
-TEST(QuoteFont, AMissingFrauncesIsTheSerifDesign) {
+TEST(QuoteFont, WithoutFrauncesItIsTheSerifDesign) {
     const QTemporaryDir folder;
     QFile::copy(shipped + "/EBGaramond-Regular.ttf"_L1, folder.filePath(u"g.ttf"_s));
     FontBook book;

@@ -49,7 +49,7 @@ int worstDifference(const QImage& a, const QImage& b) {
     return worst;
 }
 
-TEST(KeptText, LooksTheSameFromItsPicture) {
+TEST(KeptText, DrawsTheSamePixelsFromItsPicture) {
     const ShapedText text = sentence();
     for (const double ratio : {1.0, 1.25, 2.0}) {
         KeptText kept;
@@ -98,7 +98,7 @@ TEST(KeptText, HonoursTheClipAndLeavesThePainterAlone) {
     }
 }
 
-TEST(KeptText, DrawsNothingOfAnEmptyText) {
+TEST(KeptText, DrawsNothingForAnEmptyText) {
     KeptText kept;
     for (int frame = 0; frame < 3; ++frame) {
         const QImage image = painted(

@@ -67,7 +67,7 @@ TEST(LineBalancing, AnExactMultipleNeedsNoFurtherLine) {
               (QStringList{wordsOf(7, 3), wordsOf(7, 3), wordsOf(7, 2) + u"aa"_s}));
 }
 
-TEST(LineBalancing, TheLimitIsTwoAboveTheShareAndCounts) {
+TEST(LineBalancing, ALineMayExceedTheMeanLengthByTwo) {
     // 40 characters, 2 lines of 20, at most 22.
     const QString fits = QString(11, u'a') + u' ' + QString(10, u'b') + u' ' + QString(17, u'c');
     ASSERT_EQ(characterCount(fits), 40);
@@ -78,7 +78,7 @@ TEST(LineBalancing, TheLimitIsTwoAboveTheShareAndCounts) {
               (QStringList{exceeds.left(11), exceeds.mid(12, 11), exceeds.mid(24)}));
 }
 
-TEST(LineBalancing, EverySpaceCountsButNoneIsKept) {
+TEST(LineBalancing, ExtraSpacesCountButAreNotKept) {
     // 9 letters and 3 spaces: one line at most 14. With 20 spaces more: 32
     // characters, 3 lines of 11, at most 13.
     EXPECT_EQ(balancedLines(u"aaa bbb ccc d"_s, 13), QStringList{u"aaa bbb ccc d"_s});
@@ -90,7 +90,7 @@ TEST(LineBalancing, EverySpaceCountsButNoneIsKept) {
     EXPECT_EQ(balancedLines(u" aaa bbb ccc"_s, 11), (QStringList{u"aaa bbb"_s, u"ccc"_s}));
 }
 
-TEST(LineBalancing, ALongWordStandsAlone) {
+TEST(LineBalancing, ALongWordGetsALineOfItsOwn) {
     const QString giant(60, u'x');
     EXPECT_EQ(balancedLines(u"a "_s + giant + u" b"_s, 16), (QStringList{u"a"_s, giant, u"b"_s}));
 }
@@ -119,7 +119,7 @@ TEST(LineBalancing, LengthsAreOfPerceivedCharacters) {
     EXPECT_EQ(balancedLines(accented, 15), QStringList{accented});
 }
 
-TEST(LineBalancing, ALineIsMeasuredAsItStands) {
+TEST(LineBalancing, AMarkJoinsTheSpaceBeforeIt) {
     // A mark that begins a word joins the space before it on the line.
     const QString text = u"aaaa \u0308bbb cccc"_s;
     ASSERT_EQ(characterCount(text), 13);
@@ -130,7 +130,7 @@ TEST(LineBalancing, ANegativeTargetMakesOneLine) {
     EXPECT_EQ(balancedLines(u"one two three"_s, -5), QStringList{u"one two three"_s});
 }
 
-TEST(LineBalancing, ExtremeTargetsEnd) {
+TEST(LineBalancing, ExtremeTargetsTerminate) {
     const QString text = wordsOf(3, 200);
     EXPECT_EQ(balancedLines(text, std::numeric_limits<int>::max()), QStringList{text});
     EXPECT_EQ(balancedLines(text, std::numeric_limits<int>::min()), QStringList{text});

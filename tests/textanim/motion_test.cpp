@@ -15,7 +15,7 @@ using namespace morrowleaf;
 
 namespace {
 
-TEST(Motion, FadeAtItsInstants) {
+TEST(Motion, FadeFollowsItsCurve) {
     const LineEffects before = fade().effectsAt(-1);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 9);
@@ -29,7 +29,7 @@ TEST(Motion, FadeAtItsInstants) {
     EXPECT_NE(fade().effectsAt(1.14), LineEffects{});
 }
 
-TEST(Motion, BlurAtItsInstants) {
+TEST(Motion, BlurFollowsItsCurve) {
     const LineEffects before = blur().effectsAt(0);
     EXPECT_EQ(before.opacity, 0);
     EXPECT_EQ(before.blurRadius, 26);
@@ -60,7 +60,7 @@ TEST(Motion, RiseOvershootsItsPlaceButNotItsOpacity) {
     EXPECT_LT(rise().duration, 2);
 }
 
-TEST(PenProgress, TracesThenInks) {
+TEST(PenProgress, TracesBeforeItInks) {
     const auto at = [](double t) { return penProgress(t); };
     EXPECT_EQ(at(-0.1).traced, 0);
     EXPECT_EQ(at(0).ink, 0);
@@ -74,7 +74,7 @@ TEST(PenProgress, TracesThenInks) {
     EXPECT_DOUBLE_EQ(handwritingDuration(), 1.4375);
 }
 
-TEST(Motion, NaNHasNotBegun) {
+TEST(Motion, NaNCountsAsTheStart) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     for (const Motion& motion : {fade(), rise(), blur()}) {
         EXPECT_EQ(motion.effectsAt(nan), motion.effectsAt(0));
@@ -94,7 +94,7 @@ TEST(TypedCharacters, AreTwentySixASecondTruncated) {
     EXPECT_EQ(typedCharacters(5, 0), 0);
 }
 
-TEST(TypedCharacters, TheLineStandsExactlyAfterItsDuration) {
+TEST(TypedCharacters, TheLineIsCompleteExactlyAfterItsDuration) {
     for (qint64 length = 0; length < 300; ++length) {
         const double end = typingDuration(length);
         EXPECT_EQ(typedCharacters(end, length), length);
@@ -102,7 +102,7 @@ TEST(TypedCharacters, TheLineStandsExactlyAfterItsDuration) {
     }
 }
 
-TEST(TypedCharactersDeathTest, ATimeBeyondCountingIsFatal) {
+TEST(TypedCharactersDeathTest, AnUncountableTimeIsFatal) {
     EXPECT_DEATH(typedCharacters(std::numeric_limits<double>::quiet_NaN(), 3), "cannot be typed");
     EXPECT_DEATH(typedCharacters(std::numeric_limits<double>::infinity(), 3), "cannot be typed");
     EXPECT_DEATH(typedCharacters(-std::numeric_limits<double>::infinity(), 3), "cannot be typed");

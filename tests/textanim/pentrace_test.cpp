@@ -28,7 +28,7 @@ double coverage(const QImage& picture) {
     return sum;
 }
 
-TEST(PenTrace, GoesAlongAllContoursOneAfterAnother) {
+TEST(PenTrace, FollowsAllContoursOneAfterAnother) {
     const PenTrace trace = penTrace(twoContours(), 12);
     EXPECT_NEAR(trace.length, 100 + 20 * M_PI, 0.1);
     double length = 0;
@@ -55,7 +55,7 @@ TEST(PenDrawing, CoversTheTracedLengthTimesItsWidth) {
     EXPECT_EQ(coverage(pen.at(trace, 0)), 0);
 }
 
-TEST(PenDrawing, LooksTheSameWhicheverWayItCame) {
+TEST(PenDrawing, DependsOnlyOnTheTracedLength) {
     const PenTrace trace = penTrace(twoContours(), 12);
     PenDrawing forward(1.25, 0.8, QRect(0, 0, 120, 50), 0.3);
     for (const double share : {0.0, 0.02, 0.1, 0.11, 0.4, 0.9, 1.0, 0.55, 0.56, 0.1, 1.0, 0.3}) {
@@ -65,7 +65,7 @@ TEST(PenDrawing, LooksTheSameWhicheverWayItCame) {
     }
 }
 
-TEST(PenDrawing, StretchesMeetWithoutGapOrKnot) {
+TEST(PenDrawing, StretchesMeetWithoutGapOrOverlap) {
     QPainterPath line(QPointF(5, 10.25));
     line.lineTo(95, 10.25);
     for (const double cut : {7.0, 13.0, 1000.0}) {

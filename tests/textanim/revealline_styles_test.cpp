@@ -20,7 +20,7 @@ class EveryStyle : public testing::TestWithParam<TextAnim> {};
 INSTANTIATE_TEST_SUITE_P(RevealLine, EveryStyle, testing::ValuesIn(allTextAnims),
                          [](const auto& info) { return rawValue(info.param).toStdString(); });
 
-TEST_P(EveryStyle, PreparingChangesNothingOfThePicture) {
+TEST_P(EveryStyle, PreparingDoesNotChangeThePicture) {
     const RevealLine line(parts(GetParam()));
     const RevealLine prepared(parts(GetParam()));
     const QTransform device = QTransform::fromScale(2, 2);
@@ -63,7 +63,7 @@ TEST_P(EveryStyle, LooksTheSameInAnyOrderOfInstants) {
     paintInOrder();
 }
 
-TEST_P(EveryStyle, TouchesOnlyItsRectangle) {
+TEST_P(EveryStyle, DrawsOnlyInItsRectangle) {
     for (const double ratio : {1.0, 1.25, 2.0}) {
         const RevealLine line(parts(GetParam()));
         for (int i = 1; i <= 8; ++i) {
@@ -83,7 +83,7 @@ TEST_P(EveryStyle, ShowsNothingDuringTheDelay) {
     EXPECT_TRUE(line.changesBetween(0, line.settledAfter()));
 }
 
-TEST_P(EveryStyle, AsksForNothingMoreOnceItRests) {
+TEST_P(EveryStyle, DoesNotChangeOnceAtRest) {
     const RevealLine line(parts(GetParam()));
     const double rest = line.settledAfter();
     const QImage resting = painted(line, rest);
@@ -95,7 +95,7 @@ TEST_P(EveryStyle, AsksForNothingMoreOnceItRests) {
     EXPECT_TRUE(line.changesBetween(rest - 0.03, rest));
 }
 
-TEST_P(EveryStyle, UnchangedStagesLookAlike) {
+TEST_P(EveryStyle, DoesNotChangeUnreported) {
     const RevealLine line(parts(GetParam()));
     double last = 0;
     QImage before = painted(line, last);
@@ -111,7 +111,7 @@ TEST_P(EveryStyle, UnchangedStagesLookAlike) {
 }
 
 // No style jumps: neither where the blur changes its resolution, nor when a line comes to rest.
-TEST_P(EveryStyle, ComesInWithoutJumps) {
+TEST_P(EveryStyle, EntersWithoutJumps) {
     if (GetParam() == TextAnim::Typewriter) {
         return; // its letters appear at once
     }
@@ -146,7 +146,7 @@ TEST_P(EveryStyle, EmptyAndBlankLinesStayInvisibleAndStill) {
     }
 }
 
-TEST_P(EveryStyle, KeepsItsPlaceFromTheStart) {
+TEST_P(EveryStyle, ReservesItsSpaceFromTheStart) {
     RevealLine::Parts narrow = parts(GetParam());
     narrow.maxWidth = 150;
     const RevealLine line(narrow);
@@ -161,7 +161,7 @@ TEST_P(EveryStyle, KeepsItsPlaceFromTheStart) {
     }
 }
 
-TEST_P(EveryStyle, ForeignScriptsAndPicturesAppear) {
+TEST_P(EveryStyle, DrawsOtherScriptsAndEmoji) {
     for (const QString& text : {u"السلام عليكم"_s, u"क्षत्रिय"_s, u"e\u0301a\u0308"_s,
                                 u"👨‍👩‍👧 🇩🇪"_s, u"שלום"_s}) {
         const RevealLine line(parts(GetParam(), text));

@@ -94,7 +94,7 @@ TEST(RevealLine, TheShadowIsAGaussianOfTheGivenOpacity) {
     EXPECT_NEAR(both / letters, 1.35, 0.08);
 }
 
-TEST(RevealLine, FadesByItsOpacityAndLiesLow) {
+TEST(RevealLine, FadeLowersOpacityAndPosition) {
     RevealLine::Parts bare = parts(TextAnim::Fade);
     bare.shadow.opacity = 0;
     const RevealLine line(bare);
@@ -154,7 +154,7 @@ TEST(RevealLine, HandwritingIsOutlinedFirstAndInkedLater) {
     }
 }
 
-TEST(RevealLine, ColourChangesApplyAtTheStageItStands) {
+TEST(RevealLine, ANewColourDoesNotRestartTheEntrance) {
     RevealLine::Parts red = parts(TextAnim::Handwrite);
     red.shadow.opacity = 0;
     RevealLine::Parts blue = red;

@@ -49,7 +49,7 @@ TEST(ShapedText, EverythingScalesWithTheSize) {
     }
 }
 
-TEST(ShapedText, MetricsAreTheFaces) {
+TEST(ShapedText, UsesTheMetricsOfTheFace) {
     const ShapedText text(u"x"_s, face(u"fraunces"_s, 100));
     EXPECT_NEAR(text.baseline(), 97.8, 1e-6);
     EXPECT_NEAR(text.size().height(), 123.3, 1e-6);
@@ -93,7 +93,7 @@ TEST(ShapedText, WrapsAtWordsIntoLeadingRows) {
     EXPECT_EQ(fits.size().height(), whole.size().height());
 }
 
-TEST(ShapedText, AWordTooWideIsScaledDown) {
+TEST(ShapedText, AWordThatIsTooWideIsScaledDown) {
     const ShapedText text(u"a Donaudampfschifffahrtsgesellschaft"_s, face(u"serif"_s), 0, 300);
     EXPECT_NEAR(text.size().width(), 300, 1e-6);
     EXPECT_LE(text.outline().ink.right(), 302);
@@ -140,7 +140,7 @@ TEST(ShapedText, EmojiKeepTheirPictures) {
     EXPECT_TRUE(red);
 }
 
-TEST(ShapedText, LineBreaksInsideMakeRows) {
+TEST(ShapedText, LineBreaksStartNewRows) {
     const double row = ShapedText(u"a"_s, face(u"serif"_s)).size().height();
     EXPECT_NEAR(ShapedText(u"a\nb"_s, face(u"serif"_s)).size().height(), 2 * row, 1e-6);
     EXPECT_NEAR(ShapedText(u"a\r\nb"_s, face(u"serif"_s)).size().height(), 2 * row, 1e-6);
@@ -180,7 +180,7 @@ TEST(GlyphPath, ALineWiderThanTheColumnIsSetSmaller) {
     EXPECT_EQ(handwrittenLineSize(sentence, face(u"mono"_s), whole.width()), whole);
 }
 
-TEST(PenWidth, NeverAHair) {
+TEST(PenWidth, HasALowerLimit) {
     EXPECT_DOUBLE_EQ(penWidth(30), 0.7);
     EXPECT_DOUBLE_EQ(penWidth(60), 1.08);
     EXPECT_DOUBLE_EQ(penWidth(44), 0.792);
