@@ -13,6 +13,7 @@ namespace morrowleaf {
 inline const QString threeLines =
     u"It is not the mountain we conquer but ourselves, and the path is where we learn to walk."_s;
 
+// Draws the whole view `seconds` after it appeared, over transparent pixels.
 inline QImage drawn(const QuoteView& view, double seconds) {
     const QSizeF pixels = view.state().size * view.state().devicePixelRatio;
     QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -23,7 +24,8 @@ inline QImage drawn(const QuoteView& view, double seconds) {
     return image;
 }
 
-// The bounds of the light ink within a part, device pixels; shadows are black.
+// The bounding rectangle (device pixels) of the pixels in a part that are at least as
+// green as `least`: those of the light ink, because shadows are black.
 inline QRect inkWithin(const QImage& image, const QRect& part, int least = 24) {
     QRect ink;
     const QRect inside = part.intersected(image.rect());

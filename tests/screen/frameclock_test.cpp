@@ -82,10 +82,12 @@ TEST_F(FrameClocks, ATickMayDestroyTheOtherTimers) {
         ++ticks;
         one.reset();
     });
+    FrameTimer last(clock);
+    const QSignalSpy done(&last, &FrameTimer::tick);
     one->requestAt(time);
     other->requestAt(time);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }));
-    QTest::qWait(40);
+    last.requestAt(time + 0.05);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done.count() == 1; }));
     EXPECT_EQ(ticks, 1);
 }
 

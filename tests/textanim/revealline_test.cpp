@@ -160,8 +160,11 @@ TEST(RevealLine, ANewColourDoesNotRestartTheEntrance) {
     RevealLine::Parts blue = red;
     red.color = QColor(255, 0, 0);
     blue.color = QColor(0, 0, 255);
-    const QImage first = painted(RevealLine(red), 1.2);
-    const QImage second = painted(RevealLine(blue), 1.2);
+    RevealLine line(red);
+    const QImage first = painted(line, 1.2);
+    line.setColors(blue.color, blue.shadow);
+    const QImage second = painted(line, 1.2);
+    EXPECT_EQ(second, painted(RevealLine(blue), 1.2));
     for (int y = 0; y < first.height(); ++y) {
         for (int x = 0; x < first.width(); ++x) {
             const QRgb a = first.pixel(x, y);
