@@ -132,9 +132,6 @@ bool QuoteScreen::Private::exposed() const {
 
 void QuoteScreen::Private::appear() {
     appearedAt = frameClock.now();
-    if (const QScreen* display = screen.screen()) {
-        frameClock.setRate(display->refreshRate());
-    }
     stale = true;
     placeInspector(0);
 }
@@ -257,6 +254,10 @@ std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
 }
 
 void QuoteScreen::Private::schedule() {
+    // Set again for every frame, because the window may move to another display.
+    if (const QScreen* display = screen.screen()) {
+        frameClock.setRate(display->refreshRate());
+    }
     if (const std::optional<double> next = nextFrame(sinceAppearance())) {
         frames.requestAt(appearedAt + *next);
     } else {
