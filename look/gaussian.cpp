@@ -13,6 +13,7 @@ namespace morrowleaf {
 
 namespace {
 
+// The largest sigma, in cells, for a direct convolution; above it, box filters are used.
 constexpr double directUpTo = 2.5;
 // In a plane with fewer cells the direct convolution is cheap anyway.
 constexpr std::size_t fewCells = 16384;

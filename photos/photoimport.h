@@ -45,7 +45,7 @@ private:
 
     QThreadPool& workers_;
     std::deque<Request> requests_; // the first one is in progress
-    std::shared_ptr<std::mutex> copying_ = std::make_shared<std::mutex>(); // held by the worker
+    std::shared_ptr<std::mutex> copying_ = std::make_shared<std::mutex>(); // held during a copy
     Job job_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "base/curves.h"
 #include "textanim/letters.h"
+#include "textanim/motion.h"
 #include "textanim/pentrace.h"
 #include "textanim/textlayout.h"
 
@@ -153,7 +154,7 @@ GlyphPath glyphPath(const QString& text, const TextFont& font) {
 }
 
 PenProgress penProgress(double seconds) {
-    const double since = seconds > 0 ? seconds : 0;
+    const double since = sinceStart(seconds);
     return {.traced = easeInEaseOut(since / traceDuration),
             .ink = std::clamp((since - inkStart) / inkDuration, 0.0, 1.0)};
 }

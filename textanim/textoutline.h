@@ -18,7 +18,6 @@ class QPainter;
 namespace morrowleaf {
 
 struct TextLayout;
-struct TextRow;
 
 // A glyph that is a picture (an emoji) and has no outline.
 struct GlyphPicture {
