@@ -78,8 +78,8 @@ keeps() {
     must "$what" stored "$@" || cat "$work/stored.last"
 }
 
-# use_theme_of DESKTOP: what starts from now on believes to run on that desktop;
-# the empty name is that of no desktop.
+# use_theme_of DESKTOP: sets the name of the desktop for programs that start from
+# now on; an empty name unsets it
 use_theme_of() {
     unset XDG_CURRENT_DESKTOP
     [ -z "$1" ] || export XDG_CURRENT_DESKTOP=$1
