@@ -136,6 +136,7 @@ TEST_F(QuoteScreens, AsksForNoFramesOnceAStillScreenIsFinished) {
     EXPECT_TRUE(screen->isAnimating());
     settle(*screen);
     const int frames = screen->frames;
+    store.set(K::frequency, u"6h"_s); // a setting that the screen does not show
     QTest::qWait(200);
     EXPECT_EQ(screen->frames, frames);
     EXPECT_FALSE(screen->isAnimating());
