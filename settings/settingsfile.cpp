@@ -82,6 +82,7 @@ bool SettingsFile::flush(std::chrono::milliseconds limit) {
         return true;
     }
     const QDeadlineTimer deadline(limit);
+    worker_->hurry();
     auto flushed = ask(worker_, [worker = worker_, deadline] { return worker->flush(deadline); });
     return flushed.wait_for(limit + 100ms) == std::future_status::ready && flushed.get();
 }

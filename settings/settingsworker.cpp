@@ -42,17 +42,6 @@ void runOnce(QTimer& timer, milliseconds after) {
     timer.start(after);
 }
 
-// Tries to take the lock until the deadline. The caller goes on without it if that fails:
-// the holder may be stopped, or the folder may not support locks.
-void acquire(QLockFile& lock, milliseconds patience) {
-    lock.setStaleLockTime(int(lockIsStale.count()));
-    const QDeadlineTimer deadline(patience);
-    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError &&
-           !deadline.hasExpired()) {
-        std::this_thread::sleep_for(3ms);
-    }
-}
-
 } // namespace
 
 QString lockPathOf(const QString& path) {
@@ -185,6 +174,20 @@ void SettingsWorker::writeSoon() {
     }
 }
 
+// Tries to take the lock until the deadline. The caller goes on without it if that fails:
+// the holder may be stopped, or the folder may not support locks.
+void SettingsWorker::acquire(QLockFile& lock, milliseconds patience) const {
+    lock.setStaleLockTime(int(lockIsStale.count()));
+    QDeadlineTimer deadline(patience);
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError &&
+           !deadline.hasExpired()) {
+        if (hurry_ && deadline.remainingTime() > lockPatienceAtEnd.count()) {
+            deadline.setRemainingTime(lockPatienceAtEnd);
+        }
+        std::this_thread::sleep_for(3ms);
+    }
+}
+
 bool SettingsWorker::write(milliseconds patience) {
     writing_.stop();
     retrying_.stop();
@@ -270,6 +273,7 @@ void SettingsWorker::takeOwnership() {
 }
 
 bool SettingsWorker::flush(QDeadlineTimer deadline) {
+    hurry_ = false;
     while (!outstanding_.isEmpty() &&
            !write(std::min(lockPatienceAtEnd, milliseconds(deadline.remainingTime() * 2 / 3)))) {
         if (!grace_ || grace_->until.hasExpired() || deadline.hasExpired()) {

@@ -19,6 +19,8 @@
 #include <memory>
 #include <optional>
 
+class QLockFile;
+
 namespace morrowleaf {
 
 class SettingsWatch;
@@ -54,6 +56,9 @@ public:
 
     // Writes the outstanding changes. Returns whether all of them are in the file.
     [[nodiscard]] bool flush(QDeadlineTimer deadline);
+    // Shortens a wait for the lock that is in progress. Call it before flush(), which can
+    // only begin after that wait. Any thread.
+    void hurry() { hurry_ = true; }
 
     // The number of the last of the owner's changes that is in the file. Any thread.
     quint64 written() const { return written_; }
@@ -85,6 +90,7 @@ private:
     void reportSnapshot();
 
     void writeSoon();
+    void acquire(QLockFile& lock, std::chrono::milliseconds patience) const;
     bool write(std::chrono::milliseconds lockPatience);
     Merged merge();
     void takeOwnership();
@@ -97,6 +103,7 @@ private:
     QMap<QString, QJsonValue> outstanding_;    // the owner's changes not yet in the file
     quint64 lastChange_ = 0;
     std::atomic<quint64> written_ = 0;
+    std::atomic<bool> hurry_ = false; // a flush has been requested
     QString keptFileName_;
     bool begun_ = false; // the values of the file, or its absence, are in effect
 

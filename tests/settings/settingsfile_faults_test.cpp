@@ -306,6 +306,27 @@ TEST_F(SettingsFileTest, GoesOnWithoutAStuckLock) {
     EXPECT_TRUE(lock.tryLock(5s / 1ms)); // a dead process holds no lock
 }
 
+TEST_F(SettingsFileTest, QuitsWithinASecondWhileItWaitsForAStuckLock) {
+    write("{}");
+    QProcess holder;
+    holder.start(settingsWriter(), {path, u"hold"_s});
+    ASSERT_TRUE(holder.waitForReadyRead(20'000));
+    ASSERT_EQ(holder.readAllStandardOutput(), "held\n");
+    QElapsedTimer since;
+    {
+        SettingsFile file(store, path);
+        store.set(u"x"_s, 1);
+        spend(300ms); // long enough for the write to begin
+        store.set(u"y"_s, 2);
+        since.start();
+        EXPECT_TRUE(file.flush()); // as the application does when it quits
+    }
+    EXPECT_LE(since.elapsed(), 1500); // two waits of 0.4 s
+    EXPECT_EQ(json(), QJsonObject({{u"x"_s, 1}, {u"y"_s, 2}}));
+    holder.kill();
+    holder.waitForFinished();
+}
+
 TEST_F(SettingsFileTest, TwoProcessesKeepEachOthersChanges) {
     SettingsFile file(store, path);
     QProcess one;
