@@ -7,6 +7,7 @@
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -206,6 +207,27 @@ TEST_F(PortalTest, CancelledWhenThePortalVanishes) {
     ASSERT_TRUE(dialogOpens());
     portal.reset();
     EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+}
+
+TEST_F(PortalTest, AsksNoPortalThatReplacesTheOneAsked) {
+    const QString name = u"org.freedesktop.portal.Desktop"_s;
+    using Names = QDBusConnectionInterface;
+    ASSERT_TRUE(portal->service.bus.interface()
+                    ->registerService(name, Names::DontQueueService, Names::AllowReplacement)
+                    .isValid());
+    ask();
+    ASSERT_TRUE(dialogOpens());
+    FakePortal next;
+    ASSERT_TRUE(next.service.bus.interface()
+                    ->registerService(name, Names::ReplaceExistingService)
+                    .isValid());
+    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+    // A call to the next portal would be on its way by now; both replies come after it.
+    bus.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                            u"org.freedesktop.DBus"_s, u"GetId"_s));
+    next.service.waitForBus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(next.dialog.path, QString());
 }
 
 TEST_F(PortalTest, UnavailableWithoutAPortal) {

@@ -111,6 +111,9 @@ public:
 
 private:
     void openFile() {
+        if (finished_) {
+            return; // another portal has taken the place of the one that was asked
+        }
         // The path is agreed upon by the token: the answer may be faster than
         // the return of the call.
         const QString sender = bus_.baseService().mid(1).replace('.'_L1, '_'_L1);
