@@ -14,19 +14,15 @@
 
 namespace morrowleaf {
 
-namespace {
-
-// The state that both threads share.
-struct Link {
-    std::stop_source stop;
-    std::mutex mutex;
-    QObject* receiver = nullptr; // null once the job is gone
-};
-
-} // namespace
-
 // The part of a job that stays on the thread that started it.
 struct Job::Delivery {
+    // The state that both threads share.
+    struct Link {
+        std::stop_source stop;
+        std::mutex mutex;
+        QObject* receiver = nullptr; // null once the job is gone
+    };
+
     explicit Delivery(std::function<void()> whenDone)
         : done(std::move(whenDone)) {
         link->receiver = &receiver;

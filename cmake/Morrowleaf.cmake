@@ -29,6 +29,11 @@ add_library(morrowleaf_options INTERFACE)
 target_include_directories(morrowleaf_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(morrowleaf_options INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic -Wconversion>)
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  # GCC warns of anonymous namespaces in every file but the one that it was given.
+  target_compile_options(morrowleaf_options INTERFACE
+    $<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
+endif()
 target_compile_definitions(morrowleaf_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_FROM_BYTEARRAY
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH)

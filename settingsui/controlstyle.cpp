@@ -26,11 +26,6 @@ constexpr int shortestThumb = 28;
 constexpr QSize smallTrack(30, 17);
 constexpr QSize regularTrack(38, 22);
 
-QColor withOpacity(QColor color, double opacity) {
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
-}
-
 // The position of the value in its range, from 0 to 1.
 double fractionOf(const QStyleOptionSlider& option) {
     const double range = option.maximum - option.minimum;
@@ -134,6 +129,11 @@ void drawSwitch(QPainter& painter, const QStyleOptionButton& option, const QSize
 }
 
 } // namespace
+
+QColor withOpacity(QColor color, double opacity) {
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
 
 ControlStyle::ControlStyle(SwitchSize switchSize)
     : QProxyStyle(u"Fusion"_s)

@@ -3,12 +3,16 @@
 
 #pragma once
 
+#include <QColor>
 #include <QProxyStyle>
 
 class QCheckBox;
 class QPushButton;
 
 namespace morrowleaf {
+
+// `color` with its opacity replaced by `opacity`, 0 to 1.
+QColor withOpacity(QColor color, double opacity);
 
 // Draws the controls of the appearance editor: buttons, sliders, vertical scroll bars,
 // and check boxes as switches. The colours are those of the panel, except that a switch

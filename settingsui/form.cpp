@@ -21,11 +21,6 @@ constexpr int sideRoom = 14; // points inside the frame
 constexpr int rowHeight = 40;
 constexpr double radius = 8;
 
-QColor withOpacity(QColor color, double opacity) {
-    color.setAlphaF(float(opacity));
-    return color;
-}
-
 // A label in its parent's text colour at a lower opacity.
 class QuietLabel : public QLabel {
 public:
