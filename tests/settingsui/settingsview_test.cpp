@@ -1,112 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/loginitem.h"
-#include "settings/prefs.h"
-#include "settings/settingsstore.h"
-#include "settings/settingstable.h"
-#include "settingsui/form.h"
-#include "settingsui/menuactions.h"
-#include "settingsui/settingsview.h"
-#include "sources/sourcepresets.h"
+#include "tests/settingsui/settingsviewfixture.h"
 
-#include <QAccessible>
-#include <QCheckBox>
+#include "sources/sourcepresets.h"
+#include "tools/sourcepath.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
+#include <QFontDatabase>
 #include <QMenu>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QSlider>
-#include <QTest>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace morrowleaf {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
-
-class FakeLogin : public LoginItem {
-public:
-    Status status() const override { return current; }
-    std::optional<QString> registerItem() override { return change(Status::Enabled); }
-    std::optional<QString> unregisterItem() override { return change(Status::NotRegistered); }
-
-    Status current = Status::NotRegistered;
-    bool refuses = false;
-    int calls = 0;
-
-private:
-    std::optional<QString> change(Status wanted) {
-        ++calls;
-        if (refuses) {
-            return u"no"_s;
-        }
-        current = wanted;
-        return std::nullopt;
-    }
-};
-
-class SettingsViewTest : public ::testing::Test {
-protected:
-    SettingsViewTest() { registerAppDefaults(store); }
-
-    SettingsView& view() {
-        if (!view_) {
-            view_ = std::make_unique<SettingsView>(
-                store,
-                [this](const QString& source, auto done) {
-                    asked.append(source);
-                    answer = std::move(done);
-                },
-                login, actions);
-            view_->show();
-        }
-        return *view_;
-    }
-    QPushButton* button(const QString& text) {
-        for (auto* found : view().findChildren<QPushButton*>()) {
-            if (found->text() == text) {
-                return found;
-            }
-        }
-        return nullptr;
-    }
-    template <typename T>
-    T* only() {
-        const auto found = view().findChildren<T*>();
-        EXPECT_EQ(found.size(), 1);
-        return found.value(0);
-    }
-    QCheckBox* switchNamed(const QString& text) {
-        for (auto* found : view().findChildren<QCheckBox*>()) {
-            if (found->text() == text) {
-                return found;
-            }
-        }
-        return nullptr;
-    }
-    bool shows_(const QString& text) {
-        for (const auto* label : view().findChildren<QLabel*>()) {
-            if (label->text() == text && label->isVisible()) {
-                return true;
-            }
-        }
-        return false;
-    }
-    void click(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
-
-    SettingsStore store;
-    FakeLogin login;
-    QStringList asked;
-    std::function<void(std::optional<Quote>)> answer;
-    MenuActions actions;
-
-private:
-    std::unique_ptr<SettingsView> view_;
-};
 
 TEST_F(SettingsViewTest, HasAFixedSizeAndTheTexts) {
     EXPECT_EQ(view().size(), QSize(520, 545));
@@ -263,59 +174,6 @@ TEST_F(SettingsViewTest, PresetsSetTheSource) {
     EXPECT_EQ(store.text(K::source), QString());
 }
 
-TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
-    store.set(K::source, u"/somewhere"_s);
-    auto* test = button(u"Test"_s);
-    click(test);
-    EXPECT_EQ(asked, QStringList{u"/somewhere"_s});
-    EXPECT_EQ(test->text(), u"Testing…"_s);
-    EXPECT_FALSE(test->isEnabled());
-    click(test);
-    EXPECT_EQ(asked.size(), 1);
-
-    answer(Quote{u"One <b>word</b>"_s, u"Nobody"_s});
-    EXPECT_EQ(test->text(), u"Test"_s);
-    EXPECT_TRUE(test->isEnabled());
-    EXPECT_TRUE(shows_(u"“One <b>word</b>” — Nobody"_s));
-    EXPECT_FALSE(store.value(K::cachedText).has_value());
-
-    click(test);
-    EXPECT_FALSE(shows_(u"“One <b>word</b>” — Nobody"_s));
-    answer(std::nullopt);
-    EXPECT_TRUE(shows_(u"No quote found at that source."_s));
-    EXPECT_EQ(store.text(K::source), u"/somewhere"_s);
-}
-
-TEST_F(SettingsViewTest, AWordWithoutEndDoesNotWidenTheForm) {
-    view().test();
-    answer(Quote{QString(3000, u'W'), u"Nobody"_s});
-    QCoreApplication::processEvents();
-    for (const auto* card : view().findChildren<FormCard*>()) {
-        EXPECT_LT(card->mapTo(&view(), QPoint(card->width(), 0)).x(), view().width());
-    }
-}
-
-TEST_F(SettingsViewTest, TheKeyboardWaitsWhileATestRuns) {
-    view().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view(), 60'000));
-    auto* test = button(u"Test"_s);
-    test->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
-    EXPECT_EQ(asked.size(), 1);
-    const QSignalSpy shows(&actions.showQuote, &QAction::triggered);
-    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
-    EXPECT_EQ(shows.count(), 0);
-    answer(std::nullopt);
-    EXPECT_TRUE(test->hasFocus());
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(test)->text(QAccessible::Description),
-              u"No quote found at that source."_s);
-
-    QTest::keyClick(view().windowHandle(), Qt::Key_Space);
-    only<QLineEdit>()->setFocus();
-    answer(std::nullopt);
-    EXPECT_TRUE(only<QLineEdit>()->hasFocus());
-}
-
 TEST_F(SettingsViewTest, SectionsAreNamedGroups) {
     QStringList names;
     for (auto* card : view().findChildren<FormCard*>()) {
@@ -324,14 +182,6 @@ TEST_F(SettingsViewTest, SectionsAreNamedGroups) {
         names.append(face->text(QAccessible::Name));
     }
     EXPECT_EQ(names, QStringList({u"Appearance"_s, u"Behaviour"_s, u"Quotes"_s}));
-}
-
-TEST_F(SettingsViewTest, ResultSurvivesHiding) {
-    view().test();
-    answer(std::nullopt);
-    view().hide();
-    view().show();
-    EXPECT_TRUE(shows_(u"No quote found at that source."_s));
 }
 
 TEST_F(SettingsViewTest, LoginSwitchFollowsTheSystemWhenMade) {

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/settingsui/inspectorfixture.h"
+
+namespace morrowleaf {
+namespace {
+
+TEST_F(InspectorTest, PhotoSwatchesShowTheirPicturesAtTheDevicesPixels) {
+    panel();
+    EXPECT_TRUE(await([&] {
+        const auto all = photoSwatches();
+        return std::all_of(all.begin(), all.end(), [](auto* s) { return s->hasPicture(); });
+    }));
+}
+
+TEST_F(InspectorTest, AnUnreadablePhotoIsAPlainTileThatCanBeMarked) {
+    listOwn({u"/missing.jpg"_s});
+    store.set(K::bgImage, u"/missing.jpg"_s);
+    panel();
+    EXPECT_TRUE(photoSwatches().last()->isMarked());
+    EXPECT_FALSE(photoSwatches().last()->hasPicture());
+}
+
+TEST_F(InspectorTest, AddTileGoesWithTheThirdOwnPhoto) {
+    EXPECT_EQ(panel().findChildren<AddTile*>().size(), 1);
+    EXPECT_EQ(panel().findChild<AddTile*>()->toolTip(),
+              u"Add one of your own images, up to three"_s);
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 0);
+    listOwn({u"/1"_s, u"/2"_s, u"/3"_s});
+    EXPECT_EQ(panel().findChildren<AddTile*>().size(), 0);
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 3);
+    press(panel().findChildren<RemoveButton*>().last());
+    EXPECT_EQ(Prefs::customBGs(store), QStringList({u"/1"_s, u"/2"_s}));
+    EXPECT_EQ(panel().findChildren<AddTile*>().size(), 1);
+    EXPECT_TRUE(panel().findChild<AddTile*>()->isVisible());
+}
+
+TEST_F(InspectorTest, TheKeyboardStaysWhereAPhotoWasRemoved) {
+    listOwn({u"/1"_s, u"/2"_s, u"/3"_s});
+    panel().findChildren<RemoveButton*>()[1]->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_EQ(Prefs::customBGs(store), QStringList({u"/1"_s, u"/3"_s}));
+    EXPECT_EQ(window().focusWidget(), photoSwatches().last());
+    EXPECT_EQ(photoSwatches().last()->path(), u"/3"_s);
+    key(Qt::Key_Tab);
+    key(Qt::Key_Space);
+    EXPECT_EQ(window().focusWidget(), panel().findChild<AddTile*>());
+    named<PanelSlider>(u"Size"_s)->setFocus(Qt::TabFocusReason);
+    listOwn({});
+    EXPECT_TRUE(named<PanelSlider>(u"Size"_s)->hasFocus());
+}
+
+TEST_F(InspectorTest, RemovingTheChosenPhotoDeletesItAndTheChoice) {
+    const QString own = picture(u"own.png"_s);
+    listOwn({own});
+    store.set(K::bgImage, own);
+    store.set(K::palette, 1);
+    press(panel().findChild<RemoveButton*>());
+    EXPECT_FALSE(QFile::exists(own));
+    EXPECT_EQ(Prefs::bgImage(store), QString());
+    EXPECT_EQ(marked(), QStringList{Palette::all()[1].name});
+}
+
+TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
+    press(panel().findChild<AddTile*>());
+    press(panel().findChild<AddTile*>());
+    EXPECT_EQ(files.asked, 1);
+    pick(picture(u"new.png"_s));
+    ASSERT_TRUE(await([&] { return !Prefs::bgImage(store).isEmpty(); }));
+    EXPECT_EQ(Prefs::customBGs(store), QStringList{Prefs::bgImage(store)});
+    EXPECT_TRUE(photoSwatches().last()->isMarked());
+    EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
+}
+
+TEST_F(InspectorTest, OddNamesOfPhotosAreNoHindrance) {
+    const QStringList names{u"\u05de\u05d5\u05e8\u05d9\u05d3 \u202e right to left.png"_s,
+                            QString(80, QChar(0x4e2d)) + ".png"_L1, u"50% & <b>bold<b>\n#?.png"_s};
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        press(panel().findChild<AddTile*>());
+        pick(picture(names[i]));
+        ASSERT_TRUE(await([&] { return Prefs::customBGs(store).size() == i + 1; }));
+        ASSERT_TRUE(await([&] { return photoSwatches().last()->isMarked(); }));
+        EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
+        EXPECT_EQ(photoSwatches().last()->accessibleName(), u"Your photo %1"_s.arg(i + 1));
+    }
+}
+
+TEST_F(InspectorTest, ManyStoredPhotosAreAllListed) {
+    QStringList paths;
+    for (int i = 0; i < 500; ++i) {
+        paths.append(u"/missing/%1.jpg"_s.arg(i));
+    }
+    listOwn(paths);
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 500);
+    EXPECT_EQ(panel().findChildren<AddTile*>().size(), 0);
+    listOwn({});
+    EXPECT_EQ(photoSwatches().size(), photos.builtins().size());
+}
+
+TEST_F(InspectorTest, ACancelledOrRefusedPhotoChangesNothing) {
+    press(panel().findChild<AddTile*>());
+    files.answer({.kind = FileAnswer::Kind::Cancelled, .path = {}});
+    press(panel().findChild<AddTile*>());
+    EXPECT_EQ(files.asked, 2);
+    QSignalSpy changes(&store, &SettingsStore::changed);
+    pick(u"/etc/passwd"_s);
+    press(panel().findChild<AddTile*>());
+    QTest::qWait(50);
+    EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(InspectorTest, AnnouncesADialogBeforeItOpensAndAfterItHasGone) {
+    QStringList order;
+    QObject::connect(&panel(), &Inspector::dialogOpening, &panel(), [&] {
+        EXPECT_EQ(files.asked, 0);
+        order.append(u"opening"_s);
+    });
+    QObject::connect(&panel(), &Inspector::dialogClosed, &panel(),
+                     [&] { order.append(u"closed"_s); });
+    press(panel().findChild<AddTile*>());
+    EXPECT_EQ(order, QStringList{u"opening"_s});
+    pick(u"/etc/passwd"_s);
+    EXPECT_EQ(order, QStringList({u"opening"_s, u"closed"_s}));
+}
+
+} // namespace
+} // namespace morrowleaf
