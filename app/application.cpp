@@ -24,8 +24,11 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+#include <thread>
 #include <utility>
 
 namespace morrowleaf {
@@ -37,6 +40,16 @@ using namespace Qt::Literals::StringLiterals;
 constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 constexpr int requestPatience = 1500; // milliseconds
+constexpr std::chrono::milliseconds endLimit{800};
+
+// Ends the process if its orderly end takes longer: a destructor in a library may wait for
+// a bus or a display server that does not answer. The settings are in their file before.
+void endWithin(std::chrono::milliseconds limit, int status) {
+    std::thread([limit, status] {
+        std::this_thread::sleep_for(limit);
+        std::_Exit(status);
+    }).detach();
+}
 
 // Runs a mode that prints one line and needs no display.
 void runLineMode(int& argc, char** argv, Mode mode) {
@@ -131,7 +144,9 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
     QObject::connect(&delegate, &AppDelegate::showingEnded, &app, &releaseFreeMemory,
                      Qt::QueuedConnection);
     launch(delegate, *platform.instance, arguments);
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    endWithin(endLimit, status);
+    return status;
 }
 
 // Runs until the user quits, or passes the arguments to the instance that is already
@@ -187,7 +202,9 @@ int runApplication(int argc, char** argv) {
     int programName = argc > 0 ? 1 : 0;
     const Mode mode = modeFor(arguments);
     if (mode == Mode::Desktop) {
-        return runOnDesktop(programName, argv, arguments);
+        const int status = runOnDesktop(programName, argv, arguments);
+        // A thread that still connects to a bus would meet destroyed objects of QtDBus.
+        std::_Exit(status);
     }
     runLineMode(programName, argv, mode);
     return 0;

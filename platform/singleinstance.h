@@ -22,9 +22,9 @@ public:
     using QObject::QObject;
 
     // Returns true if this process is the instance from now on, and also if that cannot be
-    // determined. Returns false if another process is: it has received `request` or does
-    // not answer, and this process should end. Call once, at launch; blocks for some
-    // seconds if the other instance answers slowly.
+    // determined; that takes no time. Returns false if another process is: it has received
+    // `request` or does not answer, and this process should end. Call once, at launch; runs
+    // an event loop of its own for up to 5 s while the other instance does not answer.
     [[nodiscard]] virtual bool claim(const LaunchRequest& request) = 0;
 
 signals:

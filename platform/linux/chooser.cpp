@@ -4,6 +4,7 @@
 #include "platform/chooser.h"
 
 #include "platform/linux/autostart.h"
+#include "platform/linux/dbus/busprobe.h"
 #include "platform/linux/dbus/portals.h"
 #include "platform/linux/desktopparts.h"
 #include "platform/linux/wayland/waylandconnection.h"
@@ -22,6 +23,9 @@ namespace morrowleaf {
 
 namespace {
 
+// A bus answers within a millisecond or two.
+constexpr int busPatience = 50; // milliseconds
+
 // Without an address libdbus would start a bus of its own, which no other program uses
 // and which outlives this one. Set the usual address instead; a bus may appear there
 // later.
@@ -31,6 +35,17 @@ void avoidStartingABus() {
     if (qEnvironmentVariableIsEmpty(address) && !folder.isEmpty()) {
         qputenv(address, "unix:path=" + QFile::encodeName(folder) + "/bus");
     }
+}
+
+// Qt, its themes and its input methods connect to the session bus on the main thread, the
+// first of them before the application object is complete. While the bus does not answer,
+// the program does without them: until it is started again it has no screen reader, no
+// input method and the plain theme. Everything else follows when the bus answers.
+void keepToolkitFromBus() {
+    qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+    qputenv("XDG_CURRENT_DESKTOP", "unknown");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    qunsetenv("QT_IM_MODULE");
 }
 
 // Gives large blocks, mostly pictures, pages of their own, which are unmapped when the
@@ -45,7 +60,11 @@ void unmapLargeBlocks() {
 
 WindowSystem chooseWindowSystem() {
     avoidStartingABus();
+    BusProbe bus(busAddress(QDBusConnection::SessionBus));
     const wayland::Session session = wayland::probeSession();
+    if (bus.wait(busPatience) == BusProbe::Answer::None) {
+        keepToolkitFromBus();
+    }
     const WindowSystemChoice choice =
         chooseFor({.forced = qgetenv("MORROWLEAF_PLATFORM"),
                    .qtPlatform = qgetenv("QT_QPA_PLATFORM"),
@@ -83,12 +102,13 @@ Platform makePlatform(WindowSystem system) {
     }
     unmapLargeBlocks();
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
-    platform.colorScheme = std::make_unique<PortalColorScheme>();
-    platform.fileChooser = std::make_unique<PortalFileChooser>();
-    platform.sessionEvents = makeDesktopSession();
-    platform.trayHost = makeDesktopTray(x11);
+    const auto session = std::make_shared<BusLink>(QDBusConnection::SessionBus);
+    platform.colorScheme = std::make_unique<PortalColorScheme>(session);
+    platform.fileChooser = std::make_unique<PortalFileChooser>(session);
+    platform.sessionEvents = makeDesktopSession(session);
+    platform.trayHost = makeDesktopTray(session, x11);
     platform.loginItem = makeLoginItem();
-    platform.instance = makeDesktopInstance();
+    platform.instance = makeDesktopInstance(session);
     if (x11) {
         platform.mainScreen = makeX11MainScreen();
         platform.overlays = makeX11Overlays(system == WindowSystem::Xwayland);

@@ -3,12 +3,14 @@
 
 #include "platform/linux/desktopparts.h"
 
-#include "platform/linux/dbus/businstance.h"
+#include "platform/linux/dbus/buschannel.h"
 #include "platform/linux/dbus/notifierhost.h"
 #include "platform/linux/x11/x11parts.h"
-#include "platform/shared/socketinstance.h"
+#include "platform/shared/socketchannel.h"
 
 #include <QStandardPaths>
+
+#include <utility>
 
 namespace morrowleaf {
 
@@ -16,8 +18,9 @@ namespace {
 
 class EitherTray final : public TrayHost {
 public:
-    EitherTray()
-        : x11_(makeX11Tray()) {
+    explicit EitherTray(std::shared_ptr<const BusLink> session)
+        : notifier_(std::move(session))
+        , x11_(makeX11Tray()) {
         connect(&notifier_, &TrayHost::appeared, this, &TrayHost::appeared);
         connect(x11_.get(), &TrayHost::appeared, this, &TrayHost::appeared);
     }
@@ -30,19 +33,21 @@ private:
 
 } // namespace
 
-std::unique_ptr<TrayHost> makeDesktopTray(bool x11) {
+std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11) {
     if (x11) {
-        return std::make_unique<EitherTray>();
+        return std::make_unique<EitherTray>(std::move(session));
     }
-    return std::make_unique<NotifierHost>();
+    return std::make_unique<NotifierHost>(std::move(session));
 }
 
-std::unique_ptr<SingleInstance> makeDesktopInstance() {
-    if (QDBusConnection::sessionBus().isConnected()) {
-        return std::make_unique<BusInstance>();
+std::unique_ptr<SingleInstance> makeDesktopInstance(std::shared_ptr<BusLink> session) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    LockedInstance::Channels channels;
+    if (!folder.isEmpty()) {
+        channels.push_back(std::make_unique<SocketChannel>(folder));
     }
-    return std::make_unique<SocketInstance>(
-        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    channels.push_back(std::make_unique<BusChannel>(std::move(session)));
+    return std::make_unique<LockedInstance>(folder, std::move(channels));
 }
 
 } // namespace morrowleaf

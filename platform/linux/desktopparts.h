@@ -11,18 +11,22 @@
 
 namespace morrowleaf {
 
-// The parts of a desktop that combine D-Bus, X11 and the kernel. Main thread.
+class BusLink;
+
+// The parts of a desktop that combine D-Bus, X11 and the kernel. All share one connection
+// to the session bus, which the last of them opens: once the program has its name there,
+// it has also subscribed to everything. Main thread.
 
 // Sleep and session changes come from the login manager, locking also from the screen
 // savers, monitors from Qt and the X server, and requests to quit from UNIX signals.
-std::unique_ptr<SessionEvents> makeDesktopSession();
+std::unique_ptr<SessionEvents> makeDesktopSession(std::shared_ptr<const BusLink> session);
 
 // A tray is present if a status notifier host is on the session bus or, with `x11`, a
 // system tray is on the X server.
-std::unique_ptr<TrayHost> makeDesktopTray(bool x11);
+std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11);
 
-// Uses a name on the session bus or, without a bus, a socket in the user's runtime
-// folder.
-std::unique_ptr<SingleInstance> makeDesktopInstance();
+// Uses a lock in the user's runtime folder; later launches reach the instance through a
+// socket beside it or by its name on the session bus. Opens `session` when it is claimed.
+std::unique_ptr<SingleInstance> makeDesktopInstance(std::shared_ptr<BusLink> session);
 
 } // namespace morrowleaf

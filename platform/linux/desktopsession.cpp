@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace morrowleaf {
 
@@ -37,9 +38,9 @@ bool hasScreen() {
 
 class DesktopSession final : public SessionEvents {
 public:
-    DesktopSession()
+    explicit DesktopSession(std::shared_ptr<const BusLink> session)
         : logind_(gate_)
-        , screenSavers_(gate_) {
+        , screenSavers_(gate_, std::move(session)) {
         connect(&gate_, &SessionGate::delivered, this, &DesktopSession::announce);
         connect(&gate_, &SessionGate::leaving, this, &SessionEvents::willLeave);
         connect(&signals_, &UnixSignals::quitRequested, this, &SessionEvents::quitRequested);
@@ -98,8 +99,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<SessionEvents> makeDesktopSession() {
-    return std::make_unique<DesktopSession>();
+std::unique_ptr<SessionEvents> makeDesktopSession(std::shared_ptr<const BusLink> session) {
+    return std::make_unique<DesktopSession>(std::move(session));
 }
 
 } // namespace morrowleaf

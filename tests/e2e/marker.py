@@ -10,11 +10,19 @@ thread can answer that its object lacks a method; the second such answer shows
 that it has run its event loop since and so has sent its requests to the display.
 """
 import os
+import time
 
 import dbus
 
 NAME = "org.morrowleaf.Morrowleaf"
 PATH = "/org/morrowleaf/Morrowleaf"
+
+
+def wait_for(condition):
+    """The program connects to the buses while it shows its first window already."""
+    end = time.monotonic() + 30
+    while not condition() and time.monotonic() < end:
+        time.sleep(0.02)
 
 
 def daemon_of(bus):
@@ -23,13 +31,17 @@ def daemon_of(bus):
 
 
 def ping(bus, pid):
+    """Returns whether the program has a connection to the bus."""
     daemon = daemon_of(bus)
+    found = False
     for name in daemon.ListNames():
         try:
             if name.startswith(":") and daemon.GetConnectionUnixProcessID(name) == pid:
                 bus.call_blocking(name, "/", "org.freedesktop.DBus.Peer", "Ping", "", ())
+                found = True
         except dbus.DBusException:
             pass  # the connection has left the bus meanwhile
+    return found
 
 
 def reach_main_thread(bus):
@@ -42,10 +54,14 @@ def reach_main_thread(bus):
 
 def main():
     session = dbus.SessionBus()
+    wait_for(lambda: session.name_has_owner(NAME))
     pid = daemon_of(session).GetConnectionUnixProcessID(NAME)
     if os.path.exists(os.environ["DBUS_SYSTEM_BUS_ADDRESS"].partition("path=")[2]):
         try:
-            ping(dbus.SystemBus(), pid)
+            system = dbus.SystemBus()
+            wait_for(lambda: ping(system, pid))
+            reach_main_thread(session)  # which subscribes once it is connected
+            ping(system, pid)
         except dbus.DBusException:
             pass  # a bus that has ended leaves its socket behind
     ping(session, pid)

@@ -5,6 +5,9 @@
 
 #include "tests/platform/privatebus.h"
 
+#include <QElapsedTimer>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QSignalSpy>
 
 namespace morrowleaf {
@@ -12,25 +15,28 @@ namespace {
 
 class BusLinkTest : public testing::Test {
 protected:
+    bool isUp(int times) {
+        return becomesTrue([&] { return ups.size() == times; }) && link.bus().isConnected();
+    }
+
     PrivateBus daemon;
     BusLink link{QDBusConnection::SessionBus};
     QSignalSpy ups{&link, &BusLink::up};
 };
 
-TEST_F(BusLinkTest, ConnectsAtOnce) {
+TEST_F(BusLinkTest, Connects) {
     link.open();
-    EXPECT_EQ(ups.size(), 1);
-    EXPECT_TRUE(link.bus().isConnected());
+    EXPECT_TRUE(isUp(1));
 }
 
 TEST_F(BusLinkTest, ConnectsAgainWhenTheBusComesBack) {
     link.open();
+    EXPECT_TRUE(isUp(1));
     for (int restarts = 1; restarts <= 2; ++restarts) {
         daemon.stop();
         EXPECT_TRUE(becomesTrue([this] { return !link.bus().isConnected(); }));
         daemon.start();
-        EXPECT_TRUE(becomesTrue([&] { return ups.size() == 1 + restarts; }));
-        EXPECT_TRUE(link.bus().isConnected());
+        EXPECT_TRUE(isUp(1 + restarts));
     }
 }
 
@@ -40,8 +46,71 @@ TEST_F(BusLinkTest, WaitsForABusThatIsNotThereYet) {
     EXPECT_EQ(ups.size(), 0);
     EXPECT_FALSE(link.bus().isConnected());
     daemon.start();
-    EXPECT_TRUE(becomesTrue([this] { return ups.size() == 1; }));
-    EXPECT_TRUE(link.bus().isConnected());
+    EXPECT_TRUE(isUp(1));
+}
+
+TEST_F(BusLinkTest, ConnectsOnceAStoppedBusGoesOn) {
+    daemon.pause();
+    QElapsedTimer waited;
+    waited.start();
+    link.open();
+    EXPECT_LT(waited.elapsed(), 2'000) << "libdbus waits for 25 seconds";
+    EXPECT_FALSE(link.bus().isConnected());
+    daemon.resume();
+    EXPECT_TRUE(isUp(1));
+}
+
+TEST_F(BusLinkTest, ABusThatHangsHindersNoOther) {
+    daemon.pause();
+    link.open();
+    QTemporaryDir folder;
+    const QString address = "unix:path="_L1 + folder.filePath(u"other"_s);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address.toUtf8());
+    BusLink other(QDBusConnection::SystemBus);
+    QSignalSpy otherUps(&other, &BusLink::up);
+    QProcess second;
+    second.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--nopidfile"_s,
+                                    u"--print-address"_s, u"--address="_s + address});
+    ASSERT_TRUE(second.waitForReadyRead());
+    other.open();
+    EXPECT_TRUE(becomesTrue([&] { return otherUps.size() == 1; }));
+    EXPECT_EQ(ups.size(), 0);
+    second.terminate();
+    second.waitForFinished();
+}
+
+TEST_F(BusLinkTest, TriesABusAgainThatClosesTheConnection) {
+    daemon.stop();
+    QLocalServer closing;
+    ASSERT_TRUE(closing.listen(busSocket(busAddress(QDBusConnection::SessionBus))));
+    int connections = 0;
+    QObject::connect(&closing, &QLocalServer::newConnection, &closing, [&] {
+        ++connections;
+        closing.nextPendingConnection()->abort();
+    });
+    link.open();
+    EXPECT_TRUE(becomesTrue([&] { return connections == 2; }));
+    closing.close();
+    daemon.start();
+    EXPECT_TRUE(isUp(1));
+}
+
+TEST(BusProbeTest, SeesWhetherSomebodyAnswers) {
+    PrivateBus daemon;
+    const QString address = busAddress(QDBusConnection::SessionBus);
+    EXPECT_EQ(BusProbe(address).wait(30'000), BusProbe::Answer::Some);
+    daemon.pause();
+    EXPECT_EQ(BusProbe(address).wait(1), BusProbe::Answer::None);
+    daemon.resume();
+    EXPECT_EQ(BusProbe(address + ",guid=0"_L1).wait(30'000), BusProbe::Answer::Some);
+    daemon.stop();
+    EXPECT_EQ(BusProbe(address).wait(30'000), BusProbe::Answer::Missing);
+}
+
+TEST(BusProbeTest, LeavesOtherAddressesToTheLibrary) {
+    EXPECT_EQ(BusProbe(u"tcp:host=localhost,port=1"_s).wait(0), BusProbe::Answer::Some);
+    EXPECT_EQ(BusProbe(u"unix:abstract=/morrowleaf/nobody"_s).wait(0), BusProbe::Answer::Missing);
+    EXPECT_EQ(busSocket(u"unix:path=/a%20b,guid=1;unix:path=/c"_s), u"/a b"_s);
 }
 
 } // namespace

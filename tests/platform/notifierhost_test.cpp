@@ -46,8 +46,10 @@ private:
 class NotifierHostTest : public testing::Test {
 protected:
     void start() {
-        host = std::make_unique<NotifierHost>();
+        const auto session = sessionLink();
+        host = std::make_unique<NotifierHost>(session);
         appearances = std::make_unique<QSignalSpy>(host.get(), &TrayHost::appeared);
+        session->open();
     }
     bool appears() {
         return becomesTrue([this] { return appearances->size() == 1; }) && host->isPresent();

@@ -145,15 +145,20 @@ protected:
         return becomesTrue([this] { return answer.has_value(); }) && answer->kind == kind;
     }
 
+    void openSession() {
+        session->open();
+        EXPECT_TRUE(becomesTrue([this] { return session->bus().isConnected(); }));
+    }
     PrivateBus daemon;
-    QDBusConnection bus = PrivateBus::connect();
+    std::shared_ptr<BusLink> session = sessionLink();
     std::unique_ptr<FakePortal> portal = std::make_unique<FakePortal>();
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
-    PortalFileChooser chooser{bus};
+    PortalFileChooser chooser{session};
     std::optional<FileAnswer> answer;
 };
 
 TEST_F(PortalTest, AsksForOneFileOfTheGivenTypes) {
+    openSession();
     portal->registerName();
     ask();
     ASSERT_TRUE(dialogOpens());
@@ -165,6 +170,7 @@ TEST_F(PortalTest, AsksForOneFileOfTheGivenTypes) {
 }
 
 TEST_F(PortalTest, GivesTheChosenFile) {
+    openSession();
     portal->registerName();
     ask();
     ASSERT_TRUE(dialogOpens());
@@ -175,6 +181,7 @@ TEST_F(PortalTest, GivesTheChosenFile) {
 }
 
 TEST_F(PortalTest, FollowsAPortalThatChoosesThePathItself) {
+    openSession();
     portal->choosesPath = true;
     portal->registerName();
     ask();
@@ -188,6 +195,7 @@ TEST_F(PortalTest, FollowsAPortalThatChoosesThePathItself) {
 }
 
 TEST_F(PortalTest, CancelledByTheUserOrWithoutALocalFile) {
+    openSession();
     portal->registerName();
     ask();
     ASSERT_TRUE(dialogOpens());
@@ -202,6 +210,7 @@ TEST_F(PortalTest, CancelledByTheUserOrWithoutALocalFile) {
 }
 
 TEST_F(PortalTest, CancelledWhenThePortalVanishes) {
+    openSession();
     portal->registerName();
     ask();
     ASSERT_TRUE(dialogOpens());
@@ -210,6 +219,7 @@ TEST_F(PortalTest, CancelledWhenThePortalVanishes) {
 }
 
 TEST_F(PortalTest, AsksNoPortalThatReplacesTheOneAsked) {
+    openSession();
     const QString name = u"org.freedesktop.portal.Desktop"_s;
     using Names = QDBusConnectionInterface;
     ASSERT_TRUE(portal->service.bus.interface()
@@ -223,19 +233,21 @@ TEST_F(PortalTest, AsksNoPortalThatReplacesTheOneAsked) {
                     .isValid());
     EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
     // A call to the next portal would be on its way by now; both replies come after it.
-    bus.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
-                                            u"org.freedesktop.DBus"_s, u"GetId"_s));
+    session->bus().call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                                       u"org.freedesktop.DBus"_s, u"GetId"_s));
     next.service.waitForBus();
     QCoreApplication::processEvents();
     EXPECT_EQ(next.dialog.path, QString());
 }
 
 TEST_F(PortalTest, UnavailableWithoutAPortal) {
+    openSession();
     ask();
     EXPECT_TRUE(isAnswered(FileAnswer::Kind::Unavailable));
 }
 
 TEST_F(PortalTest, UnavailableWhereThePortalRefuses) {
+    openSession();
     portal->refuses = true;
     portal->registerName();
     ask();
@@ -243,13 +255,15 @@ TEST_F(PortalTest, UnavailableWhereThePortalRefuses) {
 }
 
 TEST_F(PortalTest, UnavailableWithoutABus) {
+    openSession();
     daemon.stop();
-    EXPECT_TRUE(becomesTrue([this] { return !bus.isConnected(); }));
+    EXPECT_TRUE(becomesTrue([this] { return !session->bus().isConnected(); }));
     ask();
     EXPECT_TRUE(isAnswered(FileAnswer::Kind::Unavailable));
 }
 
 TEST_F(PortalTest, ClosesTheDialogWithItsWindow) {
+    openSession();
     portal->registerName();
     ask();
     ASSERT_TRUE(dialogOpens());
@@ -261,14 +275,16 @@ TEST_F(PortalTest, ClosesTheDialogWithItsWindow) {
 TEST_F(PortalTest, ReadsTheColorScheme) {
     portal->scheme = 1;
     portal->registerName();
-    const PortalColorScheme scheme(bus);
+    const PortalColorScheme scheme(session);
+    openSession();
     EXPECT_EQ(scheme.preference(), ColorPreference::None);
     EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Dark; }));
 }
 
 TEST_F(PortalTest, FollowsTheColorScheme) {
     portal->registerName();
-    PortalColorScheme scheme(bus);
+    PortalColorScheme scheme(session);
+    openSession();
     QList<ColorPreference> changes;
     QObject::connect(&scheme, &ColorScheme::changed, &scheme,
                      [&](ColorPreference preference) { changes << preference; });
@@ -284,9 +300,24 @@ TEST_F(PortalTest, FollowsTheColorScheme) {
               (QList{ColorPreference::Dark, ColorPreference::Light, ColorPreference::None}));
 }
 
+TEST_F(PortalTest, AsksAgainOnABusThatComesBack) {
+    portal->scheme = 1;
+    portal->registerName();
+    const PortalColorScheme scheme(session);
+    openSession();
+    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Dark; }));
+    daemon.stop();
+    daemon.start();
+    portal = std::make_unique<FakePortal>();
+    portal->scheme = 2;
+    portal->registerName();
+    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Light; }));
+}
+
 TEST_F(PortalTest, AsksAPortalThatStartsLater) {
-    const PortalColorScheme withoutPortal(bus);
-    const PortalColorScheme withoutBus{QDBusConnection(u"not connected"_s)};
+    const PortalColorScheme withoutPortal(session);
+    const PortalColorScheme withoutBus(sessionLink());
+    openSession();
     portal->registerName();
     portal->scheme = 2;
     EXPECT_TRUE(becomesTrue([&] { return withoutPortal.preference() == ColorPreference::Light; }));

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/linux/dbus/buslink.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QFile>
@@ -13,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <memory>
 
 namespace morrowleaf {
 
@@ -71,6 +74,11 @@ private:
 
     QProcess daemon_;
 };
+
+// The program's connection to the session bus, not open yet.
+inline std::shared_ptr<BusLink> sessionLink() {
+    return std::make_shared<BusLink>(QDBusConnection::SessionBus);
+}
 
 // A connection that owns a well-known name and sends signals.
 class FakeService {

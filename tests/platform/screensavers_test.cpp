@@ -31,6 +31,7 @@ protected:
         QObject::connect(&gate, &SessionGate::delivered, &gate,
                          [this](Event event) { delivered.push_back(event); });
         QObject::connect(&gate, &SessionGate::leaving, &gate, [this] { ++leavings; });
+        session->open();
         EXPECT_TRUE(becomesTrue([this] {
             setActive(true);
             return leavings == 1;
@@ -45,7 +46,8 @@ protected:
     SessionGate gate;
     Events delivered;
     int leavings = 0;
-    ScreenSavers savers{gate};
+    std::shared_ptr<BusLink> session = sessionLink();
+    ScreenSavers savers{gate, session};
 };
 
 TEST_P(ScreenSaversTest, InhibitsWhileActiveAndUnlocksAtTheEnd) {

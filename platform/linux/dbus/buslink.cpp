@@ -4,79 +4,127 @@
 #include "platform/linux/dbus/buslink.h"
 
 #include <QFileInfo>
-#include <QStandardPaths>
+#include <QThread>
 #include <QUuid>
+
+#include <algorithm>
 
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int settleTime = 100; // milliseconds from a change of the folder to the next attempt
-
-// The path of the socket of a bus; empty where the address does not begin with
-// "unix:path=".
-QString socketOf(QDBusConnection::BusType type) {
-    const bool system = type == QDBusConnection::SystemBus;
-    const QString address =
-        qEnvironmentVariable(system ? "DBUS_SYSTEM_BUS_ADDRESS" : "DBUS_SESSION_BUS_ADDRESS");
-    const auto prefix = "unix:path="_L1;
-    if (address.startsWith(prefix)) {
-        return address.section(u',', 0, 0).mid(prefix.size());
-    }
-    if (!address.isEmpty()) {
-        return {};
-    }
-    return system ? u"/run/dbus/system_bus_socket"_s
-                  : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/bus"_L1;
-}
+constexpr auto settleTime = 100ms; // from a change of the folder to the next attempt
+constexpr std::chrono::milliseconds firstRetry = 1s;
+constexpr std::chrono::milliseconds lastRetry = 5min;
 
 } // namespace
 
 BusLink::BusLink(QDBusConnection::BusType type, QObject* parent)
     : QObject(parent)
-    , type_(type)
-    , socket_(socketOf(type)) {
-    settle_.setSingleShot(true);
-    settle_.setInterval(settleTime);
-    connect(&settle_, &QTimer::timeout, this, &BusLink::open);
-    connect(&watcher_, &QFileSystemWatcher::directoryChanged, &settle_,
-            qOverload<>(&QTimer::start));
+    , address_(busAddress(type))
+    , bus_(QString())
+    , retryAfter_(firstRetry) {
+    retry_.setSingleShot(true);
+    connect(&retry_, &QTimer::timeout, this, &BusLink::probe);
+    connect(&watcher_, &QFileSystemWatcher::directoryChanged, &retry_,
+            [this] { retry_.start(settleTime); });
 }
 
 BusLink::~BusLink() {
-    QDBusConnection::disconnectFromBus(name_);
+    answered_.reset();
+    QDBusConnection::disconnectFromBus(bus_.name());
 }
 
 void BusLink::open() {
-    if (!name_.isEmpty()) {
-        QDBusConnection::disconnectFromBus(name_);
+    if (!isOpen_) {
+        isOpen_ = true;
+        probe();
     }
-    // Qt never reconnects under the same name.
-    name_ = u"morrowleaf-"_s + QUuid::createUuid().toString(QUuid::Id128);
-    QDBusConnection bus = QDBusConnection::connectToBus(type_, name_);
-    if (!bus.isConnected()) {
-        watchForSocket();
+}
+
+void BusLink::probe() {
+    if (isConnecting_ || bus_.isConnected()) {
         return;
     }
+    answered_.reset();
+    probe_ = std::make_unique<BusProbe>(address_);
+    if (probe_->descriptor() >= 0) {
+        answered_ = std::make_unique<QSocketNotifier>(probe_->descriptor(), QSocketNotifier::Read);
+        // Queued, because the slot destroys the notifier.
+        connect(answered_.get(), &QSocketNotifier::activated, this, &BusLink::readAnswer,
+                Qt::QueuedConnection);
+    }
+    readAnswer();
+}
+
+void BusLink::readAnswer() {
+    const auto answer = probe_ ? probe_->answer() : BusProbe::Answer::None;
+    if (!probe_ || (answer == BusProbe::Answer::None && answered_)) {
+        return;
+    }
+    answered_.reset();
+    probe_.reset();
+    switch (answer) {
+    case BusProbe::Answer::Some:
+        connectToBus();
+        break;
+    case BusProbe::Answer::Missing:
+        watchForSocket();
+        break;
+    case BusProbe::Answer::None:
+    case BusProbe::Answer::Closed:
+        tryLater();
+        break;
+    }
+}
+
+void BusLink::connectToBus() {
+    isConnecting_ = true;
+    QDBusConnection::disconnectFromBus(bus_.name());
+    // Qt never reconnects under the same name.
+    const QString name = u"morrowleaf-"_s + QUuid::createUuid().toString(QUuid::Id128);
+    QThread* thread = QThread::create(
+        [name, address = address_] { QDBusConnection::connectToBus(address, name); });
+    connect(thread, &QThread::finished, this, [this, name] { adopt(name); });
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    thread->start();
+}
+
+void BusLink::adopt(const QString& name) {
+    isConnecting_ = false;
+    bus_ = QDBusConnection(name);
+    // libdbus sends this signal itself, within the process.
+    bus_.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                 u"Disconnected"_s, this, SLOT(wentDown()));
+    if (!bus_.isConnected()) {
+        tryLater();
+        return;
+    }
+    retryAfter_ = firstRetry;
     if (!watcher_.directories().isEmpty()) {
         watcher_.removePaths(watcher_.directories());
     }
-    // libdbus sends this signal itself, within the process.
-    bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
-                u"Disconnected"_s, this, SLOT(wentDown()));
     emit up();
 }
 
 void BusLink::wentDown() {
     watchForSocket();
-    settle_.start();
+    retry_.start(settleTime);
+}
+
+void BusLink::tryLater() {
+    watchForSocket();
+    retry_.start(retryAfter_);
+    retryAfter_ = std::min(retryAfter_ * 2, lastRetry);
 }
 
 void BusLink::watchForSocket() {
-    if (!socket_.isEmpty()) {
-        watcher_.addPath(QFileInfo(socket_).absolutePath());
+    const QString socket = busSocket(address_);
+    if (!socket.isEmpty()) {
+        watcher_.addPath(QFileInfo(socket).absolutePath());
     }
 }
 

@@ -3,15 +3,24 @@
 
 #pragma once
 
+#include "platform/linux/dbus/busprobe.h"
+
 #include <QDBusConnection>
 #include <QFileSystemWatcher>
 #include <QObject>
+#include <QSocketNotifier>
 #include <QTimer>
+
+#include <chrono>
+#include <memory>
 
 namespace morrowleaf {
 
-// A connection to a message bus that is made anew after the bus was gone. It
-// does not poll: it waits until the socket of the bus appears. Main thread.
+// A connection to a message bus that is made anew after the bus was gone. It never waits
+// for the bus: it connects on a thread of its own, and only to a bus that answers. It
+// does not poll either: it waits for the answer, or until the socket of the bus appears;
+// only a bus that accepts connections and closes them is tried again at growing
+// intervals. Main thread.
 class BusLink : public QObject {
     Q_OBJECT
 
@@ -19,10 +28,10 @@ public:
     explicit BusLink(QDBusConnection::BusType type, QObject* parent = nullptr);
     ~BusLink() override;
 
-    // Connects, and emits up() on success; otherwise that follows later. Blocks
-    // until the bus has answered.
+    // Begins to connect and returns at once. Does nothing while connected or connecting.
     void open();
-    QDBusConnection bus() const { return QDBusConnection(name_); }
+    // Not connected before up().
+    const QDBusConnection& bus() const { return bus_; }
 
 signals:
     void up(); // bus() is a new connection: subscribe to everything again
@@ -31,13 +40,22 @@ private slots:
     void wentDown();
 
 private:
+    void probe();
+    void readAnswer();
+    void connectToBus();
+    void adopt(const QString& name);
+    void tryLater();
     void watchForSocket();
 
-    QDBusConnection::BusType type_;
-    QString name_;
-    QString socket_;
+    QString address_;
+    QDBusConnection bus_;
+    bool isOpen_ = false;       // up, or trying to be
+    bool isConnecting_ = false; // a thread is connecting
+    std::unique_ptr<BusProbe> probe_;
+    std::unique_ptr<QSocketNotifier> answered_;
     QFileSystemWatcher watcher_;
-    QTimer settle_;
+    QTimer retry_;
+    std::chrono::milliseconds retryAfter_;
 };
 
 } // namespace morrowleaf

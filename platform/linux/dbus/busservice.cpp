@@ -3,8 +3,6 @@
 
 #include "platform/linux/dbus/busservice.h"
 
-#include "bus_interface.h"
-
 #include <QDBusMessage>
 #include <QMetaMethod>
 
@@ -12,17 +10,9 @@ namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-// Qt does not look up the owner of this one name.
-class Bus : public OrgFreedesktopDBusInterface {
-public:
-    explicit Bus(const QDBusConnection& connection)
-        : OrgFreedesktopDBusInterface(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
-                                      connection) {}
-};
-
-} // namespace
+Bus::Bus(const QDBusConnection& connection)
+    : OrgFreedesktopDBusInterface(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                  connection) {}
 
 BusService::BusService(const QString& name, QObject* parent)
     : QObject(parent)

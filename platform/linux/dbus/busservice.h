@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "bus_interface.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusPendingCallWatcher>
@@ -22,6 +24,12 @@ namespace morrowleaf {
 // - calls go through a proxy of the unique name, BusService::owner();
 // - signals come through BusSignals, a proxy without a name, and the slot
 //   compares the sender with the owner.
+
+// The bus itself. Qt does not look up the owner of this one name.
+class Bus : public OrgFreedesktopDBusInterface {
+public:
+    explicit Bus(const QDBusConnection& connection);
+};
 
 // Follows the owner of a well-known name on one bus.
 class BusService : public QObject {

@@ -6,6 +6,8 @@
 #include "bus_interface.h"
 #include "statusnotifierwatcher_interface.h"
 
+#include <utility>
+
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,31 +19,30 @@ const QString path = u"/StatusNotifierWatcher"_s;
 
 } // namespace
 
-NotifierHost::NotifierHost()
-    : link_(QDBusConnection::SessionBus)
+NotifierHost::NotifierHost(std::shared_ptr<const BusLink> session)
+    : session_(std::move(session))
     , service_(QString::fromLatin1(Watcher::staticInterfaceName())) {
-    connect(&link_, &BusLink::up, this, &NotifierHost::subscribe);
+    connect(session_.get(), &BusLink::up, this, &NotifierHost::subscribe);
     connect(&service_, &BusService::appeared, this, &NotifierHost::lookForHost);
-    link_.open();
 }
 
 void NotifierHost::subscribe() {
     present_ = false;
     subscription_ = std::make_unique<QObject>();
-    auto* watcher = new BusSignals<Watcher>(path, link_.bus(), subscription_.get());
+    auto* watcher = new BusSignals<Watcher>(path, session_->bus(), subscription_.get());
     connect(watcher, &Watcher::StatusNotifierHostRegistered, this, [this, watcher] {
         if (service_.sent(*watcher)) {
             lookForHost();
         }
     });
-    service_.follow(link_.bus());
+    service_.follow(session_->bus());
 }
 
 void NotifierHost::lookForHost() {
     if (present_) {
         return;
     }
-    OrgFreedesktopDBusPropertiesInterface properties(service_.owner(), path, link_.bus());
+    OrgFreedesktopDBusPropertiesInterface properties(service_.owner(), path, session_->bus());
     whenFinished(this,
                  properties.Get(QString::fromLatin1(Watcher::staticInterfaceName()),
                                 u"IsStatusNotifierHostRegistered"_s),

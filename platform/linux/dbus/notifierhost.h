@@ -17,14 +17,15 @@ class NotifierHost : public TrayHost {
     Q_OBJECT
 
 public:
-    NotifierHost();
+    // `session` is opened afterwards by whoever created it.
+    explicit NotifierHost(std::shared_ptr<const BusLink> session);
     bool isPresent() const override { return present_; }
 
 private:
     void subscribe();
     void lookForHost();
 
-    BusLink link_;
+    std::shared_ptr<const BusLink> session_;
     BusService service_;
     std::unique_ptr<QObject> subscription_; // of the present connection
     bool present_ = false;

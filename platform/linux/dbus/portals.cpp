@@ -183,8 +183,8 @@ private:
 
 } // namespace
 
-PortalFileChooser::PortalFileChooser(QDBusConnection bus)
-    : bus_(std::move(bus)) {
+PortalFileChooser::PortalFileChooser(std::shared_ptr<const BusLink> session)
+    : session_(std::move(session)) {
     qDBusRegisterMetaType<FileRule>();
     qDBusRegisterMetaType<QList<FileRule>>();
     qDBusRegisterMetaType<FileFilter>();
@@ -201,7 +201,7 @@ FileRequest* PortalFileChooser::ask(QWidget& window, const FileQuestion& questio
         {u"modal"_s, true},
         {u"filters"_s, QVariant::fromValue(QList<FileFilter>{filter})},
     };
-    return new PortalRequest(bus_, window, question.title, options);
+    return new PortalRequest(session_->bus(), window, question.title, options);
 }
 
 namespace {
@@ -223,26 +223,28 @@ QVariant unwrapped(const QDBusVariant& value) {
 
 } // namespace
 
-PortalColorScheme::PortalColorScheme(const QDBusConnection& bus)
-    : bus_(bus)
+PortalColorScheme::PortalColorScheme(std::shared_ptr<const BusLink> session)
+    : session_(std::move(session))
     , portal_(u"org.freedesktop.portal.Desktop"_s) {
-    if (!bus_.isConnected()) {
-        return;
-    }
-    auto* settings = new BusSignals<Settings>(path, bus_, this);
+    connect(session_.get(), &BusLink::up, this, &PortalColorScheme::subscribe);
+    connect(&portal_, &BusService::appeared, this, &PortalColorScheme::read);
+}
+
+void PortalColorScheme::subscribe() {
+    subscription_ = std::make_unique<QObject>();
+    auto* settings = new BusSignals<Settings>(path, session_->bus(), subscription_.get());
     connect(settings, &Settings::SettingChanged, this,
             [this, settings](const QString& group, const QString& key, const QDBusVariant& value) {
                 if (group == appearance && key == colorScheme && portal_.sent(*settings)) {
                     apply(value);
                 }
             });
-    connect(&portal_, &BusService::appeared, this, &PortalColorScheme::read);
-    portal_.follow(bus_);
+    portal_.follow(session_->bus());
     portal_.activate();
 }
 
 void PortalColorScheme::read() {
-    Settings settings(portal_.owner(), path, bus_);
+    Settings settings(portal_.owner(), path, session_->bus());
     whenFinished(this, settings.Read(appearance, colorScheme),
                  [this](const QDBusPendingReply<QDBusVariant>& reply) {
                      if (reply.isValid()) {

@@ -5,16 +5,16 @@
 
 #include "screensavers_interface.h"
 
+#include <utility>
+
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
-ScreenSavers::ScreenSavers(SessionGate& gate, QObject* parent)
-    : QObject(parent)
-    , gate_(gate)
-    , link_(QDBusConnection::SessionBus) {
-    connect(&link_, &BusLink::up, this, &ScreenSavers::subscribe);
-    link_.open();
+ScreenSavers::ScreenSavers(SessionGate& gate, std::shared_ptr<const BusLink> session)
+    : gate_(gate)
+    , session_(std::move(session)) {
+    connect(session_.get(), &BusLink::up, this, &ScreenSavers::subscribe);
 }
 
 void ScreenSavers::subscribe() {
@@ -26,7 +26,7 @@ void ScreenSavers::subscribe() {
     listen<OrgMateScreenSaverInterface>(u"/org/mate/ScreenSaver"_s);
     listen<OrgXfceScreenSaverInterface>(u"/org/xfce/ScreenSaver"_s);
     for (auto& [name, service] : services_) {
-        service.follow(link_.bus());
+        service.follow(session_->bus());
     }
 }
 
@@ -41,7 +41,7 @@ void ScreenSavers::listen(const QString& path) {
         connect(&service, &BusService::vanished, this,
                 [this, name] { gate_.setInhibited(name, false); });
     }
-    auto* saver = new BusSignals<Saver>(path, link_.bus(), subscriptions_.get());
+    auto* saver = new BusSignals<Saver>(path, session_->bus(), subscriptions_.get());
     connect(saver, &Saver::ActiveChanged, this, [this, name, saver, &service](bool active) {
         if (!service.sent(*saver)) {
             return;

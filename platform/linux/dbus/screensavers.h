@@ -18,7 +18,8 @@ class ScreenSavers : public QObject {
     Q_OBJECT
 
 public:
-    explicit ScreenSavers(SessionGate& gate, QObject* parent = nullptr);
+    // `session` is opened afterwards by whoever created it.
+    ScreenSavers(SessionGate& gate, std::shared_ptr<const BusLink> session);
 
 private:
     void subscribe();
@@ -26,7 +27,7 @@ private:
     void listen(const QString& path);
 
     SessionGate& gate_;
-    BusLink link_;
+    std::shared_ptr<const BusLink> session_;
     std::map<QString, BusService> services_; // by name
     std::unique_ptr<QObject> subscriptions_; // of the present connection
 };

@@ -4,9 +4,12 @@
 #pragma once
 
 #include "platform/linux/dbus/buslink.h"
-#include "platform/singleinstance.h"
+#include "platform/shared/lockedinstance.h"
 
+#include <QTimer>
 #include <QVariant>
+
+#include <memory>
 
 namespace morrowleaf {
 
@@ -29,21 +32,27 @@ signals:
     void requested(const morrowleaf::LaunchRequest& request);
 };
 
-// The instance is the process that owns the program's name on the session bus.
-class BusInstance : public SingleInstance {
+// Passes requests through the session bus, on which the instance takes the program's
+// name, also on every bus that comes back.
+class BusChannel : public RequestChannel {
     Q_OBJECT
 
 public:
-    BusInstance();
+    // Opens `session` itself.
+    explicit BusChannel(std::shared_ptr<BusLink> session);
 
-    bool claim(const LaunchRequest& request) override;
+    void serve() override;
+    void reach() override;
+    bool send(const LaunchRequest& request) override;
 
 private:
-    bool takeName();
-    bool handOver(const LaunchRequest& request);
+    void takeName();
+    void findOwner();
 
-    BusLink link_;
+    std::shared_ptr<BusLink> session_;
     BusApplication application_;
+    QString owner_; // of the name; empty in the instance
+    QTimer delay_;
 };
 
 } // namespace morrowleaf
