@@ -4,6 +4,7 @@
 #include "app/application.h"
 
 #include "app/appdelegate.h"
+#include "app/requestqueue.h"
 #include "app/resources.h"
 #include "app/selftest.h"
 #include "app/services.h"
@@ -90,11 +91,13 @@ void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
 
 // Starts with what the arguments ask for or, if the bus started the program, with the
 // request that follows at once.
-void launch(AppDelegate& delegate, SingleInstance& instance, const QStringList& arguments) {
+void launch(AppDelegate& delegate, SingleInstance& instance, RequestQueue& queue,
+            const QStringList& arguments) {
     const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
     qunsetenv(startedByBus);
     auto launched = std::make_shared<bool>(false);
-    QObject::connect(&instance, &SingleInstance::requested, &delegate,
+    QObject::connect(&instance, &SingleInstance::requested, &queue, &RequestQueue::add);
+    QObject::connect(&queue, &RequestQueue::due, &delegate,
                      [&delegate, launched](const LaunchRequest& request) {
                          if (!std::exchange(*launched, true)) {
                              delegate.prepare();
@@ -143,7 +146,8 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
     QObject::connect(&delegate, &AppDelegate::quitRequested, &app, quit);
     QObject::connect(&delegate, &AppDelegate::showingEnded, &app, &releaseFreeMemory,
                      Qt::QueuedConnection);
-    launch(delegate, *platform.instance, arguments);
+    RequestQueue queue;
+    launch(delegate, *platform.instance, queue, arguments);
     const int status = QApplication::exec();
     endWithin(endLimit, status);
     return status;
