@@ -20,6 +20,7 @@
 #include "textanim/fonts.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QThread>
 #include <QThreadPool>
 #include <QTimer>
@@ -42,6 +43,30 @@ constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
 constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 constexpr int requestPatience = 1500; // milliseconds
 constexpr std::chrono::milliseconds endLimit{800};
+
+// The toolkit reports every damaged photo and every missing glyph. Such reports appear
+// only if the user switches on a category of Qt's logging.
+bool isLoggingOn() {
+    return !qEnvironmentVariableIsEmpty("QT_LOGGING_RULES") ||
+           !qEnvironmentVariableIsEmpty("QT_LOGGING_CONF");
+}
+
+// Keeps libraries, some of which write to standard error without asking anybody, from
+// writing anything but a fatal error. Returns the stream for what the user has to know.
+std::FILE* silenceLibraries() {
+    if (isLoggingOn()) {
+        return stderr;
+    }
+    QLoggingCategory::setFilterRules(u"*=false"_s);
+    std::FILE* const diverted = divertErrorOutput();
+    static std::FILE* const errors = diverted != nullptr ? diverted : stderr;
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+        if (type == QtFatalMsg) {
+            std::fputs(qPrintable(message + u'\n'), errors);
+        }
+    });
+    return errors;
+}
 
 // Ends the process if its orderly end takes longer: a destructor in a library may wait for
 // a bus or a display server that does not answer. The settings are in their file before.
@@ -155,10 +180,10 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
 
 // Runs until the user quits, or passes the arguments to the instance that is already
 // running. Returns the exit status.
-int runOnDesktop(int& argc, char** argv, const QStringList& arguments) {
+int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE* errors) {
     const WindowSystem windowSystem = chooseWindowSystem();
     if (!isReachable(windowSystem)) {
-        std::fputs("There is no display to show anything on.\n", stderr);
+        std::fputs("There is no display to show anything on.\n", errors);
         return 1;
     }
     QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);
@@ -198,6 +223,8 @@ QString registerLogin(LoginItem& item) {
 }
 
 int runApplication(int argc, char** argv) {
+    ignoreBrokenPipes();
+    std::FILE* const errors = silenceLibraries();
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
         arguments << QString::fromLocal8Bit(argv[i]);
@@ -206,7 +233,7 @@ int runApplication(int argc, char** argv) {
     int programName = argc > 0 ? 1 : 0;
     const Mode mode = modeFor(arguments);
     if (mode == Mode::Desktop) {
-        const int status = runOnDesktop(programName, argv, arguments);
+        const int status = runOnDesktop(programName, argv, arguments, errors);
         // A thread that still connects to a bus would meet destroyed objects of QtDBus.
         std::_Exit(status);
     }

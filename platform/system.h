@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cstdio>
+
 namespace morrowleaf {
 
 // Seconds on a monotonic clock with an arbitrary origin. Where the system has such a
@@ -12,5 +14,14 @@ double uptime();
 // Returns freed heap memory to the system; does nothing if the allocator does not support
 // that. Takes a few milliseconds. Any thread.
 void releaseFreeMemory();
+
+// Makes writing to a pipe or a socket that nobody reads an error; by default it ends the
+// process. Call at the start, before there are threads.
+void ignoreBrokenPipes();
+
+// Discards what is written to standard error from now on. Returns a stream, which stays
+// open, that still writes there; null if that fails or the system has no such means, and
+// nothing is discarded then.
+[[nodiscard]] std::FILE* divertErrorOutput();
 
 } // namespace morrowleaf

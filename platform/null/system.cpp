@@ -16,6 +16,12 @@ double uptime() {
 
 void releaseFreeMemory() {}
 
+void ignoreBrokenPipes() {}
+
+std::FILE* divertErrorOutput() {
+    return nullptr;
+}
+
 // This backend does not know how much a connection has received, so it ends none.
 FloodGuard::FloodGuard() = default;
 
