@@ -182,8 +182,8 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
 // running. Returns the exit status.
 int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE* errors) {
     const WindowSystem windowSystem = chooseWindowSystem();
-    if (!isReachable(windowSystem)) {
-        std::fputs("There is no display to show anything on.\n", errors);
+    if (const auto obstacle = findObstacle(windowSystem)) {
+        std::fputs(qPrintable(*obstacle + u'\n'), errors);
         return 1;
     }
     QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);

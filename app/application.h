@@ -18,7 +18,8 @@ Mode modeFor(const QStringList& arguments);
 [[nodiscard]] QString registerLogin(LoginItem& item);
 
 // Runs the whole program in the mode that the arguments ask for. Returns the exit status:
-// 0, or 1 when the desktop mode finds no display.
+// 1 if the desktop mode has no display to show anything on, and 0 otherwise. The modes that
+// print a line return 0 even if what they tried has failed. May end the process itself.
 int runApplication(int argc, char** argv);
 
 } // namespace morrowleaf

@@ -29,16 +29,21 @@ QString resourceFolder() {
     return {};
 }
 
-QString fontFolder() {
-    return resourceFolder() + "/Fonts"_L1;
+namespace {
+
+// Without resources, "/Fonts" would lead to the root folder.
+QString subfolder(const QString& resources, QLatin1StringView name) {
+    return resources.isEmpty() ? QString() : resources + u'/' + name;
 }
 
-QString backgroundFolder() {
-    return resourceFolder() + "/Backgrounds"_L1;
+} // namespace
+
+QString fontFolder(const QString& resources) {
+    return subfolder(resources, "Fonts"_L1);
 }
 
-QString iconFolder() {
-    return resourceFolder() + "/icons"_L1;
+QString backgroundFolder(const QString& resources) {
+    return subfolder(resources, "Backgrounds"_L1);
 }
 
 } // namespace morrowleaf

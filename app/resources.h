@@ -11,8 +11,8 @@ namespace morrowleaf {
 // tree for one that was just built. Empty if there is none. Needs an application object.
 QString resourceFolder();
 
-QString fontFolder();
-QString backgroundFolder();
-QString iconFolder();
+// The folders of typefaces and photos in the folder `resources`; empty without one.
+QString fontFolder(const QString& resources = resourceFolder());
+QString backgroundFolder(const QString& resources = resourceFolder());
 
 } // namespace morrowleaf

@@ -3,8 +3,6 @@
 
 #include "app/settingswindow.h"
 
-#include "app/resources.h"
-
 #include <QIcon>
 #include <QStyle>
 #include <QTimer>
@@ -29,7 +27,7 @@ SettingsWindow::SettingsWindow(QWidget* view)
     : QMainWindow(nullptr, kind) {
     setObjectName(u"SettingsWindow"_s);
     setWindowTitle(u"Morrowleaf Settings"_s);
-    setWindowIcon(QIcon(iconFolder() + "/app-icon.svg"_L1));
+    setWindowIcon(QIcon(u":/morrowleaf/app-icon.svg"_s));
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(view);

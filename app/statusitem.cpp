@@ -3,7 +3,6 @@
 
 #include "app/statusitem.h"
 
-#include "app/resources.h"
 #include "settingsui/menuactions.h"
 
 #include <QCursor>
@@ -33,7 +32,7 @@ constexpr std::array sizes{Size{16, "quote-sym-16.svg"_L1}, Size{22, "quote-sym-
                            Size{128, "quote-sym-16.svg"_L1}};
 
 QPixmap drawSymbol(const Size& size, const QColor& colour) {
-    QSvgRenderer drawing(iconFolder() + u'/' + size.drawing);
+    QSvgRenderer drawing(":/morrowleaf/"_L1 + size.drawing);
     if (!drawing.isValid()) {
         return {};
     }
@@ -46,7 +45,7 @@ QPixmap drawSymbol(const Size& size, const QColor& colour) {
     return pixmap;
 }
 
-// The symbol in one colour; null if its files are missing.
+// The symbol in one colour.
 QIcon symbolIn(const QColor& colour) {
     QIcon icon;
     for (const Size& size : sizes) {

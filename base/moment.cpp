@@ -4,8 +4,9 @@
 #include "base/moment.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
+#include <ctime>
+#include <tuple>
 
 namespace morrowleaf {
 
@@ -20,9 +21,11 @@ constexpr double lastSecond = 9.2e15;
 } // namespace
 
 Moment Moment::now() {
-    const std::chrono::duration<double> sinceEpoch =
-        std::chrono::system_clock::now().time_since_epoch();
-    return {sinceEpoch.count(), QTimeZone::systemTimeZone()};
+    // A count of nanoseconds, as the clocks of std::chrono have it, ends in 2262.
+    std::timespec time{};
+    std::ignore = std::timespec_get(&time, TIME_UTC);
+    return {static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9,
+            QTimeZone::systemTimeZone()};
 }
 
 QDateTime Moment::local() const {

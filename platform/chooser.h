@@ -5,6 +5,11 @@
 
 #include "platform/platform.h"
 
+#include <QString>
+
+#include <memory>
+#include <optional>
+
 namespace morrowleaf {
 
 // How windows are shown. The values belong to the backend; other rooms only pass them on.
@@ -14,9 +19,10 @@ enum class WindowSystem : int;
 // before the application object is created.
 WindowSystem chooseWindowSystem();
 
-// Whether the display server of `system` can be reached. Call before the
-// application object is created: without a server Qt aborts the process.
-bool isReachable(WindowSystem system);
+// Why nothing can be shown on the display of `system`, as a sentence for the user;
+// std::nullopt if there is no obstacle. Call before the application object is created:
+// without a server Qt aborts the process.
+[[nodiscard]] std::optional<QString> findObstacle(WindowSystem system);
 
 // Creates all parts. Call after the application object was created.
 Platform makePlatform(WindowSystem system);

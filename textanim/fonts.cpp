@@ -170,6 +170,9 @@ QString eitherName(const QByteArray& table, quint16 first, quint16 second) {
 } // namespace
 
 void FontBook::registerBundledFonts(const QString& folder) {
+    if (folder.isEmpty()) {
+        return; // QDir would take the working directory
+    }
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Readable);
     for (const QFileInfo& file : files) {
         const QString suffix = file.suffix().toLower();

@@ -29,7 +29,8 @@ struct TextFont {
 class FontBook {
 public:
     // Registers every .ttf and .otf file of the folder, in any case of the
-    // extension; unreadable files and a missing folder are skipped.
+    // extension; unreadable files and a missing folder are skipped,
+    // as is an empty path.
     void registerBundledFonts(const QString& folder);
 
     // std::nullopt when no registered face has that PostScript name. `size` is in

@@ -21,7 +21,12 @@
 
 namespace morrowleaf {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
+// Qt draws nothing on a screen with a palette of colours.
+constexpr int leastDepth = 15; // bits of a pixel
 
 // A bus answers within a millisecond or two.
 constexpr int busPatience = 50; // milliseconds
@@ -81,18 +86,32 @@ WindowSystem chooseWindowSystem() {
     return choice.system;
 }
 
-bool isReachable(WindowSystem system) {
+std::optional<QString> findObstacle(WindowSystem system) {
+    const auto noDisplay = u"There is no display to show anything on."_s;
     switch (system) {
     case WindowSystem::X11:
-    case WindowSystem::Xwayland:
-        return x11::isServerReachable();
+    case WindowSystem::Xwayland: {
+        const int depth = x11::screenDepth();
+        if (depth == 0) {
+            return noDisplay;
+        }
+        if (depth < leastDepth) {
+            return u"The display has too few colours: it needs %1 bits, and has %2."_s
+                .arg(leastDepth)
+                .arg(depth);
+        }
+        break;
+    }
     case WindowSystem::Layer:
     case WindowSystem::Wayland:
-        return wayland::probeSession().isReachable;
+        if (!wayland::probeSession().isReachable) {
+            return noDisplay;
+        }
+        break;
     case WindowSystem::Null:
         break;
     }
-    return true;
+    return std::nullopt;
 }
 
 Platform makePlatform(WindowSystem system) {

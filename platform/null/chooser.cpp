@@ -13,8 +13,8 @@ WindowSystem chooseWindowSystem() {
     return WindowSystem::Null;
 }
 
-bool isReachable(WindowSystem /*system*/) {
-    return true;
+std::optional<QString> findObstacle(WindowSystem /*system*/) {
+    return std::nullopt;
 }
 
 Platform makePlatform(WindowSystem /*system*/) {

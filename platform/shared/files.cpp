@@ -25,8 +25,10 @@ namespace {
 constexpr mode_t ownFile = S_IRUSR | S_IWUSR;
 constexpr mode_t ownFolder = S_IRWXU;
 
+// Wraps around after the year 2262; the values are only compared for equality.
 qint64 nanoseconds(const timespec& time) {
-    return static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    return static_cast<qint64>(static_cast<quint64>(time.tv_sec) * 1'000'000'000 +
+                               static_cast<quint64>(time.tv_nsec));
 }
 
 FileMark markOf(const struct stat& found) {

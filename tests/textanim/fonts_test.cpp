@@ -4,6 +4,7 @@
 #include "textanim/fonts.h"
 #include "tools/sourcepath.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRawFont>
 #include <QTemporaryDir>
@@ -71,6 +72,15 @@ TEST(FontBook, SkipsOtherFilesAndBrokenFonts) {
 TEST(FontBook, IgnoresAMissingFolder) {
     FontBook book;
     book.registerBundledFonts(u"/nowhere/Fonts"_s);
+    EXPECT_FALSE(book.named(u"Nunito-Regular"_s, 10));
+}
+
+TEST(FontBook, AnEmptyPathIsNotTheWorkingDirectory) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(shipped));
+    FontBook book;
+    book.registerBundledFonts(QString());
+    QDir::setCurrent(before);
     EXPECT_FALSE(book.named(u"Nunito-Regular"_s, 10));
 }
 

@@ -9,11 +9,19 @@
 
 namespace morrowleaf::x11 {
 
-bool isServerReachable() {
-    auto* c = xcb_connect(nullptr, nullptr);
-    const bool isReachable = xcb_connection_has_error(c) == 0;
+int screenDepth() {
+    int number = 0;
+    auto* c = xcb_connect(nullptr, &number);
+    int depth = 0;
+    if (xcb_connection_has_error(c) == 0) {
+        auto screens = xcb_setup_roots_iterator(xcb_get_setup(c));
+        for (; number > 0 && screens.rem > 1; --number) {
+            xcb_screen_next(&screens);
+        }
+        depth = screens.data->root_depth;
+    }
     xcb_disconnect(c);
-    return isReachable;
+    return depth;
 }
 
 xcb_connection_t* connection() {

@@ -20,9 +20,9 @@ struct Free {
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
 
-// Whether the server that DISPLAY names accepts a connection. Needs no
-// application object.
-bool isServerReachable();
+// The bits of a pixel on the screen that DISPLAY names; 0 if its server does not accept a
+// connection. Needs no application object.
+int screenDepth();
 
 // The connection of Qt's application object; null if that does not use X11. All functions
 // below require a connection. Main thread.
