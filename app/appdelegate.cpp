@@ -159,9 +159,17 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
     auto* inspector = new Inspector(services_.store, services_.photos,
                                     *services_.platform.fileChooser, setup, &screen);
     connect(inspector, &Inspector::done, this, [this] { dismiss(true); });
-    // A dialog can come in front of the window only while the window is lowered.
-    connect(inspector, &Inspector::dialogOpening, &overlay,
-            [&overlay] { overlay.setLevel(WindowLevel::Normal); });
+    // A dialog can come in front of our windows only while they are lowered. It closes
+    // with the inspector, if the showing ends first.
+    connect(inspector, &Inspector::dialogOpening, &overlay, [this, inspector, &overlay] {
+        if (SettingsWindow* settings = settingsWindow_.get()) {
+            const auto rise = &SettingsWindow::riseAboveOrdinaryWindows;
+            settings->joinOrdinaryWindows();
+            connect(inspector, &Inspector::dialogClosed, settings, rise, Qt::UniqueConnection);
+            connect(inspector, &QObject::destroyed, settings, rise, Qt::UniqueConnection);
+        }
+        overlay.setLevel(WindowLevel::Normal);
+    });
     connect(inspector, &Inspector::dialogClosed, &overlay,
             [&overlay] { overlay.setLevel(WindowLevel::ScreenSaver); });
     screen.setInspector(inspector);

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QStyle>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -50,6 +51,19 @@ void SettingsWindow::bringToFront() {
     show();
     raise();
     activateWindow();
+}
+
+// Set on the QWindow, because a change of the widget's flags hides the widget.
+void SettingsWindow::joinOrdinaryWindows() {
+    if (QWindow* handle = windowHandle()) {
+        handle->setFlag(Qt::WindowStaysOnTopHint, false);
+    }
+}
+
+void SettingsWindow::riseAboveOrdinaryWindows() {
+    if (QWindow* handle = windowHandle()) {
+        handle->setFlag(Qt::WindowStaysOnTopHint);
+    }
 }
 
 void SettingsWindow::paintEvent(QPaintEvent* event) {

@@ -23,6 +23,11 @@ public:
     // Restores the window if it is minimized, raises it and activates it.
     void bringToFront();
 
+    // Gives up the place above ordinary windows, so that a dialog of another program can
+    // come in front, and takes it again. Without effect until the window is first shown.
+    void joinOrdinaryWindows();
+    void riseAboveOrdinaryWindows();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "settingsui/swatch.h"
 #include "tests/app/appdelegatefixture.h"
 
 #include <QAccessible>
 #include <QCheckBox>
 #include <QPointer>
+#include <QWindow>
 
 namespace morrowleaf {
 namespace {
@@ -248,6 +250,28 @@ TEST_F(AppDelegateTest, SettingsWindowIsMadeOnceAndKept) {
     EXPECT_EQ(window->findChild<QLineEdit*>()->text(), u"kept"_s);
     EXPECT_EQ(window->findChildren<SettingsView*>(), QList{view});
     EXPECT_EQ(quits.count(), 0);
+}
+
+TEST_F(AppDelegateTest, SettingsWindowGivesWayToADialogWhileItIsOpen) {
+    launchAndClose();
+    delegate->openSettings();
+    const QWindow* handle = delegate->settingsWindow()->windowHandle();
+    const auto standsAbove = [handle] {
+        return handle->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    delegate->editAppearance();
+    editor()->findChild<AddTile*>()->click();
+    EXPECT_FALSE(standsAbove());
+    EXPECT_TRUE(handle->isVisible());
+    desktop.files->answer({.kind = FileAnswer::Kind::Cancelled, .path = {}});
+    EXPECT_TRUE(standsAbove());
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    editor()->findChild<AddTile*>()->click();
+    EXPECT_FALSE(standsAbove());
+    delegate->dismiss(false);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(standsAbove());
 }
 
 TEST_F(AppDelegateTest, SettingsWindowComesBackOutOfAnIcon) {

@@ -58,7 +58,19 @@ check "for one picture" grep -q "multiple=False png=True text=False" "$work/port
 check "with no parent, since no manager knows the window" grep -q "parent=''" "$work/portal.log"
 settle
 check "no dialog of the toolkit is there" not xdotool search --onlyvisible --name '^Add a Photo$'
+# The portal's dialog is an ordinary window of another program.
+in_sight() {
+    shot dialog
+    [ "$(convert "$work/dialog.png" -crop 340x240+130+480 -fill black +opaque '#a0a0ff' \
+        -fill white -opaque '#a0a0ff' -format '%[fx:mean>0.99]' info:)" = 1 ]
+}
+stays_above() { xprop -id "$(window)" _NET_WM_STATE | grep -q ABOVE; }
+put_window Theirs '#a0a0ff' 100 450 400 300
+must "its window is in front of the settings" in_sight
+must "and has the keyboard" focus_is Theirs
+stop "$last"
 portal answer 1
+must "then the settings stay above ordinary windows again" stays_above
 settle
 check "a cancelled dialog changes nothing" not grep -q backgrounds "$file"
 check "and the editor is still there" is_shown
