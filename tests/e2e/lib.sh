@@ -8,17 +8,49 @@
 # pictures.
 set -u
 
+# Nothing of the desktop that this machine may have reaches a session: no
+# variable of it, no service that a bus could start, no theme and no typeface
+# beyond those in packaging/apt-*.txt. With E2E_DESKTOP set, the machine's portal,
+# input method and platform theme are on instead.
+while read -r name; do
+    unset "$name"
+done < <(compgen -e | grep -E '^(XDG|QT|GTK|GDK|GIO|GNOME|KDE|DESKTOP|IBUS|WAYLAND|SWAY|WLR|AT_SPI)')
+unset DISPLAY XAUTHORITY DBUS_SESSION_BUS_ADDRESS SESSION_MANAGER XMODIFIERS XCOMPOSEFILE LANGUAGE
+
 work=$(mktemp -d)
 chmod 755 "$work"
 pids=()
 failures=0
 export HOME=$work/home XDG_RUNTIME_DIR=$work/run
-export XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share
-export XDG_CACHE_HOME=$HOME/.cache XDG_DATA_DIRS=/usr/local/share:/usr/share
+export XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share XDG_CACHE_HOME=$HOME/.cache
 mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
-unset DISPLAY WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS XDG_SESSION_ID XDG_CURRENT_DESKTOP
-unset XDG_SESSION_TYPE QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR SESSION_MANAGER
+
+# The window managers look for their own files in these folders.
+export XDG_DATA_DIRS=$work/share XDG_CONFIG_DIRS=$work/xdg
+mkdir -p "$XDG_DATA_DIRS/themes" "$XDG_CONFIG_DIRS"
+ln -s /usr/share/themes/{Clearlooks,Default} "$XDG_DATA_DIRS/themes"
+ln -s /etc/xdg/{openbox,xfce4} "$XDG_CONFIG_DIRS"
+export FONTCONFIG_FILE=$work/fonts.conf
+cat >"$FONTCONFIG_FILE" <<'EOF'
+<!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig>
+<dir>/usr/share/fonts/truetype/dejavu</dir><dir>/usr/share/fonts/truetype/noto</dir>
+<include>/usr/share/fontconfig/conf.avail/45-generic.conf</include>
+<include>/usr/share/fontconfig/conf.avail/45-latin.conf</include>
+<include>/usr/share/fontconfig/conf.avail/49-sansserif.conf</include>
+<include>/usr/share/fontconfig/conf.avail/60-generic.conf</include>
+<include>/usr/share/fontconfig/conf.avail/60-latin.conf</include>
+<cachedir>/var/cache/fontconfig</cachedir><cachedir prefix="xdg">fontconfig</cachedir>
+</fontconfig>
+EOF
+export QT_IM_MODULE=compose QT_QPA_PLATFORMTHEME=generic QT_STYLE_OVERRIDE=Fusion
+if [ -n "${E2E_DESKTOP:-}" ]; then
+    unset FONTCONFIG_FILE QT_STYLE_OVERRIDE
+    export XDG_DATA_DIRS=/usr/local/share:/usr/share XDG_CONFIG_DIRS=/etc/xdg
+    export XDG_CURRENT_DESKTOP=GNOME QT_QPA_PLATFORMTHEME=gtk3
+    export QT_IM_MODULE=ibus GTK_IM_MODULE=ibus XMODIFIERS=@im=ibus
+fi
 # Keeps the tests away from the machine's own bus.
 export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/no-system-bus
 export NO_AT_BRIDGE=1 LC_ALL=C.UTF-8
@@ -127,10 +159,28 @@ outlast_throttle() {
 }
 
 start_session_bus() {
-    start bus dbus-daemon --session --nofork --nopidfile --address="unix:path=$work/run/bus"
+    local config=/usr/share/dbus-1/session.conf
+    if [ -z "${E2E_DESKTOP:-}" ]; then
+        config=$work/session.conf
+        cat >"$config" <<EOF
+<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig><type>session</type><auth>EXTERNAL</auth><listen>unix:path=$work/run/bus</listen>
+<servicedir>$XDG_DATA_HOME/dbus-1/services</servicedir>
+<policy context="default"><allow send_destination="*" eavesdrop="true"/>
+<allow eavesdrop="true"/><allow own="*"/></policy>
+<limit name="service_start_timeout">120000</limit></busconfig>
+EOF
+    fi
+    start bus dbus-daemon --config-file="$config" --nofork --nopidfile \
+        --address="unix:path=$work/run/bus"
     bus_pid=$last
     until_true 60 test -S "$work/run/bus" || die "no session bus"
     export DBUS_SESSION_BUS_ADDRESS=unix:path=$work/run/bus
+    if [ -n "${E2E_DESKTOP:-}" ]; then
+        start ibus ibus-daemon --panel disable
+        until_true 60 ibus engine xkb:us::eng || die "no input method"
+    fi
 }
 
 start_system_bus() {

@@ -10,6 +10,7 @@ here=$(dirname "$0")
 
 host() { /usr/bin/python3 "$here/notifierhost.py" "$@"; }
 start_host() {
+    rm -f "$work/host.log" # of an earlier host
     start host /usr/bin/python3 "$here/notifierhost.py" serve
     host_pid=$last
     until_true 60 grep -q serving "$work/host.log" || die "no tray host"
