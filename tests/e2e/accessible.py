@@ -30,7 +30,12 @@ def program():
     desktop = Atspi.get_desktop(0)
     for index in range(desktop.get_child_count()):
         application = desktop.get_child_at_index(index)
-        if application is not None and application.get_name().lower() == "morrowleaf":
+        # A theme that uses another toolkit registers the program again, without windows.
+        if (
+            application is not None
+            and application.get_name().lower() == "morrowleaf"
+            and application.get_child_count() > 0
+        ):
             return application
     sys.exit("the program is not there")
 
