@@ -4,12 +4,14 @@
 
 # Runs the program through one whole showing on a private virtual screen, with
 # a window manager, a compositor, a session bus and a home of its own, and
-# leaves pictures of it.
-#   showing.sh PROGRAM FOLDER
+# leaves pictures of it. The program's clock advances only from picture to picture,
+# so that the pictures show the same instants on any machine.
+#   showing.sh PROGRAM CLOCK FOLDER     CLOCK is the library of steppedclock.cpp
 set -euo pipefail
 
 program=$1
-folder=$2
+clock=$2
+folder=$3
 work=$(mktemp -d)
 pids=()
 
@@ -74,41 +76,65 @@ until_true 20 drawn || die "The compositor does not start."
 
 window() { xdotool search --onlyvisible --class '^morrowleaf$'; }
 gone() { ! window; }
-# An uncompressed picture is soon taken.
-shot() { import -silent -window root "$work/$1.ppm"; }
-brightness() { convert "$work/$1.ppm" -resize '1x1!' -format '%[fx:int(mean*1000)]' info:; }
-differs() { shot now && [ "$(brightness now)" != "$desktop" ]; }
 
+milliseconds=1000000
+set_clock() {
+    perl -e 'print pack("q", shift() * 1_000_000)' "$milliseconds" |
+        dd of="$work/clock" conv=notrunc status=none
+}
+# Returns when the program has fired the timers that were due: its main thread
+# answers a call, and the second answer comes from a later turn of its event loop.
+follow() {
+    local i
+    for i in 1 2; do
+        dbus-send --session --print-reply --dest=org.morrowleaf.Morrowleaf \
+            /org/morrowleaf/Morrowleaf org.freedesktop.Application.NoSuchMethod 2>/dev/null || true
+    done
+}
+# advance MILLISECONDS: lets that time pass for the program, in frames
+advance() {
+    local end=$((milliseconds + $1)) frame=20
+    while [ "$milliseconds" -lt "$end" ]; do
+        milliseconds=$((milliseconds + frame))
+        set_clock
+        follow
+    done
+}
+# shot NAME: takes pictures until two in a row are the same, since the compositor
+# draws a little later than the program
+shot() {
+    local tries=0
+    import -silent -window root "$work/$1.ppm"
+    until
+        mv "$work/$1.ppm" "$work/before"
+        import -silent -window root "$work/$1.ppm"
+        cmp -s "$work/before" "$work/$1.ppm"
+    do
+        tries=$((tries + 1))
+        [ "$tries" -lt 50 ] || die "The picture $1 does not come to rest."
+    done
+}
+
+set_clock
 shot desktop
-desktop=$(brightness desktop)
-start morrowleaf "$program"
-until_true 60 differs || die "The quote screen does not appear."
+LD_PRELOAD=$clock STEPPED_CLOCK=$work/clock start morrowleaf "$program"
+until_true 60 window || die "The quote screen does not appear."
+advance 300
 shot 1-entrance-a
-sleep 0.3
+advance 500
 shot 1-entrance-b
-sleep 0.6
+advance 700
 shot 1-entrance-c
-sleep 4
+advance 5000
 shot 2-whole
 xdotool key space
-fades=0
-while window >/dev/null 2>&1 && [ "$fades" -lt 60 ]; do
-    fades=$((fades + 1))
-    shot "fade-$fades"
-done
+advance 260
+shot 3-fading-out
+cmp -s "$work/2-whole.ppm" "$work/3-fading-out.ppm" && die "The quote screen does not fade."
+cmp -s "$work/desktop.ppm" "$work/3-fading-out.ppm" &&
+    die "The quote screen went away without fading."
+advance 500
 until_true 10 gone || die "The quote screen does not go away."
-[ "$fades" -gt 0 ] || die "The quote screen went away without fading."
-
-# Of the pictures of the fade the one nearest to its middle.
-middle=$((($(brightness 2-whole) + desktop) / 2))
-nearest=10000
-for ((i = 1; i <= fades; i++)); do
-    distance=$(($(brightness "fade-$i") - middle))
-    if [ "${distance#-}" -lt "$nearest" ]; then
-        nearest=${distance#-}
-        cp "$work/fade-$i.ppm" "$work/3-fading-out.ppm"
-    fi
-done
 
 mkdir -p "$folder"
 rm -f "$folder"/showing-*.png
