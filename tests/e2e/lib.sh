@@ -31,7 +31,8 @@ export XDG_DATA_DIRS=$work/share XDG_CONFIG_DIRS=$work/xdg
 mkdir -p "$XDG_DATA_DIRS/themes" "$XDG_CONFIG_DIRS"
 ln -s /usr/share/themes/{Clearlooks,Default} "$XDG_DATA_DIRS/themes"
 ln -s /etc/xdg/{openbox,xfce4} "$XDG_CONFIG_DIRS"
-ln -s /usr/share/glib-2.0 "$XDG_DATA_DIRS" # schemas for the accessibility bus
+# Without these the accessibility bus and the toolkit of other desktops abort.
+ln -s /usr/share/glib-2.0 /usr/share/mime "$XDG_DATA_DIRS"
 export FONTCONFIG_FILE=$work/fonts.conf
 cat >"$FONTCONFIG_FILE" <<'EOF'
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
