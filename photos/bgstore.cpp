@@ -4,6 +4,7 @@
 #include "photos/bgstore.h"
 
 #include "photos/photoimport.h"
+#include "platform/files.h"
 #include "settings/prefs.h"
 #include "settings/settingsstore.h"
 #include "settings/settingstable.h"
@@ -63,9 +64,12 @@ void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QS
             &context_, [done = std::move(done)] { done(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
-    QDir().mkpath(ownFolder_);
     const QString destination =
         QDir(ownFolder_).absoluteFilePath(newPhotoName(QFileInfo(sourcePath).fileName()));
+    if (makeFolderOf(destination)) {
+        // The folder may be older and open to others.
+        QFile::setPermissions(ownFolder_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
     import_->start(sourcePath, destination,
                    [this, destination, done = std::move(done)](bool copied) {
                        const bool listed = copied && list(destination);
@@ -74,6 +78,10 @@ void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QS
                        }
                        done(listed ? std::optional(destination) : std::nullopt);
                    });
+}
+
+void BGStore::cancelAddsAfter(std::chrono::milliseconds time) {
+    import_->cancelAfter(time);
 }
 
 // The list may have grown during the copy.

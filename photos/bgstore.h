@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -38,10 +39,13 @@ public:
     // Destroys the copy of an unfinished add() and does not call `done`.
     ~BGStore();
 
-    // Copies an image file to the folder of own photos and adds it to the list. Calls
-    // `done` later, on this thread, with the new path, or with std::nullopt if the list is
-    // full, the copy fails or the file is not an image that can be decoded.
+    // Copies an image file to the folder of own photos, which only the user may read, and
+    // adds it to the list. Calls `done` later, on this thread, with the new path, or with
+    // std::nullopt if the list is full, the copy fails or is cancelled, or the file is
+    // larger than 512 MB or not an image that can be decoded.
     void add(const QString& sourcePath, std::function<void(std::optional<QString>)> done);
+    // Cancels the add() calls up to now that have not ended after `time`.
+    void cancelAddsAfter(std::chrono::milliseconds time);
     // Deletes the file and removes the photo from the list and, if it is chosen, from the
     // settings. Ignores errors.
     void remove(const QString& path);

@@ -8,21 +8,32 @@
 
 #include <QFile>
 #include <QThreadPool>
+#include <QTimer>
+
+#include <iterator>
 
 namespace morrowleaf {
 namespace {
 
-constexpr qint64 pieceSize = 1 << 20; // bytes
+constexpr int shutdownTimeout = 200;                 // milliseconds
+constexpr int copyLimit = 8;                         // at the same time, stuck ones included
+constexpr qint64 pieceSize = 1 << 20;                // bytes
+constexpr qint64 largestFile = Q_INT64_C(512) << 20; // bytes
 
 // Quick to decode, yet it shows whether the file contains pixels.
 constexpr QSize trialSize(192, 108);
 
 bool copyBytes(QFile& from, QFile& to, const std::stop_token& stop) {
     QByteArray piece(pieceSize, Qt::Uninitialized);
+    qint64 copied = 0;
     while (!stop.stop_requested()) {
         const qint64 read = from.read(piece.data(), pieceSize);
         if (read <= 0) {
             return read == 0 && to.flush();
+        }
+        copied += read;
+        if (copied > largestFile) {
+            return false; // the file is growing
         }
         for (qint64 done = 0; done < read;) {
             const qint64 written = to.write(piece.constData() + done, read - done);
@@ -40,72 +51,81 @@ bool isUsable(const QString& path) {
     return photo && !photo->decodeFilling(trialSize).isNull();
 }
 
-// Inspects the source before copying it, so that a huge file that is not a picture is not
-// copied. The copy decides, because the source may have changed.
-bool importPhoto(const QString& source, const QString& destination, std::mutex& copying,
-                 const std::stop_token& stop) {
-    if (!inspectPhoto(source)) {
-        return false;
-    }
-    {
-        const std::scoped_lock lock(copying);
-        if (!copyPhotoFile(source, destination, stop)) {
-            return false;
-        }
-    }
-    if (!isUsable(destination)) {
-        QFile::remove(destination);
-        return false;
-    }
-    return true;
-}
-
 } // namespace
 
 PhotoImport::PhotoImport(QThreadPool& workers)
-    : workers_(workers) {}
+    : workers_(workers)
+    , copiers_(std::make_unique<QThreadPool>()) {
+    copiers_->setMaxThreadCount(copyLimit);
+    copiers_->setExpiryTimeout(0); // an idle program keeps no threads
+}
 
 PhotoImport::~PhotoImport() {
-    job_ = {};
-    // The worker makes no copy once it has seen the request to stop.
-    const std::scoped_lock stopped(*copying_);
-    if (!requests_.empty()) {
-        QFile::remove(requests_.front().destination);
+    for (Request& request : requests_) {
+        request.job = {};
+    }
+    if (!copiers_->waitForDone(shutdownTimeout)) {
+        static_cast<void>(copiers_.release()); // its destructor would wait
+    }
+    for (const Request& request : requests_) {
+        QFile::remove(request.destination);
     }
 }
 
+// Inspects the source before copying it, so that a huge file that is not a picture is not
+// copied. The copy decides, because the source may have changed.
 void PhotoImport::start(const QString& source, const QString& destination, Done done) {
-    requests_.push_back({source, destination, std::move(done)});
-    if (requests_.size() == 1) {
-        work();
-    }
-}
-
-void PhotoImport::work() {
-    const Request& next = requests_.front();
-    job_ = Job(
-        workers_,
-        [copying = copying_, source = next.source,
-         destination = next.destination](const std::stop_token& stop) {
-            return importPhoto(source, destination, *copying, stop);
+    requests_.push_back({++lastNumber_, destination, std::move(done), {}});
+    const auto request = std::prev(requests_.end());
+    request->job = Job(
+        *copiers_,
+        [source, destination](const std::stop_token& stop) {
+            return inspectPhoto(source) && copyPhotoFile(source, destination, stop);
         },
-        [this](bool copied) { finish(copied); });
+        [this, request](bool copied) { copied ? check(request) : finish(request, false); });
 }
 
-void PhotoImport::finish(bool copied) {
-    const Done done = std::move(requests_.front().done);
-    requests_.pop_front();
+void PhotoImport::check(Requests::iterator request) {
+    request->job = Job(
+        workers_, [copy = request->destination](const std::stop_token&) { return isUsable(copy); },
+        [this, request](bool usable) {
+            if (!usable) {
+                QFile::remove(request->destination);
+            }
+            finish(request, usable);
+        });
+}
+
+void PhotoImport::finish(Requests::iterator request, bool usable) {
+    const Done done = std::move(request->done);
+    requests_.erase(request);
+    done(usable);
+}
+
+void PhotoImport::cancelAfter(std::chrono::milliseconds time) {
     if (!requests_.empty()) {
-        work();
+        QTimer::singleShot(time, &context_, [this, last = lastNumber_] { cancelUpTo(last); });
     }
-    done(copied);
+}
+
+void PhotoImport::cancelUpTo(int number) {
+    Requests cancelled;
+    while (!requests_.empty() && requests_.front().number <= number) {
+        cancelled.splice(cancelled.end(), requests_, requests_.begin());
+    }
+    for (Request& request : cancelled) {
+        request.job = {};
+        QFile::remove(request.destination); // the copying may take a while to notice
+        request.done(false);
+    }
 }
 
 bool copyPhotoFile(const QString& source, const QString& destination, const std::stop_token& stop) {
     QFile from;
     QFile to(destination);
-    if (stop.stop_requested() || !openRegularFile(from, source) ||
-        !to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+    if (!openRegularFile(from, source) || from.size() > largestFile || stop.stop_requested() ||
+        !to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
+                 QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
         return false;
     }
     const bool copied = copyBytes(from, to, stop);

@@ -5,25 +5,29 @@
 
 #include "base/job.h"
 
+#include <QObject>
 #include <QString>
 
-#include <deque>
+#include <chrono>
 #include <functional>
+#include <list>
 #include <memory>
-#include <mutex>
 #include <stop_token>
 
 class QThreadPool;
 
 namespace morrowleaf {
 
-// Copies photos on a thread of a pool, one after the other, and checks that they can be
-// decoded. The destructor removes copies that have not been reported; it waits for the
-// copying to stop (for one piece of a file at most), but not for a decoder. Main thread.
+// Copies photos and checks that they can be decoded. The copies run beside each other, so
+// that one from a slow disk does not hold up the others.
+//
+// The destructor removes copies that have not been reported. It takes up to 200 ms and
+// abandons threads that a file system still blocks then. Main thread.
 class PhotoImport {
 public:
     using Done = std::function<void(bool)>;
 
+    // `workers` decode the copies and must outlive the import.
     explicit PhotoImport(QThreadPool& workers);
     ~PhotoImport();
     PhotoImport(const PhotoImport&) = delete;
@@ -32,26 +36,33 @@ public:
     // Copies `source` to the new file `destination`. Calls `done` later, on this thread;
     // false means that no copy exists.
     void start(const QString& source, const QString& destination, Done done);
+    // Cancels what has been started so far and has not ended after `time`. Calls `done`
+    // with false.
+    void cancelAfter(std::chrono::milliseconds time);
 
 private:
     struct Request {
-        QString source;
+        int number;
         QString destination;
         Done done;
+        Job job;
     };
+    using Requests = std::list<Request>;
 
-    void work();
-    void finish(bool copied);
+    void check(Requests::iterator request);
+    void finish(Requests::iterator request, bool usable);
+    void cancelUpTo(int number);
 
     QThreadPool& workers_;
-    std::deque<Request> requests_; // the first one is in progress
-    std::shared_ptr<std::mutex> copying_ = std::make_shared<std::mutex>(); // held during a copy
-    Job job_;
+    std::unique_ptr<QThreadPool> copiers_;
+    Requests requests_; // in progress
+    int lastNumber_ = 0;
+    QObject context_; // of timers
 };
 
-// Copies a regular file byte for byte to a new file. Returns false and leaves no copy on
-// failure or if `stop` is requested. An existing file at `destination` is a failure and
-// stays untouched. Any thread.
+// Copies a regular file of up to 512 MB byte for byte to a new file that only the user
+// may read. Returns false and leaves no copy on failure or if `stop` is requested. An
+// existing file at `destination` is a failure and stays untouched. Any thread.
 [[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
                                  const std::stop_token& stop);
 

@@ -97,6 +97,23 @@ TEST_F(BGStoreTest, AddsACopyUnderANewName) {
     EXPECT_EQ(Prefs::bgImage(store), QString());
 }
 
+TEST_F(BGStoreTest, OwnPhotosAreForTheUserAlone) {
+    const QString source = picture(u"photo.jpg"_s, "jpg");
+    QFile::setPermissions(source, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    const auto modeOf = [](const QString& file) {
+        struct stat info {};
+        EXPECT_EQ(::stat(qPrintable(file), &info), 0) << file.toStdString();
+        return info.st_mode & ALLPERMS;
+    };
+    const QString added = add(source);
+    EXPECT_EQ(modeOf(added), 0600U);
+    EXPECT_EQ(modeOf(own), 0700U);
+    // A folder that an earlier version has left open.
+    ASSERT_EQ(::chmod(qPrintable(own), 0755), 0);
+    add(source);
+    EXPECT_EQ(modeOf(own), 0700U);
+}
+
 TEST_F(BGStoreTest, GivesAFileWithoutExtensionTheNameOfAPng) {
     EXPECT_TRUE(add(picture(u"photo"_s, "jpg")).endsWith(u".png"_s));
 }
@@ -191,8 +208,14 @@ TEST_F(BGStoreTest, DoesNotUseTheGlobalPool) {
     photos = std::make_unique<BGStore>(store, QString(), own, workers);
     QThreadPool::globalInstance()->waitForDone();
     start(source);
-    EXPECT_EQ(workers.activeThreadCount(), 1);
     EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    // A worker decodes the copy.
+    QElapsedTimer since;
+    since.start();
+    while (workers.activeThreadCount() == 0 && since.elapsed() < 60'000) {
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(workers.activeThreadCount(), 1);
     await(1);
     EXPECT_EQ(listed().size(), 1);
 }
@@ -209,7 +232,7 @@ TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCheck) {
     while ((files.isEmpty() || files.first().size() < size) && since.elapsed() < 60'000) {
         files = folder.entryInfoList(QDir::Files);
     }
-    ASSERT_EQ(files.size(), 1);
+    ASSERT_FALSE(files.isEmpty());
     photos.reset();
     EXPECT_EQ(ownFiles(), QStringList());
     QThreadPool::globalInstance()->waitForDone();
@@ -217,6 +240,56 @@ TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCheck) {
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_TRUE(results.isEmpty());
     EXPECT_TRUE(listed().isEmpty());
+}
+
+TEST_F(BGStoreTest, RefusesAFileAboveTheSizeLimit) {
+    const QString source = picture(u"a.png"_s);
+    QFile file(source);
+    ASSERT_TRUE(file.resize((Q_INT64_C(512) << 20) + 1)); // sparse
+    ASSERT_NE(photos->image(source), nullptr);
+    EXPECT_EQ(add(source), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_FALSE(store.value(K::customBGs).has_value());
+}
+
+TEST_F(BGStoreTest, ASlowCopyDoesNotHoldUpTheNext) {
+    const QString slow = picture(u"slow.png"_s);
+    ASSERT_TRUE(QFile(slow).resize(Q_INT64_C(400) << 20)); // sparse
+    start(slow);
+    const QString quick = picture(u"quick.jpg"_s, "jpg");
+    start(quick);
+    await(1);
+    EXPECT_TRUE(results.first().endsWith(u".jpg"_s));
+    await(2);
+    EXPECT_TRUE(results.last().endsWith(u".png"_s));
+}
+
+TEST_F(BGStoreTest, CancelsASlowCopyAndRemovesIt) {
+    const QString slow = picture(u"slow.png"_s);
+    ASSERT_TRUE(QFile(slow).resize(Q_INT64_C(400) << 20)); // sparse
+    start(slow);
+    QElapsedTimer since;
+    since.start();
+    while (ownFiles().isEmpty() && since.elapsed() < 60'000) {
+    }
+    ASSERT_EQ(ownFiles().size(), 1);
+    photos->cancelAddsAfter(std::chrono::milliseconds(0));
+    await(1);
+    EXPECT_EQ(results.first(), QString());
+    EXPECT_EQ(ownFiles(), QStringList());
+    EXPECT_NE(add(picture(u"next.png"_s)), QString());
+    photos.reset();
+    EXPECT_EQ(ownFiles().size(), 1);
+}
+
+TEST_F(BGStoreTest, CancelsNothingThatEndsInTimeOrIsAddedLater) {
+    photos->cancelAddsAfter(std::chrono::milliseconds(0));
+    const QString first = add(picture(u"a.png"_s));
+    EXPECT_NE(first, QString());
+    start(picture(u"b.png"_s));
+    photos->cancelAddsAfter(std::chrono::minutes(1));
+    await(2);
+    EXPECT_EQ(listed(), QStringList({first, results.last()}));
 }
 
 TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
