@@ -157,6 +157,10 @@ void BGStore::markUnreadable(const QString& path) {
     unreadable_.insert(path, stampOf(path));
 }
 
+void BGStore::forgetFailures() {
+    unreadable_.clear();
+}
+
 BGStore::FileStamp BGStore::stampOf(const QString& path) {
     const QFileInfo info(path);
     return {info.exists() ? info.size() : -1, info.lastModified()};

@@ -54,8 +54,9 @@ public:
     // Returns the same object at every call while the photo is readable, else null.
     std::shared_ptr<const Photo> image(const QString& path);
     // Records that decoding failed: image() returns null until the file at that path
-    // changes.
+    // changes or forgetFailures() is called.
     void markUnreadable(const QString& path);
+    void forgetFailures();
     // For decoding photos.
     QThreadPool& workers() const { return workers_; }
 

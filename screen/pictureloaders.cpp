@@ -14,7 +14,9 @@ constexpr int beforeThumbnails = 1; // priority of the job
 
 PhotoLoader::PhotoLoader(BGStore& photos, QObject* parent)
     : QObject(parent)
-    , photos_(photos) {}
+    , photos_(photos) {
+    photos_.forgetFailures(); // each showing tries again
+}
 
 void PhotoLoader::setPhoto(const QString& path, QSize pixels) {
     const std::shared_ptr<const Photo> photo = path.isEmpty() ? nullptr : photos_.image(path);

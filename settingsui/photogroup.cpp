@@ -74,6 +74,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     , thumbnails_(new Thumbnails(photos, this))
     , builtins_(photos.builtins())
     , anchor_(new QWidget(this)) {
+    photos_.forgetFailures();              // each opening of the editor tries again
     anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
     makeAccessibleGroup(*this, u"Your photo"_s);

@@ -286,6 +286,14 @@ TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, 1000)), 0);
 }
 
+TEST_F(QuoteScreens, TriesAPhotoThatCouldNotBeDecodedAgainAtTheNextShowing) {
+    store.set(K::bgImage, lake);
+    ASSERT_NE(photos.image(lake), nullptr);
+    photos.markUnreadable(lake);
+    const auto screen = shown();
+    EXPECT_EQ(screen->view()->state().palette.name, u"Photo"_s);
+}
+
 TEST_F(QuoteScreens, FadesALatePhotoInOverTheOneBefore) {
     QImage first(1280, 960, QImage::Format_RGB32);
     first.fill(QColor(200, 40, 40));
