@@ -15,12 +15,18 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QPointer>
 #include <QTimer>
 
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto timeToAdd = 10s; // after the editor has closed
+
+} // namespace
 
 Thumbnails::Thumbnails(BGStore& photos, QObject* parent)
     : QObject(parent)
@@ -88,6 +94,10 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     connect(thumbnails_, &Thumbnails::ready, this, &PhotoGroup::fetchPictures);
     new Binding(store_, K::customBGs, this, [this] { rebuild(); });
     new Binding(store_, K::bgImage, this, [this] { mark(); });
+}
+
+PhotoGroup::~PhotoGroup() {
+    photos_.cancelAddsAfter(timeToAdd);
 }
 
 void PhotoGroup::rebuild() {
@@ -200,9 +210,10 @@ bool PhotoGroup::event(QEvent* event) {
 }
 
 void PhotoGroup::addPhoto(const QString& path) {
-    photos_.add(path, [self = QPointer(this)](const std::optional<QString>& added) {
-        if (self && added) {
-            self->store_.set(K::bgImage, *added);
+    // The copy may end after the editor has closed.
+    photos_.add(path, [&store = store_](const std::optional<QString>& added) {
+        if (added) {
+            store.set(K::bgImage, *added);
         }
     });
 }

@@ -56,6 +56,8 @@ public:
     // The referenced objects must outlive the group.
     PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser, const QFont& face,
                QWidget* parent = nullptr);
+    // A photo that is being added has 10 s more.
+    ~PhotoGroup() override;
 
 protected:
     void showEvent(QShowEvent* event) override;

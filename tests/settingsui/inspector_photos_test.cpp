@@ -73,6 +73,14 @@ TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
     EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
 }
 
+TEST_F(InspectorTest, AnAddedPhotoIsChosenEvenIfTheEditorHasClosed) {
+    press(panel().findChild<AddTile*>());
+    pick(picture(u"new.png"_s));
+    closeEditor();
+    ASSERT_TRUE(await([&] { return !Prefs::customBGs(store).isEmpty(); }));
+    EXPECT_EQ(Prefs::bgImage(store), Prefs::customBGs(store).first());
+}
+
 TEST_F(InspectorTest, APhotoThatCouldNotBeDecodedIsTriedAgainWhenTheEditorOpens) {
     const QString own = picture(u"own.png"_s);
     listOwn({own});

@@ -12,6 +12,7 @@
 #include "settingsui/inspector.h"
 #include "settingsui/knob.h"
 #include "settingsui/menupicker.h"
+#include "settingsui/panelstyle.h"
 #include "settingsui/photogroup.h"
 #include "settingsui/swatch.h"
 #include "tests/fakes/fakefilechooser.h"
@@ -29,6 +30,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include <ctime>
 
 namespace morrowleaf {
 
@@ -50,6 +53,10 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
         }
         return *panel_;
+    }
+    void closeEditor() {
+        window_.reset();
+        panel_ = nullptr;
     }
     QWidget& window() {
         panel();
@@ -97,6 +104,11 @@ protected:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         }
         return condition();
+    }
+    static double cpuMilliseconds() {
+        timespec now{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+        return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
     }
     void listOwn(const QStringList& paths) { store.set(K::customBGs, paths); }
     bool readoutIs(const QString& name, const QString& text) {
