@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QTimer>
+#include <QVBoxLayout>
 
 namespace morrowleaf {
 
@@ -24,7 +25,17 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeToAdd = 10s; // after the editor has closed
+constexpr qsizetype mostOwn = 100; // of the user's own photos, shown
+constexpr auto timeToAdd = 10s;    // after the editor has closed
+
+// The name of a built-in photo for screen readers: that of its file, capitalised.
+QString spokenName(const QString& path) {
+    QString name = QFileInfo(path).completeBaseName();
+    if (!name.isEmpty()) {
+        name[0] = name[0].toUpper();
+    }
+    return name;
+}
 
 } // namespace
 
@@ -57,19 +68,6 @@ void Thumbnails::take(const QString& path, const QImage& picture) {
     emit ready(path);
 }
 
-namespace {
-
-// The name of a built-in photo for screen readers: that of its file, capitalised.
-QString spokenName(const QString& path) {
-    QString name = QFileInfo(path).completeBaseName();
-    if (!name.isEmpty()) {
-        name[0] = name[0].toUpper();
-    }
-    return name;
-}
-
-} // namespace
-
 PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser,
                        const QFont& face, QWidget* parent)
     : QWidget(parent)
@@ -84,14 +82,16 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
     makeAccessibleGroup(*this, u"Your photo"_s);
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(PanelStyle::gutter);
-    for (int column = 0; column < PanelStyle::photoColumns; ++column) {
-        grid->setColumnStretch(column, 1);
-    }
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
     connect(&chooser_, &PhotoChooser::picked, this, &PhotoGroup::addPhoto);
-    connect(thumbnails_, &Thumbnails::ready, this, &PhotoGroup::fetchPictures);
+    connect(thumbnails_, &Thumbnails::ready, this, [this](const QString& path) {
+        for (PhotoSwatch* swatch : std::as_const(swatches_)) {
+            if (swatch->path() == path) {
+                fetchPicture(*swatch);
+            }
+        }
+    });
     new Binding(store_, K::customBGs, this, [this] { rebuild(); });
     new Binding(store_, K::bgImage, this, [this] { mark(); });
 }
@@ -101,21 +101,24 @@ PhotoGroup::~PhotoGroup() {
 }
 
 void PhotoGroup::rebuild() {
-    customBGs_ = Prefs::customBGs(store_);
+    const QStringList own = Prefs::customBGs(store_);
     const qsizetype focused = focusedCell();
-    for (QWidget* cell : std::as_const(cells_)) {
-        // The press that led here may still be executing in the cell.
-        cell->hide();
-        cell->setParent(nullptr);
-        cell->deleteLater();
+    if (tiles_ != nullptr) {
+        // The press that led here may still be executing in a cell.
+        tiles_->hide();
+        tiles_->setParent(nullptr);
+        tiles_->deleteLater();
     }
+    // Hidden until all cells are in it: each cell that appears alone is laid out alone.
+    tiles_ = new QWidget(this);
+    tiles_->hide();
     cells_.clear();
     swatches_.clear();
     for (const QString& path : std::as_const(builtins_)) {
         cells_.append(makeSwatch(path, spokenName(path)));
     }
-    for (qsizetype i = 0; i < customBGs_.size(); ++i) {
-        const QString path = customBGs_[i];
+    for (qsizetype i = 0; i < qMin(own.size(), mostOwn); ++i) {
+        const QString path = own[i];
         const QString name = u"Your photo %1"_s.arg(i + 1);
         PhotoSwatch* swatch = makeSwatch(path, name);
         auto* cross = new RemoveButton(u"Remove %1"_s.arg(name.toLower()), swatch);
@@ -125,8 +128,8 @@ void PhotoGroup::rebuild() {
         connect(cross, &QAbstractButton::clicked, this, [this, path] { photos_.remove(path); });
         cells_.append(swatch);
     }
-    if (customBGs_.size() < BGStore::limit) {
-        auto* tile = new AddTile(face_, this);
+    if (own.size() < BGStore::limit) {
+        auto* tile = new AddTile(face_, tiles_);
         connect(tile, &QAbstractButton::clicked, &chooser_, &PhotoChooser::choose);
         cells_.append(tile);
     }
@@ -150,7 +153,7 @@ qsizetype PhotoGroup::focusedCell() const {
 }
 
 PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
-    auto* swatch = new PhotoSwatch(path, name, face_, this);
+    auto* swatch = new PhotoSwatch(path, name, face_, tiles_);
     connect(swatch, &QAbstractButton::clicked, this,
             [this, path] { store_.set(K::bgImage, path); });
     swatches_.append(swatch);
@@ -158,7 +161,12 @@ PhotoSwatch* PhotoGroup::makeSwatch(const QString& path, const QString& name) {
 }
 
 void PhotoGroup::place() {
-    auto* grid = static_cast<QGridLayout*>(layout());
+    auto* grid = new QGridLayout(tiles_);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(PanelStyle::gutter);
+    for (int column = 0; column < PanelStyle::photoColumns; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
     // Tab moves from tile to tile, wherever this grid is in the panel.
     QWidget* before = anchor_;
     for (qsizetype i = 0; i < cells_.size(); ++i) {
@@ -170,10 +178,9 @@ void PhotoGroup::place() {
             setTabOrder(cell, cross);
             before = cross;
         }
-        if (isVisible()) {
-            cell->show();
-        }
     }
+    layout()->addWidget(tiles_);
+    tiles_->show();
 }
 
 void PhotoGroup::mark() {
@@ -184,15 +191,15 @@ void PhotoGroup::mark() {
 }
 
 void PhotoGroup::fetchPictures() {
-    if (!isVisible()) {
-        return;
-    }
     for (PhotoSwatch* swatch : std::as_const(swatches_)) {
-        // Tiles have no width before the layout has run.
-        const QSize size = swatch->pictureSize();
-        if (swatch->width() > 1) {
-            swatch->setPicture(thumbnails_->picture(swatch->path(), size));
-        }
+        fetchPicture(*swatch);
+    }
+}
+
+void PhotoGroup::fetchPicture(PhotoSwatch& swatch) {
+    // A tile has no width before the layout has run.
+    if (isVisible() && swatch.width() > 1) {
+        swatch.setPicture(thumbnails_->picture(swatch.path(), swatch.pictureSize()));
     }
 }
 

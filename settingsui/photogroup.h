@@ -47,8 +47,8 @@ private:
     std::unordered_map<QString, Thumbnail> thumbnails_; // by path
 };
 
-// The photos as a grid of swatches: the built-in ones, the user's own, and a tile that
-// adds one unless the list is full.
+// The photos as a grid of swatches: the built-in ones, the user's own (of a longer list the
+// first 100), and a tile that adds one unless the list is full.
 class PhotoGroup : public QWidget {
     Q_OBJECT
 
@@ -70,6 +70,7 @@ private:
     void place();
     void mark();
     void fetchPictures();
+    void fetchPicture(PhotoSwatch& swatch);
     void addPhoto(const QString& path);
 
     SettingsStore& store_;
@@ -78,8 +79,8 @@ private:
     QFont face_;
     Thumbnails* thumbnails_;
     QStringList builtins_;
-    QWidget* anchor_; // hidden; keeps the group's position in the tab order
-    QStringList customBGs_;
+    QWidget* anchor_;          // hidden; keeps the group's position in the tab order
+    QWidget* tiles_ = nullptr; // holds the cells; replaced as a whole
     QList<QWidget*> cells_;
     QList<PhotoSwatch*> swatches_;
 };

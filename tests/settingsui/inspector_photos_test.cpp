@@ -103,16 +103,45 @@ TEST_F(InspectorTest, OddNamesOfPhotosAreNoHindrance) {
     }
 }
 
-TEST_F(InspectorTest, ManyStoredPhotosAreAllListed) {
+TEST_F(InspectorTest, ShowsTheFirstHundredOfManyStoredPhotos) {
     QStringList paths;
     for (int i = 0; i < 500; ++i) {
         paths.append(u"/missing/%1.jpg"_s.arg(i));
     }
+    listOwn(paths.first(100));
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 100);
     listOwn(paths);
-    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 500);
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 100);
     EXPECT_EQ(panel().findChildren<AddTile*>().size(), 0);
+    EXPECT_EQ(photoSwatches().last()->path(), paths[99]);
+    press(panel().findChildren<RemoveButton*>().last());
+    EXPECT_EQ(panel().findChildren<RemoveButton*>().size(), 100);
+    EXPECT_EQ(photoSwatches().last()->path(), paths[100]);
+    EXPECT_EQ(Prefs::customBGs(store).size(), 499);
     listOwn({});
     EXPECT_EQ(photoSwatches().size(), photos.builtins().size());
+}
+
+// The CPU time of this thread, in milliseconds, until the list is shown.
+TEST_F(InspectorTest, ALongListOfPhotosCostsNoMoreThanItsFirstHundred) {
+    panel();
+    const auto cost = [&](int count) {
+        QStringList paths;
+        for (int i = 0; i < count; ++i) {
+            paths.append(u"/missing/%1.jpg"_s.arg(i));
+        }
+        listOwn({});
+        QCoreApplication::processEvents();
+        const double before = cpuMilliseconds();
+        listOwn(paths);
+        QCoreApplication::processEvents();
+        return cpuMilliseconds() - before;
+    };
+    cost(100);
+    const double hundred = cost(100);
+    const double thousands = cost(3000);
+    std::printf("100 photos: %.1f ms, 3000 photos: %.1f ms\n", hundred, thousands);
+    EXPECT_LT(thousands, 3 * hundred + 20);
 }
 
 TEST_F(InspectorTest, ACancelledOrRefusedPhotoChangesNothing) {
