@@ -26,6 +26,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace morrowleaf {
 namespace {
 
@@ -41,6 +43,18 @@ std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
         entries.emplace_back(rawValue(kind), label(kind));
     }
     return entries;
+}
+
+// Both keys with every modifier, since the themes ignore those.
+QList<QKeySequence> returnKeys() {
+    constexpr std::array modifiers{Qt::SHIFT, Qt::CTRL, Qt::ALT, Qt::META};
+    QList<QKeySequence> keys{Qt::Key_Return, Qt::Key_Enter};
+    for (const Qt::Modifier modifier : modifiers) {
+        for (const QKeySequence& key : QList(keys)) {
+            keys.append(QKeyCombination::fromCombined(key[0].toCombined() | modifier));
+        }
+    }
+    return keys;
 }
 
 } // namespace
@@ -63,11 +77,11 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setFocusPolicy(Qt::ClickFocus);
     makeAccessibleGroup(*this, u"Appearance"_s);
     // A shortcut, because some desktop themes let Return press the focused control.
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* shortcut = new QShortcut(key, this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, &Inspector::done);
-    }
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(returnKeys());
+    shortcut->setContext(Qt::WindowShortcut); // a click on the picture moves the focus there
+    shortcut->setAutoRepeat(false);           // the key that opened the editor may still be held
+    connect(shortcut, &QShortcut::activated, this, &Inspector::done);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 0, 0, 0);
     column->setSpacing(0);

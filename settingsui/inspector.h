@@ -41,7 +41,7 @@ double headerTopPadding(const std::optional<ScreenFrames>& screen);
 
 // The appearance editor at the right edge of the quote screen. Every control writes its
 // setting as soon as it changes. Tab moves through the controls, Space presses one,
-// Return presses "Done". Main thread.
+// Return runs "Done". Main thread.
 class Inspector : public QWidget {
     Q_OBJECT
 

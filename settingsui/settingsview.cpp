@@ -13,8 +13,10 @@
 #include "sources/sourcepresets.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -316,6 +318,28 @@ void SettingsView::test() {
                                          quote->author
                                    : u"No quote found at that source."_s);
     });
+}
+
+void SettingsView::keyPressEvent(QKeyEvent* event) {
+    passReturnOn(*event);
+}
+
+void SettingsView::keyReleaseEvent(QKeyEvent* event) {
+    passReturnOn(*event);
+}
+
+// Some desktop themes let Return press the focused control, as Space does; in others the
+// control ignores the key, which comes here.
+void SettingsView::passReturnOn(QKeyEvent& event) {
+    event.ignore();
+    QWidget* focused = focusWidget();
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (isReturn && (qobject_cast<QAbstractButton*>(focused) != nullptr ||
+                     qobject_cast<QComboBox*>(focused) != nullptr)) {
+        QKeyEvent space(event.type(), Qt::Key_Space, Qt::NoModifier, {}, event.isAutoRepeat());
+        QCoreApplication::sendEvent(focused, &space);
+        event.accept();
+    }
 }
 
 void SettingsView::showTestResult(const QString& testResult) {

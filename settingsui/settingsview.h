@@ -40,6 +40,10 @@ signals:
     // again.
     void loginItemRefused();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
 private:
     void addAppearance(FormCard& card);
     void addBehaviour(FormCard& card);
@@ -50,6 +54,7 @@ private:
     QPushButton* makePresets();
     QWidget* makeLoginSwitch();
     void showTestResult(const QString& text);
+    void passReturnOn(QKeyEvent& event);
 
     SettingsStore& store_;
     QuoteLoader loader_;

@@ -130,17 +130,35 @@ factory=(backgroundImagePath '""' paletteIndex -1 fontDesign '"fraunces"' textSc
 keeps "Reset puts everything back, and keeps the photo" "${factory[@]}"
 tab_to "push button" "Done"
 tab_to "radio button" Auto
+tab_to "radio button" Midnight
 press x ctrl+s Menu F5
 check "other keys end nothing" is_shown
 press Return
 must "Return ends the editing" is_gone
 must "and gives the keyboard back" focus_is "Morrowleaf Settings"
-keeps "and changes nothing"
+keeps "and presses nothing"
+for keys in KP_Enter shift+Return; do
+    edit
+    mapfile -t tabs < <(yes Tab | head -n $((${#palettes[@]} + ${#photos[@]} + 3)))
+    press "${tabs[@]}"
+    must "Tab leads to the small cross" focused "push button" "Remove your photo 1"
+    press "$keys"
+    must "$keys ends the editing there too" is_gone
+    must "and gives the keyboard back" focus_is "Morrowleaf Settings"
+    keeps "and removes nothing"
+done
 
 # By mouse.
+for keys in Return KP_Enter ctrl+Return; do
+    edit
+    xdotool mousemove 300 500 click 1 click 3
+    check "a click on the picture ends nothing" is_shown
+    press "$keys"
+    must "$keys ends the editing after a click on the picture" is_gone
+    must "and gives the keyboard back" focus_is "Morrowleaf Settings"
+    keeps "and changes nothing"
+done
 edit
-xdotool mousemove 300 500 click 1 click 3
-check "a click on the picture ends nothing" is_shown
 click_on "combo box" "Screen motion"
 must "the menu opens by mouse" there "list item" Still
 click_on "list item" Still

@@ -150,6 +150,39 @@ tab_to "push button" Quit
 tab_to "push button" "Edit Appearance"
 shot settings-keyboard
 
+# Return presses what has the keyboard, as Space does.
+press Return
+must "Return opens the editor" is_shown
+must "which takes the keyboard" focus_is Morrowleaf
+press Escape
+must "Escape ends the editing" is_gone
+must "and the settings have the keyboard again" focus_is "Morrowleaf Settings"
+tab_to "check box" "Show on wake and unlock"
+press Return
+keeps "Return switches off" showOnWake false
+press KP_Enter
+keeps "and the keypad's Enter on" showOnWake true
+tab_to "combo box" "Every"
+press Return
+must "Return opens the list" there "list item" "Every 12 hours"
+press Up Return
+keeps "and chooses in it" quoteFrequency '"12h"'
+tab_to slider "Close after"
+press Return
+tab_to "check box" "Open at login"
+press Return
+must "login by Return" grep -q '^Exec=' "$autostart"
+press Return
+must "and off" not test -e "$autostart"
+tab_to text "Source URL"
+press Return
+keeps "Return in slider and field changes nothing"
+tab_to "push button" Presets
+press Return
+must "Return opens the menu" menu
+press Down Return
+keeps "and chooses in it" quoteSourceURL '"https://zenquotes.io/api/today"'
+
 # By mouse.
 click_on "push button" "Edit Appearance"
 must "the editor opens by mouse" is_shown

@@ -28,6 +28,44 @@ TEST_F(InspectorTest, ReturnRunsDoneFromAnywhereButAMenu) {
     EXPECT_TRUE(picker->hasFocus());
 }
 
+TEST_F(InspectorTest, ReturnWithAModifierRunsDoneTooAndPressesNothing) {
+    window();
+    listOwn({u"/1"_s});
+    auto* remove = panel().findChild<RemoveButton*>();
+    ASSERT_NE(remove, nullptr);
+    remove->setFocus(Qt::TabFocusReason);
+    int expected = 0;
+    for (const Qt::Key code : {Qt::Key_Return, Qt::Key_Enter}) {
+        for (const Qt::KeyboardModifiers held :
+             {Qt::KeyboardModifiers(Qt::ShiftModifier), Qt::KeyboardModifiers(Qt::ControlModifier),
+              Qt::KeyboardModifiers(Qt::AltModifier), Qt::ShiftModifier | Qt::ControlModifier,
+              Qt::KeypadModifier | Qt::ShiftModifier, Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
+            QTest::keyClick(window().windowHandle(), code, held);
+            EXPECT_EQ(done, ++expected) << code << " with " << held;
+        }
+    }
+    EXPECT_EQ(Prefs::customBGs(store), QStringList{u"/1"_s});
+}
+
+TEST_F(InspectorTest, ReturnRunsDoneAfterAClickBesideTheEditor) {
+    window().setFocusPolicy(Qt::StrongFocus);
+    QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+    ASSERT_TRUE(window().hasFocus());
+    key(Qt::Key_Return);
+    EXPECT_EQ(done, 1);
+    key(Qt::Key_Enter);
+    EXPECT_EQ(done, 2);
+}
+
+// The key that has opened the editor may still be held.
+TEST_F(InspectorTest, AHeldReturnDoesNotRunDoneAgain) {
+    QWindow* handle = window().windowHandle();
+    QTest::simulateEvent(handle, true, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+    EXPECT_EQ(done, 0);
+    key(Qt::Key_Return);
+    EXPECT_EQ(done, 1);
+}
+
 // Stands for any other filter in the program that waits for Escape.
 class EscapeCounter : public QObject {
 public:

@@ -174,6 +174,38 @@ TEST_F(SettingsViewTest, PresetsSetTheSource) {
     EXPECT_EQ(store.text(K::source), QString());
 }
 
+TEST_F(SettingsViewTest, ReturnPressesWhatHasTheKeyboard) {
+    view().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view(), 60'000));
+    const QSignalSpy shows(&actions.showQuote, &QAction::triggered);
+    button(u"Show Today's Quote"_s)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(shows.count(), 1);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(shows.count(), 2);
+    QTest::keyPress(view().windowHandle(), Qt::Key_Return);
+    EXPECT_TRUE(button(u"Show Today's Quote"_s)->isDown());
+    EXPECT_EQ(shows.count(), 2);
+    QTest::keyRelease(view().windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(shows.count(), 3);
+
+    switchNamed(u"Show on wake and unlock"_s)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(store.value(K::showOnWake), QJsonValue(false));
+    auto* box = only<QComboBox>();
+    box->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Return);
+    EXPECT_TRUE(box->view()->isVisible());
+    box->hidePopup();
+
+    only<QSlider>()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Return);
+    only<QLineEdit>()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(view().windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(shows.count(), 3);
+    EXPECT_EQ(Prefs::source(store), QString());
+}
+
 TEST_F(SettingsViewTest, SectionsAreNamedGroups) {
     QStringList names;
     for (auto* card : view().findChildren<FormCard*>()) {
