@@ -7,7 +7,6 @@
 #include "settingsui/panelaccessible.h"
 
 #include <QCheckBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -20,39 +19,6 @@ namespace {
 constexpr int sideRoom = 14; // points inside the frame
 constexpr int rowHeight = 40;
 constexpr double radius = 8;
-
-// A label in its parent's text colour at a lower opacity.
-class QuietLabel : public QLabel {
-public:
-    QuietLabel(const QString& text, double opacity, QWidget* parent)
-        : QLabel(text, parent)
-        , opacity_(opacity) {
-        fade();
-    }
-
-protected:
-    void changeEvent(QEvent* event) override {
-        if (event->type() == QEvent::PaletteChange && !fading_) {
-            fade();
-        }
-        QLabel::changeEvent(event);
-    }
-
-private:
-    void fade() {
-        fading_ = true;
-        QPalette own;
-        const QWidget* host = parentWidget();
-        own.setColor(QPalette::WindowText,
-                     withOpacity((host ? host->palette() : QPalette()).color(QPalette::WindowText),
-                                 opacity_));
-        setPalette(own);
-        fading_ = false;
-    }
-
-    double opacity_;
-    bool fading_ = false;
-};
 
 } // namespace
 
@@ -119,13 +85,6 @@ void FormCard::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(QRect(frame_->x() + sideRoom, y, frame_->width() - 2 * sideRoom, 1),
                          withOpacity(ink, 0.09));
     }
-}
-
-QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
-    auto* label = new QuietLabel(text, emphasis == Emphasis::Secondary ? 0.68 : 0.55, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
 }
 
 } // namespace morrowleaf

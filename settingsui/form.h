@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-class QLabel;
 class QVBoxLayout;
 
 namespace morrowleaf {
@@ -32,9 +31,5 @@ private:
     QWidget* frame_;
     QList<QWidget*> separated_; // rows with a line above
 };
-
-// A label in the palette's text colour at a lower opacity; follows the palette.
-enum class Emphasis { Secondary, Tertiary };
-QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
 
 } // namespace morrowleaf

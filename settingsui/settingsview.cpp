@@ -3,6 +3,7 @@
 
 #include "settingsui/settingsview.h"
 
+#include "base/graphemes.h"
 #include "platform/loginitem.h"
 #include "settings/prefs.h"
 #include "settings/settingstable.h"
@@ -10,6 +11,7 @@
 #include "settingsui/form.h"
 #include "settingsui/formcontrols.h"
 #include "settingsui/menuactions.h"
+#include "settingsui/quietlabel.h"
 #include "sources/sourcepresets.h"
 
 #include <QCheckBox>
@@ -39,6 +41,8 @@ constexpr int sectionSpacing = 15;
 constexpr int barPadding = 12;
 constexpr int presetsWidth = 120;
 constexpr int secondsWidth = 46;
+constexpr int longestText = 600; // characters of a test's result
+constexpr int longestAuthor = 100;
 
 QString inSeconds(double value) {
     return QString::asprintf("%.0fs", std::trunc(value));
@@ -54,20 +58,19 @@ QFont scaled(const QFont& font, double factor) {
     return result;
 }
 
-// Allows line breaks within long words, which would widen the form otherwise.
-QString breakable(const QString& text) {
-    constexpr int longestWord = 30; // letters
+// The text up to that many characters, with an ellipsis if there is more. Of marks that
+// are stacked on one character, which take long to lay out, only the first ones remain.
+QString cutAfter(const QString& text, int characters) {
+    constexpr qsizetype longestCharacter = 24; // UTF-16 units; more than any emoji has
+    const QString start = text.left(characters * longestCharacter);
     QString result;
-    int letters = 0;
-    for (const QChar c : text) {
-        letters = c.isSpace() ? 0 : letters + 1;
-        if (letters > longestWord && !c.isLowSurrogate() && !c.isMark()) {
-            result += QChar(0x200B);
-            letters = 1;
-        }
-        result += c;
+    qsizetype begin = 0;
+    const QList<qsizetype> ends = characterEnds(start);
+    for (const qsizetype end : ends.first(qMin<qsizetype>(characters, ends.size()))) {
+        result += QStringView(start).mid(begin, qMin(end - begin, longestCharacter));
+        begin = end;
     }
-    return result;
+    return begin < text.size() ? result + u'…' : result;
 }
 
 // A button with more space beside its text than the style gives it.
@@ -258,6 +261,7 @@ void SettingsView::addQuotes(FormCard& card) {
     testResult_->setContentsMargins(0, 2, 0, 8);
     card.addContinuation(testResult_);
     testResult_->setMinimumHeight(0);
+    testResult_->setObjectName(u"TestResult"_s);
     testResult_->hide();
 
     auto* help =
@@ -314,8 +318,8 @@ void SettingsView::test() {
         if (self->testButton_->parentWidget()->hasFocus()) {
             self->testButton_->setFocus();
         }
-        self->showTestResult(quote ? QChar(0x201C) + quote->text + QChar(0x201D) + u" — "_s +
-                                         quote->author
+        self->showTestResult(quote ? u'“' + cutAfter(quote->text, longestText) + u"” — "_s +
+                                         cutAfter(quote->author, longestAuthor)
                                    : u"No quote found at that source."_s);
     });
 }
@@ -343,8 +347,7 @@ void SettingsView::passReturnOn(QKeyEvent& event) {
 }
 
 void SettingsView::showTestResult(const QString& testResult) {
-    testResult_->setText(breakable(testResult));
-    testResult_->setAccessibleName(testResult);
+    testResult_->setText(testResult);
     testResult_->setVisible(!testResult.isEmpty());
     testButton_->setAccessibleDescription(testResult);
 }

@@ -25,6 +25,8 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QStyle>
 
@@ -63,14 +65,12 @@ void settle(int milliseconds) {
 void drawSettings(const QString& folder, SettingsStore& store, const QString& name) {
     const Platform platform = makeNullPlatform();
     MenuActions actions;
+    Quote quote{u"What we know is a drop, what we do not know is an ocean, "
+                "and the ocean is deep"_s,
+                u"Isaac Newton"_s};
     SettingsView view(
-        store,
-        [](const QString&, const auto& done) {
-            done(Quote{u"What we know is a drop, what we do not know is an ocean, "
-                       "and the ocean is deep"_s,
-                       u"Isaac Newton"_s});
-        },
-        *platform.loginItem, actions);
+        store, [&quote](const QString&, const auto& done) { done(quote); }, *platform.loginItem,
+        actions);
     view.show();
     settle(100);
     view.grab().save(folder + u"/settings-%1.png"_s.arg(name));
@@ -78,6 +78,15 @@ void drawSettings(const QString& folder, SettingsStore& store, const QString& na
     view.findChild<QLineEdit*>()->setFocus(Qt::TabFocusReason);
     settle(100);
     view.grab().save(folder + u"/settings-%1-tested.png"_s.arg(name));
+    quote.text = (QString(150, u'W') + u" and more of it. "_s).repeated(20);
+    view.test();
+    store.setKeptFileName(u"settings.broken-20261121-224501.json"_s);
+    settle(100);
+    QScrollBar* bar = view.findChild<QScrollArea*>()->verticalScrollBar();
+    bar->setValue(bar->maximum() - 200);
+    settle(100);
+    view.grab().save(folder + u"/settings-%1-long.png"_s.arg(name));
+    store.setKeptFileName({});
 }
 
 } // namespace

@@ -31,6 +31,99 @@ TEST_F(SettingsViewTest, TestTellsWhatWasFound) {
     EXPECT_EQ(store.text(K::source), u"/somewhere"_s);
 }
 
+TEST_F(SettingsViewTest, ALongResultIsCutAfterSixHundredAndAHundredCharacters) {
+    const auto result = [&](const QString& text, const QString& author) {
+        view().test();
+        answer(Quote{text, author});
+        return view().findChild<QLabel*>(u"TestResult"_s)->text();
+    };
+    const auto run = [](int count) { return QString(count, u'x'); };
+    const QString cut = u"“"_s + run(600) + u"…” — "_s + run(100) + u"…"_s;
+    EXPECT_TRUE(result(run(600), run(100)) == u"“"_s + run(600) + u"” — "_s + run(100));
+    EXPECT_TRUE(result(run(601), run(101)) == cut);
+    EXPECT_TRUE(result(run(4'000'000), run(4'000'000)) == cut);
+    // A family of three is one character.
+    const QString family = u"👨‍👩‍👧"_s;
+    EXPECT_TRUE(result(family.repeated(601), u"Nobody"_s) ==
+                u"“"_s + family.repeated(600) + u"…” — Nobody"_s);
+    // One character may have any number of marks, and is cut as well.
+    EXPECT_LT(result(u'e' + QString(1'000'000, QChar(0x301)), u"Nobody"_s).size(), 20'000);
+}
+
+TEST_F(SettingsViewTest, TheResultIsReadAsItIsShown) {
+    view().test();
+    answer(Quote{QString(700, u'x'), u"Nobody"_s});
+    auto* label = view().findChild<QLabel*>(u"TestResult"_s);
+    ASSERT_NE(label, nullptr);
+    const auto read = [](QWidget* widget, QAccessible::Text kind) {
+        return QAccessible::queryAccessibleInterface(widget)->text(kind);
+    };
+    EXPECT_TRUE(read(label, QAccessible::Name) == label->text());
+    EXPECT_TRUE(read(button(u"Test"_s), QAccessible::Description) == label->text());
+}
+
+// The CPU time of this thread, in milliseconds, until a result is shown.
+TEST_F(SettingsViewTest, NoResultCostsMuchMoreThanALongOne) {
+    const auto cost = [&](const QString& text) {
+        view().test();
+        timespec before{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
+        answer(Quote{text, u"Nobody"_s});
+        QCoreApplication::processEvents();
+        view().grab();
+        timespec after{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
+        return static_cast<double>(after.tv_sec - before.tv_sec) * 1e3 +
+               static_cast<double>(after.tv_nsec - before.tv_nsec) / 1e6;
+    };
+    const QString tibetan = QChar(0x0F40) + QString(5000, QChar(0x0F90));
+    cost(u"e"_s + tibetan); // loads the faces
+    const double ordinary = cost(u"Some words of one quotation, "_s.repeated(25));
+    for (const QString& text : {QString(4'000'000, u'x'), u"words "_s.repeated(700'000), tibetan,
+                                u'e' + QString(20'000, QChar(0x301)),
+                                (u'e' + QString(300, QChar(0x301))).repeated(200)}) {
+        const double spent = cost(text);
+        std::printf("an ordinary result: %.1f ms, this one: %.1f ms\n", ordinary, spent);
+        EXPECT_LT(spent, 5 * ordinary + 50);
+    }
+}
+
+// The widths of the rows in which a label is drawn, in device pixels.
+QList<int> rowWidths(QWidget& label) {
+    const QImage drawn = label.grab().toImage();
+    const QRgb ground = drawn.pixel(drawn.width() - 1, 0);
+    QList<int> widths;
+    bool inRow = false;
+    for (int y = 0; y < drawn.height(); ++y) {
+        int last = -1;
+        for (int x = 0; x < drawn.width(); ++x) {
+            last = drawn.pixel(x, y) != ground ? x : last;
+        }
+        if (last >= 0 && !inRow) {
+            widths.append(0);
+        }
+        inRow = last >= 0;
+        if (inRow) {
+            widths.last() = qMax(widths.last(), last + 1);
+        }
+    }
+    return widths;
+}
+
+TEST_F(SettingsViewTest, ALongWordFillsItsRows) {
+    view().test();
+    answer(Quote{QString(300, u'x'), u"Nobody"_s});
+    QCoreApplication::processEvents();
+    auto* label = view().findChild<QLabel*>(u"TestResult"_s);
+    const QList<int> rows = rowWidths(*label);
+    ASSERT_GE(rows.size(), 4);
+    const int letter = label->fontMetrics().horizontalAdvance(u'x');
+    for (const int row : rows.first(rows.size() - 2)) {
+        EXPECT_GT(row, label->width() - 2 * letter);
+    }
+    EXPECT_FALSE(label->text().contains(QChar(0x200B)));
+}
+
 TEST_F(SettingsViewTest, AWordWithoutEndDoesNotWidenTheForm) {
     view().test();
     answer(Quote{QString(3000, u'W'), u"Nobody"_s});

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "settingsui/quietlabel.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <cmath>
+
+namespace morrowleaf {
+namespace {
+
+class QuietLabel : public QLabel {
+public:
+    QuietLabel(const QString& text, Emphasis emphasis, QWidget* parent)
+        : QLabel(text, parent)
+        , opacity_(emphasis == Emphasis::Secondary ? 0.68F : 0.55F) {
+        setTextFormat(Qt::PlainText);
+        fade();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange && !fading_) {
+            fade();
+        }
+        QLabel::changeEvent(event);
+    }
+    QColor ink() const { return palette().color(foregroundRole()); }
+
+private:
+    void fade() {
+        fading_ = true;
+        QPalette own;
+        const QWidget* host = parentWidget();
+        QColor color = (host ? host->palette() : QPalette()).color(QPalette::WindowText);
+        color.setAlphaF(opacity_);
+        own.setColor(QPalette::WindowText, color);
+        setPalette(own);
+        fading_ = false;
+    }
+
+    float opacity_;
+    bool fading_ = false;
+};
+
+// QLabel itself breaks no words and would be as wide as the longest one.
+class WrappedLabel : public QuietLabel {
+public:
+    WrappedLabel(const QString& text, Emphasis emphasis, QWidget* parent)
+        : QuietLabel(text, emphasis, parent) {
+        setWordWrap(true);
+    }
+
+    QSize minimumSizeHint() const override {
+        constexpr int letters = 8;
+        const QMargins edges = contentsMargins();
+        return QSize(letters * fontMetrics().averageCharWidth(), fontMetrics().height())
+            .grownBy(edges);
+    }
+    int heightForWidth(int width) const override {
+        const QMargins edges = contentsMargins();
+        QTextLayout layout;
+        return static_cast<int>(std::ceil(makeRows(layout, width - edges.left() - edges.right()))) +
+               edges.top() + edges.bottom();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setPen(ink());
+        const QRect inside = contentsRect();
+        QTextLayout layout;
+        const double height = makeRows(layout, inside.width());
+        layout.draw(&painter, inside.topLeft() + QPointF(0, (inside.height() - height) / 2));
+    }
+
+private:
+    // Cuts the text into rows of `width` points and returns their height.
+    double makeRows(QTextLayout& layout, int width) const {
+        QString rows = text();
+        layout.setText(rows.replace(u'\n', QChar::LineSeparator));
+        layout.setFont(font());
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        double height = 0;
+        layout.beginLayout();
+        for (QTextLine row = layout.createLine(); row.isValid(); row = layout.createLine()) {
+            row.setLineWidth(width);
+            row.setPosition({0, height});
+            height += row.height();
+        }
+        layout.endLayout();
+        return height;
+    }
+};
+
+} // namespace
+
+QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
+    return new WrappedLabel(text, emphasis, parent);
+}
+
+} // namespace morrowleaf

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QLabel;
+class QString;
+class QWidget;
+
+namespace morrowleaf {
+
+// Labels in the palette's text colour at a lower opacity; they follow the palette.
+enum class Emphasis { Secondary, Tertiary };
+
+// Wraps plain text between words and, where a word is longer than a row, within it.
+QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
+
+} // namespace morrowleaf
