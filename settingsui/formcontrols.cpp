@@ -14,7 +14,13 @@ void FormPicker::wheelEvent(QWheelEvent* event) {
 }
 
 FormSlider::FormSlider(QWidget* parent)
-    : QSlider(Qt::Horizontal, parent) {}
+    : QSlider(Qt::Horizontal, parent) {
+    connect(this, &QSlider::actionTriggered, this, [this] {
+        if (sliderPosition() == value()) {
+            emit confirmed();
+        }
+    });
+}
 
 void FormSlider::mousePressEvent(QMouseEvent* event) {
     QStyleOptionSlider option;
@@ -26,9 +32,13 @@ void FormSlider::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     if (event->button() == Qt::LeftButton && !handle.contains(at)) {
         const QRect groove = part(QStyle::SC_SliderGroove);
-        setValue(QStyle::sliderValueFromPosition(
+        const int pressed = QStyle::sliderValueFromPosition(
             minimum(), maximum(), at.x() - groove.x() - handle.width() / 2,
-            groove.width() - handle.width(), option.upsideDown));
+            groove.width() - handle.width(), option.upsideDown);
+        if (pressed == value()) {
+            emit confirmed();
+        }
+        setValue(pressed);
     }
     QSlider::mousePressEvent(event);
 }

@@ -22,11 +22,17 @@ protected:
 
 // A horizontal slider in the host's style. Its handle jumps to the position of a mouse
 // press and can be dragged from there. Ignores the wheel, as FormPicker does.
+//
+// At an end of its range the slider may stand for a value beyond it.
 class FormSlider : public QSlider {
     Q_OBJECT
 
 public:
     explicit FormSlider(QWidget* parent = nullptr);
+
+signals:
+    // The user has moved the handle to where it already was.
+    void confirmed();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -14,6 +14,7 @@
 #include "settingsui/panelstyle.h"
 #include "settingsui/photochooser.h"
 #include "settingsui/photogroup.h"
+#include "settingsui/readouts.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -32,7 +32,9 @@ PanelSlider::PanelSlider(double lowest, double highest, QWidget* parent)
     setPageStep((maximum() - minimum()) / 10);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(this, &QSlider::valueChanged, this, [this] { emit moved(real()); });
+    const auto announce = [this] { emit moved(real()); };
+    connect(this, &FormSlider::valueChanged, this, announce);
+    connect(this, &FormSlider::confirmed, this, announce);
 }
 
 double PanelSlider::lowest() const {
@@ -85,13 +87,6 @@ Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting
 void Knob::showReadout(double value, const Readout& readout) {
     readout_->setText(readout(value));
     slider_->setValueText(readout_->text());
-}
-
-QString percentReadout(double value) {
-    return QString::asprintf("%.0f%%", value * 100);
-}
-QString plainReadout(double value) {
-    return QString::asprintf("%.2f", value);
 }
 
 } // namespace morrowleaf

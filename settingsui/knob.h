@@ -37,7 +37,7 @@ public:
     void setValueText(const QString& text) { valueText_ = text; }
 
 signals:
-    void moved(double value);
+    void moved(double value); // by the user, perhaps to where it already was
 
 private:
     QString valueText_;
@@ -63,9 +63,5 @@ private:
     PanelSlider* slider_;
     QLabel* readout_;
 };
-
-// "%.0f%%" of the value times 100, and "%.2f" of the value, in the C locale.
-QString percentReadout(double value);
-QString plainReadout(double value);
 
 } // namespace morrowleaf

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace morrowleaf {
@@ -99,10 +100,56 @@ private:
     }
 };
 
+class NumberLabel : public QuietLabel {
+public:
+    using QuietLabel::QuietLabel;
+
+    QSize sizeHint() const override {
+        const QFontMetricsF metrics(font());
+        double width = 0;
+        for (const QChar c : text()) {
+            width += cell(c, metrics);
+        }
+        return {static_cast<int>(std::ceil(width)), fontMetrics().height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setPen(ink());
+        const QFontMetricsF metrics(font());
+        const double baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
+        double right = width();
+        const QString number = text();
+        for (auto c = number.crbegin(); c != number.crend(); ++c) {
+            const double width = cell(*c, metrics);
+            const double indent = (width - metrics.horizontalAdvance(*c)) / 2;
+            right -= width;
+            painter.drawText(QPointF(right + indent, baseline), *c);
+        }
+    }
+
+private:
+    static double cell(QChar c, const QFontMetricsF& metrics) {
+        if (!c.isDigit()) {
+            return metrics.horizontalAdvance(c);
+        }
+        double widest = 0;
+        for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
+            widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+        }
+        return widest;
+    }
+};
+
 } // namespace
 
 QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent) {
     return new WrappedLabel(text, emphasis, parent);
+}
+
+QLabel* makeNumberLabel(Emphasis emphasis, QWidget* parent) {
+    return new NumberLabel({}, emphasis, parent);
 }
 
 } // namespace morrowleaf

@@ -15,4 +15,8 @@ enum class Emphasis { Secondary, Tertiary };
 // Wraps plain text between words and, where a word is longer than a row, within it.
 QLabel* makeQuietLabel(const QString& text, Emphasis emphasis, QWidget* parent);
 
+// For one number in ASCII, at the right edge. Its digits have equal widths in every face,
+// so that they stand still while the number changes.
+QLabel* makeNumberLabel(Emphasis emphasis, QWidget* parent);
+
 } // namespace morrowleaf

@@ -12,6 +12,7 @@
 #include "settingsui/formcontrols.h"
 #include "settingsui/menuactions.h"
 #include "settingsui/quietlabel.h"
+#include "settingsui/readouts.h"
 #include "sources/sourcepresets.h"
 
 #include <QCheckBox>
@@ -29,7 +30,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <algorithm>
 
 namespace morrowleaf {
 namespace {
@@ -43,10 +44,6 @@ constexpr int presetsWidth = 120;
 constexpr int secondsWidth = 46;
 constexpr int longestText = 600; // characters of a test's result
 constexpr int longestAuthor = 100;
-
-QString inSeconds(double value) {
-    return QString::asprintf("%.0fs", std::trunc(value));
-}
 
 QFont scaled(const QFont& font, double factor) {
     QFont result = font;
@@ -199,10 +196,8 @@ QWidget* SettingsView::makeCloseAfter() {
     slider->setFixedWidth(200);
     slider->setAccessibleName(label->text());
     label->setBuddy(slider);
-    auto* readout = makeQuietLabel({}, Emphasis::Secondary, row);
-    readout->setWordWrap(false);
+    auto* readout = makeNumberLabel(Emphasis::Secondary, row);
     readout->setFixedWidth(secondsWidth);
-    readout->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addWidget(label);
     layout->addStretch(1);
     layout->addWidget(slider);
@@ -212,13 +207,15 @@ QWidget* SettingsView::makeCloseAfter() {
     auto* binding = new Binding(store, K::dismiss, slider, [slider, readout, &store] {
         const double seconds = store.get(K::dismiss);
         slider->setValue(qRound(std::clamp(seconds, K::dismiss.lowest, K::dismiss.highest)));
-        readout->setText(inSeconds(seconds));
+        readout->setText(secondsReadout(seconds));
     });
-    connect(slider, &QSlider::valueChanged, binding, [binding, readout](int seconds) {
-        if (binding->set(double(seconds))) {
-            readout->setText(inSeconds(seconds));
+    const auto set = [binding, slider, readout] {
+        if (binding->set(double(slider->value()))) {
+            readout->setText(secondsReadout(slider->value()));
         }
-    });
+    };
+    connect(slider, &FormSlider::valueChanged, binding, set);
+    connect(slider, &FormSlider::confirmed, binding, set);
     return row;
 }
 

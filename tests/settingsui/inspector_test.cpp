@@ -112,6 +112,37 @@ TEST_F(InspectorTest, ValuesOutOfRangeAreShownAndKept) {
     EXPECT_EQ(store.real(K::textScale), 7.0);
 }
 
+TEST_F(InspectorTest, AKnobAtTheEndOfItsRangeStoresTheEndWhenMovedThere) {
+    store.set(K::textScale, 7.0);
+    QTest::keyClick(named<PanelSlider>(u"Size"_s), Qt::Key_End);
+    EXPECT_EQ(store.real(K::textScale), 1.6);
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"160%"_s));
+}
+
+TEST_F(InspectorTest, ReadoutsRoundAsPrintfDoes) {
+    store.set(K::textScale, 1.125);
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"112%"_s));
+    store.set(K::textScale, 1.135);
+    EXPECT_TRUE(readoutIs(u"Size"_s, u"114%"_s));
+    store.set(K::vignette, 0.125);
+    EXPECT_TRUE(readoutIs(u"Vignette"_s, u"0.12"_s));
+}
+
+TEST_F(InspectorTest, ReadoutsOfHugeValuesFit) {
+    const auto readout = [&](const QString& name) {
+        return static_cast<Knob*>(named<PanelSlider>(name)->parentWidget())->readout();
+    };
+    for (const double huge : {1e308, -1e308, 1e6, -1e6, 1e20}) {
+        store.set(K::textScale, huge);
+        store.set(K::vignette, huge);
+        for (const QString& name : {u"Size"_s, u"Vignette"_s}) {
+            EXPECT_LE(readout(name)->sizeHint().width(), readout(name)->QWidget::width())
+                << readout(name)->text().toStdString();
+            EXPECT_LE(named<PanelSlider>(name)->valueText().size(), 8);
+        }
+    }
+}
+
 TEST_F(InspectorTest, GlassSwitchNeedsTransparency) {
     auto* control = named<QCheckBox>(u"Liquid Glass"_s);
     EXPECT_FALSE(control->isEnabled());

@@ -122,6 +122,63 @@ TEST_F(SettingsViewTest, CloseAfterTruncatesAndRewritesNothing) {
     EXPECT_EQ(store.real(K::dismiss), 120.5);
 }
 
+TEST_F(SettingsViewTest, CloseAfterStoresTheEndThatItIsMovedTo) {
+    store.set(K::dismiss, 2.0);
+    auto* slider = only<QSlider>();
+    EXPECT_EQ(slider->value(), 5);
+    EXPECT_EQ(store.real(K::dismiss), 2);
+    QTest::keyClick(slider, Qt::Key_Home);
+    EXPECT_EQ(store.value(K::dismiss), QJsonValue(5.0));
+    EXPECT_TRUE(shows_(u"5s"_s));
+    store.set(K::dismiss, 120.0);
+    QTest::keyClick(slider, Qt::Key_Right);
+    EXPECT_EQ(store.value(K::dismiss), QJsonValue(60.0));
+    EXPECT_TRUE(shows_(u"60s"_s));
+}
+
+TEST_F(SettingsViewTest, CloseAfterReadsHugeValuesShortly) {
+    for (const double huge : {1e308, -1e308, 1e9}) {
+        store.set(K::dismiss, huge);
+        const auto labels = view().findChildren<QLabel*>();
+        const auto readout = std::find_if(labels.begin(), labels.end(),
+                                          [](const QLabel* label) { return label->width() == 46; });
+        ASSERT_NE(readout, labels.end());
+        EXPECT_LE((*readout)->sizeHint().width(), 46) << (*readout)->text().toStdString();
+    }
+}
+
+// The columns of the first digit in which ink differs from the ground.
+TEST_F(SettingsViewTest, CloseAfterHasDigitsOfEqualWidth) {
+    ASSERT_GE(QFontDatabase::addApplicationFont(
+                  sourcePath(u"resources/Fonts/InterDisplay-Regular.otf"_s)),
+              0);
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont(u"Inter Display"_s, 11));
+    const QFontMetricsF metrics{QApplication::font()};
+    ASSERT_NE(metrics.horizontalAdvance(u'1'), metrics.horizontalAdvance(u'8'));
+    const auto firstDigit = [&](double seconds, const QString& text) {
+        store.set(K::dismiss, seconds);
+        for (auto* label : view().findChildren<QLabel*>()) {
+            if (label->text() == text) {
+                const QImage drawn = label->grab().toImage();
+                for (int x = 0; x < drawn.width(); ++x) {
+                    for (int y = 0; y < drawn.height(); ++y) {
+                        if (drawn.pixel(x, y) != drawn.pixel(0, 0)) {
+                            return x;
+                        }
+                    }
+                }
+            }
+        }
+        return -1;
+    };
+    const int place = firstDigit(50, u"50s"_s);
+    EXPECT_GT(place, 0);
+    EXPECT_EQ(firstDigit(51, u"51s"_s), place);
+    EXPECT_EQ(firstDigit(58, u"58s"_s), place);
+    QApplication::setFont(before);
+}
+
 TEST_F(SettingsViewTest, TheWheelChangesNothingInPassing) {
     store.set(K::frequency, u"12h"_s);
     store.set(K::dismiss, 20.0);

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace morrowleaf {
+
+// How the values of sliders read, formatted as by printf in the C locale. There is room
+// for four digits; a value with more reads as ">9999" or "<-999".
+
+QString percentReadout(double value); // "%.0f%%" of the value times 100
+QString plainReadout(double value);   // "%.2f"
+QString secondsReadout(double value); // whole seconds, truncated, and "s"
+
+} // namespace morrowleaf
