@@ -132,6 +132,11 @@ void PhotoSwatch::paintTile(QPainter& painter, const QRectF& tile) {
 AddTile::AddTile(const QFont& face, QWidget* parent)
     : Swatch(u"Add a photo"_s, face, parent) {
     setToolTip(u"Add one of your own images, up to three"_s);
+    // A tool tip takes the style sheet of its widget, but not the palette.
+    setStyleSheet(
+        u"QToolTip { color: %1; background: %2; border: 1px solid %3; padding: 3px; }"_s.arg(
+            PanelStyle::ink(0.92).name(QColor::HexArgb), PanelStyle::menuGround().name(),
+            PanelStyle::ink(0.16).name(QColor::HexArgb)));
     setAccessibleDescription(toolTip());
 }
 

@@ -170,5 +170,29 @@ TEST_F(InspectorTest, AnnouncesADialogBeforeItOpensAndAfterItHasGone) {
     EXPECT_EQ(order, QStringList({u"opening"_s, u"closed"_s}));
 }
 
+TEST_F(InspectorTest, TheToolTipOfTheAddTileTakesThePanelsColours) {
+    window();
+    auto* tile = panel().findChild<AddTile*>();
+    QHelpEvent help(QEvent::ToolTip, tile->rect().center(),
+                    tile->mapToGlobal(tile->rect().center()));
+    QCoreApplication::sendEvent(tile, &help);
+    const QWidget* tip = nullptr;
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->inherits("QTipLabel") && top->isVisible()) {
+            tip = top;
+        }
+    }
+    ASSERT_NE(tip, nullptr);
+    const QImage drawn = const_cast<QWidget*>(tip)->grab().toImage();
+    const QColor menu = PanelStyle::menuGround();
+    int ground = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            ground += drawn.pixelColor(x, y) == menu ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ground, drawn.width() * drawn.height() / 2);
+}
+
 } // namespace
 } // namespace morrowleaf
