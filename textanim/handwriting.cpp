@@ -25,16 +25,12 @@ constexpr double traceDuration = 1.25; // seconds
 constexpr double inkStart = 0.7 * traceDuration;
 constexpr double inkDuration = 0.45 * traceDuration;
 
-// Rounds up, but ignores the excess that the fixed-point arithmetic of Qt's
-// layout adds to a whole width.
-double ceiling(double length) {
-    return std::ceil(length - 1e-3);
-}
-
-TextOutline outlineAt(const TextLayout& layout, const TextFont& font, double size) {
+// A single row, in a place of whole points.
+TextOutline outlineOfRow(const TextLayout& layout, const TextFont& font) {
     const TextRow& row = layout.rows.front();
-    const double unit = size / shapingSize;
-    const QSizeF place(ceiling(row.width * unit), ceiling((row.ascent + row.descent) * unit));
+    const double unit = font.size / shapingSize;
+    const QSizeF place(wholePoints(row.width * unit),
+                       wholePoints((row.ascent + row.descent) * unit));
     const double baseline = place.height() - descentOf(rawFace(font.face)) * unit;
     TextOutline text = outlineRow(layout, {0, baseline}, unit);
     text.size = place;
@@ -128,17 +124,22 @@ double penWidth(double size) {
     return std::max(0.018 * size, 0.7);
 }
 
+// Ignores the excess that the fixed-point arithmetic of Qt's layout adds to a whole width.
+double wholePoints(double length) {
+    return std::ceil(length - 1e-3);
+}
+
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth) {
     if (!(font.size > 0)) {
         return {};
     }
-    const TextLayout layout = layOut(text, font.face, 0, 0, LineBreaks::Ignored);
-    const double width = ceiling(layout.rows.front().width * font.size / shapingSize);
-    double size = font.size;
-    if (maxWidth > 0 && width > maxWidth) {
-        size = std::max(std::floor(maxWidth), 1.0) * shapingSize / layout.rows.front().width;
-    }
-    return {outlineAt(layout, font, size), penWidth(size)};
+    const double unit = font.size / shapingSize;
+    const TextLayout layout = layOut(text, font.face, 0, maxWidth / unit,
+                                     maxWidth > 0 ? LineBreaks::Kept : LineBreaks::Ignored);
+    const bool fits = maxWidth <= 0 || layout.rows.front().width * unit <= maxWidth;
+    return {layout.rows.size() == 1 && fits ? outlineOfRow(layout, font)
+                                            : outlineOf(layout, unit, maxWidth),
+            penWidth(font.size)};
 }
 
 QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth) {

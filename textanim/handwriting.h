@@ -25,12 +25,15 @@ struct GlyphPath {
 GlyphPath glyphPath(const QString& text, const TextFont& font);
 
 // The same line as an outline with y downwards from the top left of its
-// rectangle. If `maxWidth` is above 0, a line wider than that many points is set
-// in a smaller size.
+// rectangle. If `maxWidth` (points) is above 0, the line is broken into rows as
+// ShapedText breaks it.
 struct HandwrittenLine {
     TextOutline text;
     double penWidth = 0; // points
 };
+
+// Rounds a length in points up to whole ones, as for the size of a line of one row.
+double wholePoints(double length);
 
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth = 0);
 QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth = 0);

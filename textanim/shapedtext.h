@@ -29,7 +29,8 @@ public:
     ShapedText();
     // `tracking` in points is added after every character, including the last.
     // With a `maxWidth` above 0 (points) the text wraps at word boundaries into
-    // leading-aligned rows; a row of one word that is wider is scaled down.
+    // leading-aligned rows of nearly equal length; a row of one word that is wider
+    // is scaled down.
     ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
 
     QSizeF size() const;     // typographic width × rows of (ascent + descent), points

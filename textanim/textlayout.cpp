@@ -5,11 +5,14 @@
 
 #include "base/graphemes.h"
 
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
 #include <QtEndian>
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 namespace morrowleaf {
 
@@ -115,6 +118,106 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
     return row;
 }
 
+void prepare(QTextLayout& layout, const QString& text, const QFont& face, double tracking) {
+    QFont large = face;
+    large.setPixelSize(shapingSize);
+    if (tracking != 0) {
+        large.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
+    }
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::WordWrap);
+    layout.setFont(large);
+    layout.setText(text);
+    layout.setTextOption(option);
+}
+
+void keepTrailingSpaces(QTextLayout& layout) {
+    QTextOption option = layout.textOption();
+    option.setWrapMode(QTextOption::ManualWrap);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout.setTextOption(option);
+}
+
+std::vector<QTextLine> unbrokenLines(QTextLayout& layout) {
+    std::vector<QTextLine> lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(widestLine);
+        line.setPosition({0, 0});
+        lines.push_back(line);
+    }
+    layout.endLayout();
+    return lines;
+}
+
+struct PlacedPiece {
+    RowPiece piece;
+    qsizetype end = 0; // of its text, UTF-16 units
+};
+
+// The pieces of a layout of unbroken lines.
+std::vector<PlacedPiece> piecesOf(const QTextLayout& layout) {
+    const QString text = layout.text();
+    std::vector<PlacedPiece> pieces;
+    QTextBoundaryFinder boundary(QTextBoundaryFinder::Line, text);
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const qsizetype lineEnd = line.textStart() + line.textLength();
+        const auto place = [&line](qsizetype at) { return line.cursorToX(static_cast<int>(at)); };
+        qsizetype begin = line.textStart();
+        while (begin < lineEnd) {
+            boundary.setPosition(begin);
+            const qsizetype next = boundary.toNextBoundary();
+            const qsizetype end = next < 0 ? lineEnd : std::min(next, lineEnd);
+            qsizetype inkEnd = end;
+            while (inkEnd > begin && text[inkEnd - 1].isSpace()) {
+                --inkEnd;
+            }
+            pieces.push_back({{std::abs(place(inkEnd) - place(begin)),
+                               std::abs(place(end) - place(begin)), end == lineEnd},
+                              end});
+            begin = end;
+        }
+    }
+    return pieces;
+}
+
+std::vector<QTextLine> brokenLines(QTextLayout& layout, const std::vector<PlacedPiece>& placed,
+                                   double maxWidth) {
+    std::vector<RowPiece> pieces;
+    pieces.reserve(placed.size());
+    std::ranges::transform(placed, std::back_inserter(pieces), &PlacedPiece::piece);
+    const std::vector<std::size_t> ends = breakRows(pieces, maxWidth);
+    std::vector<QTextLine> lines;
+    std::size_t piece = 0;
+    auto end = ends.begin();
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        double width = 0;
+        for (; end != ends.end() && piece < *end; ++piece) {
+            width += pieces[piece].advance;
+        }
+        // With half of the next piece added, Qt's rounding cannot move a break.
+        const bool endsRow = piece == 0 || piece == pieces.size() || pieces[piece - 1].endsRow;
+        line.setLineWidth(
+            endsRow ? widestLine
+                    : std::min(width + std::max(pieces[piece].width / 2, 1.0), widestLine));
+        line.setPosition({0, 0});
+        lines.push_back(line);
+        const qsizetype lineEnd = line.textStart() + line.textLength();
+        piece = static_cast<std::size_t>(
+            std::ranges::upper_bound(placed, lineEnd, {}, &PlacedPiece::end) - placed.begin());
+        while (end != ends.end() && *end <= piece) {
+            ++end;
+        }
+    }
+    layout.endLayout();
+    return lines;
+}
+
 } // namespace
 
 QRawFont rawFace(const QFont& face) {
@@ -134,36 +237,46 @@ double descentOf(const QRawFont& face) {
 
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks) {
-    QFont large = face;
-    large.setPixelSize(shapingSize);
-    if (tracking != 0) {
-        large.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
-    }
-    QTextLayout layout(withRowBreaks(text, breaks), large);
-    QTextOption option;
-    option.setUseDesignMetrics(true);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setWrapMode(maxWidth > 0 ? QTextOption::WordWrap : QTextOption::ManualWrap);
+    QTextLayout layout;
+    prepare(layout, withRowBreaks(text, breaks), face, tracking);
     if (maxWidth <= 0) {
-        option.setFlags(QTextOption::IncludeTrailingSpaces);
+        keepTrailingSpaces(layout);
     }
-    layout.setTextOption(option);
+    std::vector<QTextLine> lines = unbrokenLines(layout);
+    const bool fits = std::ranges::all_of(
+        lines, [&](const QTextLine& line) { return line.naturalTextWidth() <= maxWidth; });
+    if (maxWidth > 0 && !fits) {
+        lines = brokenLines(layout, piecesOf(layout), maxWidth);
+    }
 
     TextLayout result;
     result.rightToLeft = text.isRightToLeft();
     const QList<qsizetype> ends = characterEnds(text);
     result.characterCount = ends.size();
     const QRawFont requested = rawFace(face);
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(maxWidth > 0 ? std::min(maxWidth, widestLine) : widestLine);
-        line.setPosition({0, 0});
+    for (const QTextLine& line : lines) {
         result.rows.push_back(rowOf(line, ends, requested));
     }
-    layout.endLayout();
     if (result.rows.empty()) {
         result.rows.push_back({{}, 0, ascentOf(requested), descentOf(requested)});
+    }
+    return result;
+}
+
+MeasuredText measureText(const QString& text, const QFont& face, double tracking) {
+    QTextLayout layout;
+    prepare(layout, withRowBreaks(text, LineBreaks::Kept), face, tracking);
+    const QRawFont requested = rawFace(face);
+    MeasuredText result{0, ascentOf(requested), descentOf(requested), {}};
+    for (const QTextLine& line : unbrokenLines(layout)) {
+        result.width = std::max(result.width, line.naturalTextWidth());
+        for (const QGlyphRun& run : line.glyphRuns()) {
+            result.ascent = std::max(result.ascent, ascentOf(run.rawFont()));
+            result.descent = std::max(result.descent, descentOf(run.rawFont()));
+        }
+    }
+    for (const PlacedPiece& piece : piecesOf(layout)) {
+        result.pieces.push_back(piece.piece);
     }
     return result;
 }

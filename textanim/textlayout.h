@@ -4,6 +4,7 @@
 #pragma once
 
 #include "textanim/fonts.h"
+#include "textanim/rowbreaking.h"
 
 #include <QGlyphRun>
 #include <QPointF>
@@ -54,10 +55,22 @@ QRawFont rawFace(const QFont& face);
 
 enum class LineBreaks { Kept, Ignored };
 
-// Shapes a text and breaks it into rows at word boundaries. `tracking` and
-// `maxWidth` are in the units of the result; a `maxWidth` of 0 gives one row for
-// each line of the text. There is always at least one row.
+// Shapes a text. `tracking` and `maxWidth` are in the units of the result. Each
+// line of the text becomes a row; if one is wider than a `maxWidth` above 0, all are
+// broken at word boundaries into rows of nearly equal length, as few as possible.
+// There is always at least one row.
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks);
+
+// The dimensions of a text without those of its glyphs, in the units of TextRow.
+// layOut() breaks a text that is wider than its `maxWidth` into
+// rowCount(pieces, maxWidth) rows.
+struct MeasuredText {
+    double width = 0; // of the widest line of the text
+    double ascent = 0;
+    double descent = 0;
+    std::vector<RowPiece> pieces;
+};
+MeasuredText measureText(const QString& text, const QFont& face, double tracking = 0);
 
 } // namespace morrowleaf

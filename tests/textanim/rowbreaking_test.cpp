@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "textanim/rowbreaking.h"
+
+#include "tests/fakes/shippedfonts.h"
+#include "textanim/handwriting.h"
+#include "textanim/shapedtext.h"
+#include "textanim/textlayout.h"
+#include "textanim/textoutline.h"
+
+#include <QSet>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+TextFont face(const QString& name, double size = 44) {
+    return quoteFont(shippedFonts(), name, size);
+}
+
+const QString chinese = u"学而时习之不亦说乎有朋自远方来不亦乐乎人不知而不愠不亦君子乎"_s;
+const QString thai = u"ความพยายามอยู่ที่ไหนความสำเร็จอยู่ที่นั่นและวันใหม่เริ่มต้นเสมอ"_s;
+const QString longWord = u"Wort-fuer-Wort-und-Satz-fuer-Satz-waechst-ein-Buch-in-der-Stille"_s;
+
+std::vector<RowPiece> equalPieces(std::size_t count) {
+    return std::vector<RowPiece>(count, RowPiece{1, 1});
+}
+
+// The number of characters in each row, top to bottom.
+std::vector<qsizetype> rowLengths(const TextOutline& text) {
+    std::vector<qsizetype> lengths;
+    double right = 0;
+    for (const OutlinePart& part : text.parts) {
+        const bool isRow = lengths.empty() || part.right < right - 20;
+        if (isRow) {
+            lengths.push_back(0);
+        }
+        lengths.back() += part.characterCount;
+        right = part.right;
+    }
+    return lengths;
+}
+
+} // namespace
+
+TEST(BreakRows, KeepsOneRowThatFits) {
+    EXPECT_EQ(breakRows(equalPieces(5), 5), std::vector<std::size_t>{5});
+    EXPECT_EQ(rowCount(equalPieces(5), 5), 1U);
+    EXPECT_TRUE(breakRows({}, 5).empty());
+    EXPECT_EQ(rowCount({}, 5), 0U);
+}
+
+TEST(BreakRows, MakesRowsOfNearlyEqualLength) {
+    for (std::size_t count = 6; count < 90; ++count) {
+        for (std::size_t width = 5; width < 30; ++width) {
+            const auto ends = breakRows(equalPieces(count), static_cast<double>(width));
+            EXPECT_EQ(ends.size(), (count + width - 1) / width);
+            EXPECT_EQ(ends.back(), count);
+            std::size_t shortest = count;
+            std::size_t longest = 0;
+            for (std::size_t i = 0; i < ends.size(); ++i) {
+                const std::size_t length = ends[i] - (i == 0 ? 0 : ends[i - 1]);
+                shortest = std::min(shortest, length);
+                longest = std::max(longest, length);
+            }
+            EXPECT_LE(longest, width);
+            EXPECT_LE(longest - shortest, 1U) << count << " in rows of " << width;
+        }
+    }
+}
+
+TEST(BreakRows, TakesNoMoreRowsThanNeeded) {
+    // Equal halves would be 7 and 7, which the wide pieces do not allow.
+    const std::vector<RowPiece> pieces{{4, 4}, {4, 4}, {3, 3}, {3, 3}};
+    EXPECT_EQ(breakRows(pieces, 8), (std::vector<std::size_t>{2, 4}));
+    EXPECT_EQ(rowCount(pieces, 8), 2U);
+}
+
+TEST(BreakRows, LetsWhiteSpaceHangOver) {
+    const std::vector<RowPiece> pieces{{4, 5}, {4, 5}, {4, 5}};
+    EXPECT_EQ(rowCount(pieces, 9), 2U);
+    EXPECT_EQ(breakRows(pieces, 14), std::vector<std::size_t>{3});
+}
+
+TEST(BreakRows, KeepsTheBreaksOfTheText) {
+    const std::vector<RowPiece> pieces{{1, 1, true}, {1, 1}, {1, 1}, {1, 1}, {1, 1, true}, {0, 0}};
+    EXPECT_EQ(breakRows(pieces, 3), (std::vector<std::size_t>{1, 3, 5, 6}));
+    EXPECT_EQ(rowCount(pieces, 3), 4U);
+}
+
+TEST(BreakRows, GivesAWidePieceARowOfItsOwn) {
+    const std::vector<RowPiece> pieces{{1, 1}, {9, 9}, {1, 1}};
+    EXPECT_EQ(breakRows(pieces, 3), (std::vector<std::size_t>{1, 2, 3}));
+}
+
+TEST(Rows, NeverEndInASingleCharacter) {
+    const TextFont font = face(u"fraunces"_s);
+    const double column = 10.5 * ShapedText(u"学"_s, font).size().width();
+    QSet<std::size_t> counts;
+    for (qsizetype length = 8; length <= chinese.size(); ++length) {
+        const QString text = chinese.left(length);
+        const auto lengths = rowLengths(ShapedText(text, font, 0, column).outline());
+        counts.insert(lengths.size());
+        const auto [shortest, longest] = std::ranges::minmax(lengths);
+        EXPECT_LE(longest - shortest, 1) << length;
+        EXPECT_LE(longest, 10) << length;
+    }
+    EXPECT_EQ(counts, (QSet<std::size_t>{1, 2, 3}));
+}
+
+TEST(Rows, AreTheSameInHandwritingAsInType) {
+    const TextFont font = face(u"fraunces"_s);
+    for (const QString& text : {chinese, thai, longWord, chinese.left(5), u"a\nb"_s}) {
+        const TextOutline type = ShapedText(text, font, 0, 400).outline();
+        const HandwrittenLine written = handwrittenLine(text, font, 400);
+        EXPECT_EQ(rowLengths(written.text), rowLengths(type)) << text.toStdString();
+        EXPECT_NEAR(written.text.size.height(), type.size.height(), 1) << text.toStdString();
+        EXPECT_EQ(written.penWidth, penWidth(font.size));
+        // The letters have the same size in both.
+        EXPECT_NEAR(written.text.parts.front().outline.boundingRect().height(),
+                    type.parts.front().outline.boundingRect().height(), 1e-6);
+    }
+}
+
+TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
+    const HandwrittenLine written = handwrittenLine(longWord, face(u"fraunces"_s), 400);
+    double top = 0;
+    for (const OutlinePart& part : written.text.parts) {
+        const QRectF box = part.outline.boundingRect();
+        EXPECT_GE(box.bottom(), top);
+        top = std::max(top, box.top() - 44);
+    }
+    EXPECT_GT(rowLengths(written.text).size(), 2U);
+}
+
+TEST(MeasuredText, TellsTheRowsOfALayout) {
+    const TextFont font = face(u"serif"_s);
+    for (const QString& text : {chinese, thai, longWord, u"two words"_s, u"a\nlong b"_s}) {
+        const MeasuredText measured = measureText(text, font.face);
+        for (const double width : {900.0, 2000.0, 4000.0, 9000.0}) {
+            const TextLayout layout = layOut(text, font.face, 0, width, LineBreaks::Kept);
+            EXPECT_EQ(rowCount(measured.pieces, width), layout.rows.size())
+                << text.toStdString() << ' ' << width;
+        }
+        const TextRow& row = layOut(text, font.face, 0, 1e6, LineBreaks::Kept).rows.front();
+        EXPECT_NEAR(measured.ascent, row.ascent, 1e-9);
+        EXPECT_NEAR(measured.descent, row.descent, 1e-9);
+    }
+}
