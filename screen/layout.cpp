@@ -60,10 +60,11 @@ double columnWidth(const QRectF& contentBox) {
     return std::max(contentBox.width() - 2 * measure::columnPadding, 1.0);
 }
 
-Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading) {
+Column stackColumn(const ColumnSizes& sizes, double lineScale, double paddingScale,
+                   Leading leading) {
     Column column;
     column.mark = centred(0, sizes.mark);
-    double y = sizes.mark.height() + measure::linesTop * scale;
+    double y = sizes.mark.height() + measure::linesTop * paddingScale;
 
     double block = 0;
     for (const QSizeF& line : sizes.lines) {
@@ -71,40 +72,43 @@ Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading) {
     }
     for (const QSizeF& line : sizes.lines) {
         if (!column.lines.isEmpty()) {
-            y += measure::lineSpacing * scale;
+            y += measure::lineSpacing * lineScale;
         }
         const double x = leading == Leading::Left ? -block / 2 : block / 2 - line.width();
         column.lines.append(QRectF(QPointF(x, y), line));
         y += line.height();
     }
 
-    y += measure::ruleTop * scale;
+    y += measure::ruleTop * paddingScale;
     column.rule = centred(y, {measure::ruleWidth, measure::ruleHeight});
-    y += measure::ruleHeight + measure::authorTop * scale;
+    y += measure::ruleHeight + measure::authorTop * paddingScale;
     column.author = centred(y, sizes.author);
     column.height = y + sizes.author.height();
     return column;
 }
 
-ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
-                        double quoteSize) {
+double columnRoom(double viewHeight, double headerBottom, double hintTop, double space) {
     const double middle = viewHeight / 2;
-    const auto roomWith = [&](double space) {
-        return 2 * std::min(middle - headerBottom - space, hintTop - space - middle);
-    };
+    return 2 * std::min(middle - headerBottom - space, hintTop - space - middle);
+}
+
+ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom,
+                        double hintTop) {
+    constexpr double rounding = 1e-6;
     ColumnPlace place;
     place.bottom = hintTop - measure::leastSpace;
-    if (columnHeight > roomWith(measure::leastSpace)) {
-        const double least = std::min(1.0, measure::leastQuoteSize / quoteSize);
-        place.scale = std::max(roomWith(measure::shrunkSpace) / columnHeight, least);
-    }
-    const double height = columnHeight * place.scale;
-    place.top = middle - height / 2;
-    if (height > roomWith(measure::leastSpace)) {
+    place.top = viewHeight / 2 - columnHeight / 2;
+    if (columnHeight >
+        columnRoom(viewHeight, headerBottom, hintTop, measure::leastSpace) + rounding) {
         place.overflows = true;
         place.top = headerBottom + measure::shrunkSpace;
     }
     return place;
+}
+
+double surroundingScale(double wished, double quoteSize) {
+    const double whole = std::min(measure::ownScaleBelow, measure::quoteSize * wished);
+    return wished * std::min(quoteSize / whole, 1.0);
 }
 
 qsizetype visibleCharacterLimit(double viewHeight, double quoteSize, int perLine) {

@@ -33,9 +33,11 @@ inline constexpr double columnPadding = 90; // on either side
 inline constexpr double headerSide = 46;
 inline constexpr double headerTop = 38;
 inline constexpr double hintBottom = 40;
+inline constexpr double columnPaddings = linesTop + ruleTop + authorTop; // s k
 inline constexpr double leastSpace = 8;   // between the column and header or hint
 inline constexpr double shrunkSpace = 20; // the same for a column that had to shrink
 inline constexpr double leastQuoteSize = 12;
+inline constexpr double ownScaleBelow = 24; // quotations as small as this shrink their author
 inline constexpr double shadowRadius = 24;
 inline constexpr double shadowDrop = 6;
 } // namespace measure
@@ -73,22 +75,29 @@ struct Column {
 
 // The side at which the lines are aligned.
 enum class Leading { Left, Right };
-// Stacks mark, lines, rule and author from top to bottom, for the scale s × k.
-Column stackColumn(const ColumnSizes& sizes, double scale, Leading leading);
+// Stacks mark, lines, rule and author from top to bottom. `lineScale` is the factor
+// on the space between lines, `paddingScale` that on the paddings of `columnPaddings`.
+Column stackColumn(const ColumnSizes& sizes, double lineScale, double paddingScale,
+                   Leading leading);
 
-// Where a finished column is placed in the view: scaled about its top, centred
-// horizontally in the content box.
+// The height that a column centred in the view may have, when `space` is kept between
+// it and header and hint. All lengths are in points.
+double columnRoom(double viewHeight, double headerBottom, double hintTop, double space);
+
+// Where a finished column is placed in the view, centred horizontally in the content box.
 struct ColumnPlace {
     double top = 0;
-    double scale = 1;
-    bool overflows = false; // extends below `bottom` even at its smallest scale
+    bool overflows = false; // extends below `bottom`
     double bottom = 0;      // the lowest y that the column may reach, above the hint
 };
-// A column that fits between header and hint is centred in the view as it is; a
-// taller one is scaled down, at most until the quotation is set in 12 points. All
-// lengths are in points.
-ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom, double hintTop,
-                        double quoteSize);
+// A column that fits between header and hint is centred in the view; a taller one
+// begins below the header.
+ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom,
+                        double hintTop);
+
+// The factor that author and paddings would like to have: the wished one, and below a
+// quotation of 24 points less in proportion. `wished` is s × k, `quoteSize` in points.
+double surroundingScale(double wished, double quoteSize);
 
 // The number of characters that can be seen in a view of that height (points),
 // with the quotation set in `quoteSize` points (above 0) or smaller and `perLine`

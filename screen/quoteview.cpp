@@ -7,12 +7,13 @@
 #include "screen/greeting.h"
 #include "screen/layout.h"
 #include "textanim/fonts.h"
-#include "textanim/linebalancing.h"
+#include "textanim/handwriting.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace morrowleaf {
 
@@ -24,6 +25,15 @@ constexpr double markOpacity = 0.18;
 constexpr double captionOpacity = 0.45;
 constexpr double authorOpacity = 0.72;
 constexpr double hintOpacity = 0.3;
+
+constexpr double unbounded = 1e9; // points
+
+const QString markText = u"\u201C"_s;
+
+// Independent of the locale: a name is the same on every desktop.
+QString shownAuthor(const Quote& quote) {
+    return quote.author.toUpper();
+}
 
 // The nearest whole device pixel, in points.
 double snapped(double points, double devicePixelRatio) {
@@ -52,32 +62,36 @@ public:
         , scale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
                                               : std::nullopt) *
                  usableSizeScale(state.settings.sizeScale))
-        , wrap_(
-              wrapTarget(state.mainScreen ? std::optional(state.mainScreen->width()) : std::nullopt,
-                         state.sideInset, scale_))
-        , seen_(visibleCharacterLimit(state.size.height(), quoteSize(), wrap_)) {}
+        , width_(state.mainScreen ? std::optional(state.mainScreen->width()) : std::nullopt)
+        , inset_(state.sideInset)
+        , seen_(visibleCharacterLimit(state.size.height(), wishedSize(),
+                                      target(std::min(wishedSize(), measure::leastQuoteSize)))) {}
 
-    int wrap() const { return wrap_; } // characters
     qsizetype seen() const { return seen_; }
     // The limit for a single line and for the author: without spaces only scripts
     // with wide characters wrap into rows, and a row holds half as many of those.
     qsizetype seenInOne() const { return seen_ / 2; }
     double scale() const { return scale_; } // s × k
-    double quoteSize() const { return measure::quoteSize * scale_; }
-    TextFont quote() const { return quoteFont(fonts_, fontName_, quoteSize()); }
-    TextFont mark() const { return quoteFont(fonts_, fontName_, measure::markSize * scale_); }
-    TextFont author() const { return caption(measure::authorSize); }
-    TextFont overlay() const { return caption(measure::captionSize); }
+    double wishedSize() const { return measure::quoteSize * scale_; }
+    // The characters in a line of a quotation of that size.
+    int target(double size) const { return wrapTarget(width_, inset_, size / measure::quoteSize); }
+    TextFont quote(double size) const { return quoteFont(fonts_, fontName_, size); }
+    TextFont mark(double size) const {
+        return quote(measure::markSize * size / measure::quoteSize);
+    }
+    TextFont author(double scale) const { return caption(measure::authorSize * scale); }
+    TextFont overlay() const { return caption(measure::captionSize * scale_); }
 
 private:
     TextFont caption(double size) const {
-        return nsFont(fonts_, size * scale_, FontDesign::Monospaced, FontWeight::Medium);
+        return nsFont(fonts_, size, FontDesign::Monospaced, FontWeight::Medium);
     }
 
     const FontBook& fonts_;
     QString fontName_;
     double scale_;
-    int wrap_;
+    std::optional<double> width_; // of the main screen
+    double inset_;
     qsizetype seen_;
 };
 
@@ -99,38 +113,122 @@ void QuoteView::update(const QuoteViewState& state, double seconds) {
 
 void QuoteView::compose(double seconds) {
     const Metrics metrics(state_, *fonts_);
-    cutQuotation(metrics);
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
+    composeOverlays(metrics, box);
+    cutQuotation(metrics, width);
     composeLines(metrics, width, seconds);
     if (!closing_) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
-    layOut(mark_, {u"\u201C"_s, metrics.mark()});
-    // Independent of the locale: a name is the same on every desktop.
-    layOut(author_,
-           {state_.quote.author.toUpper(), metrics.author(), measure::authorTracking, width});
-    layOut(sample_, {u"x"_s, metrics.quote()});
-    composeOverlays(metrics, box);
-    placeTexts(metrics, box);
+    layOut(mark_, {markText, metrics.mark(sizes_.quote)});
+    layOut(author_, {shownAuthor(state_.quote), metrics.author(sizes_.author),
+                     measure::authorTracking, width});
+    layOut(sample_, {u"x"_s, metrics.quote(sizes_.quote)});
+    placeTexts(box);
 }
 
 // Cuts off what cannot be seen: a source may deliver millions of characters, even
 // as a single word.
-void QuoteView::cutQuotation(const Metrics& metrics) {
-    if (work_.cuts == 0 || cut_.quote != state_.quote || cut_.wrap != metrics.wrap() ||
-        cut_.seen != metrics.seen()) {
-        cut_ = {state_.quote, metrics.wrap(), metrics.seen(), {}, {}};
+void QuoteView::cutQuotation(const Metrics& metrics, double width) {
+    const bool isNew = work_.cuts == 0 || cut_.quote != state_.quote || cut_.seen != metrics.seen();
+    if (isNew) {
+        cut_.quote = state_.quote;
+        cut_.seen = metrics.seen();
         cut_.seenQuote = {beginningOf(state_.quote.text, metrics.seen()),
                           beginningOf(state_.quote.author, metrics.seenInOne())};
-        cut_.lines = balancedLines(cut_.seenQuote.text, metrics.wrap());
-        for (QString& line : cut_.lines) {
-            line = beginningOf(line, metrics.seenInOne());
-        }
-        ++work_.cuts;
     }
     state_.quote = cut_.seenQuote;
+    sizes_ = fittingSizes(metrics, width);
+    if (isNew || cut_.target != sizes_.target) {
+        cut_.target = sizes_.target;
+        ++work_.cuts;
+    }
+    cut_.lines = quotationFit_.lines(sizes_.target, sizes_.quote, width);
+}
+
+// What the column would measure in other sizes is judged by a screen whose header and
+// hint have the same scale, so that the result does not depend on the wish. What the
+// wish makes larger than that is taken from the paddings.
+QuoteView::Sizes QuoteView::fittingSizes(const Metrics& metrics, double width) {
+    const QFont face = metrics.quote(1).face;
+    if (!quotationFit_.isOf(state_.quote.text, face, metrics.seenInOne())) {
+        quotationFit_ = QuotationFit(state_.quote.text, face, metrics.seenInOne());
+    }
+    if (!markFit_.isOf(markText, face)) {
+        markFit_ = CaptionFit(markText, face);
+    }
+    const QString author = shownAuthor(state_.quote);
+    const QFont authorFace = metrics.author(1).face;
+    if (!authorFit_.isOf(author, authorFace)) {
+        authorFit_ = CaptionFit(author, authorFace);
+    }
+    const bool isWritten = storedTextAnim(state_.settings.textAnimRaw) == TextAnim::Handwrite;
+    const auto rounding = [isWritten](double height) {
+        return isWritten ? wholePoints(height) : height;
+    };
+    const auto scaleOf = [](double size) { return size / measure::quoteSize; };
+    const auto heightWithoutPaddings = [&](double size, double authorScale) {
+        const QList<double> lines =
+            quotationFit_.lineHeights(metrics.target(size), size, width, rounding);
+        const auto gaps = static_cast<double>(std::max(lines.size() - 1, qsizetype{0}));
+        return markFit_.height(measure::markSize * scaleOf(size), 0, unbounded) +
+               std::accumulate(lines.begin(), lines.end(), 0.0) +
+               gaps * measure::lineSpacing * scaleOf(size) + measure::ruleHeight +
+               authorFit_.height(measure::authorSize * authorScale, measure::authorTracking, width);
+    };
+    const double wished = metrics.scale();
+    const auto room = [&](double captionScale, double space) {
+        return columnRoom(state_.size.height(), headerBottom(captionScale, wished),
+                          hintTop(captionScale, wished), space);
+    };
+    const auto fits = [&](double size) {
+        const double own = scaleOf(size);
+        const double height = heightWithoutPaddings(size, own);
+        return quotationFit_.wordsFit(size, width) &&
+               height + own * measure::columnPaddings <= room(own, measure::leastSpace) &&
+               height <= room(wished, measure::leastSpace);
+    };
+
+    Sizes sizes;
+    sizes.quote = largestFittingSize(metrics.wishedSize(), measure::leastQuoteSize, fits);
+    sizes.target = metrics.target(sizes.quote);
+    sizes.author = surroundingScale(wished, sizes.quote);
+    sizes.paddings = sizes.author;
+    if (sizes.quote == metrics.wishedSize()) {
+        return sizes;
+    }
+    const double own = scaleOf(sizes.quote);
+    const double leastPaddings = 0.25 * own;
+    const double goodPaddings = 0.75 * own; // worth a column that comes close to the hint
+    const auto paddingsWithin = [&](double space) {
+        return (room(wished, space) - heightWithoutPaddings(sizes.quote, sizes.author)) /
+               measure::columnPaddings;
+    };
+    if (paddingsWithin(measure::leastSpace) < leastPaddings) {
+        sizes.author = own;
+    }
+    const double most = paddingsWithin(measure::leastSpace);
+    sizes.paddings =
+        most < 0
+            ? own
+            : std::min(std::max(paddingsWithin(measure::shrunkSpace), std::min(most, goodPaddings)),
+                       sizes.paddings);
+    return sizes;
+}
+
+double QuoteView::headerBottom(double captionScale, double wished) const {
+    const auto heightOf = [&](const Text& text) {
+        return std::min(text.shape.size().height() * captionScale / wished, text.rect().height());
+    };
+    return measure::headerTop + std::max(heightOf(greeting_), heightOf(today_));
+}
+
+double QuoteView::hintTop(double captionScale, double wished) const {
+    const double height =
+        std::min(hint_.shape.size().height() * captionScale / wished, hint_.rect().height());
+    return state_.size.height() - measure::hintBottom - height;
 }
 
 void QuoteView::layOut(Text& text, const Typesetting& typesetting) {
@@ -148,7 +246,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
     const QString& raw = state_.settings.textAnimRaw;
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);
-    parts.font = metrics.quote();
+    parts.font = metrics.quote(sizes_.quote);
     parts.strokeFont = parts.font;
     parts.color = state_.palette.ink;
     parts.shadow = {state_.palette.light ? 0.08 : 0.35, measure::shadowRadius,
@@ -211,29 +309,22 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
                state_.size.height() - measure::hintBottom - hint_.rect().height());
 }
 
-void QuoteView::placeTexts(const Metrics& metrics, const QRectF& box) {
+void QuoteView::placeTexts(const QRectF& box) {
     ColumnSizes sizes{mark_.shape.size(), {}, author_.shape.size()};
     for (const Line& line : lines_) {
         sizes.lines.append(line.line.size());
     }
     const Leading leading = state_.quote.text.isRightToLeft() ? Leading::Right : Leading::Left;
-    const Column column = stackColumn(sizes, metrics.scale(), leading);
-    const double headerBottom =
-        measure::headerTop + std::max(greeting_.rect().height(), today_.rect().height());
-    const double hintTop = state_.size.height() - measure::hintBottom - hint_.rect().height();
-    place_ = placeColumn(column.height, state_.size.height(), headerBottom, hintTop,
-                         metrics.quoteSize());
+    const Column column =
+        stackColumn(sizes, sizes_.quote / measure::quoteSize, sizes_.paddings, leading);
+    place_ = placeColumn(column.height, state_.size.height(), headerBottom(1, 1), hintTop(1, 1));
 
     const double ratio = state_.devicePixelRatio;
     const auto placed = [&](QPointF inColumn, double baseline) {
-        const double drop = baseline * place_.scale;
-        const QPointF at(box.center().x() + inColumn.x() * place_.scale,
-                         place_.top + inColumn.y() * place_.scale);
-        return QPointF(snapped(at.x(), ratio), snapped(at.y() + drop, ratio) - drop);
+        const QPointF at(box.center().x() + inColumn.x(), place_.top + inColumn.y());
+        return QPointF(snapped(at.x(), ratio), snapped(at.y() + baseline, ratio) - baseline);
     };
-    mark_.scale = place_.scale;
     mark_.topLeft = placed(column.mark.topLeft(), mark_.shape.baseline());
-    author_.scale = place_.scale;
     author_.topLeft = placed(column.author.topLeft() + QPointF(measure::authorTracking / 2, 0),
                              author_.shape.baseline());
     const double baseline = sample_.shape.baseline();
@@ -241,8 +332,8 @@ void QuoteView::placeTexts(const Metrics& metrics, const QRectF& box) {
         lines_[i].topLeft = placed(column.lines[static_cast<qsizetype>(i)].topLeft(), baseline);
     }
     const QPointF ruleAt = placed(column.rule.topLeft(), 0);
-    rule_ = {ruleAt.x(), ruleAt.y(), snapped(column.rule.width() * place_.scale, ratio),
-             std::max(1.0, std::floor(column.rule.height() * place_.scale * ratio)) / ratio};
+    rule_ = {ruleAt.x(), ruleAt.y(), snapped(column.rule.width(), ratio),
+             std::max(1.0, std::floor(column.rule.height() * ratio)) / ratio};
 }
 
 QRectF QuoteView::rect(Element element) const {
@@ -265,7 +356,7 @@ QRectF QuoteView::rect(Element element) const {
 
 QRectF QuoteView::lineRect(qsizetype index) const {
     const Line& line = lines_[static_cast<size_t>(index)];
-    return {line.topLeft, line.line.size() * place_.scale};
+    return {line.topLeft, line.line.size()};
 }
 
 QString QuoteView::lineText(qsizetype index) const {

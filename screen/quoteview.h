@@ -6,6 +6,7 @@
 #include "quotes/quote.h"
 #include "screen/entrances.h"
 #include "screen/layout.h"
+#include "screen/quotationfit.h"
 #include "screen/viewsettings.h"
 #include "textanim/revealline.h"
 #include "textanim/shapedtext.h"
@@ -80,7 +81,9 @@ public:
     QString lineText(qsizetype index) const;
     double lineAppearedAt(qsizetype index) const;
     const ClosingEntrances& closing() const { return *closing_; }
-    double columnScale() const { return place_.scale; }
+    // The size of the quotation in points: the wished one, or the largest with which
+    // the column fits between header and hint.
+    double quoteSize() const { return sizes_.quote; }
 
 private:
     // The input of a text's layout.
@@ -106,7 +109,7 @@ private:
     // The quotation cut into lines, and the input of the cut.
     struct Cut {
         Quote quote; // as passed in
-        int wrap = 0;
+        int target = 0;
         qsizetype seen = 0;
         Quote seenQuote;
         QStringList lines;
@@ -117,14 +120,24 @@ private:
         RevealLine line;
         QPointF topLeft;
     };
+    // The sizes that the column was given.
+    struct Sizes {
+        double quote = 0; // points
+        int target = 0;   // characters in a line
+        double author = 1;
+        double paddings = 1; // factors
+    };
     class Metrics;
 
     void compose(double seconds);
-    void cutQuotation(const Metrics& metrics);
+    void cutQuotation(const Metrics& metrics, double width);
+    Sizes fittingSizes(const Metrics& metrics, double width);
+    double headerBottom(double captionScale, double wished) const;
+    double hintTop(double captionScale, double wished) const;
     void layOut(Text& text, const Typesetting& typesetting);
     void composeLines(const Metrics& metrics, double width, double seconds);
     void composeOverlays(const Metrics& metrics, const QRectF& box);
-    void placeTexts(const Metrics& metrics, const QRectF& box);
+    void placeTexts(const QRectF& box);
     void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;
@@ -135,8 +148,12 @@ private:
     QuoteViewState state_;
     std::optional<ClosingEntrances> closing_;
     ColumnPlace place_;
+    Sizes sizes_;
     Work work_;
     Cut cut_;
+    QuotationFit quotationFit_;
+    CaptionFit markFit_;
+    CaptionFit authorFit_;
     Text greeting_;
     Text today_;
     Text mark_;

@@ -57,7 +57,7 @@ QRectF QuoteView::paintedLineRect(const Line& line, double seconds) const {
     if (own.isEmpty()) {
         return {};
     }
-    return {line.topLeft + own.topLeft() * place_.scale, own.size() * place_.scale};
+    return own.translated(line.topLeft);
 }
 
 void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) const {
@@ -107,7 +107,6 @@ void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip
     const auto onLine = [&](const Line& line, const auto& what) {
         painter.save();
         painter.translate(line.topLeft);
-        painter.scale(place_.scale, place_.scale);
         what(seconds - line.appearedAt);
         painter.restore();
     };

@@ -55,7 +55,7 @@ TEST(ContentBox, IsCentredInTheWidthThatTheInspectorLeaves) {
 
 TEST(Column, StacksItsElements) {
     const Column column =
-        stackColumn({{40, 80}, {{600, 50}, {500, 50}}, {200, 16}}, 1, Leading::Left);
+        stackColumn({{40, 80}, {{600, 50}, {500, 50}}, {200, 16}}, 1, 1, Leading::Left);
     EXPECT_EQ(column.mark, QRectF(-20, 0, 40, 80));
     EXPECT_EQ(column.lines.at(0), QRectF(-300, 110, 600, 50));
     EXPECT_EQ(column.lines.at(1), QRectF(-300, 172, 500, 50)); // leading-aligned
@@ -66,7 +66,7 @@ TEST(Column, StacksItsElements) {
 
 TEST(Column, ScalesItsSpacesButNotTheRule) {
     const Column column =
-        stackColumn({{40, 80}, {{600, 50}, {500, 50}}, {200, 16}}, 1.5, Leading::Right);
+        stackColumn({{40, 80}, {{600, 50}, {500, 50}}, {200, 16}}, 1.5, 1.5, Leading::Right);
     EXPECT_EQ(column.lines.at(0).top(), 125);
     EXPECT_EQ(column.lines.at(1).top(), 193);
     EXPECT_EQ(column.lines.at(1).right(), 300);
@@ -75,41 +75,45 @@ TEST(Column, ScalesItsSpacesButNotTheRule) {
 }
 
 TEST(Column, KeepsTheSpaceOfAnEmptyQuotation) {
-    const Column column = stackColumn({{40, 80}, {}, {0, 16}}, 1, Leading::Left);
+    const Column column = stackColumn({{40, 80}, {}, {0, 16}}, 1, 1, Leading::Left);
     EXPECT_EQ(column.rule.top(), 80 + 30 + 46);
 }
 
+TEST(Column, ScalesLinesAndPaddingsApart) {
+    const Column column =
+        stackColumn({{40, 80}, {{600, 50}, {500, 50}}, {200, 16}}, 0.5, 2, Leading::Left);
+    EXPECT_EQ(column.lines.at(0).top(), 80 + 60);
+    EXPECT_EQ(column.lines.at(1).top(), 80 + 60 + 50 + 6);
+    EXPECT_EQ(column.rule.top(), 246 + 92);
+    EXPECT_EQ(column.author.top(), 246 + 92 + 1 + 44);
+}
+
 TEST(ColumnPlace, CentresAColumnThatFits) {
-    const ColumnPlace place = placeColumn(500, 982, 53, 927, 44);
-    EXPECT_EQ(place.scale, 1);
+    const ColumnPlace place = placeColumn(500, 982, 53, 927);
     EXPECT_EQ(place.top, 241);
     EXPECT_FALSE(place.overflows);
 
     const double room = 2 * (927 - 8 - 491);
-    EXPECT_EQ(placeColumn(room, 982, 53, 927, 44).scale, 1);
-    EXPECT_LT(placeColumn(room + 1, 982, 53, 927, 44).scale, 1);
+    EXPECT_EQ(columnRoom(982, 53, 927, measure::leastSpace), room);
+    EXPECT_FALSE(placeColumn(room, 982, 53, 927).overflows);
+    EXPECT_TRUE(placeColumn(room + 1, 982, 53, 927).overflows);
 }
 
-TEST(ColumnPlace, ScalesDownAColumnThatDoesNotFit) {
-    const ColumnPlace place = placeColumn(1700, 982, 53, 927, 44);
-    EXPECT_FALSE(place.overflows);
-    EXPECT_GE(place.top, 53 + 20);
-    EXPECT_LE(place.top + 1700 * place.scale, 927 - 20);
-    EXPECT_NEAR(place.top + 1700 * place.scale / 2, 491, 1e-9);
-}
-
-TEST(ColumnPlace, NeverSetsTheQuotationBelowTwelvePoints) {
-    const ColumnPlace place = placeColumn(20000, 982, 53, 927, 44);
-    EXPECT_DOUBLE_EQ(place.scale, 12.0 / 44);
+TEST(ColumnPlace, BeginsAColumnThatDoesNotFitBelowTheHeader) {
+    const ColumnPlace place = placeColumn(20000, 982, 53, 927);
     EXPECT_TRUE(place.overflows);
     EXPECT_EQ(place.top, 73);
     EXPECT_EQ(place.bottom, 919);
-    // A text that the user has set smaller than that is not enlarged.
-    EXPECT_EQ(placeColumn(20000, 982, 53, 927, 9).scale, 1);
 }
 
 TEST(ColumnPlace, SurvivesAViewWithoutRoom) {
-    const ColumnPlace place = placeColumn(500, 40, 53, -15, 44);
-    EXPECT_TRUE(place.overflows);
-    EXPECT_DOUBLE_EQ(place.scale, 12.0 / 44);
+    EXPECT_TRUE(placeColumn(500, 40, 53, -15).overflows);
+}
+
+TEST(SurroundingScale, IsTheWishedOneAboveSmallQuotations) {
+    EXPECT_EQ(surroundingScale(1.6, 70.4), 1.6);
+    EXPECT_EQ(surroundingScale(1.6, 24), 1.6);
+    EXPECT_EQ(surroundingScale(1.6, 12), 0.8);
+    EXPECT_DOUBLE_EQ(surroundingScale(0.5, 22), 0.5); // as wished
+    EXPECT_DOUBLE_EQ(surroundingScale(0.5, 11), 0.25);
 }

@@ -41,7 +41,7 @@ TEST(QuoteView, PlacesItsElementsAtTheSpecifiedDistances) {
     EXPECT_NEAR(view.lineRect(0).left() + block / 2, 756, 0.6);
     const double height = view.rect(Element::Author).bottom() - mark.top();
     EXPECT_NEAR(mark.top() + height / 2, 491, 1);
-    EXPECT_EQ(view.columnScale(), 1);
+    EXPECT_EQ(view.quoteSize(), 44);
 }
 
 TEST(QuoteView, KeepsClearOfTheInspector) {
@@ -141,11 +141,11 @@ TEST(QuoteView, ScalesDownALongQuotationAsAWhole) {
     QuoteViewState state = plainState();
     state.quote = {u"A sentence that goes on and on. "_s.repeated(30), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
-    EXPECT_LT(view.columnScale(), 1);
-    EXPECT_GT(view.columnScale(), 12.0 / 44);
+    EXPECT_LT(view.quoteSize(), 44);
+    EXPECT_GT(view.quoteSize(), 12);
     EXPECT_GE(view.rect(Element::Mark).top(), view.rect(Element::Greeting).bottom());
     EXPECT_LE(view.rect(Element::Author).bottom(), view.rect(Element::Hint).top());
-    const int target = wrapTarget(1512, 0, 1);
+    const int target = wrapTarget(1512, 0, view.quoteSize() / 44);
     EXPECT_GE(view.lineCount(), 960 / (target + 3));
     EXPECT_FALSE(inkWithin(drawn(view, 20), view.rect(Element::Author).toAlignedRect()).isEmpty());
 }
@@ -154,7 +154,7 @@ TEST(QuoteView, FadesOutWhatDoesNotFitAtTwelvePoints) {
     QuoteViewState state = plainState();
     state.quote = {u"Thousands of characters may arrive here. "_s.repeated(200), u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
-    EXPECT_DOUBLE_EQ(view.columnScale(), 12.0 / 44);
+    EXPECT_EQ(view.quoteSize(), 12);
     const QImage image = drawn(view, 100);
     const int hintTop = static_cast<int>(view.rect(Element::Hint).top());
     EXPECT_TRUE(inkWithin(image, QRect(0, hintTop - 8, 1512, 7), 2).isEmpty());
