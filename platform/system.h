@@ -20,8 +20,8 @@ void releaseFreeMemory();
 void ignoreBrokenPipes();
 
 // Discards what is written to standard error from now on. Returns a stream, which stays
-// open, that still writes there; null if that fails or the system has no such means, and
-// nothing is discarded then.
+// open, that still writes there. Returns null and discards nothing if that fails, if the
+// system has no such means, or if the user asked for a trace that a library writes there.
 [[nodiscard]] std::FILE* divertErrorOutput();
 
 } // namespace morrowleaf

@@ -10,6 +10,8 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include <QtGlobal>
+
 namespace morrowleaf {
 
 double uptime() {
@@ -27,6 +29,9 @@ void ignoreBrokenPipes() {
 }
 
 std::FILE* divertErrorOutput() {
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DEBUG")) {
+        return nullptr; // the trace was asked for, and standard error is its only way out
+    }
     const int kept = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
     std::FILE* stream = kept >= 0 ? ::fdopen(kept, "w") : nullptr;
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
