@@ -77,18 +77,24 @@ until_true 20 drawn || die "The compositor does not start."
 window() { xdotool search --onlyvisible --class '^morrowleaf$'; }
 gone() { ! window; }
 
-milliseconds=1000000
+# It begins at the machine's own time, by which the system ends waits for an instant.
+milliseconds=$(python3 -c 'import time; print(time.monotonic_ns() // 1_000_000)')
 set_clock() {
     perl -e 'print pack("q", shift() * 1_000_000)' "$milliseconds" |
         dd of="$work/clock" conv=notrunc status=none
 }
+named() {
+    dbus-send --session --print-reply --dest=org.freedesktop.DBus / \
+        org.freedesktop.DBus.NameHasOwner string:org.morrowleaf.Morrowleaf | grep -q true
+}
 # Returns when the program has fired the timers that were due: its main thread
 # answers a call, and the second answer comes from a later turn of its event loop.
 follow() {
-    local i
-    for i in 1 2; do
-        dbus-send --session --print-reply --dest=org.morrowleaf.Morrowleaf \
-            /org/morrowleaf/Morrowleaf org.freedesktop.Application.NoSuchMethod 2>/dev/null || true
+    local answer
+    for _ in 1 2; do
+        answer=$(dbus-send --session --print-reply --dest=org.morrowleaf.Morrowleaf \
+            /org/morrowleaf/Morrowleaf org.freedesktop.Application.NoSuchMethod 2>&1) || true
+        [[ $answer == *UnknownMethod* ]] || die "The program does not answer: $answer"
     done
 }
 # advance MILLISECONDS: lets that time pass for the program, in frames
@@ -117,8 +123,11 @@ shot() {
 
 set_clock
 shot desktop
-LD_PRELOAD=$clock STEPPED_CLOCK=$work/clock start morrowleaf "$program"
+# The library does not precede the runtime of a program built with sanitizers.
+start morrowleaf env LD_PRELOAD="$clock" STEPPED_CLOCK="$work/clock" \
+    ASAN_OPTIONS="verify_asan_link_order=0:${ASAN_OPTIONS:-}" "$program"
 until_true 60 window || die "The quote screen does not appear."
+until_true 60 named || die "The program does not come to the session bus."
 advance 300
 shot 1-entrance-a
 advance 500

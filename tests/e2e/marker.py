@@ -10,6 +10,7 @@ thread can answer that its object lacks a method; the second such answer shows
 that it has run its event loop since and so has sent its requests to the display.
 """
 import os
+import sys
 import time
 
 import dbus
@@ -18,10 +19,12 @@ NAME = "org.morrowleaf.Morrowleaf"
 PATH = "/org/morrowleaf/Morrowleaf"
 
 
-def wait_for(condition):
+def wait_for(condition, what):
     """The program connects to the buses while it shows its first window already."""
-    end = time.monotonic() + 30
-    while not condition() and time.monotonic() < end:
+    end = time.monotonic() + 60
+    while not condition():
+        if time.monotonic() > end:
+            sys.exit(f"in vain waited until {what}")
         time.sleep(0.02)
 
 
@@ -52,18 +55,24 @@ def reach_main_thread(bus):
             raise
 
 
+def system_bus():
+    if not os.path.exists(os.environ["DBUS_SYSTEM_BUS_ADDRESS"].partition("path=")[2]):
+        return None
+    try:
+        return dbus.SystemBus()
+    except dbus.DBusException:
+        return None  # a bus that has ended leaves its socket behind
+
+
 def main():
     session = dbus.SessionBus()
-    wait_for(lambda: session.name_has_owner(NAME))
+    wait_for(lambda: session.name_has_owner(NAME), "the program has its name")
     pid = daemon_of(session).GetConnectionUnixProcessID(NAME)
-    if os.path.exists(os.environ["DBUS_SYSTEM_BUS_ADDRESS"].partition("path=")[2]):
-        try:
-            system = dbus.SystemBus()
-            wait_for(lambda: ping(system, pid))
-            reach_main_thread(session)  # which subscribes once it is connected
-            ping(system, pid)
-        except dbus.DBusException:
-            pass  # a bus that has ended leaves its socket behind
+    system = system_bus()
+    if system is not None:
+        wait_for(lambda: ping(system, pid), "the program is on the system bus")
+        reach_main_thread(session)  # which subscribes once it is connected
+        ping(system, pid)
     ping(session, pid)
     reach_main_thread(session)
     reach_main_thread(session)
