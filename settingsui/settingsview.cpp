@@ -65,6 +65,9 @@ QString cutAfter(const QString& text, int characters) {
     const QList<qsizetype> ends = characterEnds(start);
     for (const qsizetype end : ends.first(qMin<qsizetype>(characters, ends.size()))) {
         result += QStringView(start).mid(begin, qMin(end - begin, longestCharacter));
+        if (result.back().isHighSurrogate()) {
+            result.chop(1); // its second half has been cut off
+        }
         begin = end;
     }
     return begin < text.size() ? result + u'…' : result;
