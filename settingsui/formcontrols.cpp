@@ -22,6 +22,13 @@ FormSlider::FormSlider(QWidget* parent)
     });
 }
 
+void FormSlider::moveHandle(int value) {
+    if (value == this->value()) {
+        emit confirmed();
+    }
+    setValue(value);
+}
+
 void FormSlider::mousePressEvent(QMouseEvent* event) {
     QStyleOptionSlider option;
     initStyleOption(&option);
@@ -32,13 +39,9 @@ void FormSlider::mousePressEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
     if (event->button() == Qt::LeftButton && !handle.contains(at)) {
         const QRect groove = part(QStyle::SC_SliderGroove);
-        const int pressed = QStyle::sliderValueFromPosition(
+        moveHandle(QStyle::sliderValueFromPosition(
             minimum(), maximum(), at.x() - groove.x() - handle.width() / 2,
-            groove.width() - handle.width(), option.upsideDown);
-        if (pressed == value()) {
-            emit confirmed();
-        }
-        setValue(pressed);
+            groove.width() - handle.width(), option.upsideDown));
     }
     QSlider::mousePressEvent(event);
 }

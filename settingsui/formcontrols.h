@@ -30,6 +30,9 @@ class FormSlider : public QSlider {
 public:
     explicit FormSlider(QWidget* parent = nullptr);
 
+    // Sets the value as the user would.
+    void moveHandle(int value);
+
 signals:
     // The user has moved the handle to where it already was.
     void confirmed();

@@ -55,7 +55,7 @@ void PanelSlider::showValue(double value) {
 }
 
 void PanelSlider::moveTo(double value) {
-    setValue(inMillionths(std::clamp(value, lowest(), highest())));
+    moveHandle(inMillionths(std::clamp(value, lowest(), highest())));
 }
 
 Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting,

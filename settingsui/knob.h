@@ -27,7 +27,7 @@ public:
     double real() const;
     // Shows a value, clamped to the range; NaN shows as the lowest. Emits no signal.
     void showValue(double value);
-    // Sets a value, clamped to the range, as the user would: emits moved() on a change.
+    // Sets a value, clamped to the range, as the user would.
     void moveTo(double value);
 
     QSize sizeHint() const override { return {120, 24}; }

@@ -117,6 +117,9 @@ TEST_F(InspectorTest, AKnobAtTheEndOfItsRangeStoresTheEndWhenMovedThere) {
     QTest::keyClick(named<PanelSlider>(u"Size"_s), Qt::Key_End);
     EXPECT_EQ(store.real(K::textScale), 1.6);
     EXPECT_TRUE(readoutIs(u"Size"_s, u"160%"_s));
+    store.set(K::textScale, 0.1);
+    named<PanelSlider>(u"Size"_s)->moveTo(0.7);
+    EXPECT_EQ(store.real(K::textScale), 0.7);
 }
 
 TEST_F(InspectorTest, ReadoutsRoundAsPrintfDoes) {
