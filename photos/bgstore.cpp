@@ -34,6 +34,14 @@ QString newPhotoName(const QString& source) {
            (extension.isEmpty() ? u"png"_s : extension);
 }
 
+void shutOffOthers(const QString& folder) {
+    constexpr auto file = QFile::ReadOwner | QFile::WriteOwner;
+    QFile::setPermissions(folder, file | QFile::ExeOwner);
+    for (const QFileInfo& own : QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        QFile::setPermissions(own.filePath(), file);
+    }
+}
+
 } // namespace
 
 QString ownPhotoFolder() {
@@ -54,6 +62,7 @@ BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
     if (ownFolder_.isEmpty()) {
         qFatal("There is no folder for the user's own photos.");
     }
+    shutOffOthers(ownFolder_);
 }
 
 BGStore::~BGStore() = default;
@@ -66,10 +75,7 @@ void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QS
     }
     const QString destination =
         QDir(ownFolder_).absoluteFilePath(newPhotoName(QFileInfo(sourcePath).fileName()));
-    if (makeFolderOf(destination)) {
-        // The folder may be older and open to others.
-        QFile::setPermissions(ownFolder_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
+    static_cast<void>(makeFolderOf(destination)); // without it the copy fails
     import_->start(sourcePath, destination,
                    [this, destination, done = std::move(done)](bool copied) {
                        const bool listed = copied && list(destination);

@@ -32,8 +32,9 @@ class BGStore {
 public:
     static constexpr int limit = 3;
 
-    // `workers` copy and decode photos and must outlive the store. The program passes a
-    // pool of its own: Qt paints with the global one and would wait for a photo.
+    // Shuts others off from photos in `ownFolder` that an earlier version has left open.
+    // `workers` decode photos and must outlive the store. The program passes a pool of its
+    // own: Qt paints with the global one and would wait for a photo.
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
             QThreadPool& workers = *QThreadPool::globalInstance());
     // Destroys the copy of an unfinished add() and does not call `done`.

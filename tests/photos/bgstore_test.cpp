@@ -108,10 +108,14 @@ TEST_F(BGStoreTest, OwnPhotosAreForTheUserAlone) {
     const QString added = add(source);
     EXPECT_EQ(modeOf(added), 0600U);
     EXPECT_EQ(modeOf(own), 0700U);
-    // A folder that an earlier version has left open.
+    // An earlier version has left them open.
     ASSERT_EQ(::chmod(qPrintable(own), 0755), 0);
-    add(source);
+    ASSERT_EQ(::chmod(qPrintable(added), 0644), 0);
+    ASSERT_TRUE(QFile::link(source, own + u"/link.jpg"_s));
+    photos = std::make_unique<BGStore>(store, QString(), own);
     EXPECT_EQ(modeOf(own), 0700U);
+    EXPECT_EQ(modeOf(added), 0600U);
+    EXPECT_EQ(modeOf(source), 0444U); // not in the folder
 }
 
 TEST_F(BGStoreTest, GivesAFileWithoutExtensionTheNameOfAPng) {
