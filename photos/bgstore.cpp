@@ -86,8 +86,14 @@ void BGStore::add(const QString& sourcePath, std::function<void(std::optional<QS
                    });
 }
 
-void BGStore::cancelAddsAfter(std::chrono::milliseconds time) {
-    import_->cancelAfter(time);
+std::shared_ptr<void> BGStore::awaitAdds(std::chrono::milliseconds time) {
+    std::shared_ptr<void> awaiting = awaiting_.lock();
+    if (!awaiting) {
+        import_->keep();
+        awaiting.reset(this, [this, time](void*) { import_->cancelAfter(time); });
+        awaiting_ = awaiting;
+    }
+    return awaiting;
 }
 
 // The list may have grown during the copy.

@@ -45,8 +45,9 @@ public:
     // std::nullopt if the list is full, the copy fails or is cancelled, or the file is
     // larger than 512 MB or not an image that can be decoded.
     void add(const QString& sourcePath, std::function<void(std::optional<QString>)> done);
-    // Cancels the add() calls up to now that have not ended after `time`.
-    void cancelAddsAfter(std::chrono::milliseconds time);
+    // Lets add() calls take as long as they need, until the last of the pointers that this
+    // has returned is gone. What has not ended after `time` then is cancelled.
+    [[nodiscard]] std::shared_ptr<void> awaitAdds(std::chrono::milliseconds time);
     // Deletes the file and removes the photo from the list and, if it is chosen, from the
     // settings. Ignores errors.
     void remove(const QString& path);
@@ -77,6 +78,7 @@ private:
     QHash<QString, std::shared_ptr<const Photo>> cache_;
     QHash<QString, FileStamp> unreadable_;
     std::unique_ptr<PhotoImport> import_;
+    std::weak_ptr<void> awaiting_;
     QObject context_; // of queued calls
 };
 

@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QThreadPool>
-#include <QTimer>
 
 #include <iterator>
 
@@ -53,11 +52,14 @@ bool isUsable(const QString& path) {
 
 } // namespace
 
-PhotoImport::PhotoImport(QThreadPool& workers)
+PhotoImport::PhotoImport(QThreadPool& workers, Copy copy)
     : workers_(workers)
+    , copy_(std::move(copy))
     , copiers_(std::make_unique<QThreadPool>()) {
     copiers_->setMaxThreadCount(copyLimit);
     copiers_->setExpiryTimeout(0); // an idle program keeps no threads
+    cancelTimer_.setSingleShot(true);
+    cancelTimer_.callOnTimeout([this] { cancel(); });
 }
 
 PhotoImport::~PhotoImport() {
@@ -79,8 +81,8 @@ void PhotoImport::start(const QString& source, const QString& destination, Done 
     const auto request = std::prev(requests_.end());
     request->job = Job(
         *copiers_,
-        [source, destination](const std::stop_token& stop) {
-            return inspectPhoto(source) && copyPhotoFile(source, destination, stop);
+        [source, destination, copy = copy_](const std::stop_token& stop) {
+            return inspectPhoto(source) && copy(source, destination, stop);
         },
         [this, request](bool copied) { copied ? check(request) : finish(request, false); });
 }
@@ -104,13 +106,14 @@ void PhotoImport::finish(Requests::iterator request, bool usable) {
 
 void PhotoImport::cancelAfter(std::chrono::milliseconds time) {
     if (!requests_.empty()) {
-        QTimer::singleShot(time, &context_, [this, last = lastNumber_] { cancelUpTo(last); });
+        lastToCancel_ = lastNumber_;
+        cancelTimer_.start(time);
     }
 }
 
-void PhotoImport::cancelUpTo(int number) {
+void PhotoImport::cancel() {
     Requests cancelled;
-    while (!requests_.empty() && requests_.front().number <= number) {
+    while (!requests_.empty() && requests_.front().number <= lastToCancel_) {
         cancelled.splice(cancelled.end(), requests_, requests_.begin());
     }
     for (Request& request : cancelled) {

@@ -5,8 +5,8 @@
 
 #include "base/job.h"
 
-#include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <chrono>
 #include <functional>
@@ -18,6 +18,12 @@ class QThreadPool;
 
 namespace morrowleaf {
 
+// Copies a regular file of up to 512 MB byte for byte to a new file that only the user
+// may read. Returns false and leaves no copy on failure or if `stop` is requested. An
+// existing file at `destination` is a failure and stays untouched. Any thread.
+[[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
+                                 const std::stop_token& stop);
+
 // Copies photos and checks that they can be decoded. The copies run beside each other, so
 // that one from a slow disk does not hold up the others.
 //
@@ -26,9 +32,12 @@ namespace morrowleaf {
 class PhotoImport {
 public:
     using Done = std::function<void(bool)>;
+    // As copyPhotoFile().
+    using Copy = std::function<bool(const QString& source, const QString& destination,
+                                    const std::stop_token& stop)>;
 
-    // `workers` decode the copies and must outlive the import.
-    explicit PhotoImport(QThreadPool& workers);
+    // `workers` decode the copies and must outlive the import. Several threads call `copy`.
+    explicit PhotoImport(QThreadPool& workers, Copy copy = copyPhotoFile);
     ~PhotoImport();
     PhotoImport(const PhotoImport&) = delete;
     PhotoImport& operator=(const PhotoImport&) = delete;
@@ -36,9 +45,10 @@ public:
     // Copies `source` to the new file `destination`. Calls `done` later, on this thread;
     // false means that no copy exists.
     void start(const QString& source, const QString& destination, Done done);
-    // Cancels what has been started so far and has not ended after `time`. Calls `done`
-    // with false.
+    // Cancels what has been started so far and has not ended after `time`, unless keep()
+    // is called before. Calls `done` with false.
     void cancelAfter(std::chrono::milliseconds time);
+    void keep() { cancelTimer_.stop(); }
 
 private:
     struct Request {
@@ -51,19 +61,15 @@ private:
 
     void check(Requests::iterator request);
     void finish(Requests::iterator request, bool usable);
-    void cancelUpTo(int number);
+    void cancel();
 
     QThreadPool& workers_;
+    Copy copy_;
     std::unique_ptr<QThreadPool> copiers_;
     Requests requests_; // in progress
     int lastNumber_ = 0;
-    QObject context_; // of timers
+    int lastToCancel_ = 0;
+    QTimer cancelTimer_;
 };
-
-// Copies a regular file of up to 512 MB byte for byte to a new file that only the user
-// may read. Returns false and leaves no copy on failure or if `stop` is requested. An
-// existing file at `destination` is a failure and stays untouched. Any thread.
-[[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
-                                 const std::stop_token& stop);
 
 } // namespace morrowleaf

@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr qsizetype mostOwn = 100; // of the user's own photos, shown
-constexpr auto timeToAdd = 10s;    // after the editor has closed
+constexpr auto timeToAdd = 10s;    // after the last editor has closed
 
 // The name of a built-in photo for screen readers: that of its file, capitalised.
 QString spokenName(const QString& path) {
@@ -73,12 +73,12 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     : QWidget(parent)
     , store_(store)
     , photos_(photos)
+    , awaitingAdds_(photos.awaitAdds(timeToAdd))
     , chooser_(chooser)
     , face_(face)
     , thumbnails_(new Thumbnails(photos, this))
     , builtins_(photos.builtins())
     , anchor_(new QWidget(this)) {
-    photos_.forgetFailures();              // each opening of the editor tries again
     anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
     makeAccessibleGroup(*this, u"Your photo"_s);
@@ -94,10 +94,6 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     });
     new Binding(store_, K::customBGs, this, [this] { rebuild(); });
     new Binding(store_, K::bgImage, this, [this] { mark(); });
-}
-
-PhotoGroup::~PhotoGroup() {
-    photos_.cancelAddsAfter(timeToAdd);
 }
 
 void PhotoGroup::rebuild() {

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
 #include <unordered_map>
 
 namespace morrowleaf {
@@ -56,8 +57,6 @@ public:
     // The referenced objects must outlive the group.
     PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser, const QFont& face,
                QWidget* parent = nullptr);
-    // A photo that is being added has 10 s more.
-    ~PhotoGroup() override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -75,6 +74,7 @@ private:
 
     SettingsStore& store_;
     BGStore& photos_;
+    std::shared_ptr<void> awaitingAdds_;
     PhotoChooser& chooser_;
     QFont face_;
     Thumbnails* thumbnails_;
