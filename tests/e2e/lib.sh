@@ -56,9 +56,13 @@ fi
 # Keeps the tests away from the machine's own bus.
 export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/no-system-bus
 export NO_AT_BRIDGE=1 LC_ALL=C.UTF-8
+# A program built with sanitizers reports to files, because it writes nothing to
+# standard error; a report fails the session.
+export ASAN_OPTIONS=log_path=$work/sanitizer:${ASAN_OPTIONS:-}
+export UBSAN_OPTIONS=print_stacktrace=1:log_path=$work/sanitizer:${UBSAN_OPTIONS:-}
 
 cleanup() {
-    local i
+    local status=$? i
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[i]}" 2>/dev/null; done
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
         until_true 2 not kill -0 "${pids[i]}"
@@ -66,7 +70,13 @@ cleanup() {
     done
     wait 2>/dev/null
     if [ -n "${E2E_KEEP:-}" ]; then cp "$work"/*.png "$work"/*.log "$E2E_KEEP" 2>/dev/null; fi
+    if compgen -G "$work/sanitizer.*" >/dev/null; then
+        echo "FAILED: a sanitizer has found something"
+        cat "$work"/sanitizer.*
+        status=1
+    fi
     rm -rf "$work"
+    exit $status
 }
 trap cleanup EXIT
 trap 'exit 1' INT TERM
