@@ -9,6 +9,7 @@ accessible.py labelled ROLE NAME  the control of the label with that name
 accessible.py press NAME
 accessible.py set NAME VALUE
 accessible.py places              role|name|states|x|y|width|height of everything on the screen
+accessible.py place ROLE NAME WHICH  this of the WHICHth such thing whose name begins with NAME
 """
 import sys
 
@@ -77,6 +78,18 @@ def find(roles, name):
     sys.exit(f"no {roles} {name}")
 
 
+def nth_place(role, name, which):
+    """Asks as little as possible, because each question goes over the bus and back."""
+    found = 0
+    for node in everything(program()):
+        if (node.get_name() or "").startswith(name) and node.get_role_name() == role:
+            if is_showing(node) and not in_closed_list(node):
+                found += 1
+                if found == which:
+                    return place(node)
+    sys.exit(f"no {role} {name}")
+
+
 def is_labelled(node, name):
     return any(
         relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
@@ -98,6 +111,8 @@ def main():
         for node in everything(program()):
             if node.get_name() and is_showing(node) and not in_closed_list(node):
                 print(place(node))
+    elif command == "place":
+        print(nth_place(sys.argv[2], sys.argv[3], int(sys.argv[4])))
     elif command == "find":
         node = find(sys.argv[2], sys.argv[3])
         print(node.get_role_name(), node.get_name())

@@ -22,9 +22,8 @@ start_reader() {
 # column ROLE NAME WHICH NUMBER: a column of the WHICHth control with that role
 # whose name begins with NAME
 column() {
-    read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="$3" -v at="$4" \
-        '$1 == role && index($2, name) == 1 && ++n == nth { print $at; found = 1; exit }
-         END { exit !found }'
+    local place
+    place=$(read_aloud place "$1" "$2" "$3") && cut -d'|' -f "$4" <<<"$place"
 }
 there() { column "$1" "$2" "${3:-1}" 2; }
 stands() { column "$1" "$2" "${4:-1}" 3 | grep -qw "$3"; }
@@ -41,15 +40,13 @@ editor_listens() {
 # point ROLE NAME [WHICH [PART]]: moves the mouse to the middle of a control, or
 # to another fraction of its width
 point() {
-    local box x y
-    box=$(read_aloud places | awk -F'|' -v role="$1" -v name="$2" -v nth="${3:-1}" \
-        -v part="${4:-0.5}" '$1 == role && index($2, name) == 1 && ++n == nth {
-            printf "%d %d", $4 + $6 * part, $5 + $7 / 2; exit }')
-    [ -n "$box" ] || {
+    local place x y
+    place=$(read_aloud place "$1" "$2" "${3:-1}") || {
         fail "there is no $1 $2"
         return 1
     }
-    read -r x y <<<"$box"
+    read -r x y < <(awk -F'|' -v part="${4:-0.5}" '{print int($4 + $6 * part), int($5 + $7 / 2)}' \
+        <<<"$place")
     xdotool mousemove "$x" "$y"
 }
 click_on() { point "$@" && xdotool click 1; }
@@ -67,7 +64,7 @@ begin_with() {
     printf '%s' "$1" >"$work/expected.json"
 }
 stored() {
-    python3 "$here/stored.py" "$XDG_CONFIG_HOME/morrowleaf/settings.json" \
+    /usr/bin/python3 "$here/stored.py" "$XDG_CONFIG_HOME/morrowleaf/settings.json" \
         "$work/expected.json" "$@" 2>"$work/stored.last"
 }
 # keeps SENTENCE [KEY VALUE]...: waits until the settings file has these values

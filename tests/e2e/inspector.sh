@@ -57,7 +57,7 @@ for name in "${photos[@]}"; do
     tab_to "radio button" "$name" "$which"
     press space
     must "photo $name is marked" checked "radio button" "$name" "$which"
-    folder=$(python3 -c "import json, os, sys
+    folder=$(/usr/bin/python3 -c "import json, os, sys
 print(os.path.dirname(json.load(open(sys.argv[1]))['backgroundImagePath']))" \
         "$XDG_CONFIG_HOME/morrowleaf/settings.json")
     keeps "and stored, and the palette stays" backgroundImagePath "$(photo "$name")"

@@ -26,7 +26,7 @@ convert -size 40x30 xc:blue "$odd" || die "no photo"
 dialog() { xdotool search --onlyvisible --name '^Add a Photo$'; }
 copies() { [ "$(find "$own" -type f 2>/dev/null | wc -l)" -eq "$1" ]; }
 chosen() {
-    python3 - "$XDG_CONFIG_HOME/morrowleaf/settings.json" <<'EOT'
+    /usr/bin/python3 - "$XDG_CONFIG_HOME/morrowleaf/settings.json" <<'EOT'
 import json, sys
 stored = json.load(open(sys.argv[1]))
 photos = stored.get("customBackgrounds", [])
