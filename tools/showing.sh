@@ -99,7 +99,7 @@ follow() {
 }
 # advance MILLISECONDS: lets that time pass for the program, in frames
 advance() {
-    local end=$((milliseconds + $1)) frame=20
+    local end=$((milliseconds + $1)) frame=50
     while [ "$milliseconds" -lt "$end" ]; do
         milliseconds=$((milliseconds + frame))
         set_clock
@@ -123,7 +123,7 @@ shot() {
 
 set_clock
 shot desktop
-# The library does not precede the runtime of a program built with sanitizers.
+# The runtime of the address sanitizer insists on being the first library.
 start morrowleaf env LD_PRELOAD="$clock" STEPPED_CLOCK="$work/clock" \
     ASAN_OPTIONS="verify_asan_link_order=0:${ASAN_OPTIONS:-}" "$program"
 until_true 60 window || die "The quote screen does not appear."
@@ -137,7 +137,7 @@ shot 1-entrance-c
 advance 5000
 shot 2-whole
 xdotool key space
-advance 260
+advance 250
 shot 3-fading-out
 cmp -s "$work/2-whole.ppm" "$work/3-fading-out.ppm" && die "The quote screen does not fade."
 cmp -s "$work/desktop.ppm" "$work/3-fading-out.ppm" &&
