@@ -76,14 +76,14 @@ keeps() {
 }
 
 # use_theme_of DESKTOP: sets what tells Qt that programs that start from now on run
-# on this desktop, or, with an empty name, on none; Qt's own theme of that name is
-# used, whatever else the machine has. On the machine's desktop nothing changes.
+# on this desktop, or, with an empty name, on none. Qt's own theme of that name is
+# used, except with E2E_DESKTOP: then it is the one that Qt finds on the machine.
 use_theme_of() {
-    [ -z "${E2E_DESKTOP:-}" ] || return 0
     unset XDG_CURRENT_DESKTOP KDE_SESSION_VERSION
     case $1 in
     "") export QT_QPA_PLATFORMTHEME=generic ;;
     KDE) export XDG_CURRENT_DESKTOP=$1 KDE_SESSION_VERSION=5 QT_QPA_PLATFORMTHEME=kde ;;
     *) export XDG_CURRENT_DESKTOP=$1 QT_QPA_PLATFORMTHEME=gnome ;;
     esac
+    [ -z "${E2E_DESKTOP:-}" ] || unset QT_QPA_PLATFORMTHEME
 }

@@ -4,13 +4,14 @@
 
 # The user's own photo in the dialog of the machine's portal: it stands in front of
 # the quote screen and of the settings, has the keyboard, and its choice takes effect.
+#   desktop_photo.sh openbox|xfwm4
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
 . "$here/controls.sh"
 
 start_x 1280x1024
-start_manager openbox
+start_manager "$1"
 start_reader
 begin_with '{"paletteIndex": 8, "screenAnimation": "still", "grainEnabled": false}'
 convert -size 800x600 xc:'#c02020' "$work/red.png"

@@ -9,9 +9,9 @@
 set -u
 
 # Nothing of the desktop that this machine may have reaches a session: no
-# variable of it, no service that a bus could start, no theme and no typeface
-# beyond those in packaging/apt-*.txt. With E2E_DESKTOP set, the machine's portal,
-# input method and platform theme are on instead.
+# variable of it, no service that a bus could start, no theme, and no typeface
+# but those in the folders of DejaVu and Noto. With E2E_DESKTOP set, the machine's
+# portal, input method, platform theme and typefaces are on instead.
 while read -r name; do
     unset "$name"
 done < <(compgen -e | grep -E '^(XDG|QT|GTK|GDK|GIO|GNOME|KDE|DESKTOP|IBUS|WAYLAND|SWAY|WLR|AT_SPI)')
@@ -48,9 +48,9 @@ cat >"$FONTCONFIG_FILE" <<'EOF'
 EOF
 export QT_IM_MODULE=compose QT_QPA_PLATFORMTHEME=generic QT_STYLE_OVERRIDE=Fusion
 if [ -n "${E2E_DESKTOP:-}" ]; then
-    unset FONTCONFIG_FILE QT_STYLE_OVERRIDE
+    unset FONTCONFIG_FILE QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
     export XDG_DATA_DIRS=/usr/local/share:/usr/share XDG_CONFIG_DIRS=/etc/xdg
-    export XDG_CURRENT_DESKTOP=GNOME QT_QPA_PLATFORMTHEME=gtk3
+    export XDG_CURRENT_DESKTOP=GNOME
     export QT_IM_MODULE=ibus GTK_IM_MODULE=ibus XMODIFIERS=@im=ibus
 fi
 # Keeps the tests away from the machine's own bus.
