@@ -5,13 +5,19 @@
 
 #include <unicode/brkiter.h>
 #include <unicode/locid.h>
+#include <unicode/uchar.h>
 #include <unicode/utext.h>
+#include <unicode/utf16.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace morrowleaf {
 
 namespace {
+
+constexpr int mostMarks = 16;              // on one base
+constexpr qsizetype longestCharacter = 64; // UTF-16 units
 
 std::unique_ptr<icu::BreakIterator> makeIterator() {
     UErrorCode status = U_ZERO_ERROR;
@@ -47,6 +53,57 @@ void forEachCharacterEnd(QStringView text, Visit visit) {
     }
 }
 
+bool isMark(UChar32 code) {
+    if ((U_MASK(u_charType(code)) & U_GC_M_MASK) == 0) {
+        return false;
+    }
+    // A few marks are characters of their own.
+    const int kind = u_getIntPropertyValue(code, UCHAR_GRAPHEME_CLUSTER_BREAK);
+    return kind == U_GCB_EXTEND || kind == U_GCB_SPACING_MARK;
+}
+
+QString withoutExcessMarks(const QString& text, qsizetype units) {
+    const auto* from = text.utf16();
+    // Bounds the time for a text of nothing but marks.
+    const qsizetype read = std::min(text.size(), longestCharacter * units);
+    QString drawn;
+    drawn.reserve(std::min(read, units));
+    int marks = 0;
+    for (qsizetype i = 0; i < read && drawn.size() < units;) {
+        const qsizetype start = i;
+        UChar32 code = 0;
+        U16_NEXT(from, i, text.size(), code);
+        if (isMark(code)) {
+            ++marks;
+        } else if (u_charType(code) != U_FORMAT_CHAR) { // a joiner continues a character
+            marks = 0;
+        }
+        if (drawn.size() + (i - start) > units) {
+            break;
+        }
+        if (marks <= mostMarks) {
+            drawn.append(QStringView(text).mid(start, i - start));
+        }
+    }
+    return drawn;
+}
+
+// Shortens the characters that are extremely long.
+QString withShortCharacters(const QString& text) {
+    QString drawn;
+    qsizetype begin = 0;
+    forEachCharacterEnd(text, [&](qsizetype end) {
+        QStringView character = QStringView(text).mid(begin, end - begin);
+        begin = end;
+        if (character.size() > longestCharacter) {
+            const bool splits = character[longestCharacter].isLowSurrogate();
+            character = character.first(longestCharacter - (splits ? 1 : 0));
+        }
+        drawn.append(character);
+    });
+    return drawn;
+}
+
 } // namespace
 
 qsizetype characterCount(QStringView text) {
@@ -60,6 +117,11 @@ QList<qsizetype> characterEnds(QStringView text) {
     ends.reserve(text.size());
     forEachCharacterEnd(text, [&](qsizetype end) { ends.append(end); });
     return ends;
+}
+
+QString drawnPart(const QString& text, qsizetype units) {
+    const bool isShort = text.size() <= std::min(units, qsizetype{mostMarks});
+    return isShort ? text : withShortCharacters(withoutExcessMarks(text, units));
 }
 
 bool hasMoreCharacters(QStringView text, int limit) {

@@ -40,6 +40,12 @@ double snapped(double points, double devicePixelRatio) {
     return std::round(points * devicePixelRatio) / devicePixelRatio;
 }
 
+// What is drawn of the first `limit` characters.
+QString seenPart(const QString& text, qsizetype limit) {
+    constexpr qsizetype unitsPerCharacter = 4; // on average
+    return beginningOf(drawnPart(text, limit * unitsPerCharacter), limit);
+}
+
 // Whether two lines have the same layout, which does not depend on colour and shadow.
 bool sameLayout(const RevealLine::Parts& a, const RevealLine::Parts& b) {
     return a.text == b.text && a.index == b.index && a.style == b.style && a.font == b.font &&
@@ -136,8 +142,8 @@ void QuoteView::cutQuotation(const Metrics& metrics, double width) {
     if (isNew) {
         cut_.quote = state_.quote;
         cut_.seen = metrics.seen();
-        cut_.seenQuote = {beginningOf(state_.quote.text, metrics.seen()),
-                          beginningOf(state_.quote.author, metrics.seenInOne())};
+        cut_.seenQuote = {seenPart(state_.quote.text, metrics.seen()),
+                          seenPart(state_.quote.author, metrics.seenInOne())};
     }
     state_.quote = cut_.seenQuote;
     sizes_ = fittingSizes(metrics, width);

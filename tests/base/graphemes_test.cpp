@@ -97,6 +97,43 @@ TEST(CharacterEnds, ABorrowedTextIsNotReadPastItsEnd) {
     EXPECT_EQ(characterEnds(borrowed), QList<qsizetype>{1});
 }
 
+TEST(DrawnPart, KeepsSixteenMarksOnABase) {
+    for (const QChar mark : {QChar(0x0301), QChar(0x0F90), QChar(0x0489), QChar(0x0903)}) {
+        const QString stacked = QChar(0x0F40) + QString(5000, mark);
+        EXPECT_EQ(drawnPart(stacked, 20000), QChar(0x0F40) + QString(16, mark));
+        EXPECT_EQ(drawnPart((u"e"_s + QString(300, mark)).repeated(200), 20000),
+                  (u"e"_s + QString(16, mark)).repeated(200));
+    }
+}
+
+TEST(DrawnPart, LeavesOrdinaryTextsAlone) {
+    const QString stacked = u"e"_s + QString(16, QChar(0x0301));
+    for (const QString& text :
+         {u"light and shadow, for ever"_s, stacked.repeated(3),
+          u"\U0001F468\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466"_s.repeated(20),
+          u"\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7"_s.repeated(20),
+          u"\U0001F3F4\U000E0067\U000E0062\U000E0073\U000E0063\U000E0074\U000E007F"_s,
+          u"\u0C95\u0CCD\u0CB7\u0BA8\u0BBF\u0BB2\u0BCD"_s.repeated(9)}) {
+        EXPECT_EQ(drawnPart(text, 20000), text) << text.toStdString();
+    }
+}
+
+TEST(DrawnPart, KeepsTheNumberOfCharacters) {
+    // The second mark is a character of its own.
+    for (const QString& piece :
+         {u"e"_s + QString(40, QChar(0x0301)), QChar(0x1000) + QString(40, QChar(0x102B)) + u'x',
+          QString(40, QChar(0x0301)) + u" "_s}) {
+        const QString text = piece.repeated(30);
+        EXPECT_EQ(characterCount(drawnPart(text, 20000)), characterCount(text));
+    }
+}
+
+TEST(DrawnPart, BoundsEveryCharacterAndTheWhole) {
+    EXPECT_EQ(drawnPart(QString(5000, QChar(0x1100)), 20000).size(), 64);
+    EXPECT_EQ(drawnPart(QString(5000, u'w'), 300).size(), 300);
+    EXPECT_LE(drawnPart(u"\U0001F600"_s.repeated(300), 301).size(), 301);
+}
+
 TEST(HasMoreCharacters, CountsUpToAnyLimit) {
     const QString text = QString(1000, u'a');
     EXPECT_FALSE(hasMoreCharacters(text, std::numeric_limits<int>::max()));

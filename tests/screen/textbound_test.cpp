@@ -106,3 +106,15 @@ TEST(QuoteViewBounds, LinesReachTheBottomOfTheView) {
         }
     }
 }
+
+TEST(QuoteViewBounds, DrawsEveryLetterOfAShortTextWithSixteenMarks) {
+    QuoteViewState state = plainState();
+    state.quote = {(u"e"_s + QString(300, QChar(0x0301)) + u' ').repeated(200).trimmed(), u"B"_s};
+    const QuoteView view(state, shippedFonts());
+    qsizetype letters = 0;
+    for (qsizetype i = 0; i < view.lineCount(); ++i) {
+        letters += view.lineText(i).count(u'e');
+        EXPECT_FALSE(view.lineText(i).contains(QString(17, QChar(0x0301))));
+    }
+    EXPECT_EQ(letters, 200);
+}
