@@ -40,9 +40,12 @@ touch "$work/blocked"
 check "a failure is told in the system's words" \
     [ "$(registered "$work/blocked")" = "login item failed: Not a directory" ]
 
+recommends() { dpkg-deb -f "$work"/package/*.deb Recommends | grep -qw -- "$1"; }
 if command -v lintian >/dev/null; then
     cpack --config "$1/CPackConfig.cmake" -B "$work/package" >"$work/cpack.log" 2>&1
     check "the Debian package is built" ls "$work"/package/*.deb
+    check "it recommends a face for Chinese, Japanese and Korean" recommends fonts-noto-cjk
+    check "and one for emoji" recommends fonts-noto-color-emoji
     check "without errors" lintian --allow-root --fail-on error "$work"/package/*.deb
 fi
 finish
