@@ -3,8 +3,6 @@
 
 #include "textanim/textlayout.h"
 
-#include "base/graphemes.h"
-
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
@@ -20,23 +18,6 @@ namespace {
 
 // Close to the largest width that Qt's layout can represent.
 constexpr double widestLine = 8'000'000;
-
-// Replaces line breaks and tabs unit by unit, so that all offsets stay valid.
-QString withRowBreaks(QString text, LineBreaks breaks) {
-    const bool kept = breaks == LineBreaks::Kept;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar unit = text[i];
-        if (unit == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
-            text[i] = QChar(0x200B);
-        } else if (unit == u'\n' || unit == u'\r' || unit == QChar::LineSeparator ||
-                   unit == QChar::ParagraphSeparator) {
-            text[i] = kept ? QChar(QChar::LineSeparator) : QChar(u' ');
-        } else if (unit == u'\t') {
-            text[i] = u' ';
-        }
-    }
-    return text;
-}
 
 // Read from the file because QRawFont does not know it for a face of bitmaps only.
 double unitsPerEm(const QRawFont& face) {
@@ -94,6 +75,9 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
     auto end = std::ranges::upper_bound(characterEnds, qsizetype{line.textStart()});
     qsizetype begin = line.textStart();
     for (; end != characterEnds.end() && begin < lineEnd; begin = *end, ++end) {
+        if (*end == begin) {
+            continue; // a control character
+        }
         GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}};
         cluster.glyphs = glyphsIn(line, {begin, std::min(*end, lineEnd)}, &cluster.rightToLeft);
         for (const PlacedGlyph& glyph : cluster.glyphs) {
@@ -118,7 +102,7 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
     return row;
 }
 
-void prepare(QTextLayout& layout, const QString& text, const QFont& face, double tracking) {
+void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double tracking) {
     QFont large = face;
     large.setPixelSize(shapingSize);
     if (tracking != 0) {
@@ -130,7 +114,7 @@ void prepare(QTextLayout& layout, const QString& text, const QFont& face, double
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(QTextOption::WordWrap);
     layout.setFont(large);
-    layout.setText(text);
+    layout.setText(set.text);
     layout.setTextOption(option);
 }
 
@@ -238,7 +222,8 @@ double descentOf(const QRawFont& face) {
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks) {
     QTextLayout layout;
-    prepare(layout, withRowBreaks(text, breaks), face, tracking);
+    const SetText set = setText(text, breaks);
+    prepare(layout, set, face, tracking);
     if (maxWidth <= 0) {
         keepTrailingSpaces(layout);
     }
@@ -251,11 +236,10 @@ TextLayout layOut(const QString& text, const QFont& face, double tracking, doubl
 
     TextLayout result;
     result.rightToLeft = text.isRightToLeft();
-    const QList<qsizetype> ends = characterEnds(text);
-    result.characterCount = ends.size();
+    result.characterCount = set.ends.size();
     const QRawFont requested = rawFace(face);
     for (const QTextLine& line : lines) {
-        result.rows.push_back(rowOf(line, ends, requested));
+        result.rows.push_back(rowOf(line, set.ends, requested));
     }
     if (result.rows.empty()) {
         result.rows.push_back({{}, 0, ascentOf(requested), descentOf(requested)});
@@ -265,7 +249,7 @@ TextLayout layOut(const QString& text, const QFont& face, double tracking, doubl
 
 MeasuredText measureText(const QString& text, const QFont& face, double tracking) {
     QTextLayout layout;
-    prepare(layout, withRowBreaks(text, LineBreaks::Kept), face, tracking);
+    prepare(layout, setText(text, LineBreaks::Kept), face, tracking);
     const QRawFont requested = rawFace(face);
     MeasuredText result{0, ascentOf(requested), descentOf(requested), {}};
     for (const QTextLine& line : unbrokenLines(layout)) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "textanim/characters.h"
 #include "textanim/fonts.h"
 #include "textanim/rowbreaking.h"
 
@@ -52,8 +53,6 @@ struct TextLayout {
 double ascentOf(const QRawFont& face);
 double descentOf(const QRawFont& face);
 QRawFont rawFace(const QFont& face);
-
-enum class LineBreaks { Kept, Ignored };
 
 // Shapes a text. `tracking` and `maxWidth` are in the units of the result. Each
 // line of the text becomes a row; if one is wider than a `maxWidth` above 0, all are

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+// How the characters of a text are set: control characters, tracking, emoji.
+#include "textanim/characters.h"
+
+#include "tests/textanim/paintedline.h"
+#include "textanim/shapedtext.h"
+#include "textanim/textoutline.h"
+
+#include <gtest/gtest.h>
+
+using namespace morrowleaf;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+TextFont face(const QString& name) {
+    return quoteFont(shippedFonts(), name, 44);
+}
+
+TEST(ControlCharacters, AreCountedAndNotDrawn) {
+    for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
+        const ShapedText clean(u"light"_s, face(name));
+        for (const char16_t control : {u'\1', u'\a', u'\x1B', u'\x7F', u'\x80', u'\x9F'}) {
+            const ShapedText text(u"li"_s + QChar(control) + u"ght"_s + QChar(control), face(name));
+            EXPECT_EQ(text.size(), clean.size()) << name.toStdString() << ' ' << int(control);
+            EXPECT_EQ(text.outline().ink, clean.outline().ink) << name.toStdString();
+            EXPECT_EQ(text.outline().characterCount, 7);
+        }
+        EXPECT_EQ(ShapedText(QString(QChar(1)), face(name)).size().width(), 0);
+    }
+}
+
+TEST(ControlCharacters, BreakLinesWhereTheyMeanThat) {
+    const double row = ShapedText(u"a"_s, face(u"serif"_s)).size().height();
+    for (const char16_t control : {u'\v', u'\f', char16_t{0x85}}) {
+        const QString text = u"a"_s + QChar(control) + u'b';
+        EXPECT_NEAR(ShapedText(text, face(u"serif"_s)).size().height(), 2 * row, 1e-6);
+    }
+}
+
+} // namespace

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace morrowleaf {
+
+// A text as it is shaped. The user-perceived characters are those of the original
+// text: control characters remain as empty ones.
+struct SetText {
+    QString text;
+    QList<qsizetype> ends; // of the characters, in UTF-16 units of `text`
+};
+
+enum class LineBreaks { Kept, Ignored };
+
+// Breaks lines with line separators, or replaces them by spaces, and leaves out
+// the control characters.
+SetText setText(const QString& text, LineBreaks breaks);
+
+} // namespace morrowleaf
