@@ -289,7 +289,7 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
 
     const double row = std::max(box.width() - 2 * measure::headerSide, 1.0);
     const double needed = greeting_.shape.size().width() + 2 * measure::leastSpace +
-                          today_.shape.size().width() - measure::dateTracking;
+                          today_.shape.size().width() - today_.shape.lastTracking();
     const double rowScale = std::min(1.0, row / needed);
     greeting_.scale = rowScale;
     today_.scale = rowScale;
@@ -305,13 +305,13 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
         return measure::headerTop + (height - text.rect().height()) / 2;
     };
     onBaseline(greeting_, box.left() + measure::headerSide, middleOf(greeting_));
-    // The tracking after the last character does not count when a text is aligned or centred.
     onBaseline(today_,
                box.right() - measure::headerSide - today_.rect().width() +
-                   measure::dateTracking * today_.scale,
+                   today_.shape.lastTracking() * today_.scale,
                middleOf(today_));
     onBaseline(hint_,
-               box.center().x() - (hint_.rect().width() - measure::hintTracking * hint_.scale) / 2,
+               box.center().x() -
+                   (hint_.rect().width() - hint_.shape.lastTracking() * hint_.scale) / 2,
                state_.size.height() - measure::hintBottom - hint_.rect().height());
 }
 
@@ -331,7 +331,7 @@ void QuoteView::placeTexts(const QRectF& box) {
         return QPointF(snapped(at.x(), ratio), snapped(at.y() + baseline, ratio) - baseline);
     };
     mark_.topLeft = placed(column.mark.topLeft(), mark_.shape.baseline());
-    author_.topLeft = placed(column.author.topLeft() + QPointF(measure::authorTracking / 2, 0),
+    author_.topLeft = placed(column.author.topLeft() + QPointF(author_.shape.lastTracking() / 2, 0),
                              author_.shape.baseline());
     const double baseline = sample_.shape.baseline();
     for (size_t i = 0; i < lines_.size(); ++i) {

@@ -24,12 +24,58 @@ bool isLineBreak(QStringView character) {
     }
 }
 
+// Whether the letters of the script touch: cursive scripts, and those that hang
+// from a common headline.
+bool joins(QChar::Script script) {
+    switch (script) {
+    case QChar::Script_Adlam:
+    case QChar::Script_Arabic:
+    case QChar::Script_Bengali:
+    case QChar::Script_Chorasmian:
+    case QChar::Script_Devanagari:
+    case QChar::Script_Dogra:
+    case QChar::Script_Gurmukhi:
+    case QChar::Script_HanifiRohingya:
+    case QChar::Script_Kaithi:
+    case QChar::Script_Mandaic:
+    case QChar::Script_Manichaean:
+    case QChar::Script_Modi:
+    case QChar::Script_Mongolian:
+    case QChar::Script_Nandinagari:
+    case QChar::Script_Nko:
+    case QChar::Script_OldUyghur:
+    case QChar::Script_PhagsPa:
+    case QChar::Script_PsalterPahlavi:
+    case QChar::Script_Sharada:
+    case QChar::Script_Sogdian:
+    case QChar::Script_SylotiNagri:
+    case QChar::Script_Syriac:
+    case QChar::Script_Takri:
+    case QChar::Script_Tirhuta:
+        return true;
+    default:
+        return false;
+    }
+}
+
+char32_t firstCode(QStringView character) {
+    const bool isPair = character.size() > 1 && character[0].isHighSurrogate();
+    return isPair ? QChar::surrogateToUcs4(character[0], character[1]) : character[0].unicode();
+}
+
+CharacterKind kindOf(QStringView character) {
+    const char32_t code = firstCode(character);
+    const bool stretches = QChar::joiningType(code) == QChar::Joining_Causing; // a kashida
+    return stretches || joins(QChar::script(code)) ? CharacterKind::Joined : CharacterKind::Plain;
+}
+
 } // namespace
 
 SetText setText(const QString& text, LineBreaks breaks) {
     SetText set;
     set.text.reserve(text.size());
     set.ends = characterEnds(text);
+    set.kinds.reserve(static_cast<std::size_t>(set.ends.size()));
     qsizetype begin = 0;
     for (qsizetype& end : set.ends) {
         const QStringView character = QStringView(text).mid(begin, end - begin);
@@ -42,6 +88,7 @@ SetText setText(const QString& text, LineBreaks breaks) {
             set.text += character;
         }
         end = set.text.size();
+        set.kinds.push_back(kindOf(character));
     }
     return set;
 }

@@ -6,13 +6,22 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 namespace morrowleaf {
+
+// How a character is set, apart from its face.
+enum class CharacterKind {
+    Plain,
+    Joined // of a script whose letters join, so that tracking would tear them apart
+};
 
 // A text as it is shaped. The user-perceived characters are those of the original
 // text: control characters remain as empty ones.
 struct SetText {
     QString text;
     QList<qsizetype> ends; // of the characters, in UTF-16 units of `text`
+    std::vector<CharacterKind> kinds;
 };
 
 enum class LineBreaks { Kept, Ignored };

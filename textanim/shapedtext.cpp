@@ -18,9 +18,10 @@ ShapedText::ShapedText(const QString& text, const TextFont& font, double trackin
     TextOutline outline;
     if (font.size > 0) {
         const double unit = font.size / shapingSize;
-        outline =
-            outlineOf(layOut(text, font.face, tracking / unit, maxWidth / unit, LineBreaks::Kept),
-                      unit, maxWidth);
+        const TextLayout layout =
+            layOut(text, font.face, tracking / unit, maxWidth / unit, LineBreaks::Kept);
+        outline = outlineOf(layout, unit, maxWidth);
+        lastTracking_ = layout.lastTracking * unit;
     }
     outline_ = std::make_shared<TextOutline>(std::move(outline));
 }

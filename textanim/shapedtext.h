@@ -27,7 +27,8 @@ struct TextOutline;
 class ShapedText {
 public:
     ShapedText();
-    // `tracking` in points is added after every character, including the last.
+    // `tracking` in points is added after every character, including the last, but
+    // not in scripts whose letters join.
     // With a `maxWidth` above 0 (points) the text wraps at word boundaries into
     // leading-aligned rows of nearly equal length; a row of one word that is wider
     // is scaled down.
@@ -35,12 +36,16 @@ public:
 
     QSizeF size() const;     // typographic width × rows of (ascent + descent), points
     double baseline() const; // of the first row, points from the top
+    // The tracking after the last character, which does not count when a text is
+    // aligned or centred.
+    double lastTracking() const { return lastTracking_; }
     void paint(QPainter& painter, QPointF topLeft, const QColor& color) const;
 
     const TextOutline& outline() const { return *outline_; }
 
 private:
     std::shared_ptr<const TextOutline> outline_;
+    double lastTracking_ = 0;
 };
 
 // Caches the picture of one text that is drawn repeatedly with the same transform

@@ -38,6 +38,31 @@ std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
     return units * double{shapingSize} / perEm;
 }
 
+// What is not set as the rest of the text.
+QList<QTextLayout::FormatRange> formatsFor(const SetText& set, const QFont& font) {
+    QFont untracked = font;
+    untracked.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    QList<QTextLayout::FormatRange> formats;
+    qsizetype begin = 0;
+    auto last = CharacterKind::Plain;
+    for (std::size_t i = 0; i < set.kinds.size(); ++i) {
+        const CharacterKind kind = set.kinds[i];
+        const auto length = static_cast<int>(set.ends[static_cast<qsizetype>(i)] - begin);
+        if (kind != CharacterKind::Plain && kind == last) {
+            formats.back().length += length;
+        } else if (kind != CharacterKind::Plain) {
+            QTextLayout::FormatRange range;
+            range.start = static_cast<int>(begin);
+            range.length = length;
+            range.format.setFont(untracked);
+            formats.append(range);
+        }
+        last = kind;
+        begin += length;
+    }
+    return formats;
+}
+
 struct CharacterRange {
     qsizetype begin, end;
 };
@@ -116,6 +141,9 @@ void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double 
     layout.setFont(large);
     layout.setText(set.text);
     layout.setTextOption(option);
+    if (tracking != 0) {
+        layout.setFormats(formatsFor(set, large));
+    }
 }
 
 void keepTrailingSpaces(QTextLayout& layout) {
@@ -237,6 +265,9 @@ TextLayout layOut(const QString& text, const QFont& face, double tracking, doubl
     TextLayout result;
     result.rightToLeft = text.isRightToLeft();
     result.characterCount = set.ends.size();
+    if (!set.kinds.empty() && set.kinds.back() != CharacterKind::Joined) {
+        result.lastTracking = tracking;
+    }
     const QRawFont requested = rawFace(face);
     for (const QTextLine& line : lines) {
         result.rows.push_back(rowOf(line, set.ends, requested));

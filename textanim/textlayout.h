@@ -47,6 +47,7 @@ struct TextLayout {
     std::vector<TextRow> rows;
     qsizetype characterCount = 0;
     bool rightToLeft = false; // according to its first character with a direction
+    double lastTracking = 0;  // after the last character
 };
 
 // Ascent and descent, both positive, of a face at shapingSize, as its font file gives them.
@@ -54,7 +55,8 @@ double ascentOf(const QRawFont& face);
 double descentOf(const QRawFont& face);
 QRawFont rawFace(const QFont& face);
 
-// Shapes a text. `tracking` and `maxWidth` are in the units of the result. Each
+// Shapes a text. `tracking`, which is left out between letters that join, and
+// `maxWidth` are in the units of the result. Each
 // line of the text becomes a row; if one is wider than a `maxWidth` above 0, all are
 // broken at word boundaries into rows of nearly equal length, as few as possible.
 // There is always at least one row.

@@ -19,6 +19,22 @@ TextFont face(const QString& name) {
     return quoteFont(shippedFonts(), name, 44);
 }
 
+double widthOf(const QString& text, double tracking) {
+    return ShapedText(text, face(u"mono"_s), tracking).size().width();
+}
+
+TEST(Tracking, TearsNoJoinedScriptApart) {
+    for (const QString& word :
+         {u"\u0633\u0644\u0627\u0645"_s, u"\u0928\u092E\u0938\u094D\u0924\u0947"_s,
+          u"\u0995\u09B2\u09AE"_s, u"\u07D2\u07DE\u07CF"_s, u"\u0633\u0640\u0644\u0627\u0645"_s}) {
+        EXPECT_EQ(widthOf(word, 9), widthOf(word, 0)) << word.toStdString();
+        EXPECT_EQ(ShapedText(word, face(u"mono"_s), 9).lastTracking(), 0);
+        // Three letters, a space and no more.
+        EXPECT_NEAR(widthOf(u"ABC "_s + word, 9), widthOf(u"ABC "_s + word, 0) + 4 * 9, 0.05);
+    }
+    EXPECT_NEAR(ShapedText(u"ABC"_s, face(u"mono"_s), 9).lastTracking(), 9, 1e-9);
+}
+
 TEST(ControlCharacters, AreCountedAndNotDrawn) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
         const ShapedText clean(u"light"_s, face(name));
