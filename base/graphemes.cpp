@@ -124,6 +124,19 @@ QString drawnPart(const QString& text, qsizetype units) {
     return isShort ? text : withShortCharacters(withoutExcessMarks(text, units));
 }
 
+bool isEmoji(QStringView character) {
+    constexpr QChar textSelector(0xFE0E);
+    constexpr QChar emojiSelector(0xFE0F);
+    UChar32 first = 0;
+    qsizetype i = 0;
+    U16_NEXT(character.utf16(), i, character.size(), first);
+    if (character.contains(emojiSelector)) {
+        return u_hasBinaryProperty(first, UCHAR_EMOJI) != 0;
+    }
+    return u_hasBinaryProperty(first, UCHAR_EMOJI_PRESENTATION) != 0 &&
+           !character.contains(textSelector);
+}
+
 bool hasMoreCharacters(QStringView text, int limit) {
     return text.size() > limit && iteratorOver(text).next(limit + 1) != icu::BreakIterator::DONE;
 }

@@ -23,6 +23,10 @@ QList<qsizetype> characterEnds(QStringView text);
 // the number of characters stays the same. Reads no more of the text than needed.
 QString drawnPart(const QString& text, qsizetype units);
 
+// Whether a character (not empty) is shown as a coloured emoji: by itself, or because
+// a selector asks for it.
+bool isEmoji(QStringView character);
+
 // Whether `text` has more than `limit` characters. Reads no more of the text than needed.
 bool hasMoreCharacters(QStringView text, int limit);
 

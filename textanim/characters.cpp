@@ -9,6 +9,8 @@ namespace morrowleaf {
 
 namespace {
 
+constexpr QChar emojiSelector(0xFE0F);
+
 bool isLineBreak(QStringView character) {
     switch (character.front().unicode()) {
     case '\n':
@@ -64,6 +66,9 @@ char32_t firstCode(QStringView character) {
 }
 
 CharacterKind kindOf(QStringView character) {
+    if (isEmoji(character)) {
+        return CharacterKind::Emoji;
+    }
     const char32_t code = firstCode(character);
     const bool stretches = QChar::joiningType(code) == QChar::Joining_Causing; // a kashida
     return stretches || joins(QChar::script(code)) ? CharacterKind::Joined : CharacterKind::Plain;
@@ -80,15 +85,19 @@ SetText setText(const QString& text, LineBreaks breaks) {
     for (qsizetype& end : set.ends) {
         const QStringView character = QStringView(text).mid(begin, end - begin);
         begin = end;
+        const CharacterKind kind = kindOf(character);
         if (isLineBreak(character)) {
             set.text += breaks == LineBreaks::Kept ? QChar(QChar::LineSeparator) : QChar(u' ');
         } else if (character.front() == u'\t') {
             set.text += u' ';
+        } else if (kind == CharacterKind::Emoji) {
+            // A face without a glyph for the selector would tear a joined emoji apart.
+            set.text += character.toString().remove(emojiSelector);
         } else if (character.front().category() != QChar::Other_Control) {
             set.text += character;
         }
         end = set.text.size();
-        set.kinds.push_back(kindOf(character));
+        set.kinds.push_back(kind);
     }
     return set;
 }

@@ -13,6 +13,7 @@ namespace morrowleaf {
 // How a character is set, apart from its face.
 enum class CharacterKind {
     Plain,
+    Emoji, // in colour, as Unicode's emoji presentation asks
     Joined // of a script whose letters join, so that tracking would tear them apart
 };
 
@@ -27,7 +28,7 @@ struct SetText {
 enum class LineBreaks { Kept, Ignored };
 
 // Breaks lines with line separators, or replaces them by spaces, and leaves out
-// the control characters.
+// what is not drawn: control characters, and the selectors that ask for an emoji.
 SetText setText(const QString& text, LineBreaks breaks);
 
 } // namespace morrowleaf

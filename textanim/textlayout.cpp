@@ -3,6 +3,7 @@
 
 #include "textanim/textlayout.h"
 
+#include <QPainterPath>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
@@ -13,6 +14,8 @@
 #include <iterator>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -38,23 +41,49 @@ std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
     return units * double{shapingSize} / perEm;
 }
 
+// The installed face that draws emoji as pictures; empty if there is none.
+QString emojiFamily() {
+    QFont generic;
+    generic.setFamilies({u"emoji"_s});
+    const QRawFont face = QRawFont::fromFont(generic);
+    constexpr char32_t grinning = 0x1F600;
+    if (!face.supportsCharacter(grinning)) {
+        return {};
+    }
+    const QList<quint32> glyph = face.glyphIndexesForString(QString::fromUcs4(&grinning, 1));
+    return !glyph.isEmpty() && face.pathForGlyph(glyph.front()).isEmpty() ? face.familyName()
+                                                                          : QString();
+}
+
+QFont fontFor(CharacterKind kind, QFont font) {
+    if (kind == CharacterKind::Joined) {
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    } else if (kind == CharacterKind::Emoji) {
+        static const QString emoji = emojiFamily();
+        if (!emoji.isEmpty()) {
+            font.setFamilies(QStringList(emoji) + font.families());
+        }
+    }
+    return font;
+}
+
 // What is not set as the rest of the text.
 QList<QTextLayout::FormatRange> formatsFor(const SetText& set, const QFont& font) {
-    QFont untracked = font;
-    untracked.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     QList<QTextLayout::FormatRange> formats;
     qsizetype begin = 0;
     auto last = CharacterKind::Plain;
     for (std::size_t i = 0; i < set.kinds.size(); ++i) {
         const CharacterKind kind = set.kinds[i];
         const auto length = static_cast<int>(set.ends[static_cast<qsizetype>(i)] - begin);
-        if (kind != CharacterKind::Plain && kind == last) {
+        const bool differs = kind == CharacterKind::Emoji ||
+                             (kind == CharacterKind::Joined && font.letterSpacing() != 0);
+        if (differs && kind == last) {
             formats.back().length += length;
-        } else if (kind != CharacterKind::Plain) {
+        } else if (differs) {
             QTextLayout::FormatRange range;
             range.start = static_cast<int>(begin);
             range.length = length;
-            range.format.setFont(untracked);
+            range.format.setFont(fontFor(kind, font));
             formats.append(range);
         }
         last = kind;
@@ -141,9 +170,7 @@ void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double 
     layout.setFont(large);
     layout.setText(set.text);
     layout.setTextOption(option);
-    if (tracking != 0) {
-        layout.setFormats(formatsFor(set, large));
-    }
+    layout.setFormats(formatsFor(set, large));
 }
 
 void keepTrailingSpaces(QTextLayout& layout) {

@@ -134,6 +134,17 @@ TEST(DrawnPart, BoundsEveryCharacterAndTheWhole) {
     EXPECT_LE(drawnPart(u"\U0001F600"_s.repeated(300), 301).size(), 301);
 }
 
+TEST(IsEmoji, FollowsThePresentation) {
+    for (const QString& emoji : {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s,
+                                 u"\U0001F1E9\U0001F1EA"_s, u"\U0001F44D\U0001F3FD"_s}) {
+        EXPECT_TRUE(isEmoji(emoji)) << emoji.toStdString();
+    }
+    for (const QString& text :
+         {u"\u2764"_s, u"\U0001F600\uFE0E"_s, u"1"_s, u"\u00A9"_s, u"e\uFE0F"_s, u"\u0BA8"_s}) {
+        EXPECT_FALSE(isEmoji(text)) << text.toStdString();
+    }
+}
+
 TEST(HasMoreCharacters, CountsUpToAnyLimit) {
     const QString text = QString(1000, u'a');
     EXPECT_FALSE(hasMoreCharacters(text, std::numeric_limits<int>::max()));

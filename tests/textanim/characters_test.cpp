@@ -6,9 +6,12 @@
 
 #include "tests/textanim/paintedline.h"
 #include "textanim/shapedtext.h"
+#include "textanim/textlayout.h"
 #include "textanim/textoutline.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
@@ -33,6 +36,37 @@ TEST(Tracking, TearsNoJoinedScriptApart) {
         EXPECT_NEAR(widthOf(u"ABC "_s + word, 9), widthOf(u"ABC "_s + word, 0) + 4 * 9, 0.05);
     }
     EXPECT_NEAR(ShapedText(u"ABC"_s, face(u"mono"_s), 9).lastTracking(), 9, 1e-9);
+}
+
+std::set<QString> facesOf(const QString& text, const QString& name) {
+    std::set<QString> faces;
+    const TextLayout layout = layOut(text, face(name).face, 0, 0, LineBreaks::Kept);
+    for (const GlyphCluster& cluster : layout.rows.front().clusters) {
+        for (const PlacedGlyph& glyph : cluster.glyphs) {
+            faces.insert(glyph.face.familyName());
+        }
+    }
+    return faces;
+}
+
+TEST(Emoji, ComeFromOneColouredFace) {
+    const QString known = u"\U0001F469\u200D\U0001F467"_s; // a joined one
+    if (!ShapedText(known, face(u"sans"_s)).outline().hasPictures) {
+        GTEST_SKIP() << "no face with colour glyphs is installed";
+    }
+    const std::set<QString> colour = facesOf(known, u"sans"_s);
+    ASSERT_EQ(colour.size(), 1U);
+    for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
+        for (const QString& emoji :
+             {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s, u"\U0001F44D\U0001F3FD"_s,
+              u"\U0001F3F3\uFE0F\u200D\U0001F308"_s, u"\u263A\uFE0F"_s}) {
+            EXPECT_EQ(facesOf(emoji, name), colour) << emoji.toStdString();
+            EXPECT_EQ(ShapedText(emoji, face(name)).outline().parts.front().pictures.size(), 1U)
+                << emoji.toStdString();
+        }
+        EXPECT_NE(facesOf(u"\u2764"_s, name), colour);
+        EXPECT_NE(facesOf(u"1"_s, name), colour);
+    }
 }
 
 TEST(ControlCharacters, AreCountedAndNotDrawn) {
