@@ -3,12 +3,14 @@
 
 #include "textanim/revealline.h"
 
+#include "textanim/begunglyphs.h"
 #include "textanim/blurredlayer.h"
 #include "textanim/handwriting.h"
 #include "textanim/letters.h"
 #include "textanim/motion.h"
 #include "textanim/shapedtext.h"
 #include "textanim/stagger.h"
+#include "textanim/textlayout.h"
 #include "textanim/typewriter.h"
 
 #include <QPainter>
@@ -24,6 +26,17 @@ double scaleOf(const QTransform& device) {
     return std::sqrt(std::abs(device.determinant()));
 }
 
+TextOutline typedOutline(const RevealLine::Parts& parts) {
+    if (!(parts.font.size > 0)) {
+        return {};
+    }
+    const double unit = parts.font.size / shapingSize;
+    TextLayout layout =
+        layOut(parts.text, parts.font.face, 0, parts.maxWidth / unit, LineBreaks::Kept);
+    addBegunGlyphs(layout, parts.text, parts.font.face);
+    return outlineOf(layout, unit, parts.maxWidth);
+}
+
 std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts) {
     const auto inType = [&parts] {
         return ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline();
@@ -34,7 +47,7 @@ std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts) {
     case TextAnim::Handwrite:
         return handwritingPainter(parts.text, parts.strokeFont, parts.maxWidth);
     case TextAnim::Typewriter:
-        return typewriterPainter(inType());
+        return typewriterPainter(typedOutline(parts));
     case TextAnim::Rise:
         return motionPainter(inType(), rise());
     case TextAnim::Blur:

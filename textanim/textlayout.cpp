@@ -132,7 +132,7 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
         if (*end == begin) {
             continue; // a control character
         }
-        GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}};
+        GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}, {}};
         cluster.glyphs = glyphsIn(line, {begin, std::min(*end, lineEnd)}, &cluster.rightToLeft);
         for (const PlacedGlyph& glyph : cluster.glyphs) {
             if (std::ranges::find(faces, glyph.face) == faces.end()) {

@@ -33,6 +33,8 @@ struct GlyphCluster {
     qsizetype characterCount = 0;
     bool rightToLeft = false;
     std::vector<PlacedGlyph> glyphs;
+    // What stands there when 1, 2 … of several characters are typed; see addBegunGlyphs().
+    std::vector<std::vector<PlacedGlyph>> begun;
 };
 
 // Lengths are in units of 1 / shapingSize of the font's size.

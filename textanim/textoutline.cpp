@@ -67,27 +67,46 @@ private:
     QHash<std::pair<QRawFont, quint32>, DrawnGlyph> drawn_;
 };
 
-OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit,
-                           GlyphPictures& pictures) {
-    OutlinePart part{
-        cluster.firstCharacter, cluster.characterCount, 0, 0, cluster.rightToLeft, {}, {}};
-    part.outline.setFillRule(Qt::WindingFill);
-    bool first = true;
-    for (const PlacedGlyph& glyph : cluster.glyphs) {
+OutlineInk outlineGlyphs(const std::vector<PlacedGlyph>& glyphs, QPointF origin, double unit,
+                         GlyphPictures& pictures) {
+    OutlineInk ink;
+    ink.outline.setFillRule(Qt::WindingFill);
+    for (const PlacedGlyph& glyph : glyphs) {
         const QPointF at = origin + glyph.position * unit;
-        const QList<QPointF> advances = glyph.face.advancesForGlyphIndexes({glyph.index});
-        const double right = at.x() + (advances.isEmpty() ? 0 : advances.front().x() * unit);
-        part.left = first ? at.x() : std::min(part.left, at.x());
-        part.right = first ? right : std::max(part.right, right);
-        first = false;
         const QPainterPath shape = glyph.face.pathForGlyph(glyph.index);
         if (!shape.isEmpty()) {
-            part.outline.addPath(
+            ink.outline.addPath(
                 QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape));
         } else if (auto picture = pictures.pictureOf(glyph, origin, unit)) {
-            part.right = std::max(part.right, picture->place.right());
-            part.pictures.push_back(std::move(*picture));
+            ink.pictures.push_back(std::move(*picture));
         }
+    }
+    return ink;
+}
+
+OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit,
+                           GlyphPictures& pictures) {
+    OutlinePart part{cluster.firstCharacter,
+                     cluster.characterCount,
+                     0,
+                     0,
+                     cluster.rightToLeft,
+                     outlineGlyphs(cluster.glyphs, origin, unit, pictures),
+                     {}};
+    bool first = true;
+    for (const PlacedGlyph& glyph : cluster.glyphs) {
+        const double left = origin.x() + glyph.position.x() * unit;
+        const QList<QPointF> advances = glyph.face.advancesForGlyphIndexes({glyph.index});
+        const double right = left + (advances.isEmpty() ? 0 : advances.front().x() * unit);
+        part.left = first ? left : std::min(part.left, left);
+        part.right = first ? right : std::max(part.right, right);
+        first = false;
+    }
+    for (const GlyphPicture& picture : part.ink.pictures) {
+        part.right = std::max(part.right, picture.place.right());
+    }
+    for (const std::vector<PlacedGlyph>& glyphs : cluster.begun) {
+        part.begun.push_back(outlineGlyphs(glyphs, origin, unit, pictures));
     }
     return part;
 }
@@ -103,18 +122,21 @@ void groupParts(TextOutline& text) {
     QRectF covered;
     for (std::size_t i = 0; i < text.parts.size(); ++i) {
         const OutlinePart& part = text.parts[i];
-        for (const GlyphPicture& picture : part.pictures) {
+        for (const GlyphPicture& picture : part.ink.pictures) {
             text.ink |= picture.place;
             text.hasPictures = true;
         }
-        const QRectF box = part.outline.boundingRect();
+        for (const OutlineInk& begun : part.begun) {
+            text.ink |= begun.outline.boundingRect();
+        }
+        const QRectF box = part.ink.outline.boundingRect();
         text.ink |= box;
-        if (!text.groups.empty() && (part.outline.isEmpty() || covered.intersects(box))) {
+        if (!text.groups.empty() && (part.ink.outline.isEmpty() || covered.intersects(box))) {
             ++text.groups.back().partCount;
-            text.groups.back().outline.addPath(part.outline);
+            text.groups.back().outline.addPath(part.ink.outline);
             covered |= box;
         } else {
-            text.groups.push_back({i, 1, part.outline});
+            text.groups.push_back({i, 1, part.ink.outline});
             covered = box;
         }
     }
@@ -131,27 +153,19 @@ void paintPicture(QPainter& painter, const GlyphPicture& picture) {
                                              : picture.picture);
 }
 
-// Draws a fraction of a glyph that several characters share, from the side where
-// the text begins.
-void paintShare(QPainter& painter, const OutlinePart& part, double share, const QColor& color) {
-    QRectF shown = part.outline.boundingRect();
-    for (const GlyphPicture& picture : part.pictures) {
-        shown |= picture.place;
+void paintPictures(QPainter& painter, const OutlineInk& ink) {
+    std::ranges::for_each(
+        ink.pictures, [&painter](const GlyphPicture& picture) { paintPicture(painter, picture); });
+}
+
+// What stands in the place of a part after that many keystrokes; null for nothing.
+const OutlineInk* inkAfter(const OutlinePart& part, qsizetype characters) {
+    const qsizetype typed = characters - part.firstCharacter;
+    if (typed >= part.characterCount) {
+        return &part.ink;
     }
-    shown.adjust(-1, -1, 1, 1);
-    const double width = share * (part.right - part.left);
-    if (part.rightToLeft) {
-        shown.setLeft(part.right - width);
-    } else {
-        shown.setRight(part.left + width);
-    }
-    painter.save();
-    painter.setClipRect(shown, Qt::IntersectClip);
-    painter.fillPath(part.outline, color);
-    for (const GlyphPicture& picture : part.pictures) {
-        paintPicture(painter, picture);
-    }
-    painter.restore();
+    const auto begun = static_cast<std::size_t>(typed);
+    return typed > 0 && begun <= part.begun.size() ? &part.begun[begun - 1] : nullptr;
 }
 
 void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsizetype characters,
@@ -159,16 +173,9 @@ void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsiz
     QPainterPath whole;
     whole.setFillRule(Qt::WindingFill);
     for (const OutlinePart& part : parts) {
-        const qsizetype typed = characters - part.firstCharacter;
-        if (typed >= part.characterCount) {
-            whole.addPath(part.outline);
-            for (const GlyphPicture& picture : part.pictures) {
-                paintPicture(painter, picture);
-            }
-        } else if (typed > 0) {
-            paintShare(painter, part,
-                       static_cast<double>(typed) / static_cast<double>(part.characterCount),
-                       color);
+        if (const OutlineInk* ink = inkAfter(part, characters)) {
+            whole.addPath(ink->outline);
+            paintPictures(painter, *ink);
         }
     }
     painter.fillPath(whole, color);
@@ -189,7 +196,7 @@ QPainterPath wholePath(const TextOutline& text) {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     for (const OutlinePart& part : text.parts) {
-        path.addPath(part.outline);
+        path.addPath(part.ink.outline);
     }
     return path;
 }
@@ -234,9 +241,7 @@ void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters
         if (last->firstCharacter + last->characterCount <= characters) {
             painter.fillPath(group.outline, color);
             for (const OutlinePart* part = first; part <= last; ++part) {
-                std::ranges::for_each(part->pictures, [&painter](const GlyphPicture& picture) {
-                    paintPicture(painter, picture);
-                });
+                paintPictures(painter, part->ink);
             }
             continue;
         }

@@ -25,16 +25,22 @@ struct GlyphPicture {
     QRectF place;   // points
 };
 
-// What appears with one keystroke of the typewriter. If several characters share a glyph,
-// it appears with as many keystrokes, piece by piece from the side where the text begins.
+// What one or more characters are drawn as.
+struct OutlineInk {
+    QPainterPath outline; // fill rule winding
+    std::vector<GlyphPicture> pictures;
+};
+
+// What appears with one keystroke of the typewriter, or with as many as there are
+// characters that share a glyph (a ligature, a conjunct).
 struct OutlinePart {
     qsizetype firstCharacter = 0;
     qsizetype characterCount = 0;
     double left = 0; // of its extent on the row, points
     double right = 0;
     bool rightToLeft = false;
-    QPainterPath outline; // fill rule winding
-    std::vector<GlyphPicture> pictures;
+    OutlineInk ink;
+    std::vector<OutlineInk> begun; // what stands there after 1, 2 … of several keystrokes
 };
 
 // Parts that touch (joined letters), filled as one path so that no seam is visible.

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// How the characters of a text are set: control characters, tracking, emoji.
+// How the characters of a text are set: tracking, emoji, control characters, ligatures.
 #include "textanim/characters.h"
 
+#include "base/graphemes.h"
 #include "tests/textanim/paintedline.h"
+#include "textanim/begunglyphs.h"
 #include "textanim/shapedtext.h"
 #include "textanim/textlayout.h"
 #include "textanim/textoutline.h"
@@ -12,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <utility>
 
 using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
@@ -61,7 +64,7 @@ TEST(Emoji, ComeFromOneColouredFace) {
              {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s, u"\U0001F44D\U0001F3FD"_s,
               u"\U0001F3F3\uFE0F\u200D\U0001F308"_s, u"\u263A\uFE0F"_s}) {
             EXPECT_EQ(facesOf(emoji, name), colour) << emoji.toStdString();
-            EXPECT_EQ(ShapedText(emoji, face(name)).outline().parts.front().pictures.size(), 1U)
+            EXPECT_EQ(ShapedText(emoji, face(name)).outline().parts.front().ink.pictures.size(), 1U)
                 << emoji.toStdString();
         }
         EXPECT_NE(facesOf(u"\u2764"_s, name), colour);
@@ -87,6 +90,57 @@ TEST(ControlCharacters, BreakLinesWhereTheyMeanThat) {
     for (const char16_t control : {u'\v', u'\f', char16_t{0x85}}) {
         const QString text = u"a"_s + QChar(control) + u'b';
         EXPECT_NEAR(ShapedText(text, face(u"serif"_s)).size().height(), 2 * row, 1e-6);
+    }
+}
+
+RevealLine typed(const QString& text, const QString& name) {
+    RevealLine::Parts bare = parts(TextAnim::Typewriter, text, name);
+    bare.shadow.opacity = 0;
+    return RevealLine(bare);
+}
+
+QRectF inkAfter(const QString& text, const QString& name, int characters) {
+    const RevealLine line = typed(text, name);
+    return inkOf(painted(line, line.delay() + (characters + 0.5) / 26, 2));
+}
+
+// The letters of a ligature that is half typed stand there by themselves.
+TEST(BegunLigature, IsTheLettersThatAreTyped) {
+    const QString nonJoiner(QChar(0x200C));
+    for (const auto& [word, begun] :
+         {std::pair(u"fi"_s, u"f"_s), std::pair(u"Tafl"_s, u"Taf"_s), std::pair(u"ffi"_s, u"f"_s),
+          std::pair(u"ffi"_s, u"f"_s + nonJoiner + u'f'), std::pair(u"off"_s, u"of"_s)}) {
+        const auto characters = static_cast<int>(characterCount(begun));
+        const QRectF shown = inkAfter(word, u"serif"_s, characters);
+        const QRectF alone = inkAfter(begun, u"serif"_s, characters);
+        EXPECT_NEAR(shown.left(), alone.left(), 0.6) << begun.toStdString();
+        EXPECT_NEAR(shown.right(), alone.right(), 0.6) << begun.toStdString();
+        EXPECT_NEAR(shown.top(), alone.top(), 0.6) << begun.toStdString();
+    }
+}
+
+TEST(BegunLigature, IsTheLetterAloneInArabic) {
+    // A lam alone is taller and narrower than a half of its ligature with alef.
+    const QString lamAlef = u"\u0644\u0627"_s;
+    EXPECT_NEAR(inkAfter(lamAlef, u"sans"_s, 1).height(),
+                inkAfter(lamAlef.left(1), u"sans"_s, 1).height(), 0.6);
+    EXPECT_NEAR(inkAfter(lamAlef, u"sans"_s, 1).width(),
+                inkAfter(lamAlef.left(1), u"sans"_s, 1).width(), 0.6);
+}
+
+// A joiner would load another face, since most faces have none.
+TEST(BegunLigature, NeedsNoOtherFace) {
+    for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s}) {
+        const QFont font = face(name).face;
+        TextLayout layout = layOut(u"office"_s, font, 0, 0, LineBreaks::Kept);
+        addBegunGlyphs(layout, u"office"_s, font);
+        for (const GlyphCluster& cluster : layout.rows.front().clusters) {
+            for (const auto& glyphs : cluster.begun) {
+                for (const PlacedGlyph& glyph : glyphs) {
+                    EXPECT_EQ(glyph.face, cluster.glyphs.front().face) << name.toStdString();
+                }
+            }
+        }
     }
 }
 

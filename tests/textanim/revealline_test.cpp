@@ -32,9 +32,9 @@ TEST(RevealLine, TheTypewriterChangesOnItsTicksOnly) {
     EXPECT_NEAR(line.settledAfter(), start + 20.0 / 26, 1e-9);
 }
 
-// Typed letters do not move when further letters appear.
+// Typed letters do not move when further letters appear, unless they join them.
 TEST(RevealLine, TypedLettersDoNotJump) {
-    RevealLine::Parts bare = parts(TextAnim::Typewriter, u"AVAffinity office"_s, u"serif"_s);
+    RevealLine::Parts bare = parts(TextAnim::Typewriter, u"AVAvenue To a way"_s, u"serif"_s);
     bare.shadow.opacity = 0;
     const RevealLine line(bare);
     const QImage whole = painted(line, line.settledAfter());

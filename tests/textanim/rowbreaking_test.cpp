@@ -122,8 +122,8 @@ TEST(Rows, AreTheSameInHandwritingAsInType) {
         EXPECT_NEAR(written.text.size.height(), type.size.height(), 1) << text.toStdString();
         EXPECT_EQ(written.penWidth, penWidth(font.size));
         // The letters have the same size in both.
-        EXPECT_NEAR(written.text.parts.front().outline.boundingRect().height(),
-                    type.parts.front().outline.boundingRect().height(), 1e-6);
+        EXPECT_NEAR(written.text.parts.front().ink.outline.boundingRect().height(),
+                    type.parts.front().ink.outline.boundingRect().height(), 1e-6);
     }
 }
 
@@ -131,7 +131,7 @@ TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
     const HandwrittenLine written = handwrittenLine(longWord, face(u"fraunces"_s), 400);
     double top = 0;
     for (const OutlinePart& part : written.text.parts) {
-        const QRectF box = part.outline.boundingRect();
+        const QRectF box = part.ink.outline.boundingRect();
         EXPECT_GE(box.bottom(), top);
         top = std::max(top, box.top() - 44);
     }

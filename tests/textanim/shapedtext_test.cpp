@@ -24,7 +24,7 @@ const QString sentence = u"The office of AVA: “find, affix”"_s;
 
 bool hasPart(const ShapedText& text, bool rightToLeft) {
     for (const OutlinePart& part : text.outline().parts) {
-        if (part.rightToLeft == rightToLeft && !part.outline.isEmpty()) {
+        if (part.rightToLeft == rightToLeft && !part.ink.outline.isEmpty()) {
             return true;
         }
     }
