@@ -8,6 +8,7 @@
 #include "screen/layout.h"
 #include "textanim/fonts.h"
 #include "textanim/handwriting.h"
+#include "textanim/textoutline.h"
 
 #include <QPainter>
 
@@ -259,6 +260,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
                     QPointF(0, measure::shadowDrop)};
     parts.maxWidth = width;
 
+    GlyphShapes shapes; // shared by the lines
     std::vector<Line> lines;
     lines.reserve(static_cast<size_t>(cut_.lines.size()));
     for (qsizetype i = 0; i < cut_.lines.size(); ++i) {
@@ -272,7 +274,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
             old->line.setColors(parts.color, parts.shadow);
             lines.push_back({identity, appearedAt, std::move(old->line), {}});
         } else {
-            lines.push_back({identity, appearedAt, RevealLine(parts), {}});
+            lines.push_back({identity, appearedAt, RevealLine(parts, shapes), {}});
             ++work_.layouts;
         }
     }

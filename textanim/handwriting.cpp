@@ -26,13 +26,13 @@ constexpr double inkStart = 0.7 * traceDuration;
 constexpr double inkDuration = 0.45 * traceDuration;
 
 // A single row, in a place of whole points.
-TextOutline outlineOfRow(const TextLayout& layout, const TextFont& font) {
+TextOutline outlineOfRow(const TextLayout& layout, const TextFont& font, GlyphShapes& shapes) {
     const TextRow& row = layout.rows.front();
     const double unit = font.size / shapingSize;
     const QSizeF place(wholePoints(row.width * unit),
                        wholePoints((row.ascent + row.descent) * unit));
     const double baseline = place.height() - descentOf(rawFace(font.face)) * unit;
-    TextOutline text = outlineRow(layout, {0, baseline}, unit);
+    TextOutline text = outlineRow(layout, {0, baseline}, unit, shapes);
     text.size = place;
     text.baseline = baseline;
     return text;
@@ -130,6 +130,12 @@ double wholePoints(double length) {
 }
 
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth) {
+    GlyphShapes shapes;
+    return handwrittenLine(text, font, maxWidth, shapes);
+}
+
+HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth,
+                                GlyphShapes& shapes) {
     if (!(font.size > 0)) {
         return {};
     }
@@ -137,8 +143,8 @@ HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, doubl
     const TextLayout layout = layOut(text, font.face, 0, maxWidth / unit,
                                      maxWidth > 0 ? LineBreaks::Kept : LineBreaks::Ignored);
     const bool fits = maxWidth <= 0 || layout.rows.front().width * unit <= maxWidth;
-    return {layout.rows.size() == 1 && fits ? outlineOfRow(layout, font)
-                                            : outlineOf(layout, unit, maxWidth),
+    return {layout.rows.size() == 1 && fits ? outlineOfRow(layout, font, shapes)
+                                            : outlineOf(layout, unit, maxWidth, shapes),
             penWidth(font.size)};
 }
 
@@ -165,8 +171,9 @@ double handwritingDuration() {
 }
 
 std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
-                                                double maxWidth) {
-    return std::make_unique<HandwritingPainter>(handwrittenLine(text, font, maxWidth), font.size);
+                                                double maxWidth, GlyphShapes& shapes) {
+    return std::make_unique<HandwritingPainter>(handwrittenLine(text, font, maxWidth, shapes),
+                                                font.size);
 }
 
 } // namespace morrowleaf

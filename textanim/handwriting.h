@@ -36,6 +36,8 @@ struct HandwrittenLine {
 double wholePoints(double length);
 
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth = 0);
+HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth,
+                                GlyphShapes& shapes);
 QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth = 0);
 
 // The width of the pen in points for a font size in points: 0.018 times the size,
@@ -56,6 +58,6 @@ double handwritingDuration(); // seconds
 // Draws the line as a pen does: its outlines are traced, then filled with ink. A
 // line without outlines (only emoji) is drawn as ordinary type.
 std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
-                                                double maxWidth);
+                                                double maxWidth, GlyphShapes& shapes);
 
 } // namespace morrowleaf

@@ -26,7 +26,7 @@ double scaleOf(const QTransform& device) {
     return std::sqrt(std::abs(device.determinant()));
 }
 
-TextOutline typedOutline(const RevealLine::Parts& parts) {
+TextOutline typedOutline(const RevealLine::Parts& parts, GlyphShapes& shapes) {
     if (!(parts.font.size > 0)) {
         return {};
     }
@@ -34,20 +34,20 @@ TextOutline typedOutline(const RevealLine::Parts& parts) {
     TextLayout layout =
         layOut(parts.text, parts.font.face, 0, parts.maxWidth / unit, LineBreaks::Kept);
     addBegunGlyphs(layout, parts.text, parts.font.face);
-    return outlineOf(layout, unit, parts.maxWidth);
+    return outlineOf(layout, unit, parts.maxWidth, shapes);
 }
 
-std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts) {
-    const auto inType = [&parts] {
-        return ShapedText(parts.text, parts.font, 0, parts.maxWidth).outline();
+std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts, GlyphShapes& shapes) {
+    const auto inType = [&] {
+        return ShapedText(parts.text, parts.font, 0, parts.maxWidth, shapes).outline();
     };
     switch (parts.style) {
     case TextAnim::Fade:
         break;
     case TextAnim::Handwrite:
-        return handwritingPainter(parts.text, parts.strokeFont, parts.maxWidth);
+        return handwritingPainter(parts.text, parts.strokeFont, parts.maxWidth, shapes);
     case TextAnim::Typewriter:
-        return typewriterPainter(typedOutline(parts));
+        return typewriterPainter(typedOutline(parts, shapes));
     case TextAnim::Rise:
         return motionPainter(inType(), rise());
     case TextAnim::Blur:
@@ -59,9 +59,9 @@ std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts) {
 } // namespace
 
 struct RevealLine::Private {
-    explicit Private(const Parts& p)
+    Private(const Parts& p, GlyphShapes& shapes)
         : parts(p)
-        , painter(painterFor(p))
+        , painter(painterFor(p, shapes))
         , delay(lineDelay(p.style, p.index)) {}
 
     Parts parts;
@@ -127,8 +127,13 @@ struct RevealLine::Private {
     }
 };
 
-RevealLine::RevealLine(const Parts& parts)
-    : d_(std::make_unique<Private>(parts)) {}
+RevealLine::RevealLine(const Parts& parts) {
+    GlyphShapes shapes;
+    *this = RevealLine(parts, shapes);
+}
+
+RevealLine::RevealLine(const Parts& parts, GlyphShapes& shapes)
+    : d_(std::make_unique<Private>(parts, shapes)) {}
 
 RevealLine::~RevealLine() = default;
 RevealLine::RevealLine(RevealLine&&) noexcept = default;

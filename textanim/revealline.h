@@ -18,6 +18,8 @@ class QTransform;
 
 namespace morrowleaf {
 
+class GlyphShapes;
+
 // The shadow of the visible letters of a line.
 struct LineShadow {
     double opacity = 0;   // of black, 0...1
@@ -46,6 +48,7 @@ public:
 
     // Lays out the text, which is the costly part.
     explicit RevealLine(const Parts& parts);
+    RevealLine(const Parts& parts, GlyphShapes& shapes);
     ~RevealLine();
     RevealLine(RevealLine&&) noexcept;
     RevealLine& operator=(RevealLine&&) noexcept;

@@ -6,7 +6,6 @@
 #include "textanim/textlayout.h"
 
 #include <QGlyphRun>
-#include <QHash>
 #include <QPainter>
 #include <QTransform>
 #include <QtMath>
@@ -19,12 +18,9 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int pictureSize = 160; // font size for glyphs without an outline, pixels
+using DrawnGlyph = GlyphShapes::DrawnGlyph;
 
-struct DrawnGlyph {
-    QImage picture;  // null for an empty glyph
-    QPointF topLeft; // from the glyph's origin, pixels
-};
+constexpr int pictureSize = 160; // font size for glyphs without an outline, pixels
 
 DrawnGlyph drawGlyph(QRawFont face, quint32 index) {
     // Bitmap faces know the extents of their glyphs only at moderate sizes.
@@ -47,51 +43,34 @@ DrawnGlyph drawGlyph(QRawFont face, quint32 index) {
     return {picture, drawn.topLeft()};
 }
 
-// Equal glyphs of a text share one picture.
-class GlyphPictures {
-public:
-    std::optional<GlyphPicture> pictureOf(const PlacedGlyph& glyph, QPointF origin, double unit) {
-        auto known = drawn_.constFind({glyph.face, glyph.index});
-        if (known == drawn_.constEnd()) {
-            known = drawn_.insert({glyph.face, glyph.index}, drawGlyph(glyph.face, glyph.index));
-        }
-        if (known->picture.isNull()) {
-            return std::nullopt;
-        }
-        const double scale = unit * shapingSize / pictureSize;
-        const QPointF corner = origin + glyph.position * unit + known->topLeft * scale;
-        return GlyphPicture{known->picture, {corner, QSizeF(known->picture.size()) * scale}};
-    }
-
-private:
-    QHash<std::pair<QRawFont, quint32>, DrawnGlyph> drawn_;
-};
-
 OutlineInk outlineGlyphs(const std::vector<PlacedGlyph>& glyphs, QPointF origin, double unit,
-                         GlyphPictures& pictures) {
+                         GlyphShapes& shapes) {
     OutlineInk ink;
     ink.outline.setFillRule(Qt::WindingFill);
     for (const PlacedGlyph& glyph : glyphs) {
+        const GlyphShapes::Shape& shape = shapes.shapeOf(glyph.face, glyph.index);
         const QPointF at = origin + glyph.position * unit;
-        const QPainterPath shape = glyph.face.pathForGlyph(glyph.index);
-        if (!shape.isEmpty()) {
+        if (!shape.outline.isEmpty()) {
             ink.outline.addPath(
-                QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape));
-        } else if (auto picture = pictures.pictureOf(glyph, origin, unit)) {
-            ink.pictures.push_back(std::move(*picture));
+                QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape.outline));
+        } else if (!shape.drawn.picture.isNull()) {
+            const double scale = unit * shapingSize / pictureSize;
+            ink.pictures.push_back(
+                {shape.drawn.picture,
+                 {at + shape.drawn.topLeft * scale, QSizeF(shape.drawn.picture.size()) * scale}});
         }
     }
     return ink;
 }
 
 OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double unit,
-                           GlyphPictures& pictures) {
+                           GlyphShapes& shapes) {
     OutlinePart part{cluster.firstCharacter,
                      cluster.characterCount,
                      0,
                      0,
                      cluster.rightToLeft,
-                     outlineGlyphs(cluster.glyphs, origin, unit, pictures),
+                     outlineGlyphs(cluster.glyphs, origin, unit, shapes),
                      {}};
     bool first = true;
     for (const PlacedGlyph& glyph : cluster.glyphs) {
@@ -106,15 +85,15 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
         part.right = std::max(part.right, picture.place.right());
     }
     for (const std::vector<PlacedGlyph>& glyphs : cluster.begun) {
-        part.begun.push_back(outlineGlyphs(glyphs, origin, unit, pictures));
+        part.begun.push_back(outlineGlyphs(glyphs, origin, unit, shapes));
     }
     return part;
 }
 
 void appendRow(TextOutline& text, const TextRow& row, QPointF origin, double unit,
-               GlyphPictures& pictures) {
+               GlyphShapes& shapes) {
     for (const GlyphCluster& cluster : row.clusters) {
-        text.parts.push_back(outlineCluster(cluster, origin, unit, pictures));
+        text.parts.push_back(outlineCluster(cluster, origin, unit, shapes));
     }
 }
 
@@ -183,11 +162,22 @@ void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsiz
 
 } // namespace
 
-TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit) {
+const GlyphShapes::Shape& GlyphShapes::shapeOf(const QRawFont& face, quint32 index) {
+    auto known = shapes_.find({face, index});
+    if (known == shapes_.end()) {
+        Shape shape{face.pathForGlyph(index), {}};
+        if (shape.outline.isEmpty()) {
+            shape.drawn = drawGlyph(face, index);
+        }
+        known = shapes_.insert({face, index}, std::move(shape));
+    }
+    return *known;
+}
+
+TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit, GlyphShapes& shapes) {
     TextOutline text;
     text.characterCount = layout.characterCount;
-    GlyphPictures pictures;
-    appendRow(text, layout.rows.front(), origin, unit, pictures);
+    appendRow(text, layout.rows.front(), origin, unit, shapes);
     groupParts(text);
     return text;
 }
@@ -201,7 +191,7 @@ QPainterPath wholePath(const TextOutline& text) {
     return path;
 }
 
-TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
+TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, GlyphShapes& shapes) {
     TextOutline text;
     text.characterCount = layout.characterCount;
     std::vector<double> scales;
@@ -210,7 +200,6 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
         scales.push_back(maxWidth > 0 && width > maxWidth ? maxWidth / width : 1);
         text.size.setWidth(std::max(text.size.width(), width * scales.back()));
     }
-    GlyphPictures pictures;
     double top = 0;
     for (std::size_t i = 0; i < layout.rows.size(); ++i) {
         const TextRow& row = layout.rows[i];
@@ -220,7 +209,7 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth) {
             text.baseline = baseline;
         }
         const double left = layout.rightToLeft ? text.size.width() - row.width * rowUnit : 0;
-        appendRow(text, row, {left, baseline}, rowUnit, pictures);
+        appendRow(text, row, {left, baseline}, rowUnit, shapes);
         top = baseline + row.descent * rowUnit;
     }
     text.size.setHeight(top);

@@ -4,13 +4,16 @@
 #pragma once
 
 #include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QPainterPath>
+#include <QRawFont>
 #include <QRectF>
 #include <QSizeF>
 #include <QtGlobal>
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -23,6 +26,25 @@ struct TextLayout;
 struct GlyphPicture {
     QImage picture; // premultiplied
     QRectF place;   // points
+};
+
+// The shapes of glyphs, for texts that are outlined one after another: equal glyphs are
+// read only once, since reading is what an outline costs.
+class GlyphShapes {
+public:
+    struct DrawnGlyph {
+        QImage picture;  // null for an empty glyph
+        QPointF topLeft; // from the glyph's origin, pixels
+    };
+    struct Shape {
+        QPainterPath outline; // in pixels of the face
+        DrawnGlyph drawn;     // if it has no outline
+    };
+    // Valid until the next call.
+    const Shape& shapeOf(const QRawFont& face, quint32 index);
+
+private:
+    QHash<std::pair<QRawFont, quint32>, Shape> shapes_;
 };
 
 // What one or more characters are drawn as.
@@ -65,11 +87,11 @@ struct TextOutline {
 // Stacks the rows of a layout; one unit of the layout is `unit` points long. If
 // `maxWidth` is above 0, rows wider than that many points are scaled down. Rows
 // are aligned left, or right if the text runs from right to left.
-TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth);
+TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, GlyphShapes& shapes);
 
 // Outlines only the first row, with its left end and baseline at `origin`; `size`
 // and `baseline` are left to the caller.
-TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit);
+TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit, GlyphShapes& shapes);
 
 // All outlines in the order of the text.
 QPainterPath wholePath(const TextOutline& text);
