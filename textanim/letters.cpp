@@ -18,6 +18,9 @@ namespace {
 // A standard deviation, in pixels, below which a blur cannot be seen.
 constexpr double sharpBelow = 0.05;
 
+// Above this cost, the outlines of a text are filled only once.
+constexpr int filledOnceAbove = 8000;
+
 // Maps points of the line at rest to points with effects.
 QTransform placing(const TextOutline& text, const LineEffects& effects) {
     const QPointF center(text.size.width() / 2, text.size.height() / 2);
@@ -125,10 +128,65 @@ QImage Letters::paint(const LineEffects& effects, qint64 characters, double scal
                       QRect rect, const QColor& color) {
     QImage picture = transparentPicture(rect.size(), memory_);
     QPainter painter(&picture);
-    painter.setTransform(onDevice(text_, effects, scale, cell) *
-                         QTransform::fromTranslate(-rect.x(), -rect.y()));
+    painter.translate(-rect.topLeft());
+    if (text_.cost > filledOnceAbove) {
+        paintFilled(painter, effects, characters, scale, cell, color);
+        return picture;
+    }
+    painter.setTransform(onDevice(text_, effects, scale, cell), true);
     paintTyped(painter, text_, characters, color);
     return picture;
+}
+
+const PlacedPicture& Letters::filled(qint64 characters, double scale, const QColor& color) {
+    const auto& parts = text_.parts;
+    if (!filled_ || filled_->scale != scale || filled_->color != color ||
+        (filled_->parts > 0 &&
+         parts[filled_->parts - 1].firstCharacter + parts[filled_->parts - 1].characterCount >
+             characters)) {
+        const QRect area = deviceRect(rect({}), scale);
+        filled_ =
+            Filled{scale,
+                   color,
+                   0,
+                   {QImage(area.size(), QImage::Format_ARGB32_Premultiplied), area.topLeft()}};
+        filled_->picture.picture.fill(Qt::transparent);
+    }
+    QPainter painter(&filled_->picture.picture);
+    painter.translate(-filled_->picture.origin);
+    painter.setTransform(onDevice(text_, {}, scale, 1), true);
+    for (std::size_t& i = filled_->parts; i < parts.size(); ++i) {
+        if (parts[i].firstCharacter + parts[i].characterCount > characters) {
+            break;
+        }
+        paintPart(painter, parts[i], characters, color);
+    }
+    return filled_->picture;
+}
+
+void Letters::paintFilled(QPainter& painter, const LineEffects& effects, qint64 characters,
+                          double scale, int cell, const QColor& color) {
+    const PlacedPicture& whole = filled(characters, scale, color);
+    const QTransform atRest = onDevice(text_, {}, scale, 1);
+    painter.save();
+    painter.setTransform(atRest.inverted() * onDevice(text_, effects, scale, cell), true);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // A bilinear reduction by more than half would skip pixels.
+    painter.drawImage(QRectF(whole.origin, whole.picture.size()),
+                      cell > 1
+                          ? whole.picture.scaled(whole.picture.size() / cell, Qt::IgnoreAspectRatio,
+                                                 Qt::SmoothTransformation)
+                          : whole.picture);
+    painter.restore();
+    painter.setTransform(onDevice(text_, effects, scale, cell), true);
+    if (filled_->parts < text_.parts.size()) {
+        paintPart(painter, text_.parts[filled_->parts], characters, color);
+    }
+}
+
+void Letters::releaseMemory() {
+    memory_ = {};
+    filled_.reset();
 }
 
 PlacedPicture Letters::drawBlurred(const LineEffects& effects, double scale, double sigma,

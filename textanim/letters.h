@@ -10,7 +10,10 @@
 #include <QImage>
 #include <QRect>
 
+#include <optional>
 #include <vector>
+
+class QPainter;
 
 namespace morrowleaf {
 
@@ -31,9 +34,20 @@ public:
     // Draws the first `characters` characters of the line at rest.
     PlacedPicture drawBeginning(qint64 characters, double scale, const QColor& color);
 
-    void releaseMemory() { memory_ = {}; }
+    void releaseMemory();
 
 private:
+    // The first characters at rest, for a text whose outlines are too many to be
+    // filled in every frame.
+    struct Filled {
+        double scale = 0;
+        QColor color;
+        std::size_t parts = 0;
+        PlacedPicture picture;
+    };
+    const PlacedPicture& filled(qint64 characters, double scale, const QColor& color);
+    void paintFilled(QPainter& painter, const LineEffects& effects, qint64 characters, double scale,
+                     int cell, const QColor& color);
     QImage paint(const LineEffects& effects, qint64 characters, double scale, int cell, QRect rect,
                  const QColor& color);
     PlacedPicture drawBlurred(const LineEffects& effects, double scale, double sigma,
@@ -42,6 +56,7 @@ private:
     TextOutline text_;
     double margin_;
     std::vector<QRgb> memory_;
+    std::optional<Filled> filled_;
 };
 
 // The vertical shift, in device pixels, that moves the resting baseline to a whole pixel.

@@ -20,6 +20,9 @@ namespace {
 
 using DrawnGlyph = GlyphShapes::DrawnGlyph;
 
+// An estimate: reducing a picture takes about as long as filling so many elements.
+constexpr int elementsPerPicture = 500;
+
 constexpr int pictureSize = 160; // font size for glyphs without an outline, pixels
 
 DrawnGlyph drawGlyph(QRawFont face, quint32 index) {
@@ -110,6 +113,8 @@ void groupParts(TextOutline& text) {
         }
         const QRectF box = part.ink.outline.boundingRect();
         text.ink |= box;
+        text.cost += part.ink.outline.elementCount() +
+                     elementsPerPicture * static_cast<int>(part.ink.pictures.size());
         if (!text.groups.empty() && (part.ink.outline.isEmpty() || covered.intersects(box))) {
             ++text.groups.back().partCount;
             text.groups.back().outline.addPath(part.ink.outline);
@@ -219,6 +224,15 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, Gl
 
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color) {
     paintTyped(painter, text, text.characterCount, color);
+}
+
+void paintPart(QPainter& painter, const OutlinePart& part, qsizetype characters,
+               const QColor& color) {
+    if (const OutlineInk* ink = inkAfter(part, characters)) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(ink->outline, color);
+        paintPictures(painter, *ink);
+    }
 }
 
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,

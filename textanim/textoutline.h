@@ -82,6 +82,8 @@ struct TextOutline {
     double baseline = 0; // of the first row
     qsizetype characterCount = 0;
     QRectF ink; // the bounding rectangle of outlines and pictures
+    // What it costs to fill it, in elements of outlines; a picture counts as many.
+    int cost = 0;
 };
 
 // Stacks the rows of a layout; one unit of the layout is `unit` points long. If
@@ -98,6 +100,9 @@ QPainterPath wholePath(const TextOutline& text);
 
 // Draws the text with its origin at the painter's origin.
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color);
+// Draws one part, or what stands in its place after that many keystrokes.
+void paintPart(QPainter& painter, const OutlinePart& part, qsizetype characters,
+               const QColor& color);
 // Draws only the first `characters` characters, each at its place in the whole text.
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
                 const QColor& color);
