@@ -45,11 +45,31 @@ icu::BreakIterator& iteratorOver(QStringView text) {
     return *iterator;
 }
 
+// Whether a character always ends between two such units.
+bool isSimple(QChar unit) {
+    constexpr char16_t firstMark = 0x0300;
+    return unit < firstMark && unit != u'\r';
+}
+
 template <typename Visit>
 void forEachCharacterEnd(QStringView text, Visit visit) {
-    icu::BreakIterator& iterator = iteratorOver(text);
-    for (int32_t end = iterator.next(); end != icu::BreakIterator::DONE; end = iterator.next()) {
-        visit(qsizetype{end});
+    // Running the iterator costs far more than looking at units.
+    qsizetype begin = 0;
+    while (begin < text.size()) {
+        qsizetype end = begin + 1;
+        while (end < text.size() && !(isSimple(text[end - 1]) && isSimple(text[end]))) {
+            ++end;
+        }
+        if (end == begin + 1) {
+            visit(end);
+        } else {
+            icu::BreakIterator& iterator = iteratorOver(text.mid(begin, end - begin));
+            for (int32_t at = iterator.next(); at != icu::BreakIterator::DONE;
+                 at = iterator.next()) {
+                visit(begin + at);
+            }
+        }
+        begin = end;
     }
 }
 

@@ -45,6 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
         Counted{"a composed accent", u"\u00E9", 1}, Counted{"a combining accent", u"e\u0301", 1},
         Counted{"CR LF", u"\r\n", 1}, Counted{"LF CR", u"\n\r", 2},
         Counted{"two lines", u"a\r\nb\n", 4},
+        Counted{"marks among letters", u"ab\u0301cd\u2019\u0301e\r\n\u0301f", 9},
         Counted{"a family", u"\U0001F468\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466", 1},
         Counted{"a skin tone", u"\U0001F44D\U0001F3FD", 1},
         Counted{"a rainbow flag", u"\U0001F3F3\uFE0F\u200D\U0001F308", 1},
