@@ -55,22 +55,15 @@ QFont scaled(const QFont& font, double factor) {
     return result;
 }
 
-// The text up to that many characters, with an ellipsis if there is more. Of marks that
-// are stacked on one character, which take long to lay out, only the first ones remain.
+// The text up to that many characters, as far as it is drawn, with an ellipsis if there
+// are more.
 QString cutAfter(const QString& text, int characters) {
     constexpr qsizetype longestCharacter = 24; // UTF-16 units; more than any emoji has
-    const QString start = text.left(characters * longestCharacter);
-    QString result;
-    qsizetype begin = 0;
-    const QList<qsizetype> ends = characterEnds(start);
-    for (const qsizetype end : ends.first(qMin<qsizetype>(characters, ends.size()))) {
-        result += QStringView(start).mid(begin, qMin(end - begin, longestCharacter));
-        if (result.back().isHighSurrogate()) {
-            result.chop(1); // its second half has been cut off
-        }
-        begin = end;
-    }
-    return begin < text.size() ? result + u'…' : result;
+    const QString drawn = drawnPart(text, characters * longestCharacter);
+    const QList<qsizetype> ends = characterEnds(drawn);
+    const auto shown = qMin<qsizetype>(ends.size(), characters);
+    const QString cut = shown > 0 ? drawn.left(ends[shown - 1]) : QString();
+    return hasMoreCharacters(text, static_cast<int>(shown)) ? cut + u'…' : cut;
 }
 
 // A button with more space beside its text than the style gives it.
