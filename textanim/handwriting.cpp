@@ -38,6 +38,9 @@ TextOutline outlineOfRow(const TextLayout& layout, const TextFont& font, GlyphSh
     return text;
 }
 
+// Above this cost, the outlines of a text are too many to be traced in every frame.
+constexpr int mostTraced = 20'000;
+
 // The length at which a contour is cut for the pen, as a fraction of the font size.
 constexpr double stretchShare = 0.75;
 
@@ -65,7 +68,8 @@ void addPen(QImage& letters, const QImage& pen, const QColor& color) {
 class HandwritingPainter final : public LinePainter {
 public:
     HandwritingPainter(HandwrittenLine line, double size)
-        : trace_(penTrace(wholePath(line.text), stretchShare * size))
+        : trace_(line.text.cost > mostTraced ? PenTrace{}
+                                             : penTrace(wholePath(line.text), stretchShare * size))
         , penWidth_(line.penWidth)
         , letters_(std::move(line.text), line.penWidth / 2 + 1) {}
 
@@ -80,10 +84,12 @@ public:
     }
 
     PlacedPicture draw(double seconds, double scale, const QColor& color) override {
-        if (trace_.stretches.empty()) {
-            return letters_.draw({}, scale, color);
-        }
         const PenProgress progress = penProgress(seconds);
+        if (trace_.stretches.empty()) {
+            LineEffects effects;
+            effects.opacity = text().cost > mostTraced ? progress.traced : 1;
+            return letters_.draw(effects, scale, color);
+        }
         const QRect area = deviceRect(letters_.rect({}), scale);
         if (!pen_ || pen_->scale() != scale || pen_->rect() != area) {
             pen_.emplace(scale, penWidth_, area, baselineShift(text(), scale));

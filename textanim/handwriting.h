@@ -56,7 +56,8 @@ PenProgress penProgress(double seconds);
 double handwritingDuration(); // seconds
 
 // Draws the line as a pen does: its outlines are traced, then filled with ink. A
-// line without outlines (only emoji) is drawn as ordinary type.
+// line without outlines (only emoji) is drawn as ordinary type, and one with very many
+// fades in.
 std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
                                                 double maxWidth, GlyphShapes& shapes);
 

@@ -102,9 +102,15 @@ QRectF Letters::rect(const LineEffects& effects) const {
     return ink.adjusted(-halo, -halo, halo, halo);
 }
 
+bool Letters::isIntricate() const {
+    return text_.cost > filledOnceAbove;
+}
+
 PlacedPicture Letters::draw(const LineEffects& effects, double scale, const QColor& color) {
     const double sigma = effects.blurRadius * effects.scale * scale;
-    if (sigma > sharpBelow) {
+    // Blurring all channels of a screen full of pictures would take too long.
+    const bool isBlurred = sigma > sharpBelow && !(text_.hasPictures && isIntricate());
+    if (isBlurred) {
         return drawBlurred(effects, scale, sigma, color);
     }
     const QRect area = deviceRect(rect(effects), scale);
@@ -129,12 +135,12 @@ QImage Letters::paint(const LineEffects& effects, qint64 characters, double scal
     QImage picture = transparentPicture(rect.size(), memory_);
     QPainter painter(&picture);
     painter.translate(-rect.topLeft());
-    if (text_.cost > filledOnceAbove) {
+    if (isIntricate()) {
         paintFilled(painter, effects, characters, scale, cell, color);
         return picture;
     }
     painter.setTransform(onDevice(text_, effects, scale, cell), true);
-    paintTyped(painter, text_, characters, color);
+    paintTyped(painter, text_, characters, color, pictures_);
     return picture;
 }
 
@@ -159,7 +165,7 @@ const PlacedPicture& Letters::filled(qint64 characters, double scale, const QCol
         if (parts[i].firstCharacter + parts[i].characterCount > characters) {
             break;
         }
-        paintPart(painter, parts[i], characters, color);
+        paintPart(painter, parts[i], characters, color, pictures_);
     }
     return filled_->picture;
 }
@@ -180,13 +186,14 @@ void Letters::paintFilled(QPainter& painter, const LineEffects& effects, qint64 
     painter.restore();
     painter.setTransform(onDevice(text_, effects, scale, cell), true);
     if (filled_->parts < text_.parts.size()) {
-        paintPart(painter, text_.parts[filled_->parts], characters, color);
+        paintPart(painter, text_.parts[filled_->parts], characters, color, pictures_);
     }
 }
 
 void Letters::releaseMemory() {
     memory_ = {};
     filled_.reset();
+    pictures_ = {};
 }
 
 PlacedPicture Letters::drawBlurred(const LineEffects& effects, double scale, double sigma,

@@ -37,8 +37,10 @@ public:
     void releaseMemory();
 
 private:
-    // The first characters at rest, for a text whose outlines are too many to be
-    // filled in every frame.
+    // Whether its outlines and pictures are too many to be drawn in every frame.
+    bool isIntricate() const;
+
+    // The first characters at rest, for an intricate text.
     struct Filled {
         double scale = 0;
         QColor color;
@@ -57,6 +59,7 @@ private:
     double margin_;
     std::vector<QRgb> memory_;
     std::optional<Filled> filled_;
+    ReducedPictures pictures_;
 };
 
 // The vertical shift, in device pixels, that moves the resting baseline to a whole pixel.

@@ -3,6 +3,8 @@
 
 #include "textanim/textlayout.h"
 
+#include "textanim/emojiface.h"
+
 #include <QPainterPath>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
@@ -14,8 +16,6 @@
 #include <iterator>
 
 namespace morrowleaf {
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -41,27 +41,12 @@ std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
     return units * double{shapingSize} / perEm;
 }
 
-// The installed face that draws emoji as pictures; empty if there is none.
-QString emojiFamily() {
-    QFont generic;
-    generic.setFamilies({u"emoji"_s});
-    const QRawFont face = QRawFont::fromFont(generic);
-    constexpr char32_t grinning = 0x1F600;
-    if (!face.supportsCharacter(grinning)) {
-        return {};
-    }
-    const QList<quint32> glyph = face.glyphIndexesForString(QString::fromUcs4(&grinning, 1));
-    return !glyph.isEmpty() && face.pathForGlyph(glyph.front()).isEmpty() ? face.familyName()
-                                                                          : QString();
-}
-
 QFont fontFor(CharacterKind kind, QFont font) {
     if (kind == CharacterKind::Joined) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
     } else if (kind == CharacterKind::Emoji) {
-        static const QString emoji = emojiFamily();
-        if (!emoji.isEmpty()) {
-            font.setFamilies(QStringList(emoji) + font.families());
+        if (!emojiFamily().isEmpty()) {
+            font.setFamilies(QStringList(emojiFamily()) + font.families());
         }
     }
     return font;
@@ -92,6 +77,12 @@ QList<QTextLayout::FormatRange> formatsFor(const SetText& set, const QFont& font
     return formats;
 }
 
+// A joiner that the face of the text lacks becomes a space of another face.
+bool isNothing(const QRawFont& face, quint32 glyph) {
+    return face.pathForGlyph(glyph).isEmpty() && face.boundingRect(glyph).isEmpty() &&
+           face.familyName() != emojiFamily();
+}
+
 struct CharacterRange {
     qsizetype begin, end;
 };
@@ -103,10 +94,11 @@ std::vector<PlacedGlyph> glyphsIn(const QTextLine& line, CharacterRange range, b
         line.glyphRuns(static_cast<int>(range.begin), static_cast<int>(range.end - range.begin));
     for (const QGlyphRun& run : runs) {
         *rightToLeft = run.isRightToLeft();
+        const QRawFont face = run.rawFont();
         const QList<quint32> indexes = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         for (qsizetype i = 0; i < indexes.size(); ++i) {
-            glyphs.push_back({run.rawFont(), indexes[i], positions[i] - origin});
+            glyphs.push_back({face, indexes[i], positions[i] - origin});
         }
     }
     return glyphs;
@@ -135,7 +127,8 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
         GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}, {}};
         cluster.glyphs = glyphsIn(line, {begin, std::min(*end, lineEnd)}, &cluster.rightToLeft);
         for (const PlacedGlyph& glyph : cluster.glyphs) {
-            if (std::ranges::find(faces, glyph.face) == faces.end()) {
+            if (std::ranges::find(faces, glyph.face) == faces.end() &&
+                !isNothing(glyph.face, glyph.index)) {
                 faces.push_back(glyph.face);
                 row.ascent = std::max(row.ascent, ascentOf(glyph.face));
                 row.descent = std::max(row.descent, descentOf(glyph.face));
@@ -164,7 +157,8 @@ void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double 
     }
     QTextOption option;
     option.setUseDesignMetrics(true);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
+    // With Qt::LayoutDirectionAuto, QTextLayout would look for it again and again.
+    option.setTextDirection(set.text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(QTextOption::WordWrap);
     layout.setFont(large);
@@ -313,6 +307,13 @@ MeasuredText measureText(const QString& text, const QFont& face, double tracking
     for (const QTextLine& line : unbrokenLines(layout)) {
         result.width = std::max(result.width, line.naturalTextWidth());
         for (const QGlyphRun& run : line.glyphRuns()) {
+            const QRawFont own = run.rawFont();
+            const QList<quint32> glyphs = run.glyphIndexes();
+            if (own != requested && std::ranges::all_of(glyphs, [&own](quint32 glyph) {
+                    return isNothing(own, glyph);
+                })) {
+                continue;
+            }
             result.ascent = std::max(result.ascent, ascentOf(run.rawFont()));
             result.descent = std::max(result.descent, descentOf(run.rawFont()));
         }

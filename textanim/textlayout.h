@@ -22,7 +22,7 @@ inline constexpr int shapingSize = 512;
 struct PlacedGlyph {
     QRawFont face; // at shapingSize
     quint32 index = 0;
-    QPointF position; // of its origin, from the row's left end and baseline
+    QPointF position;      // of its origin, from the row's left end and baseline
 
     bool operator==(const PlacedGlyph&) const = default;
 };

@@ -3,6 +3,7 @@
 
 #include "textanim/textoutline.h"
 
+#include "textanim/emojiface.h"
 #include "textanim/textlayout.h"
 
 #include <QGlyphRun>
@@ -20,8 +21,11 @@ namespace {
 
 using DrawnGlyph = GlyphShapes::DrawnGlyph;
 
-// An estimate: reducing a picture takes about as long as filling so many elements.
-constexpr int elementsPerPicture = 500;
+// Letters of a smaller size (points) cannot be told apart; boxes stand in their place.
+constexpr double illegibleBelow = 2;
+
+// Drawing a picture takes about as long as filling so many elements of outlines.
+constexpr int elementsPerPicture = 50;
 
 constexpr int pictureSize = 160; // font size for glyphs without an outline, pixels
 
@@ -51,11 +55,13 @@ OutlineInk outlineGlyphs(const std::vector<PlacedGlyph>& glyphs, QPointF origin,
     OutlineInk ink;
     ink.outline.setFillRule(Qt::WindingFill);
     for (const PlacedGlyph& glyph : glyphs) {
-        const GlyphShapes::Shape& shape = shapes.shapeOf(glyph.face, glyph.index);
+        const GlyphShapes::Shape& shape = shapes.shapeOf(glyph);
         const QPointF at = origin + glyph.position * unit;
-        if (!shape.outline.isEmpty()) {
-            ink.outline.addPath(
-                QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit).map(shape.outline));
+        const QTransform place = QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit);
+        if (!shape.outline.isEmpty() && unit * shapingSize < illegibleBelow) {
+            ink.outline.addRect(place.mapRect(shape.outline.boundingRect()));
+        } else if (!shape.outline.isEmpty()) {
+            ink.outline.addPath(place.map(shape.outline));
         } else if (!shape.drawn.picture.isNull()) {
             const double scale = unit * shapingSize / pictureSize;
             ink.pictures.push_back(
@@ -70,23 +76,8 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
                            GlyphShapes& shapes) {
     OutlinePart part{cluster.firstCharacter,
                      cluster.characterCount,
-                     0,
-                     0,
-                     cluster.rightToLeft,
                      outlineGlyphs(cluster.glyphs, origin, unit, shapes),
                      {}};
-    bool first = true;
-    for (const PlacedGlyph& glyph : cluster.glyphs) {
-        const double left = origin.x() + glyph.position.x() * unit;
-        const QList<QPointF> advances = glyph.face.advancesForGlyphIndexes({glyph.index});
-        const double right = left + (advances.isEmpty() ? 0 : advances.front().x() * unit);
-        part.left = first ? left : std::min(part.left, left);
-        part.right = first ? right : std::max(part.right, right);
-        first = false;
-    }
-    for (const GlyphPicture& picture : part.ink.pictures) {
-        part.right = std::max(part.right, picture.place.right());
-    }
     for (const std::vector<PlacedGlyph>& glyphs : cluster.begun) {
         part.begun.push_back(outlineGlyphs(glyphs, origin, unit, shapes));
     }
@@ -126,20 +117,27 @@ void groupParts(TextOutline& text) {
     }
 }
 
-void paintPicture(QPainter& painter, const GlyphPicture& picture) {
-    // A bilinear reduction by more than half would skip pixels.
-    const QRectF onDevice = painter.deviceTransform().mapRect(picture.place);
-    const QSize size(std::max(qCeil(onDevice.width()), 1), std::max(qCeil(onDevice.height()), 1));
-    const bool reduced = size.width() < picture.picture.width();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(picture.place, reduced ? picture.picture.scaled(size, Qt::IgnoreAspectRatio,
-                                                                      Qt::SmoothTransformation)
-                                             : picture.picture);
+QSize wholePixels(const QRectF& rect) {
+    return {std::max(qCeil(rect.width()), 1), std::max(qCeil(rect.height()), 1)};
 }
 
-void paintPictures(QPainter& painter, const OutlineInk& ink) {
-    std::ranges::for_each(
-        ink.pictures, [&painter](const GlyphPicture& picture) { paintPicture(painter, picture); });
+void paintPictures(QPainter& painter, const OutlineInk& ink, ReducedPictures& pictures) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (const GlyphPicture& picture : ink.pictures) {
+        const QRectF onDevice = painter.deviceTransform().mapRect(picture.place);
+        painter.drawImage(picture.place, pictures.inSize(picture.picture, wholePixels(onDevice)));
+    }
+}
+
+void paintPicturesOnPixels(QPainter& painter, const OutlineInk& ink, ReducedPictures& pictures) {
+    const QTransform transform = painter.transform();
+    for (const GlyphPicture& picture : ink.pictures) {
+        const QRectF onDevice = transform.mapRect(picture.place);
+        const QRect place(onDevice.topLeft().toPoint(), wholePixels(onDevice));
+        painter.resetTransform();
+        painter.drawImage(place, pictures.inSize(picture.picture, place.size()));
+        painter.setTransform(transform);
+    }
 }
 
 // What stands in the place of a part after that many keystrokes; null for nothing.
@@ -153,13 +151,13 @@ const OutlineInk* inkAfter(const OutlinePart& part, qsizetype characters) {
 }
 
 void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsizetype characters,
-                     const QColor& color) {
+                     const QColor& color, ReducedPictures& pictures) {
     QPainterPath whole;
     whole.setFillRule(Qt::WindingFill);
     for (const OutlinePart& part : parts) {
         if (const OutlineInk* ink = inkAfter(part, characters)) {
             whole.addPath(ink->outline);
-            paintPictures(painter, *ink);
+            paintPictures(painter, *ink, pictures);
         }
     }
     painter.fillPath(whole, color);
@@ -167,16 +165,29 @@ void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsiz
 
 } // namespace
 
-const GlyphShapes::Shape& GlyphShapes::shapeOf(const QRawFont& face, quint32 index) {
-    auto known = shapes_.find({face, index});
+const GlyphShapes::Shape& GlyphShapes::shapeOf(const PlacedGlyph& glyph) {
+    const std::pair key(glyph.face, glyph.index);
+    auto known = shapes_.find(key);
     if (known == shapes_.end()) {
-        Shape shape{face.pathForGlyph(index), {}};
+        Shape shape{glyph.face.pathForGlyph(glyph.index), {}};
         if (shape.outline.isEmpty()) {
-            shape.drawn = drawGlyph(face, index);
+            shape.drawn = drawGlyph(drawnFace(glyph.face), glyph.index);
         }
-        known = shapes_.insert({face, index}, std::move(shape));
+        known = shapes_.insert(key, std::move(shape));
     }
     return *known;
+}
+
+const QImage& ReducedPictures::inSize(const QImage& picture, QSize size) {
+    if (size.width() >= picture.width()) {
+        return picture;
+    }
+    QImage& reduced = reduced_[{picture.cacheKey(), size.width()}];
+    if (reduced.isNull()) {
+        // A bilinear reduction by more than half would skip pixels.
+        reduced = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return reduced;
 }
 
 TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit, GlyphShapes& shapes) {
@@ -223,20 +234,21 @@ TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, Gl
 }
 
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color) {
-    paintTyped(painter, text, text.characterCount, color);
+    ReducedPictures pictures;
+    paintTyped(painter, text, text.characterCount, color, pictures);
 }
 
 void paintPart(QPainter& painter, const OutlinePart& part, qsizetype characters,
-               const QColor& color) {
+               const QColor& color, ReducedPictures& pictures) {
     if (const OutlineInk* ink = inkAfter(part, characters)) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillPath(ink->outline, color);
-        paintPictures(painter, *ink);
+        paintPicturesOnPixels(painter, *ink, pictures);
     }
 }
 
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
-                const QColor& color) {
+                const QColor& color, ReducedPictures& pictures) {
     painter.setRenderHint(QPainter::Antialiasing);
     for (const OutlineGroup& group : text.groups) {
         const OutlinePart* first = &text.parts[group.firstPart];
@@ -244,11 +256,11 @@ void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters
         if (last->firstCharacter + last->characterCount <= characters) {
             painter.fillPath(group.outline, color);
             for (const OutlinePart* part = first; part <= last; ++part) {
-                paintPictures(painter, part->ink);
+                paintPictures(painter, part->ink, pictures);
             }
             continue;
         }
-        paintBegunGroup(painter, {first, last + 1}, characters, color);
+        paintBegunGroup(painter, {first, last + 1}, characters, color, pictures);
     }
 }
 

@@ -20,6 +20,7 @@ class QPainter;
 
 namespace morrowleaf {
 
+struct PlacedGlyph;
 struct TextLayout;
 
 // A glyph that is a picture (an emoji) and has no outline.
@@ -41,10 +42,20 @@ public:
         DrawnGlyph drawn;     // if it has no outline
     };
     // Valid until the next call.
-    const Shape& shapeOf(const QRawFont& face, quint32 index);
+    const Shape& shapeOf(const PlacedGlyph& glyph);
 
 private:
     QHash<std::pair<QRawFont, quint32>, Shape> shapes_;
+};
+
+// Pictures in the sizes in which they are drawn. Equal pictures are reduced only once.
+class ReducedPictures {
+public:
+    // `picture`, which is reduced if it is larger than `size` (device pixels).
+    const QImage& inSize(const QImage& picture, QSize size);
+
+private:
+    QHash<std::pair<qint64, int>, QImage> reduced_; // by picture and width
 };
 
 // What one or more characters are drawn as.
@@ -58,9 +69,6 @@ struct OutlineInk {
 struct OutlinePart {
     qsizetype firstCharacter = 0;
     qsizetype characterCount = 0;
-    double left = 0; // of its extent on the row, points
-    double right = 0;
-    bool rightToLeft = false;
     OutlineInk ink;
     std::vector<OutlineInk> begun; // what stands there after 1, 2 … of several keystrokes
 };
@@ -100,11 +108,12 @@ QPainterPath wholePath(const TextOutline& text);
 
 // Draws the text with its origin at the painter's origin.
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color);
-// Draws one part, or what stands in its place after that many keystrokes.
+// Draws one part, or what stands in its place after that many keystrokes; pictures are
+// on whole pixels, which is faster.
 void paintPart(QPainter& painter, const OutlinePart& part, qsizetype characters,
-               const QColor& color);
+               const QColor& color, ReducedPictures& pictures);
 // Draws only the first `characters` characters, each at its place in the whole text.
 void paintTyped(QPainter& painter, const TextOutline& text, qsizetype characters,
-                const QColor& color);
+                const QColor& color, ReducedPictures& pictures);
 
 } // namespace morrowleaf

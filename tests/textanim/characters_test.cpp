@@ -52,6 +52,18 @@ std::set<QString> facesOf(const QString& text, const QString& name) {
     return faces;
 }
 
+// A joiner may come from another face, which makes the row no higher.
+TEST(Joiners, ChangeNothingButLigatures) {
+    for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
+        const double height = ShapedText(u"fi"_s, face(name)).size().height();
+        for (const QString& text : {u"f\u200Ci"_s, u"f\u200Di"_s}) {
+            EXPECT_EQ(ShapedText(text, face(name)).size().height(), height) << name.toStdString();
+            const MeasuredText measured = measureText(text, face(name).face);
+            EXPECT_NEAR((measured.ascent + measured.descent) * 44 / shapingSize, height, 1e-9);
+        }
+    }
+}
+
 TEST(Emoji, ComeFromOneColouredFace) {
     const QString known = u"\U0001F469\u200D\U0001F467"_s; // a joined one
     if (!ShapedText(known, face(u"sans"_s)).outline().hasPictures) {

@@ -36,12 +36,13 @@ std::vector<qsizetype> rowLengths(const TextOutline& text) {
     std::vector<qsizetype> lengths;
     double right = 0;
     for (const OutlinePart& part : text.parts) {
-        const bool isRow = lengths.empty() || part.right < right - 20;
+        const double end = part.ink.outline.boundingRect().right();
+        const bool isRow = lengths.empty() || end < right - 20;
         if (isRow) {
             lengths.push_back(0);
         }
         lengths.back() += part.characterCount;
-        right = part.right;
+        right = end;
     }
     return lengths;
 }
