@@ -4,6 +4,7 @@
 #include "textanim/textlayout.h"
 
 #include "textanim/emojiface.h"
+#include "textanim/weightmatch.h"
 
 #include <QPainterPath>
 #include <QTextBoundaryFinder>
@@ -87,7 +88,8 @@ struct CharacterRange {
     qsizetype begin, end;
 };
 
-std::vector<PlacedGlyph> glyphsIn(const QTextLine& line, CharacterRange range, bool* rightToLeft) {
+std::vector<PlacedGlyph> glyphsIn(const QTextLine& line, CharacterRange range,
+                                  const QRawFont& requested, bool* rightToLeft) {
     std::vector<PlacedGlyph> glyphs;
     const QPointF origin(line.x(), line.y() + line.ascent());
     const auto runs =
@@ -95,10 +97,12 @@ std::vector<PlacedGlyph> glyphsIn(const QTextLine& line, CharacterRange range, b
     for (const QGlyphRun& run : runs) {
         *rightToLeft = run.isRightToLeft();
         const QRawFont face = run.rawFont();
+        const double movedEdges =
+            face == requested ? 0 : weightCorrection(face, requested) * shapingSize;
         const QList<quint32> indexes = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         for (qsizetype i = 0; i < indexes.size(); ++i) {
-            glyphs.push_back({face, indexes[i], positions[i] - origin});
+            glyphs.push_back({face, indexes[i], positions[i] - origin, movedEdges});
         }
     }
     return glyphs;
@@ -125,7 +129,8 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
             continue; // a control character
         }
         GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}, {}};
-        cluster.glyphs = glyphsIn(line, {begin, std::min(*end, lineEnd)}, &cluster.rightToLeft);
+        cluster.glyphs =
+            glyphsIn(line, {begin, std::min(*end, lineEnd)}, requested, &cluster.rightToLeft);
         for (const PlacedGlyph& glyph : cluster.glyphs) {
             if (std::ranges::find(faces, glyph.face) == faces.end() &&
                 !isNothing(glyph.face, glyph.index)) {

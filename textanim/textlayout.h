@@ -23,6 +23,7 @@ struct PlacedGlyph {
     QRawFont face; // at shapingSize
     quint32 index = 0;
     QPointF position;      // of its origin, from the row's left end and baseline
+    double movedEdges = 0; // see withMovedEdges()
 
     bool operator==(const PlacedGlyph&) const = default;
 };

@@ -5,6 +5,7 @@
 
 #include "textanim/emojiface.h"
 #include "textanim/textlayout.h"
+#include "textanim/weightmatch.h"
 
 #include <QGlyphRun>
 #include <QPainter>
@@ -166,12 +167,14 @@ void paintBegunGroup(QPainter& painter, std::span<const OutlinePart> parts, qsiz
 } // namespace
 
 const GlyphShapes::Shape& GlyphShapes::shapeOf(const PlacedGlyph& glyph) {
-    const std::pair key(glyph.face, glyph.index);
+    const std::pair key(Glyph(glyph.face, glyph.index), glyph.movedEdges);
     auto known = shapes_.find(key);
     if (known == shapes_.end()) {
         Shape shape{glyph.face.pathForGlyph(glyph.index), {}};
         if (shape.outline.isEmpty()) {
             shape.drawn = drawGlyph(drawnFace(glyph.face), glyph.index);
+        } else if (glyph.movedEdges != 0) {
+            shape.outline = withMovedEdges(shape.outline, glyph.movedEdges);
         }
         known = shapes_.insert(key, std::move(shape));
     }

@@ -45,7 +45,8 @@ public:
     const Shape& shapeOf(const PlacedGlyph& glyph);
 
 private:
-    QHash<std::pair<QRawFont, quint32>, Shape> shapes_;
+    using Glyph = std::pair<QRawFont, quint32>;
+    QHash<std::pair<Glyph, double>, Shape> shapes_; // by glyph and moved edges
 };
 
 // Pictures in the sizes in which they are drawn. Equal pictures are reduced only once.
