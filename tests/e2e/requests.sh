@@ -40,7 +40,8 @@ outlast_fade
 many=$(most_memory)
 shown=$(($(maps) - n))
 echo "400 requests: $shown showings, $many kB at most; a request during a showing: $one kB"
-check "not 400 times" test "$shown" -le 4
+# The first shows it at once, and the others arrive meanwhile.
+check "at most twice" test "$shown" -le 2
 check "with the memory of two showings" test "$many" -le $((one + one / 10))
 must "the last one stays" is_shown
 kill "$app"
