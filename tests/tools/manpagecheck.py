@@ -31,7 +31,7 @@ def variables_in(source):
 def main():
     root = pathlib.Path(sys.argv[1])
     # The rooms; tests and tools read variables of their own.
-    sources = [path for path in root.rglob("*.cpp")
+    sources = [path for pattern in ("*.cpp", "*.h") for path in root.rglob(pattern)
                if path.relative_to(root).parts[0] not in ("tests", "tools", "bench", "build")]
     read = set().union(*(variables_in(path.read_text()) for path in sources)) - INTERNAL
     page = (root / "packaging/morrowleaf.1").read_text()
