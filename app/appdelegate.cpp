@@ -61,11 +61,8 @@ void AppDelegate::prepare() {
             window_->overlay().releaseInput();
         }
     });
-    TrayHost* tray = services_.platform.trayHost.get();
-    connect(tray, &TrayHost::appeared, this, &AppDelegate::installStatusItem);
-    if (tray->isPresent()) {
-        installStatusItem();
-    }
+    connect(services_.platform.trayHost.get(), &TrayHost::appeared, this,
+            &AppDelegate::installStatusItem);
 }
 
 void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {

@@ -20,16 +20,19 @@
 #include "textanim/fonts.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QThread>
 #include <QThreadPool>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
+#include <optional>
+#include <stop_token>
 #include <thread>
 #include <utility>
 
@@ -57,7 +60,6 @@ std::FILE* silenceLibraries() {
     if (isLoggingOn()) {
         return stderr;
     }
-    QLoggingCategory::setFilterRules(u"*=false"_s);
     std::FILE* const diverted = divertErrorOutput();
     static std::FILE* const errors = diverted != nullptr ? diverted : stderr;
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
@@ -68,13 +70,18 @@ std::FILE* silenceLibraries() {
     return errors;
 }
 
-// Ends the process if its orderly end takes longer: a destructor in a library may wait for
-// a bus or a display server that does not answer. The settings are in their file before.
-void endWithin(std::chrono::milliseconds limit, int status) {
-    std::thread([limit, status] {
-        std::this_thread::sleep_for(limit);
-        std::_Exit(status);
-    }).detach();
+// Ends the process with `status` if the result is not destroyed in time: a destructor in a
+// library may wait for a bus or a display server that does not answer.
+std::jthread limitEnd(int status) {
+    return std::jthread([status](const std::stop_token& isDestroyed) {
+        std::mutex mutex;
+        std::unique_lock lock(mutex);
+        std::condition_variable_any wait;
+        wait.wait_for(lock, isDestroyed, endLimit, [] { return false; });
+        if (!isDestroyed.stop_requested()) {
+            std::_Exit(status);
+        }
+    });
 }
 
 // Runs a mode that prints one line and needs no display.
@@ -114,14 +121,14 @@ void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
     }
 }
 
-// Starts with what the arguments ask for or, if the bus started the program, with the
-// request that follows at once.
-void launch(AppDelegate& delegate, SingleInstance& instance, RequestQueue& queue,
-            const QStringList& arguments) {
-    const bool requestFollows = qEnvironmentVariableIsSet(startedByBus);
-    qunsetenv(startedByBus);
+enum class Starter { User, Bus };
+
+// Shows what the arguments ask for or, if the bus started the program, what the bus
+// delivers once the program has its name.
+void launch(AppDelegate& delegate, RequestListener& requests, RequestQueue& queue,
+            const QStringList& arguments, Starter starter) {
     auto launched = std::make_shared<bool>(false);
-    QObject::connect(&instance, &SingleInstance::requested, &queue, &RequestQueue::add);
+    QObject::connect(&requests, &RequestListener::requested, &queue, &RequestQueue::add);
     QObject::connect(&queue, &RequestQueue::due, &delegate,
                      [&delegate, launched](const LaunchRequest& request) {
                          if (!std::exchange(*launched, true)) {
@@ -134,23 +141,27 @@ void launch(AppDelegate& delegate, SingleInstance& instance, RequestQueue& queue
             delegate.applicationDidFinishLaunching(arguments);
         }
     };
-    if (requestFollows) {
-        QTimer::singleShot(requestPatience, &delegate, begin);
-    } else {
+    switch (starter) {
+    case Starter::User:
         begin();
+        break;
+    case Starter::Bus:
+        QObject::connect(&requests, &RequestListener::reachable, &delegate, [&delegate, begin] {
+            QTimer::singleShot(requestPatience, &delegate, begin);
+        });
+        break;
     }
+    requests.listen();
 }
 
 // Creates everything that needs the application object and runs until the program quits.
-int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& workers,
-                 const QStringList& arguments) {
+// The settings are in their file before `limit` begins to run.
+int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& guard,
+                 const QStringList& arguments, Starter starter, std::jthread& limit) {
     Platform platform = makePlatform(windowSystem);
-    if (!platform.instance->claim(launchRequest(arguments))) {
-        return 0;
-    }
     // exit(), because quit() asks all windows to close first.
     const auto quit = [] { QCoreApplication::exit(0); };
-    QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, &app, quit);
+    QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, qApp, quit);
     followColorScheme(*platform.colorScheme);
     FontBook fonts;
     fonts.registerBundledFonts(fontFolder());
@@ -168,13 +179,23 @@ int runUntilQuit(QApplication& app, WindowSystem windowSystem, QThreadPool& work
                             .timing = *timing,
                             .frames = frames};
     AppDelegate delegate(services);
-    QObject::connect(&delegate, &AppDelegate::quitRequested, &app, quit);
-    QObject::connect(&delegate, &AppDelegate::showingEnded, &app, &releaseFreeMemory,
+    QObject::connect(&delegate, &AppDelegate::quitRequested, qApp, quit);
+    QObject::connect(&delegate, &AppDelegate::showingEnded, qApp, &releaseFreeMemory,
                      Qt::QueuedConnection);
     RequestQueue queue;
-    launch(delegate, *platform.instance, queue, arguments);
+    guard.prepareFirstWindow();
+    launch(delegate, *platform.requests, queue, arguments, starter);
     const int status = QApplication::exec();
-    endWithin(endLimit, status);
+    limit = limitEnd(status);
+    return status;
+}
+
+// Returns `status`, or ends the process with it at once while a thread is busy: the end
+// would wait for that, or destroy what it uses.
+int end(int status, bool isBusy) {
+    if (isBusy) {
+        std::_Exit(status);
+    }
     return status;
 }
 
@@ -186,19 +207,26 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
         std::fputs(qPrintable(*obstacle + u'\n'), errors);
         return 1;
     }
+    const Starter starter = qEnvironmentVariableIsSet(startedByBus) ? Starter::Bus : Starter::User;
+    qunsetenv(startedByBus);
+    const auto instance = makeInstance(windowSystem);
+    // The bus keeps its request for the instance.
+    if (!instance->claim(starter == Starter::Bus ? std::nullopt
+                                                 : std::optional(launchRequest(arguments)))) {
+        return end(0, isWaitingForAnswer());
+    }
+    const auto guard = makeToolkitGuard();
+    guard->prepareApplication();
     QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);
-    QApplication app(argc, argv);
+    std::jthread limit;
+    const QApplication app(argc, argv);
     QApplication::setApplicationName(u"Morrowleaf"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QThreadPool workers;
     // Leaves one core free for drawing.
     workers.setMaxThreadCount(std::max(QThread::idealThreadCount() - 1, 1));
-    const int status = runUntilQuit(app, windowSystem, workers, arguments);
-    if (!workers.waitForDone(0)) {
-        // A photo is still being decoded; the pool's destructor would wait for it.
-        std::_Exit(status);
-    }
-    return status;
+    const int status = runUntilQuit(windowSystem, workers, *guard, arguments, starter, limit);
+    return end(status, !workers.waitForDone(0) || isWaitingForAnswer());
 }
 
 } // namespace
@@ -233,9 +261,7 @@ int runApplication(int argc, char** argv) {
     int programName = argc > 0 ? 1 : 0;
     const Mode mode = modeFor(arguments);
     if (mode == Mode::Desktop) {
-        const int status = runOnDesktop(programName, argv, arguments, errors);
-        // A thread that still connects to a bus would meet destroyed objects of QtDBus.
-        std::_Exit(status);
+        return runOnDesktop(programName, argv, arguments, errors);
     }
     runLineMode(programName, argv, mode);
     return 0;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/toolkitguard.h"
 
 #include <QString>
 
@@ -23,6 +24,17 @@ WindowSystem chooseWindowSystem();
 // std::nullopt if there is no obstacle. Call before the application object is created:
 // without a server Qt aborts the process.
 [[nodiscard]] std::optional<QString> findObstacle(WindowSystem system);
+
+// Call before the application object is created. `system` is the result of
+// chooseWindowSystem().
+std::unique_ptr<SingleInstance> makeInstance(WindowSystem system);
+
+// Call after chooseWindowSystem().
+std::unique_ptr<ToolkitGuard> makeToolkitGuard();
+
+// Whether destroying static objects may wait for, or meet, a thread that still waits for
+// somebody who may never answer. Then end the process without that.
+[[nodiscard]] bool isWaitingForAnswer();
 
 // Creates all parts. Call after the application object was created.
 Platform makePlatform(WindowSystem system);

@@ -27,7 +27,7 @@ struct Platform {
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<ColorScheme> colorScheme;
-    std::unique_ptr<SingleInstance> instance;
+    std::unique_ptr<RequestListener> requests;
 };
 
 } // namespace morrowleaf

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 namespace morrowleaf {
 
 // What a later launch asks of the running instance.
@@ -15,20 +17,37 @@ struct LaunchRequest {
 };
 
 // Ensures that the program runs once in a session. Main thread.
-class SingleInstance : public QObject {
+class SingleInstance {
+public:
+    virtual ~SingleInstance() = default;
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
+
+    // Returns true if this process is the instance from now on, until the object is
+    // destroyed. Returns false if another process is, and this one should end: the other
+    // has received `request`, if there is one, or does not answer. Call once, before the
+    // application object is created. Takes no time if there is no other instance, and
+    // otherwise up to 5 s.
+    [[nodiscard]] virtual bool claim(const std::optional<LaunchRequest>& request) = 0;
+
+protected:
+    SingleInstance() = default;
+};
+
+// Receives in the instance what later launches ask for. Main thread.
+class RequestListener : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    // Returns true if this process is the instance from now on, and also if that cannot be
-    // determined; that takes no time. Returns false if another process is: it has received
-    // `request` or does not answer, and this process should end. Call once, at launch; runs
-    // an event loop of its own for up to 5 s while the other instance does not answer.
-    [[nodiscard]] virtual bool claim(const LaunchRequest& request) = 0;
+    // Receives requests from now on. Call once, in the instance only.
+    virtual void listen() = 0;
 
 signals:
     void requested(const morrowleaf::LaunchRequest& request);
+    // If a message bus has started this process, the request for which it did follows.
+    void reachable();
 };
 
 } // namespace morrowleaf

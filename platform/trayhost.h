@@ -7,18 +7,18 @@
 
 namespace morrowleaf {
 
-// Reports whether the desktop has a tray for status items. Qt looks for a tray only once,
-// so create a status item only after isPresent() or appeared(). Main thread.
+// Reports that the desktop has a tray for status items. Qt looks for a tray only once, and
+// waits for the message bus then, so create a status item only after appeared(). Main
+// thread.
 class TrayHost : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    virtual bool isPresent() const = 0;
-
 signals:
-    // A new host does not know the items of this program: create them again.
+    // Not emitted before the event loop runs. A new host does not know the items of this
+    // program: create them again.
     void appeared();
 };
 

@@ -4,7 +4,7 @@
 #include "platform/chooser.h"
 
 #include "platform/linux/autostart.h"
-#include "platform/linux/dbus/busprobe.h"
+#include "platform/linux/dbus/bustoolkitguard.h"
 #include "platform/linux/dbus/portals.h"
 #include "platform/linux/desktopparts.h"
 #include "platform/linux/wayland/waylandconnection.h"
@@ -28,9 +28,6 @@ namespace {
 // Qt draws nothing on a screen with a palette of colours.
 constexpr int leastDepth = 15; // bits of a pixel
 
-// A bus answers within a millisecond or two.
-constexpr int busPatience = 50; // milliseconds
-
 // Without an address libdbus would start a bus of its own, which no other program uses
 // and which outlives this one. Set the usual address instead; a bus may appear there
 // later.
@@ -40,17 +37,6 @@ void avoidStartingABus() {
     if (qEnvironmentVariableIsEmpty(address) && !folder.isEmpty()) {
         qputenv(address, "unix:path=" + QFile::encodeName(folder) + "/bus");
     }
-}
-
-// Qt, its themes and its input methods connect to the session bus on the main thread, the
-// first of them before the application object is complete. While the bus does not answer,
-// the program does without them: until it is started again it has no screen reader, no
-// input method and the plain theme. Everything else follows when the bus answers.
-void keepToolkitFromBus() {
-    qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
-    qputenv("XDG_CURRENT_DESKTOP", "unknown");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
-    qunsetenv("QT_IM_MODULE");
 }
 
 // Gives large blocks, mostly pictures, pages of their own, which are unmapped when the
@@ -65,11 +51,7 @@ void unmapLargeBlocks() {
 
 WindowSystem chooseWindowSystem() {
     avoidStartingABus();
-    BusProbe bus(busAddress(QDBusConnection::SessionBus));
     const wayland::Session session = wayland::probeSession();
-    if (bus.wait(busPatience) == BusProbe::Answer::None) {
-        keepToolkitFromBus();
-    }
     const WindowSystemChoice choice =
         chooseFor({.forced = qgetenv("MORROWLEAF_PLATFORM"),
                    .qtPlatform = qgetenv("QT_QPA_PLATFORM"),
@@ -114,6 +96,18 @@ std::optional<QString> findObstacle(WindowSystem system) {
     return std::nullopt;
 }
 
+std::unique_ptr<SingleInstance> makeInstance(WindowSystem system) {
+    return system == WindowSystem::Null ? makeNullInstance() : makeDesktopInstance();
+}
+
+std::unique_ptr<ToolkitGuard> makeToolkitGuard() {
+    return std::make_unique<BusToolkitGuard>();
+}
+
+bool isWaitingForAnswer() {
+    return BusLink::isAnyConnecting();
+}
+
 Platform makePlatform(WindowSystem system) {
     Platform platform = makeNullPlatform();
     if (system == WindowSystem::Null) {
@@ -127,7 +121,7 @@ Platform makePlatform(WindowSystem system) {
     platform.sessionEvents = makeDesktopSession(session);
     platform.trayHost = makeDesktopTray(session, x11);
     platform.loginItem = makeLoginItem();
-    platform.instance = makeDesktopInstance(session);
+    platform.requests = makeDesktopRequests(session);
     if (x11) {
         platform.mainScreen = makeX11MainScreen();
         platform.overlays = makeX11Overlays(system == WindowSystem::Xwayland);

@@ -16,38 +16,76 @@ namespace morrowleaf {
 
 namespace {
 
+// Qt asks the session bus for a tray first, also where the X server has one.
 class EitherTray final : public TrayHost {
 public:
-    explicit EitherTray(std::shared_ptr<const BusLink> session)
-        : notifier_(std::move(session))
-        , x11_(makeX11Tray()) {
+    explicit EitherTray(const std::shared_ptr<const BusLink>& session)
+        : notifier_(session) {
         connect(&notifier_, &TrayHost::appeared, this, &TrayHost::appeared);
-        connect(x11_.get(), &TrayHost::appeared, this, &TrayHost::appeared);
+        connect(
+            session.get(), &BusLink::decided, this,
+            [this] {
+                x11_ = makeX11Tray();
+                connect(x11_.get(), &TrayHost::appeared, this, &TrayHost::appeared);
+            },
+            Qt::SingleShotConnection);
     }
-    bool isPresent() const override { return notifier_.isPresent() || x11_->isPresent(); }
 
 private:
     NotifierHost notifier_;
-    std::unique_ptr<TrayHost> x11_;
+    std::unique_ptr<TrayHost> x11_; // null until it is known whether there is a bus
 };
+
+class DesktopRequests final : public RequestListener {
+public:
+    DesktopRequests(const QString& folder, std::shared_ptr<BusLink> session)
+        : bus_(std::move(session)) {
+        connect(&bus_, &RequestListener::requested, this, &RequestListener::requested);
+        connect(&bus_, &RequestListener::reachable, this, &RequestListener::reachable);
+        if (!folder.isEmpty()) {
+            socket_ = std::make_unique<SocketListener>(folder);
+            connect(socket_.get(), &RequestListener::requested, this, &RequestListener::requested);
+        }
+    }
+    void listen() override {
+        if (socket_) {
+            socket_->listen();
+        }
+        bus_.listen();
+    }
+
+private:
+    std::unique_ptr<SocketListener> socket_; // null without a folder for it
+    BusListener bus_;
+};
+
+QString runtimeFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
 
 } // namespace
 
 std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11) {
     if (x11) {
-        return std::make_unique<EitherTray>(std::move(session));
+        return std::make_unique<EitherTray>(session);
     }
     return std::make_unique<NotifierHost>(std::move(session));
 }
 
-std::unique_ptr<SingleInstance> makeDesktopInstance(std::shared_ptr<BusLink> session) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    LockedInstance::Channels channels;
-    if (!folder.isEmpty()) {
-        channels.push_back(std::make_unique<SocketChannel>(folder));
-    }
-    channels.push_back(std::make_unique<BusChannel>(std::move(session)));
-    return std::make_unique<LockedInstance>(folder, std::move(channels));
+std::unique_ptr<SingleInstance> makeDesktopInstance() {
+    const QString folder = runtimeFolder();
+    return std::make_unique<LockedInstance>(folder, [folder] {
+        LockedInstance::Senders senders;
+        if (!folder.isEmpty()) {
+            senders.push_back(std::make_unique<SocketSender>(folder));
+        }
+        senders.push_back(std::make_unique<BusSender>());
+        return senders;
+    });
+}
+
+std::unique_ptr<RequestListener> makeDesktopRequests(std::shared_ptr<BusLink> session) {
+    return std::make_unique<DesktopRequests>(runtimeFolder(), std::move(session));
 }
 
 } // namespace morrowleaf

@@ -14,8 +14,8 @@ namespace morrowleaf {
 class BusLink;
 
 // The parts of a desktop that combine D-Bus, X11 and the kernel. All share one connection
-// to the session bus, which the last of them opens: once the program has its name there,
-// it has also subscribed to everything. Main thread.
+// to the session bus, which is opened when the instance listens for requests: once the
+// program has its name there, it has also subscribed to everything. Main thread.
 
 // Sleep and session changes come from the login manager, locking also from the screen
 // savers, monitors from Qt and the X server, and requests to quit from UNIX signals.
@@ -25,8 +25,11 @@ std::unique_ptr<SessionEvents> makeDesktopSession(std::shared_ptr<const BusLink>
 // system tray is on the X server.
 std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11);
 
-// Uses a lock in the user's runtime folder; later launches reach the instance through a
-// socket beside it or by its name on the session bus. Opens `session` when it is claimed.
-std::unique_ptr<SingleInstance> makeDesktopInstance(std::shared_ptr<BusLink> session);
+// Uses a lock in the user's runtime folder. Later launches reach the instance through a
+// socket beside it or by its name on the session bus.
+std::unique_ptr<SingleInstance> makeDesktopInstance();
+
+// What arrives in both ways. Opens `session`.
+std::unique_ptr<RequestListener> makeDesktopRequests(std::shared_ptr<BusLink> session);
 
 } // namespace morrowleaf

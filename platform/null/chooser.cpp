@@ -17,6 +17,18 @@ std::optional<QString> findObstacle(WindowSystem /*system*/) {
     return std::nullopt;
 }
 
+std::unique_ptr<SingleInstance> makeInstance(WindowSystem /*system*/) {
+    return makeNullInstance();
+}
+
+std::unique_ptr<ToolkitGuard> makeToolkitGuard() {
+    return std::make_unique<ToolkitGuard>();
+}
+
+bool isWaitingForAnswer() {
+    return false;
+}
+
 Platform makePlatform(WindowSystem /*system*/) {
     return makeNullPlatform();
 }

@@ -71,11 +71,6 @@ public:
     }
 };
 
-class NoTrayHost final : public TrayHost {
-public:
-    bool isPresent() const override { return false; }
-};
-
 class RememberedLoginItem final : public LoginItem {
 public:
     Status status() const override { return status_; }
@@ -99,7 +94,12 @@ public:
 
 class OnlyInstance final : public SingleInstance {
 public:
-    bool claim(const LaunchRequest& /*request*/) override { return true; }
+    bool claim(const std::optional<LaunchRequest>& /*request*/) override { return true; }
+};
+
+class NoRequests final : public RequestListener {
+public:
+    void listen() override { emit reachable(); }
 };
 
 } // namespace
@@ -110,10 +110,14 @@ Platform makeNullPlatform() {
             .desktopPicture = std::make_unique<NoPicture>(),
             .fileChooser = std::make_unique<NoChooser>(),
             .sessionEvents = std::make_unique<SessionEvents>(),
-            .trayHost = std::make_unique<NoTrayHost>(),
+            .trayHost = std::make_unique<TrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
             .colorScheme = std::make_unique<NullColorScheme>(),
-            .instance = std::make_unique<OnlyInstance>()};
+            .requests = std::make_unique<NoRequests>()};
+}
+
+std::unique_ptr<SingleInstance> makeNullInstance() {
+    return std::make_unique<OnlyInstance>();
 }
 
 } // namespace morrowleaf

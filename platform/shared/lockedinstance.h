@@ -7,51 +7,62 @@
 
 #include <QLockFile>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace morrowleaf {
 
-// A way on which later launches pass their requests to the instance. Main thread.
-class RequestChannel : public QObject {
+// A way on which a later launch passes its request to the instance. Main thread.
+class RequestSender : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    // In the instance: receives requests from now on.
-    virtual void serve() = 0;
-    // In a later launch: looks for the instance until it answers.
+    // Looks for the instance until it answers.
     virtual void reach() = 0;
     // Passes `request` to an instance that has answered or, if possible, to one that may
-    // answer later. Returns whether it will receive the request.
+    // answer later. Returns false if there is none.
     [[nodiscard]] virtual bool send(const LaunchRequest& request) = 0;
 
 signals:
-    void requested(const morrowleaf::LaunchRequest& request);
+    // None of them is emitted from within a call.
     void answered();
+    void accepted(); // the instance has the request
+    void failed();   // the request was not accepted; the instance may answer again
 };
 
-// The instance is the process that holds a lock in `folder`, which needs neither a bus
-// nor an answer; without a folder every process is one. Later launches pass their requests on the
-// channel that answers first; earlier ones in the list are preferred while none has answered. A
-// lock that a killed instance has left behind does not affect the next one.
+// The instance is the process that holds a lock in a folder, which needs neither a bus nor
+// an answer. A lock that a killed instance has left behind does not affect the next one.
 class LockedInstance : public SingleInstance {
-    Q_OBJECT
-
 public:
-    using Channels = std::vector<std::unique_ptr<RequestChannel>>;
+    using Senders = std::vector<std::unique_ptr<RequestSender>>;
 
-    LockedInstance(const QString& folder, Channels channels);
+    struct Patience {
+        std::chrono::milliseconds answer;      // of the process that has the lock
+        std::chrono::milliseconds acceptance;  // of a request that was sent without an answer
+        std::chrono::milliseconds withoutLock; // if no lock can be made: is there an instance?
+    };
+    static constexpr Patience usualPatience{std::chrono::milliseconds(4000),
+                                            std::chrono::milliseconds(500),
+                                            std::chrono::milliseconds(300)};
 
-    bool claim(const LaunchRequest& request) override;
+    // An empty `folder` is one in which no lock can be made. `makeSenders` is called while
+    // there is an application object, if another process has to be asked; the first to
+    // answer gets the request.
+    LockedInstance(const QString& folder, std::function<Senders()> makeSenders,
+                   const Patience& patience = usualPatience);
+
+    bool claim(const std::optional<LaunchRequest>& request) override;
 
 private:
-    bool takeLock();
-    void serve();
+    bool takeOver(const std::optional<LaunchRequest>& request);
 
     QLockFile lock_;
-    Channels channels_;
+    std::function<Senders()> makeSenders_;
+    Patience patience_;
 };
 
 } // namespace morrowleaf

@@ -16,45 +16,36 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto greeting = "ready\n";
+constexpr auto acceptance = "accepted\n";
 constexpr auto retryTime = 100ms;       // the instance may not listen yet
-constexpr int handOverTime = 500;       // milliseconds for the kernel to take a request
-constexpr auto longestSilence = 5s;     // of a client
 constexpr int mostClients = 64;         // that have not said anything yet
 constexpr qint64 longestRequest = 4096; // bytes
 
-} // namespace
-
-SocketChannel::SocketChannel(const QString& folder)
-    : path_(folder + "/morrowleaf.socket"_L1) {
-    connect(&server_, &QLocalServer::newConnection, this, &SocketChannel::receive);
-    retry_.setSingleShot(true);
-    retry_.setInterval(retryTime);
-    connect(&retry_, &QTimer::timeout, this, [this] { socket_.connectToServer(path_); });
-    connect(&socket_, &QLocalSocket::errorOccurred, &retry_, qOverload<>(&QTimer::start));
-    connect(&socket_, &QLocalSocket::readyRead, this, [this] {
-        if (socket_.canReadLine() && socket_.readLine() == greeting) {
-            emit answered();
-        }
-    });
+QString socketPath(const QString& folder) {
+    return folder + "/morrowleaf.socket"_L1;
 }
 
-SocketChannel::~SocketChannel() {
+} // namespace
+
+SocketListener::SocketListener(const QString& folder, std::chrono::milliseconds longestSilence)
+    : path_(socketPath(folder))
+    , longestSilence_(longestSilence) {
+    connect(&server_, &QLocalServer::newConnection, this, &SocketListener::receive);
+}
+
+SocketListener::~SocketListener() {
     for (QLocalSocket* client : std::as_const(clients_)) {
         client->disconnect(this);
     }
-    socket_.disconnect();
 }
 
-void SocketChannel::serve() {
-    retry_.stop();
-    socket_.disconnect();
-    socket_.abort();
+void SocketListener::listen() {
     QLocalServer::removeServer(path_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     server_.listen(path_);
 }
 
-void SocketChannel::receive() {
+void SocketListener::receive() {
     while (QLocalSocket* client = server_.nextPendingConnection()) {
         greet(*client);
         if (clients_.size() > mostClients) {
@@ -63,7 +54,7 @@ void SocketChannel::receive() {
     }
 }
 
-void SocketChannel::greet(QLocalSocket& client) {
+void SocketListener::greet(QLocalSocket& client) {
     clients_.append(&client);
     connect(&client, &QLocalSocket::disconnected, this, [this, &client] {
         clients_.removeOne(&client);
@@ -76,11 +67,12 @@ void SocketChannel::greet(QLocalSocket& client) {
         }
         const QStringList words =
             QString::fromUtf8(client.readLine(longestRequest)).trimmed().split(u' ');
+        client.write(acceptance);
         client.disconnectFromServer();
         emit requested({.action = words.value(0), .activationToken = words.value(1)});
     };
     connect(&client, &QLocalSocket::readyRead, this, read);
-    QTimer::singleShot(longestSilence, &client, &QLocalSocket::abort);
+    QTimer::singleShot(longestSilence_, &client, &QLocalSocket::abort);
     // A launch that has lost patience has sent its request and is gone.
     client.waitForReadyRead(0);
     read();
@@ -89,16 +81,47 @@ void SocketChannel::greet(QLocalSocket& client) {
     }
 }
 
-void SocketChannel::reach() {
+SocketSender::SocketSender(const QString& folder)
+    : path_(socketPath(folder)) {
+    retry_.setSingleShot(true);
+    retry_.setInterval(retryTime);
+    connect(&retry_, &QTimer::timeout, this, &SocketSender::reach);
+    connect(&socket_, &QLocalSocket::readyRead, this, &SocketSender::read);
+    // Queued, because it can be emitted while connecting or writing.
+    connect(
+        &socket_, &QLocalSocket::errorOccurred, this,
+        [this] {
+            retry_.start();
+            emit failed();
+        },
+        Qt::QueuedConnection);
+}
+
+SocketSender::~SocketSender() {
+    socket_.disconnect();
+}
+
+void SocketSender::reach() {
     socket_.connectToServer(path_);
 }
 
-bool SocketChannel::send(const LaunchRequest& request) {
+void SocketSender::read() {
+    while (socket_.canReadLine()) {
+        const QByteArray line = socket_.readLine();
+        if (line == greeting) {
+            emit answered();
+        } else if (line == acceptance) {
+            emit accepted();
+        }
+    }
+}
+
+bool SocketSender::send(const LaunchRequest& request) {
     if (socket_.state() != QLocalSocket::ConnectedState) {
         return false;
     }
     socket_.write((request.action + u' ' + request.activationToken + u'\n').toUtf8());
-    return socket_.waitForBytesWritten(handOverTime) || socket_.bytesToWrite() == 0;
+    return socket_.flush();
 }
 
 } // namespace morrowleaf

@@ -314,18 +314,17 @@ TEST_F(AppDelegateTest, SettingsWindowOpensShowings) {
 TEST_F(AppDelegateTest, StatusItemComesWithItsHostAndAnewWithAnother) {
     launch();
     EXPECT_EQ(delegate->statusItem(), nullptr);
-    desktop.trayHost->present = true;
-    emit desktop.trayHost->appeared();
+    emit desktop.platform.trayHost->appeared();
     const QPointer<const StatusItem> item = delegate->statusItem();
     ASSERT_TRUE(item);
-    emit desktop.trayHost->appeared();
+    emit desktop.platform.trayHost->appeared();
     EXPECT_TRUE(item.isNull());
     EXPECT_NE(delegate->statusItem(), nullptr);
 }
 
 TEST_F(AppDelegateTest, MenuEntriesInOrder) {
-    desktop.trayHost->present = true;
     launchAndClose();
+    emit desktop.platform.trayHost->appeared();
     const auto entries = delegate->statusItem()->menu().actions();
     QStringList texts;
     for (const auto* entry : entries) {

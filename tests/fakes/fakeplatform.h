@@ -37,15 +37,7 @@ public:
         auto chooser = std::make_unique<FakeFileChooser>();
         files = chooser.get();
         platform.fileChooser = std::move(chooser);
-        auto tray = std::make_unique<Tray>();
-        trayHost = tray.get();
-        platform.trayHost = std::move(tray);
     }
-
-    struct Tray final : TrayHost {
-        bool isPresent() const override { return present; }
-        bool present = false;
-    };
 
     Platform platform;
     bool hasScreen = true;
@@ -53,7 +45,6 @@ public:
     QImage picture;
     int captures = 0;
     quint32 frontTime = 0;
-    Tray* trayHost = nullptr;
     FakeFileChooser* files = nullptr;
     std::vector<std::shared_ptr<OverlayRecord>> overlays;
 

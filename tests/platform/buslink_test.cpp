@@ -10,6 +10,8 @@
 #include <QLocalSocket>
 #include <QSignalSpy>
 
+#include <vector>
+
 namespace morrowleaf {
 namespace {
 
@@ -54,7 +56,7 @@ TEST_F(BusLinkTest, ConnectsOnceAStoppedBusGoesOn) {
     QElapsedTimer waited;
     waited.start();
     link.open();
-    EXPECT_LT(waited.elapsed(), 2'000) << "libdbus waits for 25 seconds";
+    EXPECT_LT(waited.elapsed(), 20'000) << "libdbus waits for 25 seconds";
     EXPECT_FALSE(link.bus().isConnected());
     daemon.resume();
     EXPECT_TRUE(isUp(1));
@@ -77,6 +79,55 @@ TEST_F(BusLinkTest, ABusThatHangsHindersNoOther) {
     EXPECT_EQ(ups.size(), 0);
     second.terminate();
     second.waitForFinished();
+}
+
+// A bus that answers the first connection only: libdbus waits on the second.
+TEST_F(BusLinkTest, NeitherDoesOneThatHangsInTheMiddle) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"other"_s);
+    QLocalServer server;
+    ASSERT_TRUE(server.listen(path));
+    std::vector<QLocalSocket*> clients;
+    QObject::connect(&server, &QLocalServer::newConnection, &server, [&] {
+        clients.push_back(server.nextPendingConnection());
+        if (clients.size() == 1) {
+            clients.front()->write("REJECTED EXTERNAL\r\n");
+        }
+    });
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path.toUtf8());
+    BusLink hanging(QDBusConnection::SystemBus);
+    hanging.open();
+    ASSERT_TRUE(becomesTrue([&] { return clients.size() == 2; }));
+    QElapsedTimer waited;
+    waited.start();
+    {
+        BusLink unused(QDBusConnection::SessionBus);
+        link.open();
+        EXPECT_FALSE(QTest::qWaitFor([this] { return link.bus().isConnected(); }, 200));
+    }
+    EXPECT_TRUE(BusLink::isAnyConnecting());
+    EXPECT_LT(waited.elapsed(), 20'000) << "libdbus waits for 25 seconds";
+    server.close();
+    clients[1]->abort();
+    EXPECT_TRUE(isUp(1));
+    EXPECT_TRUE(becomesTrue([] { return !BusLink::isAnyConnecting(); }));
+}
+
+TEST_F(BusLinkTest, SaysWhenNobodyHasToWaitForTheBus) {
+    QSignalSpy decisions(&link, &BusLink::decided);
+    daemon.pause();
+    link.open();
+    QTest::qWait(0);
+    EXPECT_EQ(decisions.size(), 0);
+    daemon.resume();
+    EXPECT_TRUE(becomesTrue([&] { return decisions.size() == 1; }));
+    EXPECT_TRUE(link.bus().isConnected());
+    daemon.stop();
+    BusLink missing(QDBusConnection::SessionBus);
+    QSignalSpy others(&missing, &BusLink::decided);
+    missing.open();
+    EXPECT_TRUE(becomesTrue([&] { return others.size() == 1; }));
+    EXPECT_FALSE(missing.bus().isConnected());
 }
 
 TEST_F(BusLinkTest, TriesABusAgainThatClosesTheConnection) {

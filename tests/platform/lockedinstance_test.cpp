@@ -4,44 +4,88 @@
 #include "platform/shared/lockedinstance.h"
 #include "platform/shared/socketchannel.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace morrowleaf {
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 const LaunchRequest toShow{.action = u"show"_s, .activationToken = {}};
+constexpr LockedInstance::Patience forAnAnswer{
+    .answer = 1min, .acceptance = 1min, .withoutLock = 1min};
+constexpr LockedInstance::Patience forNone{.answer = 1ms, .acceptance = 1ms, .withoutLock = 1ms};
+
+LockedInstance instanceIn(const QString& folder, const QString& socketFolder,
+                          const LockedInstance::Patience& patience) {
+    return {folder,
+            [socketFolder] {
+                LockedInstance::Senders senders;
+                senders.push_back(std::make_unique<SocketSender>(socketFolder));
+                return senders;
+            },
+            patience};
+}
 
 // A lock file also excludes a second lock in the same process.
-class Launch : public LockedInstance {
+class Launch {
 public:
-    explicit Launch(const QString& folder)
-        : LockedInstance(folder, channelsIn(folder)) {
-        connect(this, &SingleInstance::requested, this,
-                [this](const LaunchRequest& request) { requests.push_back(request); });
+    explicit Launch(const QString& folder, const LockedInstance::Patience& patience = forAnAnswer)
+        : instance_(instanceIn(folder, folder, patience))
+        , listener_(folder) {
+        QObject::connect(&listener_, &RequestListener::requested, &listener_,
+                         [this](const LaunchRequest& request) { requests.push_back(request); });
+    }
+    bool claim(const std::optional<LaunchRequest>& request) {
+        const bool isInstance = instance_.claim(request);
+        if (isInstance) {
+            listener_.listen();
+        }
+        return isInstance;
     }
 
     std::vector<LaunchRequest> requests;
 
 private:
-    static Channels channelsIn(const QString& folder) {
-        Channels channels;
-        channels.push_back(std::make_unique<SocketChannel>(folder));
-        return channels;
+    LockedInstance instance_;
+    SocketListener listener_;
+};
+
+// Another program that holds the lock and greets whoever connects.
+class Holder {
+public:
+    explicit Holder(const QString& folder)
+        : lock(folder + "/morrowleaf.lock"_L1) {
+        EXPECT_TRUE(lock.tryLock());
+        EXPECT_TRUE(server.listen(folder + "/morrowleaf.socket"_L1));
+        QObject::connect(&server, &QLocalServer::newConnection, &server, [this] {
+            QLocalSocket* client = server.nextPendingConnection();
+            client->write("ready\n");
+            QObject::connect(client, &QLocalSocket::readyRead, client, [this, client] {
+                lines.push_back(client->readLine());
+                onLine(*client);
+            });
+        });
     }
+
+    QLockFile lock;
+    QLocalServer server;
+    std::vector<QByteArray> lines;
+    std::function<void(QLocalSocket&)> onLine;
 };
 
 class LockedInstanceTest : public testing::Test {
@@ -54,10 +98,19 @@ protected:
 TEST_F(LockedInstanceTest, TheSecondHandsItsRequestToTheFirst) {
     Launch first(dir.path());
     EXPECT_TRUE(first.claim(toShow));
-    EXPECT_FALSE(Launch(dir.path()).claim({.action = u"settings"_s, .activationToken = u"abc"_s}));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !first.requests.empty(); }));
+    EXPECT_FALSE(Launch(dir.path())
+                     .claim(LaunchRequest{.action = u"settings"_s, .activationToken = u"abc"_s}));
+    ASSERT_EQ(first.requests.size(), 1) << "it has the request before the second ends";
     EXPECT_EQ(first.requests.front().action, u"settings"_s);
     EXPECT_EQ(first.requests.front().activationToken, u"abc"_s);
+}
+
+TEST_F(LockedInstanceTest, WithoutARequestNothingIsPassedOn) {
+    Launch first(dir.path());
+    EXPECT_TRUE(first.claim(toShow));
+    EXPECT_FALSE(Launch(dir.path()).claim(std::nullopt));
+    EXPECT_FALSE(Launch(dir.path()).claim(toShow));
+    EXPECT_EQ(first.requests.size(), 1);
 }
 
 TEST_F(LockedInstanceTest, WhatAKilledInstanceLeftDoesNotHinder) {
@@ -70,19 +123,42 @@ TEST_F(LockedInstanceTest, WhatAKilledInstanceLeftDoesNotHinder) {
     EXPECT_TRUE(Launch(dir.path()).claim(toShow));
 }
 
-TEST_F(LockedInstanceTest, WithoutAFolderTheProgramRunsAnyway) {
-    EXPECT_TRUE(Launch(u"/nonexistent/folder"_s).claim(toShow));
-    EXPECT_TRUE(Launch(QString()).claim(toShow));
+TEST_F(LockedInstanceTest, WithoutALockTheProgramRunsAnyway) {
+    EXPECT_TRUE(instanceIn(u"/nonexistent/folder"_s, dir.path(), forNone).claim(toShow));
+    EXPECT_TRUE(instanceIn(QString(), dir.path(), forNone).claim(toShow));
 }
 
-TEST_F(LockedInstanceTest, TakesThePlaceOfAnInstanceThatEnds) {
-    auto first = std::make_unique<Launch>(dir.path());
-    EXPECT_TRUE(first->claim(toShow));
-    QTimer::singleShot(0, first.get(), [&first] { first.release()->deleteLater(); });
+TEST_F(LockedInstanceTest, WithoutALockAnInstanceThatAnswersIsFound) {
+    Launch first(dir.path());
+    EXPECT_TRUE(first.claim(toShow));
+    EXPECT_FALSE(instanceIn(QString(), dir.path(), forAnAnswer).claim(toShow));
+    EXPECT_EQ(first.requests.size(), 1);
+}
+
+TEST_F(LockedInstanceTest, TakesThePlaceOfAnInstanceThatEndsWithTheRequest) {
+    Holder ending(dir.path());
+    ending.onLine = [&](QLocalSocket& client) {
+        client.abort();
+        ending.server.close();
+        ending.lock.unlock();
+    };
     Launch second(dir.path());
     EXPECT_TRUE(second.claim(toShow));
     EXPECT_FALSE(Launch(dir.path()).claim(toShow));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return second.requests.size() == 1; }));
+    EXPECT_EQ(second.requests.size(), 1);
+}
+
+TEST_F(LockedInstanceTest, AsksAgainWhereARequestWasNotAccepted) {
+    Holder busy(dir.path());
+    busy.onLine = [&](QLocalSocket& client) {
+        if (busy.lines.size() == 1) {
+            client.abort();
+        } else {
+            client.write("accepted\n");
+        }
+    };
+    EXPECT_FALSE(Launch(dir.path()).claim(toShow));
+    EXPECT_EQ(busy.lines, (std::vector<QByteArray>{"show \n", "show \n"}));
 }
 
 // One that hangs has the request when it goes on.
@@ -91,10 +167,7 @@ TEST_F(LockedInstanceTest, GivesUpOnAnInstanceThatDoesNotAnswer) {
     ASSERT_TRUE(lock.tryLock());
     QLocalServer hanging;
     ASSERT_TRUE(hanging.listen(socket()));
-    QElapsedTimer waited;
-    waited.start();
-    EXPECT_FALSE(Launch(dir.path()).claim(toShow));
-    EXPECT_LT(waited.elapsed(), 5'000);
+    EXPECT_FALSE(Launch(dir.path(), forNone).claim(toShow));
     QLocalSocket* client = hanging.nextPendingConnection();
     ASSERT_NE(client, nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] { return client->canReadLine(); }));
@@ -130,12 +203,12 @@ TEST_F(LockedInstanceTest, DropsManySilentClients) {
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return connected() <= 64; }));
     EXPECT_FALSE(Launch(dir.path()).claim(toShow));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return first.requests.size() == 1; }));
+    EXPECT_EQ(first.requests.size(), 1);
 }
 
 TEST_F(LockedInstanceTest, DropsOneSilentClientAfterAWhile) {
-    Launch first(dir.path());
-    EXPECT_TRUE(first.claim(toShow));
+    SocketListener listener(dir.path(), 1ms);
+    listener.listen();
     QLocalSocket silent;
     silent.connectToServer(socket());
     ASSERT_TRUE(silent.waitForConnected());

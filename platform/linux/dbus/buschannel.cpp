@@ -5,17 +5,12 @@
 
 #include "application_interface.h"
 #include "bus_interface.h"
-#include "platform/linux/dbus/busservice.h"
 
-#include <QEventLoop>
-
-#include <chrono>
 #include <utility>
 
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -23,9 +18,6 @@ const QString name = u"org.morrowleaf.Morrowleaf"_s;
 const QString path = u"/org/morrowleaf/Morrowleaf"_s;
 const QString show = u"show"_s;
 const QString tokenKey = u"activation-token"_s;
-// The socket usually answers at once, and a connection to the bus costs more.
-constexpr auto startOfBus = 200ms;
-constexpr auto handOverTime = 500ms;
 
 } // namespace
 
@@ -42,76 +34,68 @@ void BusApplication::ActivateAction(const QString& action, const QVariantList& /
     emit requested({.action = action, .activationToken = platformData.value(tokenKey).toString()});
 }
 
-BusChannel::BusChannel(std::shared_ptr<BusLink> session)
+BusListener::BusListener(std::shared_ptr<BusLink> session)
     : session_(std::move(session)) {
-    connect(&application_, &BusApplication::requested, this, &RequestChannel::requested);
-    delay_.setSingleShot(true);
-    delay_.setInterval(startOfBus);
-    connect(&delay_, &QTimer::timeout, session_.get(), &BusLink::open);
+    connect(&application_, &BusApplication::requested, this, &RequestListener::requested);
 }
 
-void BusChannel::serve() {
-    delay_.stop();
-    session_->disconnect(this);
-    owner_.clear();
-    connect(session_.get(), &BusLink::up, this, &BusChannel::takeName);
-    if (session_->bus().isConnected()) {
-        takeName();
-    }
+void BusListener::listen() {
+    connect(session_.get(), &BusLink::up, this, &BusListener::takeName);
     session_->open();
 }
 
-void BusChannel::takeName() {
+void BusListener::takeName() {
     constexpr uint doNotQueue = 4;
     auto bus = session_->bus();
     // The object comes first: a client that finds the name may call at once.
     bus.registerObject(path, &application_, QDBusConnection::ExportAllSlots);
-    Bus(bus).RequestName(name, doNotQueue);
+    whenFinished(this, Bus(bus).RequestName(name, doNotQueue),
+                 [this](const QDBusPendingReply<uint>& /*reply*/) { emit reachable(); });
 }
 
-void BusChannel::reach() {
-    connect(session_.get(), &BusLink::up, this, &BusChannel::findOwner);
-    delay_.start();
+BusSender::BusSender()
+    : link_(QDBusConnection::SessionBus)
+    , instance_(name) {
+    connect(&link_, &BusLink::up, this, [this] { instance_.follow(link_.bus()); });
+    connect(&instance_, &BusService::appeared, this, &BusSender::ping);
+    connect(&instance_, &BusService::vanished, this, &RequestSender::failed);
 }
 
-void BusChannel::findOwner() {
-    whenFinished(this, Bus(session_->bus()).GetNameOwner(name),
-                 [this](const QDBusPendingReply<QString>& reply) {
-                     if (!reply.isValid()) {
-                         return;
-                     }
-                     owner_ = reply.value();
-                     OrgFreedesktopDBusPeerInterface peer(owner_, path, session_->bus());
-                     whenFinished(this, peer.Ping(), [this](const QDBusPendingReply<>& answer) {
-                         if (answer.isValid()) {
-                             emit answered();
-                         }
-                     });
-                 });
+void BusSender::reach() {
+    link_.open();
 }
 
-bool BusChannel::send(const LaunchRequest& request) {
-    if (owner_.isEmpty()) {
+// An instance that hangs has a name, too.
+void BusSender::ping() {
+    OrgFreedesktopDBusPeerInterface peer(instance_.owner(), path, link_.bus());
+    whenFinished(this, peer.Ping(), [this](const QDBusPendingReply<>& reply) {
+        if (reply.isValid()) {
+            emit answered();
+        }
+    });
+}
+
+bool BusSender::send(const LaunchRequest& request) {
+    if (instance_.owner().isEmpty()) {
         return false;
     }
     // By the unique name: the bus does not start another instance for that.
-    OrgFreedesktopApplicationInterface running(owner_, path, session_->bus());
+    OrgFreedesktopApplicationInterface running(instance_.owner(), path, link_.bus());
     QVariantMap platformData;
     if (!request.activationToken.isEmpty()) {
         platformData[tokenKey] = request.activationToken;
     }
-    const QDBusPendingReply<> reply =
-        request.action == show ? running.Activate(platformData)
-                               : running.ActivateAction(request.action, {}, platformData);
-    // Without an answer the instance has the request nevertheless.
-    QDBusPendingCallWatcher watcher(reply);
-    QEventLoop waiting;
-    connect(&watcher, &QDBusPendingCallWatcher::finished, &waiting, &QEventLoop::quit);
-    QTimer::singleShot(handOverTime, &waiting, &QEventLoop::quit);
-    if (!watcher.isFinished()) {
-        waiting.exec();
-    }
-    return !watcher.isFinished() || !watcher.isError();
+    whenFinished(this,
+                 request.action == show ? running.Activate(platformData)
+                                        : running.ActivateAction(request.action, {}, platformData),
+                 [this](const QDBusPendingReply<>& reply) {
+                     if (reply.isValid()) {
+                         emit accepted();
+                     } else {
+                         emit failed();
+                     }
+                 });
+    return true;
 }
 
 } // namespace morrowleaf

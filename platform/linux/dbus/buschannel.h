@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/linux/dbus/buslink.h"
+#include "platform/linux/dbus/busservice.h"
 #include "platform/shared/lockedinstance.h"
 
-#include <QTimer>
 #include <QVariant>
 
 #include <memory>
@@ -32,27 +32,38 @@ signals:
     void requested(const morrowleaf::LaunchRequest& request);
 };
 
-// Passes requests through the session bus, on which the instance takes the program's
-// name, also on every bus that comes back.
-class BusChannel : public RequestChannel {
+// Takes the program's name on the session bus, also on every bus that comes back.
+class BusListener : public RequestListener {
     Q_OBJECT
 
 public:
-    // Opens `session` itself.
-    explicit BusChannel(std::shared_ptr<BusLink> session);
+    explicit BusListener(std::shared_ptr<BusLink> session);
 
-    void serve() override;
+    // Opens the link.
+    void listen() override;
+
+private:
+    void takeName();
+
+    std::shared_ptr<BusLink> session_;
+    BusApplication application_;
+};
+
+// Calls the owner of that name, on a connection of its own.
+class BusSender : public RequestSender {
+    Q_OBJECT
+
+public:
+    BusSender();
+
     void reach() override;
     bool send(const LaunchRequest& request) override;
 
 private:
-    void takeName();
-    void findOwner();
+    void ping();
 
-    std::shared_ptr<BusLink> session_;
-    BusApplication application_;
-    QString owner_; // of the name; empty in the instance
-    QTimer delay_;
+    BusLink link_;
+    BusService instance_;
 };
 
 } // namespace morrowleaf

@@ -8,6 +8,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <atomic>
 
 namespace morrowleaf {
 
@@ -19,6 +20,8 @@ namespace {
 constexpr auto settleTime = 100ms; // from a change of the folder to the next attempt
 constexpr std::chrono::milliseconds firstRetry = 1s;
 constexpr std::chrono::milliseconds lastRetry = 5min;
+
+std::atomic<int> connectingThreads = 0;
 
 } // namespace
 
@@ -35,7 +38,14 @@ BusLink::BusLink(QDBusConnection::BusType type, QObject* parent)
 
 BusLink::~BusLink() {
     answered_.reset();
-    QDBusConnection::disconnectFromBus(bus_.name());
+    // The lock that this takes is held while any connection is being made.
+    if (!isAnyConnecting()) {
+        QDBusConnection::disconnectFromBus(bus_.name());
+    }
+}
+
+bool BusLink::isAnyConnecting() {
+    return connectingThreads > 0;
 }
 
 void BusLink::open() {
@@ -73,9 +83,13 @@ void BusLink::readAnswer() {
         break;
     case BusProbe::Answer::Missing:
         watchForSocket();
+        emit decided();
+        break;
+    case BusProbe::Answer::Closed:
+        tryLater();
+        emit decided();
         break;
     case BusProbe::Answer::None:
-    case BusProbe::Answer::Closed:
         tryLater();
         break;
     }
@@ -83,24 +97,29 @@ void BusLink::readAnswer() {
 
 void BusLink::connectToBus() {
     isConnecting_ = true;
-    QDBusConnection::disconnectFromBus(bus_.name());
     // Qt never reconnects under the same name.
     const QString name = u"morrowleaf-"_s + QUuid::createUuid().toString(QUuid::Id128);
-    QThread* thread = QThread::create(
-        [name, address = address_] { QDBusConnection::connectToBus(address, name); });
-    connect(thread, &QThread::finished, this, [this, name] { adopt(name); });
+    const auto made = std::make_shared<QDBusConnection>(QString());
+    ++connectingThreads;
+    QThread* thread = QThread::create([made, name, address = address_, previous = bus_.name()] {
+        QDBusConnection::disconnectFromBus(previous);
+        *made = QDBusConnection::connectToBus(address, name);
+        --connectingThreads;
+    });
+    connect(thread, &QThread::finished, this, [this, made] { adopt(*made); });
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     thread->start();
 }
 
-void BusLink::adopt(const QString& name) {
+void BusLink::adopt(const QDBusConnection& made) {
     isConnecting_ = false;
-    bus_ = QDBusConnection(name);
+    bus_ = made;
     // libdbus sends this signal itself, within the process.
     bus_.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
                  u"Disconnected"_s, this, SLOT(wentDown()));
     if (!bus_.isConnected()) {
         tryLater();
+        emit decided();
         return;
     }
     retryAfter_ = firstRetry;
@@ -108,6 +127,7 @@ void BusLink::adopt(const QString& name) {
         watcher_.removePaths(watcher_.directories());
     }
     emit up();
+    emit decided();
 }
 
 void BusLink::wentDown() {

@@ -17,7 +17,8 @@
 namespace morrowleaf {
 
 // A connection to a message bus that is made anew after the bus was gone. It never waits
-// for the bus: it connects on a thread of its own, and only to a bus that answers. It
+// for the bus, nor for another connection that is being made: it connects on a thread of
+// its own, and only to a bus that answers. It
 // does not poll either: it waits for the answer, or until the socket of the bus appears;
 // only a bus that accepts connections and closes them is tried again at growing
 // intervals. Main thread.
@@ -28,6 +29,10 @@ public:
     explicit BusLink(QDBusConnection::BusType type, QObject* parent = nullptr);
     ~BusLink() override;
 
+    // Whether any link of this process has a thread that still connects. If the bus has
+    // stopped meanwhile, that takes up to 25 s, and QtDBus cannot be used or unloaded before.
+    static bool isAnyConnecting();
+
     // Begins to connect and returns at once. Does nothing while connected or connecting.
     void open();
     // Not connected before up().
@@ -35,6 +40,8 @@ public:
 
 signals:
     void up(); // bus() is a new connection: subscribe to everything again
+    // There is a bus that answers, or there is none: libraries do not wait for it any more.
+    void decided();
 
 private slots:
     void wentDown();
@@ -43,7 +50,7 @@ private:
     void probe();
     void readAnswer();
     void connectToBus();
-    void adopt(const QString& name);
+    void adopt(const QDBusConnection& made);
     void tryLater();
     void watchForSocket();
 

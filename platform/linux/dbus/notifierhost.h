@@ -19,7 +19,6 @@ class NotifierHost : public TrayHost {
 public:
     // `session` is opened afterwards by whoever created it.
     explicit NotifierHost(std::shared_ptr<const BusLink> session);
-    bool isPresent() const override { return present_; }
 
 private:
     void subscribe();

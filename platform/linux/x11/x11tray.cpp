@@ -29,12 +29,11 @@ public:
             xcb_change_window_attributes(c, root, XCB_CW_EVENT_MASK, &mask);
         }
         QCoreApplication::instance()->installNativeEventFilter(this);
+        if (x11::selectionOwner(selectionName) != XCB_WINDOW_NONE) {
+            announce();
+        }
     }
     ~X11Tray() override { QCoreApplication::instance()->removeNativeEventFilter(this); }
-
-    bool isPresent() const override {
-        return x11::selectionOwner(selectionName) != XCB_WINDOW_NONE;
-    }
 
     bool nativeEventFilter(const QByteArray& /*type*/, void* message,
                            qintptr* /*result*/) override {
@@ -42,13 +41,15 @@ public:
         if ((event->response_type & 0x7F) == XCB_CLIENT_MESSAGE) {
             const auto* sent = reinterpret_cast<const xcb_client_message_event_t*>(event);
             if (sent->type == manager_ && sent->data.data32[1] == selection_) {
-                QMetaObject::invokeMethod(this, &TrayHost::appeared, Qt::QueuedConnection);
+                announce();
             }
         }
         return false;
     }
 
 private:
+    void announce() { QMetaObject::invokeMethod(this, &TrayHost::appeared, Qt::QueuedConnection); }
+
     xcb_atom_t manager_;
     xcb_atom_t selection_;
 };
