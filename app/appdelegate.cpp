@@ -16,7 +16,6 @@
 #include "textanim/fonts.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -156,20 +155,28 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
     auto* inspector = new Inspector(services_.store, services_.photos,
                                     *services_.platform.fileChooser, setup, &screen);
     connect(inspector, &Inspector::done, this, [this] { dismiss(true); });
-    // A dialog can come in front of our windows only while they are lowered. It closes
-    // with the inspector, if the showing ends first.
     connect(inspector, &Inspector::dialogOpening, &overlay, [this, inspector, &overlay] {
-        if (SettingsWindow* settings = settingsWindow_.get()) {
-            const auto rise = &SettingsWindow::riseAboveOrdinaryWindows;
-            settings->joinOrdinaryWindows();
-            connect(inspector, &Inspector::dialogClosed, settings, rise, Qt::UniqueConnection);
-            connect(inspector, &QObject::destroyed, settings, rise, Qt::UniqueConnection);
-        }
+        choosing_ = inspector;
+        lowerSettingsForDialog();
         overlay.setLevel(WindowLevel::Normal);
     });
-    connect(inspector, &Inspector::dialogClosed, &overlay,
-            [&overlay] { overlay.setLevel(WindowLevel::ScreenSaver); });
+    connect(inspector, &Inspector::dialogClosed, &overlay, [this, &overlay] {
+        choosing_ = nullptr;
+        overlay.setLevel(WindowLevel::ScreenSaver);
+    });
     screen.setInspector(inspector);
+}
+
+// A dialog can come in front of our windows only while they are lowered. It closes with
+// the inspector, if the showing ends first.
+void AppDelegate::lowerSettingsForDialog() {
+    SettingsWindow* settings = settingsWindow_.get();
+    if (settings != nullptr && choosing_) {
+        const auto rise = &SettingsWindow::riseAboveOrdinaryWindows;
+        settings->joinOrdinaryWindows();
+        connect(choosing_, &Inspector::dialogClosed, settings, rise, Qt::UniqueConnection);
+        connect(choosing_, &QObject::destroyed, settings, rise, Qt::UniqueConnection);
+    }
 }
 
 // Finds out what can be shown behind the window. Captures the desktop only if its picture
@@ -254,6 +261,7 @@ void AppDelegate::openSettings() {
         }
     }
     settingsWindow_->bringToFront();
+    lowerSettingsForDialog();
 }
 
 } // namespace morrowleaf

@@ -11,6 +11,7 @@
 #include "settingsui/menuactions.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <limits>
@@ -19,6 +20,7 @@
 
 namespace morrowleaf {
 
+class Inspector;
 class OverlayWindow;
 class QuoteScreen;
 struct DesktopView;
@@ -71,6 +73,7 @@ private:
     DesktopView captureDesktop(QuoteWindow& window, QScreen& screen, bool editing);
     QuoteScreen* makeQuoteScreen(const DesktopView& desktop);
     void addInspector(QuoteScreen& screen, OverlayWindow& overlay);
+    void lowerSettingsForDialog();
     void handleLoss(const QuoteWindow* window);
     void removeWindow(const QuoteWindow* window);
 
@@ -82,6 +85,7 @@ private:
     double lastShown_ = -std::numeric_limits<double>::infinity(); // seconds, by now() of the timing
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<SettingsWindow> settingsWindow_;
+    QPointer<Inspector> choosing_; // whose dialog is open
     std::vector<std::unique_ptr<QuoteWindow>> fadingOut_;
 };
 

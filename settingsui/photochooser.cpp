@@ -105,6 +105,10 @@ void PhotoChooser::finish(const std::optional<QString>& path) {
 }
 
 void PhotoChooser::chooseWithQt() {
+    // The dialog of a platform theme runs another toolkit in this process, which may end it,
+    // and no flag of ours keeps that dialog in front. Its option would come too late: the
+    // constructor makes the other dialog.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     // Without a parent, because the window manager may not know the overlay.
     auto* dialog = new QFileDialog(nullptr, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QPointer>
 #include <QWindow>
 
@@ -272,6 +273,28 @@ TEST_F(AppDelegateTest, SettingsWindowGivesWayToADialogWhileItIsOpen) {
     delegate->dismiss(false);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(standsAbove());
+}
+
+TEST_F(AppDelegateTest, SettingsThatOpenBesideADialogLeaveItReachable) {
+    launchAndClose();
+    delegate->editAppearance();
+    editor()->findChild<AddTile*>()->click();
+    delegate->openSettings();
+    const QWindow* handle = delegate->settingsWindow()->windowHandle();
+    EXPECT_FALSE(handle->flags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(handle->isVisible());
+    desktop.files->answer({.kind = FileAnswer::Kind::Cancelled, .path = {}});
+    EXPECT_TRUE(handle->flags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+TEST_F(AppDelegateTest, WithoutADialogOfTheDesktopThereIsOneThatNoThemeReplaces) {
+    launchAndClose();
+    delegate->editAppearance();
+    editor()->findChild<AddTile*>()->click();
+    desktop.files->answer({.kind = FileAnswer::Kind::Unavailable, .path = {}});
+    EXPECT_NE(qobject_cast<QFileDialog*>(QApplication::activeModalWidget()), nullptr);
+    EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
+    delegate->dismiss(false);
 }
 
 TEST_F(AppDelegateTest, SettingsWindowComesBackOutOfAnIcon) {
