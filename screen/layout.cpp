@@ -87,21 +87,20 @@ Column stackColumn(const ColumnSizes& sizes, double lineScale, double paddingSca
     return column;
 }
 
-double columnRoom(double viewHeight, double headerBottom, double hintTop, double space) {
+double columnRoom(double viewHeight, double headerBottom, double hintTop) {
     const double middle = viewHeight / 2;
-    return 2 * std::min(middle - headerBottom - space, hintTop - space - middle);
+    return 2 * (std::min(middle - headerBottom, hintTop - middle) - measure::columnSpace);
 }
 
 ColumnPlace placeColumn(double columnHeight, double viewHeight, double headerBottom,
                         double hintTop) {
     constexpr double rounding = 1e-6;
     ColumnPlace place;
-    place.bottom = hintTop - measure::leastSpace;
+    place.bottom = hintTop - measure::columnSpace;
     place.top = viewHeight / 2 - columnHeight / 2;
-    if (columnHeight >
-        columnRoom(viewHeight, headerBottom, hintTop, measure::leastSpace) + rounding) {
+    if (columnHeight > columnRoom(viewHeight, headerBottom, hintTop) + rounding) {
         place.overflows = true;
-        place.top = headerBottom + measure::shrunkSpace;
+        place.top = headerBottom + measure::columnSpace;
     }
     return place;
 }

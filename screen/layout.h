@@ -34,10 +34,11 @@ inline constexpr double headerSide = 46;
 inline constexpr double headerTop = 38;
 inline constexpr double hintBottom = 40;
 inline constexpr double columnPaddings = linesTop + ruleTop + authorTop; // s k
-inline constexpr double leastSpace = 8;   // between the column and header or hint
-inline constexpr double shrunkSpace = 20; // the same for a column that had to shrink
+inline constexpr double headerGap = 16;   // between greeting and date, at least
+inline constexpr double columnSpace = 16; // between the column and header or hint, at least
 inline constexpr double leastQuoteSize = 12;
-inline constexpr double ownScaleBelow = 24; // quotations as small as this shrink their author
+inline constexpr double ownScaleBelow = 24;  // smaller quotations shrink what is around them
+inline constexpr double leastPaddings = 0.5; // × columnPaddings × the scale of the quotation
 inline constexpr double shadowRadius = 24;
 inline constexpr double shadowDrop = 6;
 } // namespace measure
@@ -80,9 +81,8 @@ enum class Leading { Left, Right };
 Column stackColumn(const ColumnSizes& sizes, double lineScale, double paddingScale,
                    Leading leading);
 
-// The height that a column centred in the view may have, when `space` is kept between
-// it and header and hint. All lengths are in points.
-double columnRoom(double viewHeight, double headerBottom, double hintTop, double space);
+// The height that a column centred in the view may have. All lengths are in points.
+double columnRoom(double viewHeight, double headerBottom, double hintTop);
 
 // Where a finished column is placed in the view, centred horizontally in the content box.
 struct ColumnPlace {

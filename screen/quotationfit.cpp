@@ -3,173 +3,174 @@
 
 #include "screen/quotationfit.h"
 
-#include "base/graphemes.h"
 #include "screen/layout.h"
-#include "textanim/linebalancing.h"
+#include "textanim/handwriting.h"
 
 #include <algorithm>
-#include <cmath>
+#include <limits>
 
 namespace morrowleaf {
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int leastTarget = 16;
-constexpr double step = 0.5; // points
-constexpr int halvings = 40; // of a step
+constexpr int mostTarget = 48;
+constexpr double mostSize = 2000; // more than can be wished
+constexpr double unbounded = std::numeric_limits<double>::infinity();
 
-// The sum of words and gaps is off by less than this share of a line's width.
-constexpr double estimateError = 0.01;
+double rowHeight(const QFont& face) {
+    const QRawFont raw = rawFace(face);
+    return ascentOf(raw) + descentOf(raw);
+}
 
-double inUnits(double length, double size) {
-    return length * shapingSize / size;
+double inPoints(double units, double size) {
+    return units * size / shapingSize;
+}
+
+double inUnits(double points, double size) {
+    return points / (size / shapingSize);
 }
 
 } // namespace
 
-double largestFittingSize(double wished, double least, const std::function<bool(double)>& fits) {
-    if (wished <= least || fits(wished)) {
-        return wished;
+QuotationFit::QuotationFit(const Texts& texts)
+    : texts_(texts)
+    , balance_(texts.quotation)
+    , author_(measureTexts({texts.author}, texts.captionFace))
+    , trackedAuthor_(measureTexts({texts.author}, texts.captionFace, 1))
+    , markRow_(rowHeight(texts.face))
+    , captionRow_(rowHeight(texts.captionFace)) {
+    QStringList words = balance_.words();
+    for (QString& word : words) {
+        word = beginningOf(word, texts.longest);
     }
-    double size = std::ceil(wished / step) * step - step;
-    while (size > least && !fits(size)) {
-        size -= step;
+    words_ = measureTexts(words, texts.face);
+    measurements_ = 3;
+    for (int target = mostTarget; target >= leastTarget; --target) {
+        std::vector<qsizetype> lineEnds = balance_.lineEnds(target);
+        if (cuts_.empty() || cuts_.back().lineEnds != lineEnds) {
+            cuts_.push_back({.lineEnds = std::move(lineEnds)});
+        }
+        cuts_.back().target = target;
     }
-    if (size <= least) {
-        return least;
-    }
-    double above = size + step;
-    double fitting = size;
-    for (int i = 0; i < halvings; ++i) {
-        const double middle = (fitting + above) / 2;
-        (fits(middle) ? fitting : above) = middle;
-    }
-    return fitting < wished ? fitting : size;
 }
 
-QuotationFit::QuotationFit(const QString& text, const QFont& face, qsizetype longest)
-    : text_(text)
-    , face_(face)
-    , longest_(longest)
-    , characters_(characterCount(text)) {
-    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
-        for (const RowPiece& piece : measured(beginningOf(word, longest)).pieces) {
-            widestPiece_ = std::max(widestPiece_, piece.width);
+QuotationFit::Result QuotationFit::fit(double wished, const Screen& screen) {
+    Result result{wished, {}};
+    const auto fitsAsWished = [&](Cut& cut) { return fits(cut, wished, screen); };
+    if (std::ranges::none_of(cuts_, fitsAsWished)) {
+        double limit = measure::leastQuoteSize;
+        for (Cut& cut : cuts_) {
+            if (fits(cut, limit, screen)) {
+                limit = largestSize(cut, screen);
+            }
+        }
+        result.size = std::min(wished, limit);
+    }
+    qsizetype begin = 0;
+    for (const qsizetype end : cutFor(result.size, screen).lineEnds) {
+        result.lines.append(beginningOf(balance_.line(begin, end), texts_.longest));
+        begin = end;
+    }
+    return result;
+}
+
+// The cut for the largest target of that size with which the column fits, or, if it
+// never does, with which no line is too wide.
+const QuotationFit::Cut& QuotationFit::cutFor(double size, const Screen& screen) {
+    const auto fitting =
+        std::ranges::find_if(cuts_, [&](Cut& cut) { return fits(cut, size, screen); });
+    if (fitting != cuts_.end()) {
+        return *fitting;
+    }
+    const auto narrow = std::ranges::find_if(cuts_, [&](Cut& cut) {
+        return cut.target <= screen.target(size) && !isWider(cut, size, screen.columnWidth);
+    });
+    return narrow != cuts_.end() ? *narrow : cuts_.back();
+}
+
+// A cut that fits in one size fits in all smaller ones.
+double QuotationFit::largestSize(Cut& cut, const Screen& screen) {
+    double fitting = measure::leastQuoteSize;
+    double above = mostSize;
+    for (double middle = (fitting + above) / 2; middle > fitting && middle < above;
+         middle = (fitting + above) / 2) {
+        (fits(cut, middle, screen) ? fitting : above) = middle;
+    }
+    return fitting;
+}
+
+// The column must fit with the author and the spaces of a wish for that size and, with
+// narrower spaces, of the largest wish. Smaller targets than that of the size count too.
+bool QuotationFit::fits(Cut& cut, double size, const Screen& screen) {
+    if (cut.target > screen.target(size)) {
+        return false;
+    }
+    const double own = size / measure::quoteSize;
+    const double texts = inPoints(markRow_, measure::markSize * own) +
+                         linesHeight(cut, size, screen.columnWidth) + measure::ruleHeight;
+    const auto hasRoom = [&](double scale, double paddings) {
+        const double caption = inPoints(captionRow_, measure::captionSize * scale);
+        const double author = authorHeight(surroundingScale(scale, size), screen.columnWidth);
+        return texts + author + measure::columnPaddings * paddings <=
+               columnRoom(screen.viewHeight, measure::headerTop + caption,
+                          screen.viewHeight - measure::hintBottom - caption);
+    };
+    return hasRoom(own, own) &&
+           hasRoom(std::max(screen.largestScale, own), measure::leastPaddings * own) &&
+           !isWider(cut, size, screen.columnWidth);
+}
+
+double QuotationFit::authorHeight(double scale, double columnWidth) const {
+    const double size = measure::authorSize * scale;
+    const double tracking = inUnits(measure::authorTracking, size);
+    std::vector<RowPiece> pieces = author_.pieces.front();
+    const std::vector<RowPiece>& tracked = trackedAuthor_.pieces.front();
+    for (std::size_t i = 0; i < std::min(pieces.size(), tracked.size()); ++i) {
+        pieces[i].width += (tracked[i].width - pieces[i].width) * tracking;
+        pieces[i].advance += (tracked[i].advance - pieces[i].advance) * tracking;
+    }
+    const std::size_t rows = rowCount(pieces, inUnits(columnWidth, size));
+    return inPoints(author_.rowHeight, size) * static_cast<double>(std::max<std::size_t>(rows, 1));
+}
+
+double QuotationFit::linesHeight(const Cut& cut, double size, double columnWidth) const {
+    const double column = inUnits(columnWidth, size);
+    const double row = inPoints(words_.rowHeight, size);
+    double height = 0;
+    qsizetype begin = 0;
+    for (const qsizetype end : cut.lineEnds) {
+        std::size_t rows = 1;
+        for (qsizetype word = begin; word < end; ++word) {
+            // Among other words it has no more rows than the text has there.
+            const double width = end - begin == 1 ? column : unbounded;
+            rows += rowCount(words_.pieces[static_cast<std::size_t>(word)], width) - 1;
+        }
+        height += rows == 1 ? wholePoints(row) : static_cast<double>(rows) * row;
+        height += begin > 0 ? measure::lineSpacing * size / measure::quoteSize : 0;
+        begin = end;
+    }
+    return height;
+}
+
+// Whether a line of several words is wider than the column, or an unbreakable part of
+// a word. Measures no more lines than needed.
+bool QuotationFit::isWider(Cut& cut, double size, double columnWidth) {
+    const double column = inUnits(columnWidth, size);
+    while (cut.widest <= column && cut.measured < cut.lineEnds.size()) {
+        const qsizetype begin = cut.measured > 0 ? cut.lineEnds[cut.measured - 1] : 0;
+        const qsizetype end = cut.lineEnds[cut.measured++];
+        if (end - begin > 1) {
+            cut.widest =
+                std::max(cut.widest, unbrokenWidth(balance_.line(begin, end), texts_.face));
+            ++measurements_;
+        } else {
+            for (const RowPiece& piece : words_.pieces[static_cast<std::size_t>(begin)]) {
+                cut.widest = std::max(cut.widest, piece.width);
+            }
         }
     }
-}
-
-bool QuotationFit::isOf(const QString& text, const QFont& face, qsizetype longest) const {
-    return text == text_ && face == face_ && longest == longest_;
-}
-
-const MeasuredText& QuotationFit::measured(const QString& text) {
-    auto known = measured_.find(text);
-    if (known == measured_.end()) {
-        known = measured_.insert(text, measureText(text, face_));
-    }
-    return *known;
-}
-
-// A space is kerned with the letters beside it.
-double QuotationFit::gapBetween(const QString& word, const QString& next) {
-    constexpr char16_t afterAlphabets = 0x2000;
-    const QChar before = word.back() < afterAlphabets ? word.back() : QChar(u'n');
-    const QChar after = next.front() < afterAlphabets ? next.front() : QChar(u'n');
-    const double both = measured(before + QString(u' ') + after).width;
-    return both - measured(before).width - measured(after).width;
-}
-
-QuotationFit::Line QuotationFit::lineOf(const QString& text) {
-    const QStringList words = text.split(u' ');
-    Line line{text, words.size() == 1};
-    for (qsizetype i = 0; i < words.size(); ++i) {
-        const MeasuredText& own = measured(words[i]);
-        line.width += own.width;
-        line.ascent = std::max(line.ascent, own.ascent);
-        line.descent = std::max(line.descent, own.descent);
-        const auto breaks = std::ranges::count_if(own.pieces, &RowPiece::endsRow);
-        line.isPlain = line.isPlain && breaks < 2;
-        if (i > 0) {
-            line.width += gapBetween(words[i - 1], words[i]);
-        }
-    }
-    return line;
-}
-
-const QuotationFit::Cut& QuotationFit::cut(int target) {
-    // The target counts only by the number of lines that it asks for.
-    const int aim = static_cast<int>((characters_ + target - 1) / target);
-    auto known = cuts_.find(aim);
-    if (known == cuts_.end()) {
-        Cut lines;
-        for (const QString& text : balancedLines(text_, target)) {
-            lines.push_back(lineOf(beginningOf(text, longest_)));
-        }
-        known = cuts_.emplace(aim, std::move(lines)).first;
-    }
-    return known->second;
-}
-
-bool QuotationFit::isWider(const Line& line, double column) {
-    const double doubt = line.isWord ? 0 : estimateError;
-    if (!line.isPlain || std::abs(line.width - column) < doubt * column) {
-        return measured(line.text).width > column;
-    }
-    return line.width > column;
-}
-
-const QuotationFit::Cut& QuotationFit::fittingCut(int target, double column) {
-    const auto fits = [&](const Line& line) { return line.isWord || !isWider(line, column); };
-    while (target > leastTarget && !std::ranges::all_of(cut(target), fits)) {
-        --target;
-    }
-    return cut(target);
-}
-
-QStringList QuotationFit::lines(int target, double size, double width) {
-    QStringList texts;
-    for (const Line& line : fittingCut(target, inUnits(width, size))) {
-        texts.append(line.text);
-    }
-    return texts;
-}
-
-QList<double> QuotationFit::lineHeights(int target, double size, double width,
-                                        const std::function<double(double)>& rounding) {
-    const double column = inUnits(width, size);
-    QList<double> heights;
-    for (const Line& line : fittingCut(target, column)) {
-        const std::size_t rows = line.isPlain && !isWider(line, column)
-                                     ? 1
-                                     : rowCount(measured(line.text).pieces, column);
-        const double row = (line.ascent + line.descent) * size / shapingSize;
-        heights.append(rows <= 1 ? rounding(row) : static_cast<double>(rows) * row);
-    }
-    return heights;
-}
-
-bool QuotationFit::wordsFit(double size, double width) const {
-    return widestPiece_ <= inUnits(width, size);
-}
-
-CaptionFit::CaptionFit(const QString& text, const QFont& face)
-    : text_(text)
-    , face_(face)
-    , plain_(measureText(text, face))
-    , tracked_(measureText(text, face, 1).pieces) {}
-
-double CaptionFit::height(double size, double tracking, double width) const {
-    const double space = inUnits(tracking, size);
-    std::vector<RowPiece> pieces = plain_.pieces;
-    for (std::size_t i = 0; i < pieces.size() && i < tracked_.size(); ++i) {
-        pieces[i].width += (tracked_[i].width - pieces[i].width) * space;
-        pieces[i].advance += (tracked_[i].advance - pieces[i].advance) * space;
-    }
-    const std::size_t rows = std::max<std::size_t>(rowCount(pieces, inUnits(width, size)), 1);
-    return (plain_.ascent + plain_.descent) * size / shapingSize * static_cast<double>(rows);
+    return cut.widest > column;
 }
 
 } // namespace morrowleaf

@@ -3,90 +3,77 @@
 
 #pragma once
 
+#include "textanim/linebalancing.h"
 #include "textanim/textlayout.h"
 
-#include <QHash>
-#include <QSizeF>
+#include <QFont>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
-#include <map>
+#include <vector>
 
 namespace morrowleaf {
 
-// The largest size, at most `wished`, that `fits`: the wished one, or the end of what
-// fits above the largest half point that does. What is found depends on `wished` only
-// as a bound, so that a larger wish never gives a smaller size. If nothing fits, it is
-// the smaller of `wished` and `least`.
-double largestFittingSize(double wished, double least, const std::function<bool(double)>& fits);
-
-// A quotation in one face, before its size is known. Each word is shaped once, and
-// asking for a size costs no shaping beyond that of lines which almost fill the column.
+// The size of a quotation on a screen, and its lines in that size. The size is the
+// wished one, or the largest whose own column fits between header and hint. That limit
+// does not depend on the wish, so that a larger wish never gives a smaller size.
 // Sizes and lengths are in points.
 class QuotationFit {
 public:
-    QuotationFit() = default;
-    // Of a word, only the first `longest` characters count.
-    QuotationFit(const QString& text, const QFont& face, qsizetype longest);
+    struct Texts {
+        QString quotation;
+        QFont face;
+        qsizetype longest = 0; // characters that count of a single word
+        QString author;        // as shown
+        QFont captionFace;     // of author, header and hint
 
-    // Whether it is of this text and face.
-    bool isOf(const QString& text, const QFont& face, qsizetype longest) const;
-
-    // The lines for a column of that width: balanced for the target, or, where a line
-    // of several words would be wider, for the next smaller one down to 16 with which
-    // none is.
-    QStringList lines(int target, double size, double width);
-
-    // The height of each of these lines; `rounding` is applied to one of a single row.
-    QList<double> lineHeights(int target, double size, double width,
-                              const std::function<double(double)>& rounding);
-    // Whether no word sticks out of a column of that width.
-    bool wordsFit(double size, double width) const;
-
-private:
-    struct Line {
-        QString text;
-        bool isWord = false;
-        bool isPlain = true; // without line breaks in it
-        double width = 0;    // estimated from its words
-        double ascent = 0;
-        double descent = 0;
+        bool operator==(const Texts&) const = default;
     };
-    using Cut = std::vector<Line>;
+    struct Screen {
+        double viewHeight = 0;
+        double columnWidth = 0;
+        double largestScale = 1;                // the largest s × k that can be chosen
+        std::function<int(double size)> target; // the characters in a line
+    };
+    struct Result {
+        double size = 0;
+        QStringList lines;
+    };
 
-    const MeasuredText& measured(const QString& text);
-    double gapBetween(const QString& word, const QString& next);
-    Line lineOf(const QString& text);
-    const Cut& cut(int target);
-    const Cut& fittingCut(int target, double column);
-    bool isWider(const Line& line, double column);
+    QuotationFit() = default;
+    explicit QuotationFit(const Texts& texts);
 
-    QString text_;
-    QFont face_;
-    qsizetype longest_ = 0;
-    qsizetype characters_ = 0;
-    double widestPiece_ = 0;
-    QHash<QString, MeasuredText> measured_;
-    std::map<int, Cut> cuts_; // by the number of lines that was aimed at
-};
-
-// The same for a text below the quotation, which is tracked.
-class CaptionFit {
-public:
-    CaptionFit() = default;
-    CaptionFit(const QString& text, const QFont& face);
-
-    bool isOf(const QString& text, const QFont& face) const {
-        return text == text_ && face == face_;
-    }
-    double height(double size, double tracking, double width) const;
+    const Texts& texts() const { return texts_; }
+    Result fit(double wished, const Screen& screen);
+    // How many texts have been measured, of which each has a layout of its own.
+    int measurements() const { return measurements_; }
 
 private:
-    QString text_;
-    QFont face_;
-    MeasuredText plain_;
-    std::vector<RowPiece> tracked_; // by one unit more
+    // The lines for one or more targets.
+    struct Cut {
+        int target = 0; // the smallest of them
+        std::vector<qsizetype> lineEnds;
+        std::size_t measured = 0; // lines of which `widest` is the width
+        double widest = 0;
+    };
+
+    double authorHeight(double scale, double columnWidth) const;
+    double linesHeight(const Cut& cut, double size, double columnWidth) const;
+    bool isWider(Cut& cut, double size, double columnWidth);
+    bool fits(Cut& cut, double size, const Screen& screen);
+    double largestSize(Cut& cut, const Screen& screen);
+    const Cut& cutFor(double size, const Screen& screen);
+
+    Texts texts_;
+    LineBalance balance_{QString()};
+    std::vector<Cut> cuts_; // by descending target
+    MeasuredTexts words_;
+    MeasuredTexts author_;
+    MeasuredTexts trackedAuthor_; // by one unit
+    double markRow_ = 0;          // heights of rows, in the units of TextRow
+    double captionRow_ = 0;
+    int measurements_ = 0;
 };
 
 } // namespace morrowleaf

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace morrowleaf {
 
@@ -26,10 +25,6 @@ constexpr double markOpacity = 0.18;
 constexpr double captionOpacity = 0.45;
 constexpr double authorOpacity = 0.72;
 constexpr double hintOpacity = 0.3;
-
-constexpr double unbounded = 1e9; // points
-
-const QString markText = u"\u201C"_s;
 
 // Independent of the locale: a name is the same on every desktop.
 QString shownAuthor(const Quote& quote) {
@@ -66,9 +61,9 @@ public:
     Metrics(const QuoteViewState& state, const FontBook& fonts)
         : fonts_(fonts)
         , fontName_(state.settings.fontName)
-        , scale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
-                                              : std::nullopt) *
-                 usableSizeScale(state.settings.sizeScale))
+        , screenScale_(screenScale(state.mainScreen ? std::optional(state.mainScreen->height())
+                                                    : std::nullopt))
+        , scale_(screenScale_ * usableSizeScale(state.settings.sizeScale))
         , width_(state.mainScreen ? std::optional(state.mainScreen->width()) : std::nullopt)
         , inset_(state.sideInset)
         , seen_(visibleCharacterLimit(state.size.height(), wishedSize(),
@@ -79,6 +74,7 @@ public:
     // with wide characters wrap into rows, and a row holds half as many of those.
     qsizetype seenInOne() const { return seen_ / 2; }
     double scale() const { return scale_; } // s × k
+    double largestScale() const { return screenScale_ * K::textScale.highest; }
     double wishedSize() const { return measure::quoteSize * scale_; }
     // The characters in a line of a quotation of that size.
     int target(double size) const { return wrapTarget(width_, inset_, size / measure::quoteSize); }
@@ -96,6 +92,7 @@ private:
 
     const FontBook& fonts_;
     QString fontName_;
+    double screenScale_;
     double scale_;
     std::optional<double> width_; // of the main screen
     double inset_;
@@ -124,118 +121,43 @@ void QuoteView::compose(double seconds) {
     const double width = columnWidth(box);
 
     composeOverlays(metrics, box);
-    cutQuotation(metrics, width);
+    cutOffUnseen(metrics);
+    fitQuotation(metrics, width);
     composeLines(metrics, width, seconds);
     if (!closing_) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
-    layOut(mark_, {markText, metrics.mark(sizes_.quote)});
-    layOut(author_, {shownAuthor(state_.quote), metrics.author(sizes_.author),
+    layOut(mark_, {u"\u201C"_s, metrics.mark(fitted_.size)});
+    layOut(author_, {shownAuthor(state_.quote),
+                     metrics.author(surroundingScale(metrics.scale(), fitted_.size)),
                      measure::authorTracking, width});
-    layOut(sample_, {u"x"_s, metrics.quote(sizes_.quote)});
-    placeTexts(box);
+    layOut(sample_, {u"x"_s, metrics.quote(fitted_.size)});
+    placeTexts(metrics, box);
 }
 
-// Cuts off what cannot be seen: a source may deliver millions of characters, even
-// as a single word.
-void QuoteView::cutQuotation(const Metrics& metrics, double width) {
-    const bool isNew = work_.cuts == 0 || cut_.quote != state_.quote || cut_.seen != metrics.seen();
-    if (isNew) {
-        cut_.quote = state_.quote;
-        cut_.seen = metrics.seen();
-        cut_.seenQuote = {seenPart(state_.quote.text, metrics.seen()),
-                          seenPart(state_.quote.author, metrics.seenInOne())};
+// A source may deliver millions of characters, even as a single word.
+void QuoteView::cutOffUnseen(const Metrics& metrics) {
+    if (seenQuote_.whole != state_.quote || seenQuote_.limit != metrics.seen()) {
+        seenQuote_ = {state_.quote,
+                      metrics.seen(),
+                      {seenPart(state_.quote.text, metrics.seen()),
+                       seenPart(state_.quote.author, metrics.seenInOne())}};
     }
-    state_.quote = cut_.seenQuote;
-    sizes_ = fittingSizes(metrics, width);
-    if (isNew || cut_.target != sizes_.target) {
-        cut_.target = sizes_.target;
-        ++work_.cuts;
-    }
-    cut_.lines = quotationFit_.lines(sizes_.target, sizes_.quote, width);
+    state_.quote = seenQuote_.seen;
 }
 
-// What the column would measure in other sizes is judged by a screen whose header and
-// hint have the same scale, so that the result does not depend on the wish. What the
-// wish makes larger than that is taken from the paddings.
-QuoteView::Sizes QuoteView::fittingSizes(const Metrics& metrics, double width) {
-    const QFont face = metrics.quote(1).face;
-    if (!quotationFit_.isOf(state_.quote.text, face, metrics.seenInOne())) {
-        quotationFit_ = QuotationFit(state_.quote.text, face, metrics.seenInOne());
+void QuoteView::fitQuotation(const Metrics& metrics, double width) {
+    const QuotationFit::Texts texts{state_.quote.text, metrics.quote(1).face, metrics.seenInOne(),
+                                    shownAuthor(state_.quote), metrics.author(1).face};
+    if (texts != quotationFit_.texts()) {
+        work_.measurements += quotationFit_.measurements();
+        quotationFit_ = QuotationFit(texts);
     }
-    if (!markFit_.isOf(markText, face)) {
-        markFit_ = CaptionFit(markText, face);
-    }
-    const QString author = shownAuthor(state_.quote);
-    const QFont authorFace = metrics.author(1).face;
-    if (!authorFit_.isOf(author, authorFace)) {
-        authorFit_ = CaptionFit(author, authorFace);
-    }
-    const bool isWritten = storedTextAnim(state_.settings.textAnimRaw) == TextAnim::Handwrite;
-    const auto rounding = [isWritten](double height) {
-        return isWritten ? wholePoints(height) : height;
-    };
-    const auto scaleOf = [](double size) { return size / measure::quoteSize; };
-    const auto heightWithoutPaddings = [&](double size, double authorScale) {
-        const QList<double> lines =
-            quotationFit_.lineHeights(metrics.target(size), size, width, rounding);
-        const auto gaps = static_cast<double>(std::max(lines.size() - 1, qsizetype{0}));
-        return markFit_.height(measure::markSize * scaleOf(size), 0, unbounded) +
-               std::accumulate(lines.begin(), lines.end(), 0.0) +
-               gaps * measure::lineSpacing * scaleOf(size) + measure::ruleHeight +
-               authorFit_.height(measure::authorSize * authorScale, measure::authorTracking, width);
-    };
-    const double wished = metrics.scale();
-    const auto room = [&](double captionScale, double space) {
-        return columnRoom(state_.size.height(), headerBottom(captionScale, wished),
-                          hintTop(captionScale, wished), space);
-    };
-    const auto fits = [&](double size) {
-        const double own = scaleOf(size);
-        const double height = heightWithoutPaddings(size, own);
-        return quotationFit_.wordsFit(size, width) &&
-               height + own * measure::columnPaddings <= room(own, measure::leastSpace) &&
-               height <= room(wished, measure::leastSpace);
-    };
-
-    Sizes sizes;
-    sizes.quote = largestFittingSize(metrics.wishedSize(), measure::leastQuoteSize, fits);
-    sizes.target = metrics.target(sizes.quote);
-    sizes.author = surroundingScale(wished, sizes.quote);
-    sizes.paddings = sizes.author;
-    if (sizes.quote == metrics.wishedSize()) {
-        return sizes;
-    }
-    const double own = scaleOf(sizes.quote);
-    const double leastPaddings = 0.25 * own;
-    const double goodPaddings = 0.75 * own; // worth a column that comes close to the hint
-    const auto paddingsWithin = [&](double space) {
-        return (room(wished, space) - heightWithoutPaddings(sizes.quote, sizes.author)) /
-               measure::columnPaddings;
-    };
-    if (paddingsWithin(measure::leastSpace) < leastPaddings) {
-        sizes.author = own;
-    }
-    const double most = paddingsWithin(measure::leastSpace);
-    sizes.paddings =
-        most < 0
-            ? own
-            : std::min(std::max(paddingsWithin(measure::shrunkSpace), std::min(most, goodPaddings)),
-                       sizes.paddings);
-    return sizes;
-}
-
-double QuoteView::headerBottom(double captionScale, double wished) const {
-    const auto heightOf = [&](const Text& text) {
-        return std::min(text.shape.size().height() * captionScale / wished, text.rect().height());
-    };
-    return measure::headerTop + std::max(heightOf(greeting_), heightOf(today_));
-}
-
-double QuoteView::hintTop(double captionScale, double wished) const {
-    const double height =
-        std::min(hint_.shape.size().height() * captionScale / wished, hint_.rect().height());
-    return state_.size.height() - measure::hintBottom - height;
+    fitted_ = quotationFit_.fit(metrics.wishedSize(),
+                                {.viewHeight = state_.size.height(),
+                                 .columnWidth = width,
+                                 .largestScale = metrics.largestScale(),
+                                 .target = [&](double size) { return metrics.target(size); }});
 }
 
 void QuoteView::layOut(Text& text, const Typesetting& typesetting) {
@@ -253,7 +175,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
     const QString& raw = state_.settings.textAnimRaw;
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);
-    parts.font = metrics.quote(sizes_.quote);
+    parts.font = metrics.quote(fitted_.size);
     parts.strokeFont = parts.font;
     parts.color = state_.palette.ink;
     parts.shadow = {state_.palette.light ? 0.08 : 0.35, measure::shadowRadius,
@@ -262,9 +184,9 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
 
     GlyphShapes shapes; // shared by the lines
     std::vector<Line> lines;
-    lines.reserve(static_cast<size_t>(cut_.lines.size()));
-    for (qsizetype i = 0; i < cut_.lines.size(); ++i) {
-        parts.text = cut_.lines[i];
+    lines.reserve(static_cast<size_t>(fitted_.lines.size()));
+    for (qsizetype i = 0; i < fitted_.lines.size(); ++i) {
+        parts.text = fitted_.lines[i];
         parts.index = i;
         const QString identity = lineIdentity(raw, i, parts.text);
         Line* old = i < lineCount() ? &lines_[static_cast<size_t>(i)] : nullptr;
@@ -290,7 +212,7 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
     layOut(hint_, {hintText(state_.sideInset), font, measure::hintTracking});
 
     const double row = std::max(box.width() - 2 * measure::headerSide, 1.0);
-    const double needed = greeting_.shape.size().width() + 2 * measure::leastSpace +
+    const double needed = greeting_.shape.size().width() + measure::headerGap +
                           today_.shape.size().width() - today_.shape.lastTracking();
     const double rowScale = std::min(1.0, row / needed);
     greeting_.scale = rowScale;
@@ -317,15 +239,29 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
                state_.size.height() - measure::hintBottom - hint_.rect().height());
 }
 
-void QuoteView::placeTexts(const QRectF& box) {
+// The paddings take what author, header and hint leave of the room, if that is less
+// than they would like to have.
+Column QuoteView::columnFor(double wished, double headerBottom, double hintTop) const {
     ColumnSizes sizes{mark_.shape.size(), {}, author_.shape.size()};
     for (const Line& line : lines_) {
         sizes.lines.append(line.line.size());
     }
     const Leading leading = state_.quote.text.isRightToLeft() ? Leading::Right : Leading::Left;
-    const Column column =
-        stackColumn(sizes, sizes_.quote / measure::quoteSize, sizes_.paddings, leading);
-    place_ = placeColumn(column.height, state_.size.height(), headerBottom(1, 1), hintTop(1, 1));
+    const double own = fitted_.size / measure::quoteSize;
+    const double room = columnRoom(state_.size.height(), headerBottom, hintTop) -
+                        stackColumn(sizes, own, 0, leading).height;
+    const double least = measure::leastPaddings * own;
+    const double paddings = std::min(std::max(room / measure::columnPaddings, least),
+                                     surroundingScale(wished, fitted_.size));
+    return stackColumn(sizes, own, paddings, leading);
+}
+
+void QuoteView::placeTexts(const Metrics& metrics, const QRectF& box) {
+    const double headerBottom =
+        measure::headerTop + std::max(greeting_.rect().height(), today_.rect().height());
+    const double hintTop = state_.size.height() - measure::hintBottom - hint_.rect().height();
+    const Column column = columnFor(metrics.scale(), headerBottom, hintTop);
+    place_ = placeColumn(column.height, state_.size.height(), headerBottom, hintTop);
 
     const double ratio = state_.devicePixelRatio;
     const auto placed = [&](QPointF inColumn, double baseline) {

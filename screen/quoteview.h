@@ -56,13 +56,13 @@ public:
     // The state last passed in, with the quotation cut off far below the bottom edge.
     const QuoteViewState& state() const { return state_; }
 
-    // How often the quotation has been cut into lines, and how often a text or a
-    // line has been laid out.
+    // How often a text has been measured to find its size and lines, and how often a
+    // text or a line has been laid out.
     struct Work {
-        int cuts = 0;
+        int measurements = 0;
         int layouts = 0;
     };
-    Work work() const { return work_; }
+    Work work() const { return {work_.measurements + quotationFit_.measurements(), work_.layouts}; }
 
     // Draws the elements that touch `clip`; `clip` and the painter are in points.
     void paint(QPainter& painter, double seconds, const QRectF& clip) const;
@@ -83,7 +83,7 @@ public:
     const ClosingEntrances& closing() const { return *closing_; }
     // The size of the quotation in points: the wished one, or the largest with which
     // the column fits between header and hint.
-    double quoteSize() const { return sizes_.quote; }
+    double quoteSize() const { return fitted_.size; }
 
 private:
     // The input of a text's layout.
@@ -106,13 +106,11 @@ private:
         QRectF rect() const { return {topLeft, shape.size() * scale}; }
         void paint(QPainter& painter, QColor color, double progress) const;
     };
-    // The quotation cut into lines, and the input of the cut.
-    struct Cut {
-        Quote quote; // as passed in
-        int target = 0;
-        qsizetype seen = 0;
-        Quote seenQuote;
-        QStringList lines;
+    // What can be seen of a quotation.
+    struct SeenQuote {
+        Quote whole;
+        qsizetype limit = 0; // characters
+        Quote seen;
     };
     struct Line {
         QString identity;
@@ -120,24 +118,16 @@ private:
         RevealLine line;
         QPointF topLeft;
     };
-    // The sizes that the column was given.
-    struct Sizes {
-        double quote = 0; // points
-        int target = 0;   // characters in a line
-        double author = 1;
-        double paddings = 1; // factors
-    };
     class Metrics;
 
     void compose(double seconds);
-    void cutQuotation(const Metrics& metrics, double width);
-    Sizes fittingSizes(const Metrics& metrics, double width);
-    double headerBottom(double captionScale, double wished) const;
-    double hintTop(double captionScale, double wished) const;
+    void cutOffUnseen(const Metrics& metrics);
+    void fitQuotation(const Metrics& metrics, double width);
     void layOut(Text& text, const Typesetting& typesetting);
     void composeLines(const Metrics& metrics, double width, double seconds);
     void composeOverlays(const Metrics& metrics, const QRectF& box);
-    void placeTexts(const QRectF& box);
+    Column columnFor(double wished, double headerBottom, double hintTop) const;
+    void placeTexts(const Metrics& metrics, const QRectF& box);
     void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;
@@ -148,12 +138,10 @@ private:
     QuoteViewState state_;
     std::optional<ClosingEntrances> closing_;
     ColumnPlace place_;
-    Sizes sizes_;
-    Work work_;
-    Cut cut_;
+    Work work_; // without that of the fit
+    SeenQuote seenQuote_;
     QuotationFit quotationFit_;
-    CaptionFit markFit_;
-    CaptionFit authorFit_;
+    QuotationFit::Result fitted_;
     Text greeting_;
     Text today_;
     Text mark_;

@@ -6,15 +6,14 @@
 #include "textanim/emojiface.h"
 #include "textanim/weightmatch.h"
 
+#include <QFontMetricsF>
 #include <QPainterPath>
-#include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <QTextOption>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace morrowleaf {
 
@@ -179,11 +178,12 @@ void keepTrailingSpaces(QTextLayout& layout) {
     layout.setTextOption(option);
 }
 
-std::vector<QTextLine> unbrokenLines(QTextLayout& layout) {
+// In lines no wider than `width`, unless a word is. With 0, each line is one piece.
+std::vector<QTextLine> linesOf(QTextLayout& layout, double width) {
     std::vector<QTextLine> lines;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(widestLine);
+        line.setLineWidth(width);
         line.setPosition({0, 0});
         lines.push_back(line);
     }
@@ -191,69 +191,81 @@ std::vector<QTextLine> unbrokenLines(QTextLayout& layout) {
     return lines;
 }
 
-struct PlacedPiece {
-    RowPiece piece;
-    qsizetype end = 0; // of its text, UTF-16 units
-};
+double widestOf(const std::vector<QTextLine>& lines) {
+    double width = 0;
+    for (const QTextLine& line : lines) {
+        width = std::max(width, line.naturalTextWidth());
+    }
+    return width;
+}
 
-// The pieces of a layout of unbroken lines.
-std::vector<PlacedPiece> piecesOf(const QTextLayout& layout) {
-    const QString text = layout.text();
-    std::vector<PlacedPiece> pieces;
-    QTextBoundaryFinder boundary(QTextBoundaryFinder::Line, text);
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine line = layout.lineAt(i);
-        const qsizetype lineEnd = line.textStart() + line.textLength();
-        const auto place = [&line](qsizetype at) { return line.cursorToX(static_cast<int>(at)); };
-        qsizetype begin = line.textStart();
-        while (begin < lineEnd) {
-            boundary.setPosition(begin);
-            const qsizetype next = boundary.toNextBoundary();
-            const qsizetype end = next < 0 ? lineEnd : std::min(next, lineEnd);
-            qsizetype inkEnd = end;
-            while (inkEnd > begin && text[inkEnd - 1].isSpace()) {
-                --inkEnd;
+qsizetype endOf(const QTextLine& line) {
+    return line.textStart() + line.textLength();
+}
+
+// The piece of a line that is one. White space at its end does not count where a row
+// ends, and a soft hyphen counts only there.
+RowPiece pieceOf(const QTextLine& line, const QTextLayout& layout) {
+    const QString text = layout.text().mid(line.textStart(), line.textLength());
+    RowPiece piece{line.naturalTextWidth(), line.naturalTextWidth(),
+                   endOf(line) == layout.text().size() || text.endsWith(QChar::LineSeparator)};
+    const auto advance = [&](const QString& part) {
+        return QFontMetricsF(layout.font()).horizontalAdvance(part);
+    };
+    qsizetype inkEnd = text.size();
+    while (inkEnd > 0 && text[inkEnd - 1].isSpace()) {
+        --inkEnd;
+    }
+    if (text.endsWith(QChar::SoftHyphen)) {
+        piece.advance -= advance(QStringLiteral("-"));
+    } else if (inkEnd < text.size() && !piece.endsRow) {
+        piece.advance += advance(text.mid(inkEnd));
+    }
+    return piece;
+}
+
+// The same text with a line separator at the end of each row but the last, in place
+// of white space there.
+SetText withRows(const SetText& set, const std::vector<qsizetype>& rowEnds) {
+    SetText result{{}, set.ends, set.kinds};
+    auto character = result.ends.begin();
+    qsizetype begin = 0;
+    for (const qsizetype rowEnd : rowEnds) {
+        QString row = set.text.mid(begin, rowEnd - begin);
+        if (rowEnd < set.text.size()) {
+            if (row.endsWith(QChar::SoftHyphen)) {
+                row.back() = u'-';
             }
-            pieces.push_back({{std::abs(place(inkEnd) - place(begin)),
-                               std::abs(place(end) - place(begin)), end == lineEnd},
-                              end});
-            begin = end;
+            while (!row.isEmpty() && row.back().isSpace()) {
+                row.chop(1);
+            }
+            row += QChar::LineSeparator;
         }
+        const qsizetype start = result.text.size();
+        result.text += row;
+        for (; character != result.ends.end() && *character <= rowEnd; ++character) {
+            const bool isLast = *character == rowEnd;
+            const qsizetype inRow = *character - begin;
+            *character = start + (isLast ? row.size() : std::min(inRow, row.size() - 1));
+        }
+        begin = rowEnd;
     }
-    return pieces;
+    return result;
 }
 
-std::vector<QTextLine> brokenLines(QTextLayout& layout, const std::vector<PlacedPiece>& placed,
-                                   double maxWidth) {
+// Breaks into rows where a line is wider than the column.
+SetText brokenText(const SetText& set, QTextLayout& layout, double maxWidth) {
     std::vector<RowPiece> pieces;
-    pieces.reserve(placed.size());
-    std::ranges::transform(placed, std::back_inserter(pieces), &PlacedPiece::piece);
-    const std::vector<std::size_t> ends = breakRows(pieces, maxWidth);
-    std::vector<QTextLine> lines;
-    std::size_t piece = 0;
-    auto end = ends.begin();
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        double width = 0;
-        for (; end != ends.end() && piece < *end; ++piece) {
-            width += pieces[piece].advance;
-        }
-        // With half of the next piece added, Qt's rounding cannot move a break.
-        const bool endsRow = piece == 0 || piece == pieces.size() || pieces[piece - 1].endsRow;
-        line.setLineWidth(
-            endsRow ? widestLine
-                    : std::min(width + std::max(pieces[piece].width / 2, 1.0), widestLine));
-        line.setPosition({0, 0});
-        lines.push_back(line);
-        const qsizetype lineEnd = line.textStart() + line.textLength();
-        piece = static_cast<std::size_t>(
-            std::ranges::upper_bound(placed, lineEnd, {}, &PlacedPiece::end) - placed.begin());
-        while (end != ends.end() && *end <= piece) {
-            ++end;
-        }
+    std::vector<qsizetype> pieceEnds;
+    for (const QTextLine& line : linesOf(layout, 0)) {
+        pieces.push_back(pieceOf(line, layout));
+        pieceEnds.push_back(endOf(line));
     }
-    layout.endLayout();
-    return lines;
+    std::vector<qsizetype> rowEnds;
+    for (const std::size_t end : breakRows(pieces, maxWidth)) {
+        rowEnds.push_back(pieceEnds[end - 1]);
+    }
+    return withRows(set, rowEnds);
 }
 
 } // namespace
@@ -276,16 +288,16 @@ double descentOf(const QRawFont& face) {
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks) {
     QTextLayout layout;
-    const SetText set = setText(text, breaks);
+    SetText set = setText(text, breaks);
     prepare(layout, set, face, tracking);
     if (maxWidth <= 0) {
         keepTrailingSpaces(layout);
     }
-    std::vector<QTextLine> lines = unbrokenLines(layout);
-    const bool fits = std::ranges::all_of(
-        lines, [&](const QTextLine& line) { return line.naturalTextWidth() <= maxWidth; });
-    if (maxWidth > 0 && !fits) {
-        lines = brokenLines(layout, piecesOf(layout), maxWidth);
+    std::vector<QTextLine> lines = linesOf(layout, widestLine);
+    if (maxWidth > 0 && widestOf(lines) > maxWidth) {
+        set = brokenText(set, layout, maxWidth);
+        prepare(layout, set, face, tracking);
+        lines = linesOf(layout, widestLine);
     }
 
     TextLayout result;
@@ -304,29 +316,58 @@ TextLayout layOut(const QString& text, const QFont& face, double tracking, doubl
     return result;
 }
 
-MeasuredText measureText(const QString& text, const QFont& face, double tracking) {
+MeasuredTexts measureTexts(const QStringList& texts, const QFont& face, double tracking) {
+    SetText all;
+    std::vector<qsizetype> ends;
+    for (const QString& text : texts) {
+        const SetText set = setText(text, LineBreaks::Kept);
+        for (const qsizetype end : set.ends) {
+            all.ends.append(all.text.size() + end);
+        }
+        all.kinds.insert(all.kinds.end(), set.kinds.begin(), set.kinds.end());
+        all.text += set.text + QChar(QChar::LineSeparator);
+        ends.push_back(all.text.size());
+    }
     QTextLayout layout;
-    prepare(layout, setText(text, LineBreaks::Kept), face, tracking);
-    const QRawFont requested = rawFace(face);
-    MeasuredText result{0, ascentOf(requested), descentOf(requested), {}};
-    for (const QTextLine& line : unbrokenLines(layout)) {
-        result.width = std::max(result.width, line.naturalTextWidth());
+    prepare(layout, all, face, tracking);
+
+    std::vector<QRawFont> faces{rawFace(face)};
+    double ascent = ascentOf(faces.front());
+    double descent = descentOf(faces.front());
+    MeasuredTexts result;
+    result.pieces.resize(ends.size());
+    auto pieces = result.pieces.begin();
+    for (const QTextLine& line : linesOf(layout, 0)) {
+        if (pieces == result.pieces.end()) {
+            break; // after the last separator
+        }
+        pieces->push_back(pieceOf(line, layout));
+        if (endOf(line) == ends[static_cast<std::size_t>(pieces - result.pieces.begin())]) {
+            ++pieces;
+        }
         for (const QGlyphRun& run : line.glyphRuns()) {
             const QRawFont own = run.rawFont();
-            const QList<quint32> glyphs = run.glyphIndexes();
-            if (own != requested && std::ranges::all_of(glyphs, [&own](quint32 glyph) {
-                    return isNothing(own, glyph);
-                })) {
+            if (std::ranges::find(faces, own) != faces.end()) {
                 continue;
             }
-            result.ascent = std::max(result.ascent, ascentOf(run.rawFont()));
-            result.descent = std::max(result.descent, descentOf(run.rawFont()));
+            const QList<quint32> glyphs = run.glyphIndexes();
+            if (std::ranges::all_of(glyphs,
+                                    [&own](quint32 glyph) { return isNothing(own, glyph); })) {
+                continue; // a joiner from another face makes a row no higher
+            }
+            faces.push_back(own);
+            ascent = std::max(ascent, ascentOf(own));
+            descent = std::max(descent, descentOf(own));
         }
     }
-    for (const PlacedPiece& piece : piecesOf(layout)) {
-        result.pieces.push_back(piece.piece);
-    }
+    result.rowHeight = ascent + descent;
     return result;
+}
+
+double unbrokenWidth(const QString& text, const QFont& face) {
+    QTextLayout layout;
+    prepare(layout, setText(text, LineBreaks::Kept), face, 0);
+    return widestOf(linesOf(layout, widestLine));
 }
 
 } // namespace morrowleaf

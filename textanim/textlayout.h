@@ -10,6 +10,7 @@
 #include <QGlyphRun>
 #include <QPointF>
 #include <QRawFont>
+#include <QStringList>
 
 #include <vector>
 
@@ -66,15 +67,16 @@ QRawFont rawFace(const QFont& face);
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks);
 
-// The dimensions of a text without those of its glyphs, in the units of TextRow.
-// layOut() breaks a text that is wider than its `maxWidth` into
-// rowCount(pieces, maxWidth) rows.
-struct MeasuredText {
-    double width = 0; // of the widest line of the text
-    double ascent = 0;
-    double descent = 0;
-    std::vector<RowPiece> pieces;
+// Texts without their glyphs, in the units of TextRow.
+struct MeasuredTexts {
+    double rowHeight = 0; // of the highest row
+    // layOut() breaks a text that is wider than its `maxWidth` into
+    // rowCount(pieces, maxWidth) rows.
+    std::vector<std::vector<RowPiece>> pieces;
 };
-MeasuredText measureText(const QString& text, const QFont& face, double tracking = 0);
+MeasuredTexts measureTexts(const QStringList& texts, const QFont& face, double tracking = 0);
+
+// The width of the widest row of a text whose rows are not broken.
+double unbrokenWidth(const QString& text, const QFont& face);
 
 } // namespace morrowleaf

@@ -93,8 +93,8 @@ TEST(ColumnPlace, CentresAColumnThatFits) {
     EXPECT_EQ(place.top, 241);
     EXPECT_FALSE(place.overflows);
 
-    const double room = 2 * (927 - 8 - 491);
-    EXPECT_EQ(columnRoom(982, 53, 927, measure::leastSpace), room);
+    const double room = 2 * (927 - 16 - 491);
+    EXPECT_EQ(columnRoom(982, 53, 927), room);
     EXPECT_FALSE(placeColumn(room, 982, 53, 927).overflows);
     EXPECT_TRUE(placeColumn(room + 1, 982, 53, 927).overflows);
 }
@@ -102,8 +102,8 @@ TEST(ColumnPlace, CentresAColumnThatFits) {
 TEST(ColumnPlace, BeginsAColumnThatDoesNotFitBelowTheHeader) {
     const ColumnPlace place = placeColumn(20000, 982, 53, 927);
     EXPECT_TRUE(place.overflows);
-    EXPECT_EQ(place.top, 73);
-    EXPECT_EQ(place.bottom, 919);
+    EXPECT_EQ(place.top, 69);
+    EXPECT_EQ(place.bottom, 911);
 }
 
 TEST(ColumnPlace, SurvivesAViewWithoutRoom) {

@@ -3,7 +3,6 @@
 
 // How large a quotation is set, and where its lines end.
 #include "quotes/collection.h"
-#include "screen/quotationfit.h"
 #include "screen/quoteview.h"
 #include "tests/screen/sceneforscreens.h"
 #include "textanim/linebalancing.h"
@@ -19,6 +18,7 @@ using Element = QuoteView::Element;
 
 namespace {
 
+const QStringList faces{u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s};
 const QList<double> wishes{0.7, 0.9, 1.0, 1.1, 1.2, 1.27, 1.33, 1.4, 1.5, 1.6};
 const QString longText = u"A sentence that goes on and on. "_s.repeated(30);
 
@@ -33,6 +33,14 @@ double wishedSize(const QuoteViewState& state) {
     return 44 * screenScale(state.mainScreen->height()) * state.settings.sizeScale;
 }
 
+QStringList shownLines(const QuoteView& view) {
+    QStringList lines;
+    for (qsizetype i = 0; i < view.lineCount(); ++i) {
+        lines.append(view.lineText(i));
+    }
+    return lines;
+}
+
 // The lines of several words that are higher than one row.
 int wrappedLines(const QuoteView& view) {
     const ShapedText row(
@@ -44,39 +52,19 @@ int wrappedLines(const QuoteView& view) {
     return wrapped;
 }
 
+bool isBetweenHeaderAndHint(const QuoteView& view) {
+    constexpr double least = 14.5; // points, of which some are lost to whole pixels
+    return view.rect(Element::Mark).top() >= view.rect(Element::Today).bottom() + least &&
+           view.rect(Element::Author).bottom() <= view.rect(Element::Hint).top() - least;
+}
+
 } // namespace
-
-TEST(LargestFittingSize, IsTheWishedOneIfItFits) {
-    EXPECT_EQ(largestFittingSize(44.3, 12, [](double) { return true; }), 44.3);
-    EXPECT_EQ(largestFittingSize(9, 12, [](double) { return false; }), 9);
-    EXPECT_EQ(largestFittingSize(44.3, 12, [](double) { return false; }), 12);
-}
-
-TEST(LargestFittingSize, NeverShrinksWithTheWish) {
-    const auto fits = [](double size) { return size <= 37.3; };
-    double before = 0;
-    for (double wished = 20; wished < 70; wished += 0.07) {
-        const double size = largestFittingSize(wished, 12, fits);
-        EXPECT_TRUE(fits(size));
-        EXPECT_LE(size, wished);
-        EXPECT_GE(size, before) << wished;
-        before = size;
-    }
-    EXPECT_NEAR(before, 37.3, 1e-9);
-}
-
-// What fits in a large size is preferred to what fits in smaller ones only.
-TEST(LargestFittingSize, SearchesFromAbove) {
-    const auto fits = [](double size) { return (size > 29.8 && size <= 30.2) || size <= 20; };
-    EXPECT_NEAR(largestFittingSize(44, 12, fits), 30.2, 1e-9);
-    EXPECT_NEAR(largestFittingSize(25, 12, fits), 20, 1e-9);
-}
 
 TEST(QuotationSize, NeverShrinksWithTheWish) {
     int limited = 0;
     for (const QSizeF size : {QSizeF(1512, 982), QSizeF(2560, 1440)}) {
-        for (const QString& font : {u"fraunces"_s, u"mono"_s}) {
-            for (qsizetype i = 0; i < quoteCount; i += 8) {
+        for (const QString& font : faces) {
+            for (qsizetype i = 7; i < quoteCount; i += 16) {
                 QuoteViewState state = stateOf(size, font, quotes[static_cast<size_t>(i)]);
                 QuoteView view(state, shippedFonts());
                 double before = 0;
@@ -112,6 +100,69 @@ TEST(QuotationSize, NeverShrinksWithTheWishForLongTexts) {
     }
 }
 
+// Wishes from 60 to 160 percent, for texts that a tall screen cannot hold.
+TEST(QuotationSize, NeverShrinksWithTheWishForRepeatedTexts) {
+    const Quote quote = quotes[39];
+    for (const int times : {1, 10, 20, 40}) {
+        for (const QString& font : faces) {
+            QuoteViewState state = stateOf({2560, 1440}, font, quote);
+            state.quote.text = QStringList(times, quote.text).join(u' ');
+            QuoteView view(state, shippedFonts());
+            double before = 0;
+            for (int percent = 60; percent <= 160; percent += 4) {
+                state.settings.sizeScale = percent / 100.0;
+                view.update(state, 1);
+                EXPECT_GE(view.quoteSize(), before)
+                    << font.toStdString() << ' ' << times << ' ' << percent;
+                before = view.quoteSize();
+                if (before > measure::leastQuoteSize) {
+                    EXPECT_TRUE(isBetweenHeaderAndHint(view))
+                        << font.toStdString() << ' ' << times << ' ' << percent;
+                }
+            }
+        }
+    }
+}
+
+TEST(QuotationSize, DoesNotDependOnTheStyle) {
+    QuoteViewState state = stateOf({1512, 982}, u"serif"_s, {longText, u"Anonymous"_s});
+    const double size = QuoteView(state, shippedFonts()).quoteSize();
+    for (const TextAnim style : allTextAnims) {
+        state.settings.textAnimRaw = rawValue(style);
+        EXPECT_EQ(QuoteView(state, shippedFonts()).quoteSize(), size);
+    }
+}
+
+TEST(QuotationSize, HoldsTextsOfStrangeWords) {
+    const QString marks(7000, QChar(0x0301));
+    for (const QString& text : {u"ab c"_s + marks, u" "_s + marks + u"  b "_s, u"\n \n a"_s,
+                                u"   "_s, QString(QChar(0)) + u" a \u200B b"_s,
+                                u"abc \u202E def \u05D0\u05D1 ghi"_s.repeated(60)}) {
+        QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {text, text});
+        for (const double wish : {0.7, 1.6}) {
+            state.settings.sizeScale = wish;
+            EXPECT_TRUE(isBetweenHeaderAndHint(QuoteView(state, shippedFonts()))) << wish;
+        }
+    }
+}
+
+// Several words are measured at once, and no text for more lines than the column holds.
+TEST(QuotationSize, IsFoundWithFewMeasurements) {
+    for (const QString& text : {u"a "_s.repeated(4000), longText, longText.repeated(9),
+                                u"\uFDFD "_s.repeated(4000), QString(4000, u'w')}) {
+        QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {text, u"B"_s});
+        QuoteView view(state, shippedFonts());
+        const int first = view.work().measurements;
+        EXPECT_LE(first, 3 + 3 * view.lineCount()) << text.left(9).toStdString();
+        for (const double wish : wishes) {
+            state.settings.sizeScale = wish;
+            view.update(state, 1);
+        }
+        EXPECT_LE(view.work().measurements - first, 2 * view.lineCount())
+            << text.left(9).toStdString();
+    }
+}
+
 TEST(QuotationSize, FillsTheHeightWithLinesCutForIt) {
     for (const double wish : {1.0, 1.6}) {
         QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {longText, u"Anonymous"_s});
@@ -120,12 +171,8 @@ TEST(QuotationSize, FillsTheHeightWithLinesCutForIt) {
         ASSERT_LT(view.quoteSize(), 44);
         const QStringList lines =
             balancedLines(longText, wrapTarget(1512, 0, view.quoteSize() / 44));
-        ASSERT_EQ(view.lineCount(), lines.size());
-        for (qsizetype i = 0; i < lines.size(); ++i) {
-            EXPECT_EQ(view.lineText(i), lines[i]);
-        }
-        EXPECT_GE(view.rect(Element::Mark).top(), view.rect(Element::Today).bottom() + 7);
-        EXPECT_LE(view.rect(Element::Author).bottom(), view.rect(Element::Hint).top() - 7);
+        EXPECT_EQ(shownLines(view), lines);
+        EXPECT_TRUE(isBetweenHeaderAndHint(view));
     }
 }
 
@@ -157,16 +204,33 @@ TEST(QuotationSize, LetsAWordTooWideForTheColumnShrinkAllLines) {
 }
 
 TEST(BalancedLines, OfWideFacesLeaveNoWordOver) {
-    for (const QSizeF size : {QSizeF(1512, 982), QSizeF(2560, 1440)}) {
-        for (const QString& style : {u"fade"_s, u"handwrite"_s}) {
+    for (const QSizeF size : {QSizeF(1512, 982), QSizeF(2560, 1440), QSizeF(1280, 720)}) {
+        for (const double wish : {0.7, 1.0, 1.6}) {
             int wrapped = 0;
             for (const BuiltinQuote& quote : quotes) {
                 QuoteViewState state = stateOf(size, u"mono"_s, quote);
-                state.settings.textAnimRaw = style;
+                state.settings.sizeScale = wish;
                 wrapped += wrappedLines(QuoteView(state, shippedFonts())) > 0 ? 1 : 0;
             }
-            EXPECT_EQ(wrapped, 0) << size.width() << ' ' << style.toStdString();
+            EXPECT_EQ(wrapped, 0) << size.width() << ' ' << wish;
         }
+    }
+}
+
+TEST(BalancedLines, AreKeptWhereTheyFitExactly) {
+    for (const QString& font : faces.first(4)) { // not in the widest
+        QuoteViewState state = stateOf({1512, 982}, font, {longText.left(124).trimmed(), u"B"_s});
+        const QStringList lines = balancedLines(state.quote.text, 41);
+        double widest = 0;
+        for (const QString& line : lines) {
+            widest = std::max(widest,
+                              ShapedText(line, quoteFont(shippedFonts(), font, 44)).size().width());
+        }
+        state.mainScreen = QSizeF(1512, 982);
+        state.size.setWidth(widest + 180 + 1e-6);
+        EXPECT_EQ(shownLines(QuoteView(state, shippedFonts())), lines) << font.toStdString();
+        state.size.setWidth(widest + 180 - 0.1);
+        EXPECT_NE(shownLines(QuoteView(state, shippedFonts())), lines) << font.toStdString();
     }
 }
 
@@ -186,11 +250,7 @@ TEST(BalancedLines, AreCutForTheNextTargetThatFits) {
                 break;
             }
         }
-        QStringList shown;
-        for (qsizetype i = 0; i < view.lineCount(); ++i) {
-            shown.append(view.lineText(i));
-        }
-        EXPECT_EQ(shown, lines);
+        EXPECT_EQ(shownLines(view), lines);
     }
 }
 

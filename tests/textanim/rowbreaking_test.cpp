@@ -116,7 +116,8 @@ TEST(Rows, NeverEndInASingleCharacter) {
 
 TEST(Rows, AreTheSameInHandwritingAsInType) {
     const TextFont font = face(u"fraunces"_s);
-    for (const QString& text : {chinese, thai, longWord, chinese.left(5), u"a\nb"_s}) {
+    for (const QString& text : {chinese, thai, longWord, chinese.left(5), u"a\nb"_s,
+                                u"un\u00ADbe\u00ADliev\u00ADable "_s.repeated(3)}) {
         const TextOutline type = ShapedText(text, font, 0, 400).outline();
         const HandwrittenLine written = handwrittenLine(text, font, 400);
         EXPECT_EQ(rowLengths(written.text), rowLengths(type)) << text.toStdString();
@@ -139,17 +140,68 @@ TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
     EXPECT_GT(rowLengths(written.text).size(), 2U);
 }
 
-TEST(MeasuredText, TellsTheRowsOfALayout) {
+TEST(Rows, EndWithAHyphenWhereASoftOneBreaksThem) {
     const TextFont font = face(u"serif"_s);
-    for (const QString& text : {chinese, thai, longWord, u"two words"_s, u"a\nlong b"_s}) {
-        const MeasuredText measured = measureText(text, font.face);
-        for (const double width : {900.0, 2000.0, 4000.0, 9000.0}) {
-            const TextLayout layout = layOut(text, font.face, 0, width, LineBreaks::Kept);
-            EXPECT_EQ(rowCount(measured.pieces, width), layout.rows.size())
-                << text.toStdString() << ' ' << width;
+    const double unit = 44.0 / shapingSize;
+    const QString text = u"un\u00ADbe\u00ADliev\u00ADable"_s;
+    const double whole = unbrokenWidth(text, font.face);
+    EXPECT_NEAR(whole, unbrokenWidth(u"unbelievable"_s, font.face), 1);
+    const TextLayout layout = layOut(text, font.face, 0, 0.7 * whole, LineBreaks::Kept);
+    ASSERT_EQ(layout.rows.size(), 2U);
+    EXPECT_NEAR(layout.rows[0].width, unbrokenWidth(u"unbe-"_s, font.face), 1);
+    EXPECT_NEAR(layout.rows[1].width, unbrokenWidth(u"lievable"_s, font.face), 1);
+    EXPECT_EQ(layout.characterCount, 15);
+    // The hyphen is typed, the soft ones within the rows are not seen.
+    const TextOutline outline = ShapedText(text, font, 0, 0.7 * whole * unit).outline();
+    qsizetype characters = 0;
+    int visible = 0;
+    for (const OutlinePart& part : outline.parts) {
+        characters += part.characterCount;
+        visible += part.ink.outline.isEmpty() ? 0 : 1;
+    }
+    EXPECT_EQ(characters, 15);
+    EXPECT_LE(visible, 13);
+}
+
+TEST(MeasuredTexts, TellTheRowsOfALayout) {
+    const TextFont font = face(u"serif"_s);
+    const QStringList texts{chinese,
+                            u""_s,
+                            thai,
+                            longWord,
+                            u"two words"_s,
+                            u"a"_s,
+                            u"a\nlong b"_s,
+                            u"end\n"_s,
+                            u"\u200F\n\n"_s,
+                            u"co\u00ADi\u00ADi\u00ADi\u00ADtion"_s};
+    const MeasuredTexts measured = measureTexts(texts, font.face);
+    ASSERT_EQ(measured.pieces.size(), static_cast<std::size_t>(texts.size()));
+    double highest = 0;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const auto& pieces = measured.pieces[static_cast<std::size_t>(i)];
+        for (const double width : {819.0, 900.0, 2000.0, 4000.0, 9000.0, 1e6}) {
+            const TextLayout layout = layOut(texts[i], font.face, 0, width, LineBreaks::Kept);
+            EXPECT_EQ(rowCount(pieces, width), layout.rows.size())
+                << texts[i].toStdString() << ' ' << width;
+            const TextRow& row = layout.rows.front();
+            highest = std::max(highest, row.ascent + row.descent);
         }
-        const TextRow& row = layOut(text, font.face, 0, 1e6, LineBreaks::Kept).rows.front();
-        EXPECT_NEAR(measured.ascent, row.ascent, 1e-9);
-        EXPECT_NEAR(measured.descent, row.descent, 1e-9);
+    }
+    EXPECT_GE(measured.rowHeight, highest);
+}
+
+TEST(MeasuredTexts, AddUpToTheWidthInEveryDirection) {
+    const TextFont font = face(u"fraunces"_s);
+    for (const QString& text :
+         {u"If you can dream it"_s, u"abc \u05D0\u05D1\u05D2 \u05D3\u05D4\u05D5 def"_s,
+          u"\u05D0\u05D1 def \u05D2\u05D3"_s, u"un\u00ADbe\u00ADlievable"_s}) {
+        double width = 0;
+        const auto pieces = measureTexts({text}, font.face).pieces.front();
+        for (const RowPiece& piece : pieces) {
+            width += &piece == &pieces.back() ? piece.width : piece.advance;
+        }
+        const double expected = unbrokenWidth(text, font.face);
+        EXPECT_NEAR(width, expected, 0.01 * expected) << text.toStdString();
     }
 }
