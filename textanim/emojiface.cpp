@@ -63,8 +63,8 @@ QByteArray fontFile(const Tables& tables) {
 }
 
 // The file of a face with the glyphs of `face`, all without ink; empty if that cannot be
-// made. `glyph` is any of its glyphs.
-QByteArray withoutInk(const QRawFont& face, quint32 glyph, const QString& family) {
+// made. `advance` is that of `glyph`, in pixels.
+QByteArray withoutInk(const QRawFont& face, quint32 glyph, double advance, const QString& family) {
     Tables tables;
     for (const char* tag : {"head", "hhea", "hmtx", "maxp", "cmap", "GDEF", "GSUB", "OS/2"}) {
         const QByteArray table = face.fontTable(tag);
@@ -81,14 +81,12 @@ QByteArray withoutInk(const QRawFont& face, quint32 glyph, const QString& family
     }
     const auto widths = qFromBigEndian<quint16>(hhea.constData() + 34);
     const auto entry = 4 * qMin<qsizetype>(glyph, widths - 1);
-    const QList<QPointF> advance = face.advancesForGlyphIndexes({glyph});
-    if (entry < 0 || hmtx.size() < entry + 4 || advance.value(0).x() <= 0) {
+    if (entry < 0 || hmtx.size() < entry + 4 || advance <= 0) {
         return {};
     }
     // The bitmaps are not as wide as the file says: the em is adjusted to them.
     const auto units = qFromBigEndian<quint16>(hmtx.constData() + entry);
-    qToBigEndian(static_cast<quint16>(std::lround(units * size / advance[0].x())),
-                 head.data() + 18);
+    qToBigEndian(static_cast<quint16>(std::lround(units * size / advance)), head.data() + 18);
     qToBigEndian(quint16{0}, head.data() + 50); // the offsets in "loca" are of 16 bits
     const auto glyphs = qFromBigEndian<quint16>(maxp.constData() + 4);
     tables.insert("loca", QByteArray(2 * (glyphs + 1), '\0'));
@@ -101,13 +99,15 @@ QString registeredFamily() {
     const QRawFont face = installedFace();
     constexpr char32_t grinning = 0x1F600;
     const QList<quint32> glyph = face.glyphIndexesForString(QString::fromUcs4(&grinning, 1));
+    // First of all: after pathForGlyph() Qt no longer knows the advance of the bitmap.
+    const double advance = face.advancesForGlyphIndexes(glyph).value(0).x();
     const bool isColoured = face.supportsCharacter(grinning) && !glyph.isEmpty() &&
                             face.pathForGlyph(glyph[0]).isEmpty();
     if (!isColoured) {
         return {};
     }
     const QString family = u"Morrowleaf without ink"_s;
-    const QByteArray file = withoutInk(face, glyph[0], family);
+    const QByteArray file = withoutInk(face, glyph[0], advance, family);
     const bool isKnown = !file.isEmpty() && QFontDatabase::addApplicationFontFromData(file) >= 0;
     return isKnown ? family : face.familyName();
 }

@@ -79,8 +79,7 @@ QList<QTextLayout::FormatRange> formatsFor(const SetText& set, const QFont& font
 
 // A joiner that the face of the text lacks becomes a space of another face.
 bool isNothing(const QRawFont& face, quint32 glyph) {
-    return face.pathForGlyph(glyph).isEmpty() && face.boundingRect(glyph).isEmpty() &&
-           face.familyName() != emojiFamily();
+    return face.familyName() != emojiFamily() && face.boundingRect(glyph).isEmpty();
 }
 
 struct CharacterRange {

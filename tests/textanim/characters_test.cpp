@@ -84,6 +84,21 @@ TEST(Emoji, ComeFromOneColouredFace) {
     }
 }
 
+TEST(Emoji, StandBesideEachOther) {
+    for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
+        const ShapedText text(u"\U0001F600\U0001F600"_s, face(name));
+        const auto& parts = text.outline().parts;
+        if (!text.outline().hasPictures) {
+            GTEST_SKIP() << "no face with colour glyphs is installed";
+        }
+        ASSERT_EQ(parts.size(), 2U);
+        const QRectF first = parts[0].ink.pictures.at(0).place;
+        const QRectF second = parts[1].ink.pictures.at(0).place;
+        EXPECT_GE(second.left(), first.left() + 0.9 * first.width()) << name.toStdString();
+        EXPECT_LE(second.left(), first.left() + 1.5 * first.width()) << name.toStdString();
+    }
+}
+
 TEST(ControlCharacters, AreCountedAndNotDrawn) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
         const ShapedText clean(u"light"_s, face(name));
