@@ -36,7 +36,11 @@ check "and stays below the settings" test "$(convert "$work/above.png" \
 xdotool windowminimize "$id"
 "$MORROWLEAF" --settings
 must "asked for again it comes, wherever it was" focus_is "Morrowleaf Settings"
-xdotool set_num_desktops 2 set_desktop 1
+second_workspace() {
+    xdotool set_num_desktops 2 set_desktop 1
+    [ "$(xdotool get_desktop)" = 1 ]
+}
+must "there is a second workspace" second_workspace
 must "it stays on its workspace" not window
 # The window learns a moment later that it has lost the keyboard.
 comes_when_asked() { "$MORROWLEAF" --settings && until_true 2 focus_is "Morrowleaf Settings"; }
