@@ -19,4 +19,9 @@ inline const FontBook& shippedFonts() {
     return filled;
 }
 
+// One of the faces of quotations, in points.
+inline TextFont shippedFace(const QString& name, double size = 44) {
+    return quoteFont(shippedFonts(), name, size);
+}
+
 } // namespace morrowleaf

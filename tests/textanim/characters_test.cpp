@@ -21,12 +21,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-TextFont face(const QString& name) {
-    return quoteFont(shippedFonts(), name, 44);
-}
-
 double widthOf(const QString& text, double tracking) {
-    return ShapedText(text, face(u"mono"_s), tracking).size().width();
+    return ShapedText(text, shippedFace(u"mono"_s), tracking).size().width();
 }
 
 TEST(Tracking, TearsNoJoinedScriptApart) {
@@ -34,16 +30,16 @@ TEST(Tracking, TearsNoJoinedScriptApart) {
          {u"\u0633\u0644\u0627\u0645"_s, u"\u0928\u092E\u0938\u094D\u0924\u0947"_s,
           u"\u0995\u09B2\u09AE"_s, u"\u07D2\u07DE\u07CF"_s, u"\u0633\u0640\u0644\u0627\u0645"_s}) {
         EXPECT_EQ(widthOf(word, 9), widthOf(word, 0)) << word.toStdString();
-        EXPECT_EQ(ShapedText(word, face(u"mono"_s), 9).lastTracking(), 0);
+        EXPECT_EQ(ShapedText(word, shippedFace(u"mono"_s), 9).lastTracking(), 0);
         // Three letters, a space and no more.
         EXPECT_NEAR(widthOf(u"ABC "_s + word, 9), widthOf(u"ABC "_s + word, 0) + 4 * 9, 0.05);
     }
-    EXPECT_NEAR(ShapedText(u"ABC"_s, face(u"mono"_s), 9).lastTracking(), 9, 1e-9);
+    EXPECT_NEAR(ShapedText(u"ABC"_s, shippedFace(u"mono"_s), 9).lastTracking(), 9, 1e-9);
 }
 
 std::set<QString> facesOf(const QString& text, const QString& name) {
     std::set<QString> faces;
-    const TextLayout layout = layOut(text, face(name).face, 0, 0, LineBreaks::Kept);
+    const TextLayout layout = layOut(text, shippedFace(name).face, 0, 0, LineBreaks::Kept);
     for (const GlyphCluster& cluster : layout.rows.front().clusters) {
         for (const PlacedGlyph& glyph : cluster.glyphs) {
             faces.insert(glyph.face.familyName());
@@ -55,10 +51,11 @@ std::set<QString> facesOf(const QString& text, const QString& name) {
 // A joiner may come from another face, which makes the row no higher.
 TEST(Joiners, ChangeNothingButLigatures) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
-        const double height = ShapedText(u"fi"_s, face(name)).size().height();
+        const double height = ShapedText(u"fi"_s, shippedFace(name)).size().height();
         for (const QString& text : {u"f\u200Ci"_s, u"f\u200Di"_s}) {
-            EXPECT_EQ(ShapedText(text, face(name)).size().height(), height) << name.toStdString();
-            const MeasuredTexts measured = measureTexts({text}, face(name).face);
+            EXPECT_EQ(ShapedText(text, shippedFace(name)).size().height(), height)
+                << name.toStdString();
+            const MeasuredTexts measured = measureTexts({text}, shippedFace(name).face);
             EXPECT_NEAR(measured.rowHeight * 44 / shapingSize, height, 1e-9);
         }
     }
@@ -66,7 +63,7 @@ TEST(Joiners, ChangeNothingButLigatures) {
 
 TEST(Emoji, ComeFromOneColouredFace) {
     const QString known = u"\U0001F469\u200D\U0001F467"_s; // a joined one
-    if (!ShapedText(known, face(u"sans"_s)).outline().hasPictures) {
+    if (!ShapedText(known, shippedFace(u"sans"_s)).outline().hasPictures) {
         GTEST_SKIP() << "no face with colour glyphs is installed";
     }
     const std::set<QString> colour = facesOf(known, u"sans"_s);
@@ -76,7 +73,9 @@ TEST(Emoji, ComeFromOneColouredFace) {
              {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s, u"\U0001F44D\U0001F3FD"_s,
               u"\U0001F3F3\uFE0F\u200D\U0001F308"_s, u"\u263A\uFE0F"_s}) {
             EXPECT_EQ(facesOf(emoji, name), colour) << emoji.toStdString();
-            EXPECT_EQ(ShapedText(emoji, face(name)).outline().parts.front().ink.pictures.size(), 1U)
+            EXPECT_EQ(
+                ShapedText(emoji, shippedFace(name)).outline().parts.front().ink.pictures.size(),
+                1U)
                 << emoji.toStdString();
         }
         EXPECT_NE(facesOf(u"\u2764"_s, name), colour);
@@ -86,7 +85,7 @@ TEST(Emoji, ComeFromOneColouredFace) {
 
 TEST(Emoji, StandBesideEachOther) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
-        const ShapedText text(u"\U0001F600\U0001F600"_s, face(name));
+        const ShapedText text(u"\U0001F600\U0001F600"_s, shippedFace(name));
         const auto& parts = text.outline().parts;
         if (!text.outline().hasPictures) {
             GTEST_SKIP() << "no face with colour glyphs is installed";
@@ -101,22 +100,23 @@ TEST(Emoji, StandBesideEachOther) {
 
 TEST(ControlCharacters, AreCountedAndNotDrawn) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
-        const ShapedText clean(u"light"_s, face(name));
+        const ShapedText clean(u"light"_s, shippedFace(name));
         for (const char16_t control : {u'\1', u'\a', u'\x1B', u'\x7F', u'\x80', u'\x9F'}) {
-            const ShapedText text(u"li"_s + QChar(control) + u"ght"_s + QChar(control), face(name));
+            const ShapedText text(u"li"_s + QChar(control) + u"ght"_s + QChar(control),
+                                  shippedFace(name));
             EXPECT_EQ(text.size(), clean.size()) << name.toStdString() << ' ' << int(control);
             EXPECT_EQ(text.outline().ink, clean.outline().ink) << name.toStdString();
             EXPECT_EQ(text.outline().characterCount, 7);
         }
-        EXPECT_EQ(ShapedText(QString(QChar(1)), face(name)).size().width(), 0);
+        EXPECT_EQ(ShapedText(QString(QChar(1)), shippedFace(name)).size().width(), 0);
     }
 }
 
 TEST(ControlCharacters, BreakLinesWhereTheyMeanThat) {
-    const double row = ShapedText(u"a"_s, face(u"serif"_s)).size().height();
+    const double row = ShapedText(u"a"_s, shippedFace(u"serif"_s)).size().height();
     for (const char16_t control : {u'\v', u'\f', char16_t{0x85}}) {
         const QString text = u"a"_s + QChar(control) + u'b';
-        EXPECT_NEAR(ShapedText(text, face(u"serif"_s)).size().height(), 2 * row, 1e-6);
+        EXPECT_NEAR(ShapedText(text, shippedFace(u"serif"_s)).size().height(), 2 * row, 1e-6);
     }
 }
 
@@ -158,7 +158,7 @@ TEST(BegunLigature, IsTheLetterAloneInArabic) {
 // A joiner would load another face, since most faces have none.
 TEST(BegunLigature, NeedsNoOtherFace) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s}) {
-        const QFont font = face(name).face;
+        const QFont font = shippedFace(name).face;
         TextLayout layout = layOut(u"office"_s, font, 0, 0, LineBreaks::Kept);
         addBegunGlyphs(layout, u"office"_s, font);
         for (const GlyphCluster& cluster : layout.rows.front().clusters) {

@@ -19,10 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-TextFont face(const QString& name, double size = 44) {
-    return quoteFont(shippedFonts(), name, size);
-}
-
 const QString chinese = u"学而时习之不亦说乎有朋自远方来不亦乐乎人不知而不愠不亦君子乎"_s;
 const QString thai = u"ความพยายามอยู่ที่ไหนความสำเร็จอยู่ที่นั่นและวันใหม่เริ่มต้นเสมอ"_s;
 const QString longWord = u"Wort-fuer-Wort-und-Satz-fuer-Satz-waechst-ein-Buch-in-der-Stille"_s;
@@ -100,7 +96,7 @@ TEST(BreakRows, GivesAWidePieceARowOfItsOwn) {
 }
 
 TEST(Rows, NeverEndInASingleCharacter) {
-    const TextFont font = face(u"fraunces"_s);
+    const TextFont font = shippedFace(u"fraunces"_s);
     const double column = 10.5 * ShapedText(u"学"_s, font).size().width();
     QSet<std::size_t> counts;
     for (qsizetype length = 8; length <= chinese.size(); ++length) {
@@ -115,7 +111,7 @@ TEST(Rows, NeverEndInASingleCharacter) {
 }
 
 TEST(Rows, AreTheSameInHandwritingAsInType) {
-    const TextFont font = face(u"fraunces"_s);
+    const TextFont font = shippedFace(u"fraunces"_s);
     for (const QString& text : {chinese, thai, longWord, chinese.left(5), u"a\nb"_s,
                                 u"un\u00ADbe\u00ADliev\u00ADable "_s.repeated(3)}) {
         const TextOutline type = ShapedText(text, font, 0, 400).outline();
@@ -130,7 +126,7 @@ TEST(Rows, AreTheSameInHandwritingAsInType) {
 }
 
 TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
-    const HandwrittenLine written = handwrittenLine(longWord, face(u"fraunces"_s), 400);
+    const HandwrittenLine written = handwrittenLine(longWord, shippedFace(u"fraunces"_s), 400);
     double top = 0;
     for (const OutlinePart& part : written.text.parts) {
         const QRectF box = part.ink.outline.boundingRect();
@@ -141,7 +137,7 @@ TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
 }
 
 TEST(Rows, EndWithAHyphenWhereASoftOneBreaksThem) {
-    const TextFont font = face(u"serif"_s);
+    const TextFont font = shippedFace(u"serif"_s);
     const double unit = 44.0 / shapingSize;
     const QString text = u"un\u00ADbe\u00ADliev\u00ADable"_s;
     const double whole = unbrokenWidth(text, font.face);
@@ -164,7 +160,7 @@ TEST(Rows, EndWithAHyphenWhereASoftOneBreaksThem) {
 }
 
 TEST(MeasuredTexts, TellTheRowsOfALayout) {
-    const TextFont font = face(u"serif"_s);
+    const TextFont font = shippedFace(u"serif"_s);
     const QStringList texts{chinese,
                             u""_s,
                             thai,
@@ -192,7 +188,7 @@ TEST(MeasuredTexts, TellTheRowsOfALayout) {
 }
 
 TEST(MeasuredTexts, AddUpToTheWidthInEveryDirection) {
-    const TextFont font = face(u"fraunces"_s);
+    const TextFont font = shippedFace(u"fraunces"_s);
     for (const QString& text :
          {u"If you can dream it"_s, u"abc \u05D0\u05D1\u05D2 \u05D3\u05D4\u05D5 def"_s,
           u"\u05D0\u05D1 def \u05D2\u05D3"_s, u"un\u00ADbe\u00ADlievable"_s}) {
