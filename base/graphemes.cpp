@@ -147,14 +147,25 @@ QString drawnPart(const QString& text, qsizetype units) {
 bool isEmoji(QStringView character) {
     constexpr QChar textSelector(0xFE0E);
     constexpr QChar emojiSelector(0xFE0F);
-    UChar32 first = 0;
+    constexpr QChar joiner(0x200D);
+    const auto is = [](UChar32 code, UProperty property) {
+        return u_hasBinaryProperty(code, property) != 0;
+    };
+    UChar32 code = 0;
     qsizetype i = 0;
-    U16_NEXT(character.utf16(), i, character.size(), first);
-    if (character.contains(emojiSelector)) {
-        return u_hasBinaryProperty(first, UCHAR_EMOJI) != 0;
+    U16_NEXT(character.utf16(), i, character.size(), code);
+    if (!is(code, UCHAR_EMOJI) || character.contains(textSelector)) {
+        return false;
     }
-    return u_hasBinaryProperty(first, UCHAR_EMOJI_PRESENTATION) != 0 &&
-           !character.contains(textSelector);
+    // Joined emoji are often written without the selectors that they should have.
+    bool result = character.contains(emojiSelector) ||
+                  (character.contains(joiner) && is(code, UCHAR_EXTENDED_PICTOGRAPHIC)) ||
+                  is(code, UCHAR_EMOJI_PRESENTATION);
+    while (!result && i < character.size()) {
+        U16_NEXT(character.utf16(), i, character.size(), code);
+        result = is(code, UCHAR_EMOJI_PRESENTATION); // a skin tone, for one
+    }
+    return result;
 }
 
 bool hasMoreCharacters(QStringView text, int limit) {

@@ -99,6 +99,13 @@ SetText setText(const QString& text, LineBreaks breaks) {
         end = set.text.size();
         set.kinds.push_back(kind);
     }
+    for (std::size_t i = 1; i + 1 < set.kinds.size(); ++i) {
+        const bool isBetween =
+            set.kinds[i - 1] == CharacterKind::Joined && set.kinds[i + 1] == CharacterKind::Joined;
+        if (isBetween && set.text[set.ends[static_cast<qsizetype>(i)] - 1] == u' ') {
+            set.kinds[i] = CharacterKind::Joined; // the words of one script keep together
+        }
+    }
     return set;
 }
 

@@ -136,12 +136,15 @@ TEST(DrawnPart, BoundsEveryCharacterAndTheWhole) {
 }
 
 TEST(IsEmoji, FollowsThePresentation) {
-    for (const QString& emoji : {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s,
-                                 u"\U0001F1E9\U0001F1EA"_s, u"\U0001F44D\U0001F3FD"_s}) {
+    for (const QString& emoji :
+         {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s, u"\U0001F1E9\U0001F1EA"_s,
+          u"\U0001F44D\U0001F3FD"_s, u"\u261D\U0001F3FD"_s, u"\u2764\u200D\U0001F525"_s,
+          u"\U0001F575\u200D\u2642"_s, u"\U0001F3F3\u200D\U0001F308"_s}) {
         EXPECT_TRUE(isEmoji(emoji)) << emoji.toStdString();
     }
     for (const QString& text :
-         {u"\u2764"_s, u"\U0001F600\uFE0E"_s, u"1"_s, u"\u00A9"_s, u"e\uFE0F"_s, u"\u0BA8"_s}) {
+         {u"\u2764"_s, u"\U0001F600\uFE0E"_s, u"1"_s, u"\u00A9"_s, u"e\uFE0F"_s, u"\u0BA8"_s,
+          u"1\u200D"_s, u"\u2764\uFE0E\u200D\U0001F525"_s}) {
         EXPECT_FALSE(isEmoji(text)) << text.toStdString();
     }
 }

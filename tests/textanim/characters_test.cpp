@@ -33,6 +33,7 @@ TEST(Tracking, TearsNoJoinedScriptApart) {
         EXPECT_EQ(ShapedText(word, shippedFace(u"mono"_s), 9).lastTracking(), 0);
         // Three letters, a space and no more.
         EXPECT_NEAR(widthOf(u"ABC "_s + word, 9), widthOf(u"ABC "_s + word, 0) + 4 * 9, 0.05);
+        EXPECT_EQ(widthOf(word + u' ' + word, 9), widthOf(word + u' ' + word, 0));
     }
     EXPECT_NEAR(ShapedText(u"ABC"_s, shippedFace(u"mono"_s), 9).lastTracking(), 9, 1e-9);
 }
@@ -71,7 +72,8 @@ TEST(Emoji, ComeFromOneColouredFace) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s, u"rounded"_s, u"mono"_s}) {
         for (const QString& emoji :
              {u"\U0001F600"_s, u"\u2764\uFE0F"_s, u"1\uFE0F\u20E3"_s, u"\U0001F44D\U0001F3FD"_s,
-              u"\U0001F3F3\uFE0F\u200D\U0001F308"_s, u"\u263A\uFE0F"_s}) {
+              u"\U0001F3F3\uFE0F\u200D\U0001F308"_s, u"\u263A\uFE0F"_s, u"\u270C\U0001F3FD"_s,
+              u"\u2764\u200D\U0001F525"_s, u"\U0001F575\u200D\u2642"_s}) {
             EXPECT_EQ(facesOf(emoji, name), colour) << emoji.toStdString();
             EXPECT_EQ(
                 ShapedText(emoji, shippedFace(name)).outline().parts.front().ink.pictures.size(),
