@@ -223,6 +223,18 @@ RowPiece pieceOf(const QTextLine& line, const QTextLayout& layout) {
     return piece;
 }
 
+// Where no row ends a soft hyphen is not drawn, but Qt leaves room for it.
+SetText withoutSoftHyphens(const SetText& set) {
+    SetText result{{}, {}, set.kinds};
+    qsizetype begin = 0;
+    for (const qsizetype end : set.ends) {
+        result.text += set.text.mid(begin, end - begin).remove(QChar(QChar::SoftHyphen));
+        result.ends.append(result.text.size());
+        begin = end;
+    }
+    return result;
+}
+
 // The same text with a line separator at the end of each row but the last, in place
 // of white space there.
 SetText withRows(const SetText& set, const std::vector<qsizetype>& rowEnds) {
@@ -295,6 +307,11 @@ TextLayout layOut(const QString& text, const QFont& face, double tracking, doubl
     std::vector<QTextLine> lines = linesOf(layout, widestLine);
     if (maxWidth > 0 && widestOf(lines) > maxWidth) {
         set = brokenText(set, layout, maxWidth);
+    }
+    if (set.text.contains(QChar::SoftHyphen)) {
+        set = withoutSoftHyphens(set);
+    }
+    if (set.text != layout.text()) {
         prepare(layout, set, face, tracking);
         lines = linesOf(layout, widestLine);
     }
