@@ -44,10 +44,10 @@ int wrapTarget(std::optional<double> screenWidth, double sideInset, double scale
                          2 * measure::columnPadding;
     const double characters = width / (scale * measure::quoteSize * 0.55);
     // The comparison is false for NaN, which gives the smallest value.
-    if (!(characters > 16)) {
-        return 16;
+    if (!(characters > measure::leastTarget)) {
+        return measure::leastTarget;
     }
-    return static_cast<int>(std::min(characters, 48.0));
+    return static_cast<int>(std::min(characters, double{measure::mostTarget}));
 }
 
 QRectF contentBox(QSizeF view, double sideInset) {

@@ -13,8 +13,6 @@ namespace morrowleaf {
 
 namespace {
 
-constexpr int leastTarget = 16;
-constexpr int mostTarget = 48;
 constexpr double mostSize = 2000; // more than can be wished
 constexpr double unbounded = std::numeric_limits<double>::infinity();
 
@@ -46,7 +44,7 @@ QuotationFit::QuotationFit(const Texts& texts)
     }
     words_ = measureTexts(words, texts.face);
     measurements_ = 3;
-    for (int target = mostTarget; target >= leastTarget; --target) {
+    for (int target = measure::mostTarget; target >= measure::leastTarget; --target) {
         std::vector<qsizetype> lineEnds = balance_.lineEnds(target);
         if (cuts_.empty() || cuts_.back().lineEnds != lineEnds) {
             cuts_.push_back({.lineEnds = std::move(lineEnds)});

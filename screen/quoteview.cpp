@@ -83,7 +83,13 @@ public:
         return quote(measure::markSize * size / measure::quoteSize);
     }
     TextFont author(double scale) const { return caption(measure::authorSize * scale); }
-    TextFont overlay() const { return caption(measure::captionSize * scale_); }
+    TextFont overlay(double scale) const { return caption(measure::captionSize * scale); }
+    // The scale of what stands around a quotation of that size: the wished one, but no
+    // wish beyond the largest that can be chosen counts if the quotation cannot follow it.
+    double scaleAround(double size) const {
+        const double most = std::max(largestScale(), size / measure::quoteSize);
+        return size < wishedSize() ? std::min(scale_, most) : scale_;
+    }
 
 private:
     TextFont caption(double size) const {
@@ -120,17 +126,18 @@ void QuoteView::compose(double seconds) {
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
-    composeOverlays(metrics, box);
     cutOffUnseen(metrics);
     fitQuotation(metrics, width);
+    composeOverlays(metrics, box);
     composeLines(metrics, width, seconds);
     if (!closing_) {
         closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
     }
     layOut(mark_, {u"\u201C"_s, metrics.mark(fitted_.size)});
-    layOut(author_, {shownAuthor(state_.quote),
-                     metrics.author(surroundingScale(metrics.scale(), fitted_.size)),
-                     measure::authorTracking, width});
+    layOut(author_,
+           {shownAuthor(state_.quote),
+            metrics.author(surroundingScale(metrics.scaleAround(fitted_.size), fitted_.size)),
+            measure::authorTracking, width});
     layOut(sample_, {u"x"_s, metrics.quote(fitted_.size)});
     placeTexts(metrics, box);
 }
@@ -206,7 +213,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
 // The header row and the hint are scaled down when a large text scale leaves too
 // little width for them.
 void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
-    const TextFont font = metrics.overlay();
+    const TextFont font = metrics.overlay(metrics.scaleAround(fitted_.size));
     layOut(greeting_, {greeting(state_.moment), font});
     layOut(today_, {today(state_.moment, state_.locale), font, measure::dateTracking});
     layOut(hint_, {hintText(state_.sideInset), font, measure::hintTracking});
@@ -260,7 +267,7 @@ void QuoteView::placeTexts(const Metrics& metrics, const QRectF& box) {
     const double headerBottom =
         measure::headerTop + std::max(greeting_.rect().height(), today_.rect().height());
     const double hintTop = state_.size.height() - measure::hintBottom - hint_.rect().height();
-    const Column column = columnFor(metrics.scale(), headerBottom, hintTop);
+    const Column column = columnFor(metrics.scaleAround(fitted_.size), headerBottom, hintTop);
     place_ = placeColumn(column.height, state_.size.height(), headerBottom, hintTop);
 
     const double ratio = state_.devicePixelRatio;

@@ -100,6 +100,21 @@ TEST(QuotationSize, NeverShrinksWithTheWishForLongTexts) {
     }
 }
 
+// The settings file may hold more than can be chosen.
+TEST(QuotationSize, LeavesRoomForTheAuthorUnderAnyWish) {
+    for (const double wish : {1.6, 2.0, 5.0, 16.0}) {
+        QuoteViewState state = stateOf({2560, 1440}, u"fraunces"_s, quotes[39]);
+        state.settings.sizeScale = wish;
+        const QuoteView view(state, shippedFonts());
+        EXPECT_LE(view.rect(QuoteView::Element::Author).bottom(),
+                  view.rect(QuoteView::Element::Hint).top())
+            << wish;
+        EXPECT_LE(view.rect(QuoteView::Element::Greeting).right(),
+                  view.rect(QuoteView::Element::Today).left())
+            << wish;
+    }
+}
+
 // Wishes from 60 to 160 percent, for texts that a tall screen cannot hold.
 TEST(QuotationSize, NeverShrinksWithTheWishForRepeatedTexts) {
     const Quote quote = quotes[39];
