@@ -34,11 +34,19 @@ QString newPhotoName(const QString& source) {
            (extension.isEmpty() ? u"png"_s : extension);
 }
 
-void shutOffOthers(const QString& folder) {
+// Changes neither a folder that the user has put in place of `folder` by a link nor what
+// the user has put beside the photos.
+void shutOffOthers(const QString& folder, const QStringList& photos) {
+    if (QFileInfo(folder).isSymLink()) {
+        return;
+    }
     constexpr auto file = QFile::ReadOwner | QFile::WriteOwner;
     QFile::setPermissions(folder, file | QFile::ExeOwner);
-    for (const QFileInfo& own : QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
-        QFile::setPermissions(own.filePath(), file);
+    for (const QString& photo : photos) {
+        const QFileInfo own(photo);
+        if (own.absolutePath() == QDir(folder).absolutePath() && own.isFile() && !own.isSymLink()) {
+            QFile::setPermissions(photo, file);
+        }
     }
 }
 
@@ -62,7 +70,8 @@ BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
     if (ownFolder_.isEmpty()) {
         qFatal("There is no folder for the user's own photos.");
     }
-    shutOffOthers(ownFolder_);
+    workers_.start(
+        [folder = ownFolder_, own = Prefs::customBGs(store_)] { shutOffOthers(folder, own); });
 }
 
 BGStore::~BGStore() = default;

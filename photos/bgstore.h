@@ -32,9 +32,9 @@ class BGStore {
 public:
     static constexpr int limit = 3;
 
-    // Shuts others off from photos in `ownFolder` that an earlier version has left open.
-    // `workers` decode photos and must outlive the store. The program passes a pool of its
-    // own: Qt paints with the global one and would wait for a photo.
+    // Shuts others off, by and by, from the listed photos in `ownFolder` that an earlier
+    // version has left open. `workers` do this, decode photos and must outlive the store. The
+    // program passes a pool of its own: Qt paints with the global one and would wait for a photo.
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
             QThreadPool& workers = *QThreadPool::globalInstance());
     // Destroys the copy of an unfinished add() and does not call `done`.

@@ -77,6 +77,17 @@ protected:
     }
     QStringList listed() const { return Prefs::customBGs(store); }
     void list(const QStringList& paths) { store.set(K::customBGs, paths); }
+    // As the next start of the program does.
+    void startAgain() {
+        QThreadPool::globalInstance()->waitForDone();
+        photos = std::make_unique<BGStore>(store, QString(), own);
+        QThreadPool::globalInstance()->waitForDone();
+    }
+    static unsigned modeOf(const QString& file) {
+        struct stat info {};
+        EXPECT_EQ(::stat(qPrintable(file), &info), 0) << file.toStdString();
+        return info.st_mode & ALLPERMS;
+    }
 
     QTemporaryDir folder;
     SettingsStore store;
@@ -102,11 +113,6 @@ TEST_F(BGStoreTest, AddsACopyUnderANewName) {
 TEST_F(BGStoreTest, OwnPhotosAreForTheUserAlone) {
     const QString source = picture(u"photo.jpg"_s, "jpg");
     QFile::setPermissions(source, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    const auto modeOf = [](const QString& file) {
-        struct stat info {};
-        EXPECT_EQ(::stat(qPrintable(file), &info), 0) << file.toStdString();
-        return info.st_mode & ALLPERMS;
-    };
     const QString added = add(source);
     EXPECT_EQ(modeOf(added), 0600U);
     EXPECT_EQ(modeOf(own), 0700U);
@@ -114,10 +120,29 @@ TEST_F(BGStoreTest, OwnPhotosAreForTheUserAlone) {
     ASSERT_EQ(::chmod(qPrintable(own), 0755), 0);
     ASSERT_EQ(::chmod(qPrintable(added), 0644), 0);
     ASSERT_TRUE(QFile::link(source, own + u"/link.jpg"_s));
-    photos = std::make_unique<BGStore>(store, QString(), own);
+    list({added, own + u"/link.jpg"_s, source});
+    startAgain();
     EXPECT_EQ(modeOf(own), 0700U);
     EXPECT_EQ(modeOf(added), 0600U);
     EXPECT_EQ(modeOf(source), 0444U); // not in the folder
+}
+
+TEST_F(BGStoreTest, LeavesOpenWhatIsNotItsOwn) {
+    const QString added = add(picture(u"photo.png"_s));
+    const QString beside = own + u"/note.txt"_s;
+    ASSERT_TRUE(QFile::copy(textFile(u"note.txt"_s), beside));
+    ASSERT_EQ(::chmod(qPrintable(beside), 0644), 0);
+    startAgain();
+    EXPECT_EQ(modeOf(beside), 0644U);
+    // The user keeps the photos elsewhere.
+    const QString elsewhere = path(u"pictures"_s);
+    ASSERT_TRUE(QDir().rename(own, elsewhere));
+    ASSERT_TRUE(QFile::link(elsewhere, own));
+    ASSERT_EQ(::chmod(qPrintable(elsewhere), 0755), 0);
+    ASSERT_EQ(::chmod(qPrintable(added), 0644), 0);
+    startAgain();
+    EXPECT_EQ(modeOf(elsewhere), 0755U);
+    EXPECT_EQ(modeOf(added), 0644U);
 }
 
 TEST_F(BGStoreTest, GivesAFileWithoutExtensionTheNameOfAPng) {
