@@ -6,24 +6,29 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QStringList>
 
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString resourceFolder() {
-    const QString program = QCoreApplication::applicationDirPath();
-    QStringList candidates{program + "/../share/morrowleaf"_L1};
+QStringList placesOfResources(const QString& programFolder) {
+    QStringList places{QDir::cleanPath(programFolder + "/../share/morrowleaf"_L1)};
     constexpr int deepestBuildFolder = 5;
-    QString up = program;
+    QString up = programFolder;
     for (int i = 0; i < deepestBuildFolder; ++i) {
-        up += "/.."_L1;
-        candidates << up + "/resources"_L1;
+        up = QDir::cleanPath(up + "/.."_L1);
+        if (QDir(up).isRoot()) {
+            break;
+        }
+        places << up + "/resources"_L1;
     }
-    for (const QString& candidate : candidates) {
-        if (QFileInfo(candidate + "/Fonts"_L1).isDir()) {
-            return QDir::cleanPath(candidate);
+    return places;
+}
+
+QString resourceFolder() {
+    for (const QString& place : placesOfResources(QCoreApplication::applicationDirPath())) {
+        if (QFileInfo(place + "/Fonts"_L1).isDir()) {
+            return place;
         }
     }
     return {};

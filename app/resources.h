@@ -4,8 +4,13 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace morrowleaf {
+
+// Where the resources of a program in `programFolder` (absolute) can be, the likeliest
+// place first; never in the root folder.
+QStringList placesOfResources(const QString& programFolder);
 
 // The folder of the program's resources: beside an installed binary, or in the source
 // tree for one that was just built. Empty if there is none. Needs an application object.

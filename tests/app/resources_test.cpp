@@ -4,14 +4,27 @@
 #include "app/resources.h"
 
 #include <QFileInfo>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 TEST(Resources, AreFoundInTheSourceTree) {
     EXPECT_TRUE(QFileInfo(fontFolder()).isDir());
     EXPECT_TRUE(QFileInfo(backgroundFolder()).isDir());
+}
+
+TEST(Resources, AreNeverLookedForInTheRootFolder) {
+    EXPECT_EQ(placesOfResources(u"/usr/bin"_s),
+              QStringList({u"/usr/share/morrowleaf"_s, u"/usr/resources"_s}));
+    EXPECT_EQ(placesOfResources(u"/a/b/c/d/e/f/g"_s),
+              QStringList({u"/a/b/c/d/e/f/share/morrowleaf"_s, u"/a/b/c/d/e/f/resources"_s,
+                           u"/a/b/c/d/e/resources"_s, u"/a/b/c/d/resources"_s,
+                           u"/a/b/c/resources"_s, u"/a/b/resources"_s}));
 }
 
 TEST(Resources, WithoutAFolderNothingIsLookedForElsewhere) {
