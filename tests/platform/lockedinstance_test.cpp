@@ -4,6 +4,7 @@
 #include "platform/shared/lockedinstance.h"
 #include "platform/shared/socketchannel.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -190,6 +191,10 @@ TEST_F(LockedInstanceTest, ReadsARequestOfALaunchThatIsGone) {
 TEST_F(LockedInstanceTest, DropsManySilentClients) {
     Launch first(dir.path());
     EXPECT_TRUE(first.claim(toShow));
+    const auto descriptors = [] {
+        return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
+    };
+    const qsizetype before = descriptors();
     std::vector<std::unique_ptr<QLocalSocket>> silent;
     for (int i = 0; i < 200; ++i) {
         silent.push_back(std::make_unique<QLocalSocket>());
@@ -202,6 +207,8 @@ TEST_F(LockedInstanceTest, DropsManySilentClients) {
         });
     };
     EXPECT_TRUE(QTest::qWaitFor([&] { return connected() <= 64; }));
+    // Both ends of a connection are in this process.
+    EXPECT_LE(descriptors() - before, 2 * 64);
     EXPECT_FALSE(Launch(dir.path()).claim(toShow));
     EXPECT_EQ(first.requests.size(), 1);
 }
