@@ -47,16 +47,19 @@ TEST(GlassLoader, OnlyTheLastPictureCounts) {
     EXPECT_EQ(made.size(), 1);
 }
 
-TEST(GlassLoader, EmitsNothingOnceDestroyed) {
+TEST(GlassLoader, EmitsNothingAndKeepsNothingOnceDestroyed) {
     int made = 0;
+    const QImage desktop = picture(0xFF123456);
     {
         GlassLoader loader(*QThreadPool::globalInstance());
         QObject::connect(&loader, &GlassLoader::made, [&made] { ++made; });
-        loader.setPicture(picture(0xFF123456), 1);
+        loader.setPicture(desktop, 1);
+        EXPECT_FALSE(desktop.isDetached());
         QThreadPool::globalInstance()->waitForDone(); // its result is queued, not delivered
     }
     QCoreApplication::processEvents();
     EXPECT_EQ(made, 0);
+    EXPECT_TRUE(desktop.isDetached()) << "something still has its pixels";
 }
 
 } // namespace
