@@ -31,8 +31,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <ctime>
-
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
@@ -104,11 +102,6 @@ protected:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         }
         return condition();
-    }
-    static double cpuMilliseconds() {
-        timespec now{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-        return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
     }
     void listOwn(const QStringList& paths) { store.set(K::customBGs, paths); }
     bool readoutIs(const QString& name, const QString& text) {

@@ -3,8 +3,6 @@
 
 #include "tests/settingsui/settingsviewfixture.h"
 
-#include <ctime>
-
 namespace morrowleaf {
 namespace {
 
@@ -46,8 +44,14 @@ TEST_F(SettingsViewTest, ALongResultIsCutAfterSixHundredAndAHundredCharacters) {
     const QString family = u"👨‍👩‍👧"_s;
     EXPECT_TRUE(result(family.repeated(601), u"Nobody"_s) ==
                 u"“"_s + family.repeated(600) + u"…” — Nobody"_s);
-    // One character may have any number of marks, and is cut as well.
-    EXPECT_LT(result(u'e' + QString(1'000'000, QChar(0x301)), u"Nobody"_s).size(), 20'000);
+    // One character may have any number of marks, of which few are drawn.
+    const QString marked = u'e' + QString(300, QChar(0x301));
+    const QString tibetan = QChar(0x0F40) + QString(5000, QChar(0x0F90));
+    EXPECT_LT(result(u'e' + QString(1'000'000, QChar(0x301)), u"Nobody"_s).size(), 50);
+    for (const QString& text : {marked, tibetan}) {
+        EXPECT_LT(result(text, u"Nobody"_s).size(), 50);
+        EXPECT_LT(result(text.repeated(200), u"Nobody"_s).size(), 200 * 20 + 50);
+    }
     const QString marks = QString::fromUcs4(U"\U000E0100").repeated(14);
     EXPECT_TRUE(result((u'e' + marks).repeated(600), u'e' + marks).isValidUtf16());
 }
@@ -62,31 +66,6 @@ TEST_F(SettingsViewTest, TheResultIsReadAsItIsShown) {
     };
     EXPECT_TRUE(read(label, QAccessible::Name) == label->text());
     EXPECT_TRUE(read(button(u"Test"_s), QAccessible::Description) == label->text());
-}
-
-// The CPU time of this thread, in milliseconds, until a result is shown.
-TEST_F(SettingsViewTest, NoResultCostsMuchMoreThanALongOne) {
-    const auto cost = [&](const QString& text) {
-        view().test();
-        timespec before{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &before);
-        answer(Quote{text, u"Nobody"_s});
-        QCoreApplication::processEvents();
-        view().grab();
-        timespec after{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &after);
-        return static_cast<double>(after.tv_sec - before.tv_sec) * 1e3 +
-               static_cast<double>(after.tv_nsec - before.tv_nsec) / 1e6;
-    };
-    const QString tibetan = QChar(0x0F40) + QString(5000, QChar(0x0F90));
-    cost(u"e"_s + tibetan); // loads the faces
-    const double ordinary = cost(u"Some words of one quotation, "_s.repeated(25));
-    for (const QString& text : {QString(4'000'000, u'x'), u"words "_s.repeated(700'000), tibetan,
-                                u'e' + QString(20'000, QChar(0x301)),
-                                (u'e' + QString(300, QChar(0x301))).repeated(200)}) {
-        const double spent = cost(text);
-        EXPECT_LT(spent, 5 * ordinary + 50);
-    }
 }
 
 // The widths of the rows in which a label is drawn, in device pixels.
