@@ -6,33 +6,30 @@
 
     manpagecheck.py REPOSITORY
 
-A variable is read by name in a call, or its name is a constant that such a call takes.
+A variable is read by a call that names it or a constant with its name.
 """
 import pathlib
 import re
 import sys
 
-READ = re.compile(r"\b(?:qgetenv|qEnvironmentVariable\w*)\((?:[^()\"]*)\"(\w+)\"")
-BY_CONSTANT = re.compile(r"\b(?:qgetenv|qEnvironmentVariable\w*)\((\w+)[,)]")
-CHOICE = re.compile(r"\b(?:qgetenv|qEnvironmentVariable\w*)\([^()\"]*\"(\w+)\" : \"(\w+)\"")
+CALL = re.compile(r"\b(?:q?getenv|secure_getenv|qEnvironmentVariable\w*)\(([^)]*)\)")
 # What the system sets for this one process, and nobody sets by hand.
 INTERNAL = {"DBUS_STARTER_BUS_TYPE"}
+NO_ROOMS = {"tests", "tools", "bench"}  # these read variables of their own
 
 
 def variables_in(source):
-    found = set(READ.findall(source))
-    for pair in CHOICE.findall(source):
-        found.update(pair)
-    for constant in BY_CONSTANT.findall(source):
-        found.update(re.findall(rf"\b{constant} = \"(\w+)\"", source))
-    return found
+    arguments = " ".join(CALL.findall(source))
+    constants = re.findall(r"(\w+) = \"([A-Z]\w*)\"", source)
+    return set(re.findall(r"\"([A-Z]\w*)\"", arguments)) | {
+        value for name, value in constants if re.search(rf"\b{name}\b", arguments)}
 
 
 def main():
     root = pathlib.Path(sys.argv[1])
-    # The rooms; tests and tools read variables of their own.
-    sources = [path for pattern in ("*.cpp", "*.h") for path in root.rglob(pattern)
-               if path.relative_to(root).parts[0] not in ("tests", "tools", "bench", "build")]
+    rooms = {file.parent for file in root.glob("*/CMakeLists.txt")
+             if file.parent.name not in NO_ROOMS}
+    sources = [path for room in rooms for path in room.rglob("*.[ch]*")]
     read = set().union(*(variables_in(path.read_text()) for path in sources)) - INTERNAL
     page = (root / "packaging/morrowleaf.1").read_text()
     missing = [name for name in sorted(read) if not re.search(rf"^\.B.*\b{name}\b", page, re.M)]
