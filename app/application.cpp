@@ -50,7 +50,7 @@ constexpr std::chrono::milliseconds endLimit{800};
 // The toolkit reports every damaged photo and every missing glyph. Such reports appear
 // only if the user switches on a category of Qt's logging.
 bool isLoggingOn() {
-    return !qEnvironmentVariableIsEmpty("QT_LOGGING_RULES") ||
+    return qEnvironmentVariable("QT_LOGGING_RULES").remove(u' ').contains("=true"_L1) ||
            !qEnvironmentVariableIsEmpty("QT_LOGGING_CONF");
 }
 

@@ -59,6 +59,11 @@ unset QT_LOGGING_RULES
 check "without logging it shows the quotation" start_with_photo
 check "and ends with status 0" quits "$last"
 check "and says nothing" not test -s "$work/photo.log"
+export QT_LOGGING_RULES='*.debug=false'
+check "with a category switched off it shows the quotation" start_with_photo
+check "and ends with status 0" quits "$last"
+check "and says nothing" not test -s "$work/photo.log"
+unset QT_LOGGING_RULES
 
 settings '{"dismissSeconds": 600, "quoteFrequency": "6h"}'
 n=$(maps)
