@@ -4,6 +4,7 @@
 // How large a quotation is set, and where its lines end.
 #include "quotes/collection.h"
 #include "screen/quoteview.h"
+#include "tests/fakes/glyphs.h"
 #include "tests/screen/sceneforscreens.h"
 #include "textanim/linebalancing.h"
 
@@ -86,6 +87,7 @@ TEST(QuotationSize, NeverShrinksWithTheWish) {
 TEST(QuotationSize, NeverShrinksWithTheWishForLongTexts) {
     for (const QString& text : {longText, u"学而时习之不亦说乎"_s.repeated(40),
                                 u"A-"_s.repeated(400), longText.left(500)}) {
+        EXPECT_TRUE(hasGlyphs(text, shippedFace(u"serif"_s)));
         for (const QString& style : {u"fade"_s, u"handwrite"_s}) {
             QuoteViewState state = stateOf({1512, 982}, u"serif"_s, {text, u"Anonymous"_s});
             state.settings.textAnimRaw = style;
@@ -276,6 +278,7 @@ TEST(TextWithoutSpaces, IsWrittenAsItIsSet) {
     QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {text, u"孔子"_s});
     const QuoteView type(state, shippedFonts());
     ASSERT_EQ(type.lineCount(), 1);
+    EXPECT_TRUE(hasGlyphs(text, shippedFace(u"fraunces"_s)));
     for (const QString& style : {u"handwrite"_s, u"typewriter"_s, u"rise"_s, u"blur"_s}) {
         state.settings.textAnimRaw = style;
         const QuoteView view(state, shippedFonts());

@@ -3,12 +3,17 @@
 
 #include "textanim/rowbreaking.h"
 
+#include "tests/fakes/glyphs.h"
 #include "tests/fakes/shippedfonts.h"
 #include "textanim/handwriting.h"
+#include "textanim/pentrace.h"
+#include "textanim/revealline.h"
 #include "textanim/shapedtext.h"
 #include "textanim/textlayout.h"
 #include "textanim/textoutline.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QSet>
 #include <gtest/gtest.h>
 
@@ -93,6 +98,14 @@ TEST(BreakRows, KeepsTheBreaksOfTheText) {
 TEST(BreakRows, GivesAWidePieceARowOfItsOwn) {
     const std::vector<RowPiece> pieces{{1, 1}, {9, 9}, {1, 1}};
     EXPECT_EQ(breakRows(pieces, 3), (std::vector<std::size_t>{1, 2, 3}));
+}
+
+TEST(Rows, AreTestedWithFacesThatHaveTheScripts) {
+    for (const QString& name : {u"fraunces"_s, u"serif"_s}) {
+        EXPECT_TRUE(hasGlyphs(chinese, shippedFace(name))) << name.toStdString();
+        EXPECT_TRUE(hasGlyphs(thai, shippedFace(name))) << name.toStdString();
+    }
+    EXPECT_FALSE(hasGlyphs(QString(QChar(0xFDD0)), shippedFace(u"serif"_s)));
 }
 
 TEST(Rows, NeverEndInASingleCharacter) {
