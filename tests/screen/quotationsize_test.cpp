@@ -117,6 +117,31 @@ TEST(QuotationSize, LeavesRoomForTheAuthorUnderAnyWish) {
     }
 }
 
+TEST(QuotationSize, NeverShrinksWithTheWishForLongAuthors) {
+    const QString names = u"The Society of the Friends of Long Names, "_s.repeated(24);
+    const QString wideWords = (QString(106, u'm') + u' ').repeated(9);
+    int limited = 0;
+    for (const QSizeF size : {QSizeF(800, 600), QSizeF(1512, 982), QSizeF(2560, 1440)}) {
+        for (const QString& author : {names, wideWords}) {
+            for (const QString& font : {u"fraunces"_s, u"mono"_s}) {
+                QuoteViewState state = stateOf(size, font, {quotes[39].text, author});
+                QuoteView view(state, shippedFonts());
+                double before = 0;
+                for (const double wish : wishes) {
+                    state.settings.sizeScale = wish;
+                    view.update(state, 1);
+                    EXPECT_GE(view.quoteSize(), before)
+                        << size.width() << ' ' << author.left(3).toStdString() << ' '
+                        << font.toStdString() << ' ' << wish;
+                    before = view.quoteSize();
+                }
+                limited += before < wishedSize(state) - 1 ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(limited, 4);
+}
+
 // Wishes from 60 to 160 percent, for texts that a tall screen cannot hold.
 TEST(QuotationSize, NeverShrinksWithTheWishForRepeatedTexts) {
     const Quote quote = quotes[39];
