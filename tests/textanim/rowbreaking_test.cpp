@@ -48,6 +48,34 @@ std::vector<qsizetype> rowLengths(const TextOutline& text) {
     return lengths;
 }
 
+// The highest alpha in each of `rows` strips of equal height.
+std::vector<int> darkestPixels(const RevealLine& line, double seconds, int rows) {
+    constexpr int scale = 2;
+    const QSizeF size = scale * line.size();
+    QImage picture(size.toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    line.paint(painter, {0, 0}, seconds);
+    std::vector<int> darkest(static_cast<std::size_t>(rows), 0);
+    for (int y = 0; y < picture.height(); ++y) {
+        int& most = darkest[static_cast<std::size_t>(y * rows / picture.height())];
+        for (int x = 0; x < picture.width(); ++x) {
+            most = std::max(most, qAlpha(picture.pixel(x, y)));
+        }
+    }
+    return darkest;
+}
+
+// Where the pen is after a share of its way, in points from the top.
+double penHeight(const HandwrittenLine& line, double share) {
+    const PenTrace trace = penTrace(wholePath(line.text), 10);
+    const auto at = std::ranges::find_if(trace.stretches, [&](const PenStretch& stretch) {
+        return stretch.begin + stretch.length >= share * trace.length;
+    });
+    return at->points.boundingRect().center().y();
+}
+
 } // namespace
 
 TEST(BreakRows, KeepsOneRowThatFits) {
@@ -139,14 +167,31 @@ TEST(Rows, AreTheSameInHandwritingAsInType) {
 }
 
 TEST(Rows, OfHandwritingAreWrittenOneAfterAnother) {
-    const HandwrittenLine written = handwrittenLine(longWord, shippedFace(u"fraunces"_s), 400);
-    double top = 0;
-    for (const OutlinePart& part : written.text.parts) {
-        const QRectF box = part.ink.outline.boundingRect();
-        EXPECT_GE(box.bottom(), top);
-        top = std::max(top, box.top() - 44);
+    const TextFont font = shippedFace(u"fraunces"_s);
+    const RevealLine line({longWord, 0, TextAnim::Handwrite, font, font, Qt::white, {}, 400});
+    const HandwrittenLine written = handwrittenLine(longWord, font, 400);
+    const auto rows = static_cast<int>(rowLengths(written.text).size());
+    ASSERT_GT(rows, 2);
+    QSet<int> penRows;
+    for (const double share : {0.3, 0.6, 0.9}) {
+        double seconds = 0;
+        while (penProgress(seconds).traced < share) {
+            seconds += 0.001;
+        }
+        const auto darkest = darkestPixels(line, line.delay() + seconds, rows);
+        const int penRow =
+            static_cast<int>(penHeight(written, share) / line.size().height() * rows);
+        penRows.insert(penRow);
+        for (int row = 0; row < penRow; ++row) {
+            EXPECT_GT(darkest[static_cast<std::size_t>(row)], 200) << share << ' ' << row;
+        }
+        // At the end of the tracing all letters slowly fill with ink.
+        const double ink = 255 * penProgress(seconds).ink;
+        for (int row = penRow + 1; row < rows; ++row) {
+            EXPECT_LE(darkest[static_cast<std::size_t>(row)], ink + 1) << share << ' ' << row;
+        }
     }
-    EXPECT_GT(rowLengths(written.text).size(), 2U);
+    EXPECT_EQ(penRows.size(), 3);
 }
 
 TEST(Rows, LeaveNoRoomForSoftHyphensWithinThem) {
