@@ -7,9 +7,10 @@
 
 namespace morrowleaf {
 
-// Reports that the desktop has a tray for status items. Qt looks for a tray only once, and
-// waits for the message bus then, so create a status item only after appeared(). Main
-// thread.
+// Reports that the desktop has a tray for status items. Qt looks for a tray only once, on
+// the main thread and over the message bus, so create a status item only after appeared():
+// whoever Qt asks has answered shortly before. Never emitted beside a bus that does not
+// answer, not even for a tray that needs no bus. Main thread.
 class TrayHost : public QObject {
     Q_OBJECT
 

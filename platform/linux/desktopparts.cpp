@@ -16,14 +16,16 @@ namespace morrowleaf {
 
 namespace {
 
-// Qt asks the session bus for a tray first, also where the X server has one.
+// Qt asks the session bus for a tray first, also where the X server has one. So a tray
+// of the X server has no item beside a bus that never answers, or while the watcher of
+// the status notifiers hangs.
 class EitherTray final : public TrayHost {
 public:
     explicit EitherTray(const std::shared_ptr<const BusLink>& session)
         : notifier_(session) {
         connect(&notifier_, &TrayHost::appeared, this, &TrayHost::appeared);
         connect(
-            session.get(), &BusLink::decided, this,
+            &notifier_, &NotifierHost::settled, this,
             [this] {
                 x11_ = makeX11Tray();
                 connect(x11_.get(), &TrayHost::appeared, this, &TrayHost::appeared);
@@ -33,7 +35,7 @@ public:
 
 private:
     NotifierHost notifier_;
-    std::unique_ptr<TrayHost> x11_; // null until it is known whether there is a bus
+    std::unique_ptr<TrayHost> x11_; // null until Qt would not wait for the bus
 };
 
 class DesktopRequests final : public RequestListener {

@@ -162,6 +162,31 @@ check "it ends with status 0 beside a bus that has stopped" test $? -eq 0
 check "within a second" test $(($(milliseconds) - begun)) -le 1000
 kill -CONT "$bus_pid"
 
+# The toolkit would wait for 25 seconds.
+answers_in_time() {
+    local begun
+    begun=$(milliseconds)
+    settle
+    [ $(($(milliseconds) - begun)) -lt 10000 ]
+}
+start host /usr/bin/python3 "$here/notifierhost.py" serve
+host=$last
+until_true 60 grep -q serving "$work/host.log" || die "no watcher of status notifiers"
+n=$(maps)
+kill -STOP "$host"
+start app "$MORROWLEAF"
+app=$last
+must "beside a watcher of status notifiers that hangs it shows the quotation" opened_since "$n"
+check "and has its name, and goes on" answers_in_time
+check "without a symbol in the other tray" not has_symbol
+kill -9 "$host"
+must "which gets it once that has ended" has_symbol
+stop "$app"
+
+# connections SOCKET: how many there are, including the socket that listens
+connections() { grep -c " $1\$" /proc/net/unix; }
+more_connections() { [ "$(connections "$1")" -gt "$2" ]; }
+
 # At a busy login a bus may need a while for its first answer.
 start monitor dbus-monitor --session "member='NameHasOwner',arg0='org.a11y.Bus'"
 until_true 60 grep -q NameLost "$work/monitor.log" || die "no monitor"

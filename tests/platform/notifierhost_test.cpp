@@ -5,8 +5,10 @@
 
 #include "tests/platform/privatebus.h"
 
+#include <QDBusVirtualObject>
 #include <QSignalSpy>
 
+#include <atomic>
 #include <memory>
 
 namespace morrowleaf {
@@ -43,22 +45,49 @@ private:
     bool hasHost_;
 };
 
+// A watcher that takes calls and answers none.
+class HangingWatcher : public QDBusVirtualObject {
+public:
+    HangingWatcher() {
+        service_.bus.registerVirtualObject(u"/StatusNotifierWatcher"_s, this);
+        EXPECT_TRUE(service_.bus.registerService(u"org.kde.StatusNotifierWatcher"_s));
+    }
+
+    QString introspect(const QString& /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage& /*message*/,
+                       const QDBusConnection& /*connection*/) override {
+        wasAsked = true;
+        return true;
+    }
+
+    std::atomic<bool> wasAsked = false;
+
+private:
+    FakeService service_{{}};
+};
+
 class NotifierHostTest : public testing::Test {
 protected:
     void start() {
         const auto session = sessionLink();
         host = std::make_unique<NotifierHost>(session);
         appearances = std::make_unique<QSignalSpy>(host.get(), &TrayHost::appeared);
+        settlements = std::make_unique<QSignalSpy>(host.get(), &NotifierHost::settled);
         session->open();
     }
     bool appears() {
         return becomesTrue([this] { return appearances->size() == 1; });
     }
 
+    bool settles() {
+        return becomesTrue([this] { return settlements->size() == 1; });
+    }
+
     PrivateBus daemon;
     std::unique_ptr<FakeWatcher> watcher;
     std::unique_ptr<NotifierHost> host;
     std::unique_ptr<QSignalSpy> appearances;
+    std::unique_ptr<QSignalSpy> settlements;
 };
 
 TEST_F(NotifierHostTest, IsPresentWhereAHostHasRegistered) {
@@ -91,6 +120,32 @@ TEST_F(NotifierHostTest, AppearsOnceMoreOnABusThatComesBack) {
     daemon.start();
     watcher = std::make_unique<FakeWatcher>(true);
     EXPECT_TRUE(becomesTrue([this] { return appearances->size() == 2; }));
+}
+
+TEST_F(NotifierHostTest, SettlesWhereNobodyHasToBeAskedAgain) {
+    start();
+    EXPECT_TRUE(settles()) << "without a watcher";
+    watcher = std::make_unique<FakeWatcher>(false);
+    start();
+    EXPECT_TRUE(settles()) << "without a host";
+    EXPECT_EQ(watcher->timesAsked, 1);
+    watcher->registerHost();
+    start();
+    EXPECT_TRUE(settles()) << "with a host";
+    EXPECT_EQ(appearances->size(), 1);
+    daemon.stop();
+    start();
+    EXPECT_TRUE(settles()) << "without a bus";
+}
+
+TEST_F(NotifierHostTest, DoesNotSettleWhileTheWatcherHangs) {
+    auto hanging = std::make_unique<HangingWatcher>();
+    start();
+    EXPECT_TRUE(becomesTrue([&] { return hanging->wasAsked.load(); }));
+    EXPECT_EQ(settlements->size(), 0);
+    hanging.reset();
+    EXPECT_TRUE(settles());
+    EXPECT_EQ(appearances->size(), 0);
 }
 
 } // namespace

@@ -25,6 +25,7 @@ BusService::BusService(const QString& name, QObject* parent)
 }
 
 void BusService::follow(const QDBusConnection& bus) {
+    constexpr auto noOwner = "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
     bus_ = bus;
     owner_.clear();
     watcher_.setConnection(bus);
@@ -33,6 +34,8 @@ void BusService::follow(const QDBusConnection& bus) {
                  [this](const QDBusPendingReply<QString>& reply) {
                      if (reply.isValid()) {
                          setOwner(reply.value());
+                     } else if (reply.error().name() == noOwner && owner_.isEmpty()) {
+                         emit absent();
                      }
                  });
 }

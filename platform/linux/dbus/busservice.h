@@ -50,6 +50,7 @@ public:
 
 signals:
     void appeared(); // owner() has changed to another name
+    void absent();   // follow() has found no owner
     void vanished(); // the previous owner is gone; emitted before appeared()
     void activationFailed();
 

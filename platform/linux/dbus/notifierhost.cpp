@@ -23,7 +23,14 @@ NotifierHost::NotifierHost(std::shared_ptr<const BusLink> session)
     : session_(std::move(session))
     , service_(QString::fromLatin1(Watcher::staticInterfaceName())) {
     connect(session_.get(), &BusLink::up, this, &NotifierHost::subscribe);
+    connect(session_.get(), &BusLink::decided, this, [this] {
+        if (!session_->bus().isConnected()) {
+            emit settled();
+        }
+    });
     connect(&service_, &BusService::appeared, this, &NotifierHost::lookForHost);
+    connect(&service_, &BusService::absent, this, &NotifierHost::settled);
+    connect(&service_, &BusService::vanished, this, &NotifierHost::settled);
 }
 
 void NotifierHost::subscribe() {
@@ -50,6 +57,9 @@ void NotifierHost::lookForHost() {
                      if (!present_ && reply.isValid() && reply.value().variant().toBool()) {
                          present_ = true;
                          emit appeared();
+                     }
+                     if (reply.error().type() != QDBusError::NoReply) {
+                         emit settled();
                      }
                  });
 }

@@ -20,6 +20,11 @@ public:
     // `session` is opened afterwards by whoever created it.
     explicit NotifierHost(std::shared_ptr<const BusLink> session);
 
+signals:
+    // Qt, which asks the same on the main thread, would not wait now: the watcher has
+    // answered, or there is none.
+    void settled();
+
 private:
     void subscribe();
     void lookForHost();
