@@ -202,6 +202,7 @@ int end(int status, bool isBusy) {
 // Runs until the user quits, or passes the arguments to the instance that is already
 // running. Returns the exit status.
 int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE* errors) {
+    const auto guard = makeToolkitGuard();
     const WindowSystem windowSystem = chooseWindowSystem();
     if (const auto obstacle = findObstacle(windowSystem)) {
         std::fputs(qPrintable(*obstacle + u'\n'), errors);
@@ -215,7 +216,6 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
                                                  : std::optional(launchRequest(arguments)))) {
         return end(0, isWaitingForAnswer());
     }
-    const auto guard = makeToolkitGuard();
     guard->prepareApplication();
     QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);
     std::jthread limit;

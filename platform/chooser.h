@@ -29,7 +29,8 @@ WindowSystem chooseWindowSystem();
 // chooseWindowSystem().
 std::unique_ptr<SingleInstance> makeInstance(WindowSystem system);
 
-// Call after chooseWindowSystem().
+// Call as early as possible: what happens before the application object is created costs
+// no further time.
 std::unique_ptr<ToolkitGuard> makeToolkitGuard();
 
 // Whether destroying static objects may wait for, or meet, a thread that still waits for

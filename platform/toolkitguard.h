@@ -6,7 +6,7 @@
 namespace morrowleaf {
 
 // Keeps the toolkit from services for which it would wait on the main thread, if they do
-// not answer. Asks them when it is created; all times count from then. Main thread.
+// not answer. Asks them when it is created. Main thread.
 class ToolkitGuard {
 public:
     ToolkitGuard() = default;
@@ -15,10 +15,9 @@ public:
     ToolkitGuard& operator=(const ToolkitGuard&) = delete;
 
     // Decides on theme and input method. Call just before the application object is
-    // created; returns after 40 ms at the latest.
+    // created; returns at most 25 ms, or on a busy machine 250 ms, after that question.
     virtual void prepareApplication() {}
-    // Decides on accessibility. Call just before the first window is shown; returns after
-    // 90 ms at the latest.
+    // Decides on accessibility. Call just before the first window is shown.
     virtual void prepareFirstWindow() {}
 };
 

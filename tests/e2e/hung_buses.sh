@@ -53,7 +53,7 @@ launch() {
     pid=$!
     pids+=("$pid")
     until_true 200 opened_since "$n" || return 1
-    to_show=$(($(milliseconds) - begun))
+    to_show=$(($(last_map) - begun))
     begun=$(milliseconds)
     kill "$pid"
     wait "$pid" || return 1

@@ -11,35 +11,55 @@ namespace morrowleaf {
 
 namespace {
 
-// A bus answers within a millisecond or two, and somewhat later at a busy login. The first
-// window is ready about 50 ms after the question, so half of the second time is no delay.
-constexpr int patienceForTheme = 40;         // milliseconds
-constexpr int patienceForAccessibility = 90; // milliseconds
+// In milliseconds. A bus answers within a few, and the start takes ten times as long as the
+// first steps, so that the least patience and the factor cost at most half a start.
+constexpr int leastPatience = 25;
+constexpr int mostPatience = 250;
+constexpr int patiencePerElapsed = 5;
+constexpr auto desktopVariable = "XDG_CURRENT_DESKTOP";
 
 } // namespace
 
+int patienceAfter(int elapsed) {
+    return std::clamp(patiencePerElapsed * elapsed, leastPatience, mostPatience);
+}
+
 BusToolkitGuard::BusToolkitGuard()
-    : bus_(busAddress(QDBusConnection::SessionBus)) {
+    : bus_(std::in_place, busAddress(QDBusConnection::SessionBus)) {
     asked_.start();
 }
 
 void BusToolkitGuard::prepareApplication() {
-    if (isSilentAfter(patienceForTheme)) {
-        qputenv("XDG_CURRENT_DESKTOP", "unknown");
+    const int elapsed = static_cast<int>(asked_.elapsed());
+    if (isSilentAfter(patienceAfter(elapsed) - elapsed)) {
+        desktop_ = qgetenv(desktopVariable);
+        qputenv(desktopVariable, "unknown");
         qunsetenv("QT_QPA_PLATFORMTHEME");
         qunsetenv("QT_IM_MODULE");
     }
 }
 
 void BusToolkitGuard::prepareFirstWindow() {
-    if (isSilentAfter(patienceForAccessibility)) {
+    if (isSilentAfter(0)) {
         qputenv("AT_SPI_BUS_ADDRESS", "disabled:");
+    }
+    bus_.reset();
+    // The toolkit has chosen its theme; the tray's symbol and other programs follow the
+    // desktop.
+    if (!desktop_.isEmpty()) {
+        qputenv(desktopVariable, desktop_);
     }
 }
 
 bool BusToolkitGuard::isSilentAfter(int milliseconds) {
-    const int left = std::max(milliseconds - static_cast<int>(asked_.elapsed()), 0);
-    return bus_.wait(left) == BusProbe::Answer::None;
+    if (!bus_) {
+        return false;
+    }
+    const bool isSilent = bus_->wait(std::max(milliseconds, 0)) == BusProbe::Answer::None;
+    if (!isSilent) {
+        bus_.reset(); // the bus reports clients that do not go on
+    }
+    return isSilent;
 }
 
 } // namespace morrowleaf
