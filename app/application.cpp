@@ -115,7 +115,7 @@ void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
     } else if (request.action == "edit-appearance"_L1) {
         delegate.editAppearance();
     } else if (request.action == "quit"_L1) {
-        QCoreApplication::exit(0);
+        emit delegate.quitRequested();
     } else {
         delegate.show();
     }
@@ -159,8 +159,12 @@ void launch(AppDelegate& delegate, RequestListener& requests, RequestQueue& queu
 int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& guard,
                  const QStringList& arguments, Starter starter, std::jthread& limit) {
     Platform platform = makePlatform(windowSystem);
-    // exit(), because quit() asks all windows to close first.
-    const auto quit = [] { QCoreApplication::exit(0); };
+    // exit(), because quit() asks all windows to close first. What has not been accepted
+    // by then is for the next instance.
+    const auto quit = [&platform] {
+        platform.requests.reset();
+        QCoreApplication::exit(0);
+    };
     QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, qApp, quit);
     followColorScheme(*platform.colorScheme);
     FontBook fonts;

@@ -16,8 +16,9 @@
 
 namespace morrowleaf {
 
-// Everything that the program needs from the desktop. No member is null; all are used on
-// the main thread and destroyed before the application object.
+// Everything that the program needs from the desktop. No member is null, but `requests`
+// is once the program ends; all are used on the main thread and destroyed before the
+// application object.
 struct Platform {
     std::unique_ptr<MainScreen> mainScreen;
     std::unique_ptr<OverlayMaker> overlays;

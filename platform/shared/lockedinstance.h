@@ -34,6 +34,11 @@ signals:
     void failed();   // the request was not accepted; the instance may answer again
 };
 
+// A listener accepts a request this long after it has emitted it: by then a timer of 0 ms
+// that its receiver has started is over, and the request carried out. If the program ends
+// before, the sender hears of it and turns to the next instance.
+constexpr std::chrono::milliseconds acceptanceDelay{1};
+
 // The instance is the process that holds a lock in a folder, which needs neither a bus nor
 // an answer. A lock that a killed instance has left behind does not affect the next one.
 class LockedInstance : public SingleInstance {

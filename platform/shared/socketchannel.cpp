@@ -6,7 +6,6 @@
 #include <QStringList>
 
 #include <chrono>
-#include <utility>
 
 namespace morrowleaf {
 
@@ -34,7 +33,8 @@ SocketListener::SocketListener(const QString& folder, std::chrono::milliseconds 
 }
 
 SocketListener::~SocketListener() {
-    for (QLocalSocket* client : std::as_const(clients_)) {
+    const auto clients = server_.findChildren<QLocalSocket*>();
+    for (QLocalSocket* client : clients) {
         client->disconnect(this);
     }
 }
@@ -62,14 +62,17 @@ void SocketListener::greet(QLocalSocket& client) {
     });
     client.setReadBufferSize(longestRequest);
     const auto read = [this, &client] {
-        if (!client.canReadLine()) {
+        if (!clients_.contains(&client) || !client.canReadLine()) {
             return;
         }
+        clients_.removeOne(&client);
         const QStringList words =
             QString::fromUtf8(client.readLine(longestRequest)).trimmed().split(u' ');
-        client.write(acceptance);
-        client.disconnectFromServer();
         emit requested({.action = words.value(0), .activationToken = words.value(1)});
+        QTimer::singleShot(acceptanceDelay, &client, [&client] {
+            client.write(acceptance);
+            client.disconnectFromServer();
+        });
     };
     connect(&client, &QLocalSocket::readyRead, this, read);
     QTimer::singleShot(longestSilence_, &client, &QLocalSocket::abort);

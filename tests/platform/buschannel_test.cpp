@@ -7,8 +7,11 @@
 
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QSignalSpy>
+#include <QTimer>
 
+#include <memory>
 #include <optional>
 
 namespace morrowleaf {
@@ -51,6 +54,29 @@ TEST_F(BusChannelTest, PassesAnActionAndItsToken) {
         EXPECT_EQ(requested->activationToken, u"token-7"_s);
         requested.reset();
     }
+}
+
+// If it ends before, the next instance gets it.
+TEST_F(BusChannelTest, AcceptsARequestAfterItHasBeenCarriedOut) {
+    auto ending = std::make_unique<BusListener>(sessionLink());
+    ending->listen();
+    BusSender later;
+    ASSERT_TRUE(reaches(later));
+    QSignalSpy acceptances(&later, &RequestSender::accepted);
+    QSignalSpy failures(&later, &RequestSender::failed);
+    QEventLoop program;
+    QTimer execution;
+    execution.setSingleShot(true);
+    QObject::connect(ending.get(), &RequestListener::requested, &execution,
+                     [&execution] { execution.start(0); });
+    QObject::connect(&execution, &QTimer::timeout, &program, [&] {
+        ending.reset();
+        program.quit();
+    });
+    EXPECT_TRUE(later.send({.action = u"show"_s, .activationToken = {}}));
+    program.exec();
+    EXPECT_TRUE(becomesTrue([&] { return !failures.isEmpty(); }));
+    EXPECT_EQ(acceptances.size(), 0);
 }
 
 TEST_F(BusChannelTest, TakesTheNameAgainOnABusThatComesBack) {

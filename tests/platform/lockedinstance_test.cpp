@@ -5,12 +5,15 @@
 #include "platform/shared/socketchannel.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -173,6 +176,30 @@ TEST_F(LockedInstanceTest, GivesUpOnAnInstanceThatDoesNotAnswer) {
     ASSERT_NE(client, nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] { return client->canReadLine(); }));
     EXPECT_EQ(client->readLine().trimmed(), "show");
+}
+
+// If it ends before, the next instance gets it.
+TEST_F(LockedInstanceTest, AcceptsARequestAfterItHasBeenCarriedOut) {
+    auto ending = std::make_unique<SocketListener>(dir.path());
+    ending->listen();
+    QEventLoop program;
+    QTimer execution;
+    execution.setSingleShot(true);
+    QObject::connect(ending.get(), &RequestListener::requested, &execution,
+                     [&execution] { execution.start(0); });
+    QObject::connect(&execution, &QTimer::timeout, &program, [&] {
+        ending.reset();
+        program.quit();
+    });
+    SocketSender later(dir.path());
+    QSignalSpy acceptances(&later, &RequestSender::accepted);
+    QSignalSpy failures(&later, &RequestSender::failed);
+    QObject::connect(&later, &RequestSender::answered, &later,
+                     [&later] { EXPECT_TRUE(later.send(toShow)); });
+    later.reach();
+    program.exec();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !failures.isEmpty(); }, 30'000));
+    EXPECT_EQ(acceptances.size(), 0);
 }
 
 TEST_F(LockedInstanceTest, ReadsARequestOfALaunchThatIsGone) {

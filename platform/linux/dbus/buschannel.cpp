@@ -6,6 +6,8 @@
 #include "application_interface.h"
 #include "bus_interface.h"
 
+#include <QTimer>
+
 #include <utility>
 
 namespace morrowleaf {
@@ -17,6 +19,7 @@ namespace {
 const QString name = u"org.morrowleaf.Morrowleaf"_s;
 const QString path = u"/org/morrowleaf/Morrowleaf"_s;
 const QString show = u"show"_s;
+const QString quit = u"quit"_s;
 const QString tokenKey = u"activation-token"_s;
 
 } // namespace
@@ -32,6 +35,13 @@ void BusApplication::Open(const QStringList& /*uris*/, const QVariantMap& platfo
 void BusApplication::ActivateAction(const QString& action, const QVariantList& /*parameters*/,
                                     const QVariantMap& platformData) {
     emit requested({.action = action, .activationToken = platformData.value(tokenKey).toString()});
+    // After a request to quit there is no later.
+    if (action != quit && calledFromDBus() && message().isReplyRequired()) {
+        setDelayedReply(true);
+        QTimer::singleShot(
+            acceptanceDelay, this,
+            [bus = connection(), reply = message().createReply()] { bus.send(reply); });
+    }
 }
 
 BusListener::BusListener(std::shared_ptr<BusLink> session)

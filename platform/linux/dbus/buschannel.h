@@ -7,6 +7,7 @@
 #include "platform/linux/dbus/busservice.h"
 #include "platform/shared/lockedinstance.h"
 
+#include <QDBusContext>
 #include <QVariant>
 
 #include <memory>
@@ -15,7 +16,7 @@ namespace morrowleaf {
 
 // The interface org.freedesktop.Application, by which desktops and later
 // launches talk to the running instance.
-class BusApplication : public QObject {
+class BusApplication : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
