@@ -3,8 +3,6 @@
 
 #include "platform/shared/socketchannel.h"
 
-#include <QStringList>
-
 #include <chrono>
 
 namespace morrowleaf {
@@ -66,9 +64,9 @@ void SocketListener::greet(QLocalSocket& client) {
             return;
         }
         clients_.removeOne(&client);
-        const QStringList words =
-            QString::fromUtf8(client.readLine(longestRequest)).trimmed().split(u' ');
-        emit requested({.action = words.value(0), .activationToken = words.value(1)});
+        const QString line = QString::fromUtf8(client.readLine(longestRequest)).trimmed();
+        emit requested(
+            {.action = line.section(u' ', 0, 0), .activationToken = line.section(u' ', 1)});
         QTimer::singleShot(acceptanceDelay, &client, [&client] {
             client.write(acceptance);
             client.disconnectFromServer();

@@ -103,10 +103,10 @@ TEST_F(LockedInstanceTest, TheSecondHandsItsRequestToTheFirst) {
     Launch first(dir.path());
     EXPECT_TRUE(first.claim(toShow));
     EXPECT_FALSE(Launch(dir.path())
-                     .claim(LaunchRequest{.action = u"settings"_s, .activationToken = u"abc"_s}));
+                     .claim(LaunchRequest{.action = u"settings"_s, .activationToken = u"abc d"_s}));
     ASSERT_EQ(first.requests.size(), 1) << "it has the request before the second ends";
     EXPECT_EQ(first.requests.front().action, u"settings"_s);
-    EXPECT_EQ(first.requests.front().activationToken, u"abc"_s);
+    EXPECT_EQ(first.requests.front().activationToken, u"abc d"_s);
 }
 
 TEST_F(LockedInstanceTest, WithoutARequestNothingIsPassedOn) {
