@@ -191,9 +191,11 @@ more_connections() { [ "$(connections "$1")" -gt "$2" ]; }
 start monitor dbus-monitor --session "member='NameHasOwner',arg0='org.a11y.Bus'"
 until_true 60 grep -q NameLost "$work/monitor.log" || die "no monitor"
 n=$(maps)
+before=$(connections "$work/run/bus")
 kill -STOP "$bus_pid"
 start app "$MORROWLEAF"
-sleep 0.1
+app=$last
+until more_connections "$work/run/bus" "$before"; do :; done
 kill -CONT "$bus_pid"
 must "beside a slow bus it shows the quotation" opened_since "$n"
 must "and can be read aloud" grep -q org.a11y.Bus "$work/monitor.log"
