@@ -15,7 +15,15 @@ namespace {
 // Global, because a signal handler can access nothing else.
 std::array<int, 2> pipeEnds{-1, -1};
 
+constexpr unsigned longestEnd = 5; // seconds
+
+// Called if the main thread does not end the program, because a library waits there.
+void endProcess(int /*signal*/) {
+    _exit(0);
+}
+
 void writeToPipe(int /*signal*/) {
+    alarm(longestEnd);
     const char byte = 0;
     // A failure cannot be handled here; if the pipe is full, it will be read anyway.
     [[maybe_unused]] const auto written = write(pipeEnds[1], &byte, 1);
@@ -37,6 +45,9 @@ UnixSignals::UnixSignals() {
     struct sigaction action {};
     action.sa_handler = writeToPipe;
     action.sa_flags = SA_RESTART;
+    struct sigaction end {};
+    end.sa_handler = endProcess;
+    sigaction(SIGALRM, &end, nullptr);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         sigaction(signal, &action, nullptr);
     }

@@ -8,15 +8,21 @@
 
 read_aloud() { /usr/bin/python3 "$here/accessible.py" "$@"; }
 
-# Starts a session bus and an accessibility bus; call it before the program
-# starts.
+# Starts an accessibility bus, and a session bus unless there is one; call it before
+# the program starts.
 start_reader() {
-    start_session_bus
+    [ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || start_session_bus
     unset NO_AT_BRIDGE
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
     start launcher /usr/libexec/at-spi-bus-launcher --launch-immediately
     until_true 60 dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress || die "no accessibility bus"
+}
+
+# reader_address: the socket of the accessibility bus
+reader_address() {
+    gdbus call --session -d org.a11y.Bus -o /org/a11y/bus -m org.a11y.Bus.GetAddress |
+        sed "s/.*unix:path=\([^,']*\).*/\1/"
 }
 
 # column ROLE NAME WHICH NUMBER: a column of the WHICHth control with that role

@@ -8,6 +8,7 @@
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
+. "$here/controls.sh"
 
 start_x 640x480
 start_manager openbox
@@ -199,5 +200,21 @@ until more_connections "$work/run/bus" "$before"; do :; done
 kill -CONT "$bus_pid"
 must "beside a slow bus it shows the quotation" opened_since "$n"
 must "and can be read aloud" grep -q org.a11y.Bus "$work/monitor.log"
-stop "$last"
+stop "$app"
+
+start_reader
+reader=$(pgrep -P "$last" dbus-daemon) || die "no accessibility bus"
+address=$(reader_address)
+before=$(connections "$address")
+kill -STOP "$reader"
+start app "$MORROWLEAF"
+app=$last
+must "with a screen reader whose bus hangs it waits" more_connections "$address" "$before"
+begun=$(milliseconds)
+kill "$app"
+must "and can be ended" not kill -0 "$app"
+wait "$app"
+check "with status 0" test $? -eq 0
+check "within 6 seconds" test $(($(milliseconds) - begun)) -le 6000
+kill -CONT "$reader"
 finish

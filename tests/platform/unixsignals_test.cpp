@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdlib>
+
+#include <unistd.h>
 
 namespace morrowleaf {
 namespace {
@@ -19,7 +22,22 @@ TEST(UnixSignals, EachSignalOfAnEndAsksToQuit) {
         std::raise(signal);
         EXPECT_TRUE(requests.wait()) << signal;
         EXPECT_EQ(requests.size(), 1);
+        ::alarm(0);
     }
+}
+
+TEST(UnixSignalsDeathTest, OneEndsAProgramWhoseMainThreadIsBlocked) {
+    EXPECT_EXIT(
+        {
+            const UnixSignals received;
+            std::raise(SIGTERM);
+            const unsigned left = ::alarm(0); // instead of waiting for it
+            if (left > 0 && left <= 5) {
+                std::raise(SIGALRM);
+            }
+            std::_Exit(1);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 } // namespace
