@@ -74,7 +74,7 @@ bool LockedInstance::takeOver(const std::optional<LaunchRequest>& request) {
     });
     if (!canBeLocked) {
         QTimer::singleShot(patience_.withoutLock, &waiting,
-                           [&waiting] { waiting.exit(ThisProcess); });
+                           [&] { waiting.exit(asked != nullptr ? OtherProcess : ThisProcess); });
         return waiting.exec() == ThisProcess;
     }
     lockTimer.start(lockInterval);

@@ -139,6 +139,16 @@ TEST_F(LockedInstanceTest, WithoutALockAnInstanceThatAnswersIsFound) {
     EXPECT_EQ(first.requests.size(), 1);
 }
 
+// An instance that is busy may take long to accept a request.
+TEST_F(LockedInstanceTest, WithoutALockAnInstanceThatHasAnsweredStaysTheOnlyOne) {
+    Holder busy(dir.path());
+    busy.onLine = [](QLocalSocket& /*client*/) {};
+    auto patience = forAnAnswer;
+    patience.withoutLock = 1s;
+    EXPECT_FALSE(instanceIn(QString(), dir.path(), patience).claim(toShow));
+    EXPECT_EQ(busy.lines.size(), 1);
+}
+
 TEST_F(LockedInstanceTest, TakesThePlaceOfAnInstanceThatEndsWithTheRequest) {
     Holder ending(dir.path());
     ending.onLine = [&](QLocalSocket& client) {
