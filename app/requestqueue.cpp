@@ -3,6 +3,7 @@
 
 #include "app/requestqueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace morrowleaf {
@@ -37,7 +38,15 @@ void RequestQueue::add(const LaunchRequest& request) {
 }
 
 void RequestQueue::deliver() {
-    for (const LaunchRequest& request : std::exchange(waiting_, {})) {
+    const auto requests = std::exchange(waiting_, {});
+    const auto quit = std::find_if(requests.begin(), requests.end(), [](const auto& request) {
+        return kindOf(request) == Kind::Quit;
+    });
+    if (quit != requests.end()) {
+        emit due(*quit);
+        return;
+    }
+    for (const LaunchRequest& request : requests) {
         emit due(request);
     }
 }

@@ -14,7 +14,8 @@ namespace morrowleaf {
 
 // Collects the requests that have arrived while the main thread was busy. Of those that
 // show the quotation or the editor only the newest is carried out, and one for the
-// settings beside it; what the others asked for would be replaced at once. Main thread.
+// settings beside it; what the others asked for would be replaced at once. Beside a
+// request to quit nothing else is carried out. Main thread.
 class RequestQueue : public QObject {
     Q_OBJECT
 

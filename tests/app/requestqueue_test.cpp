@@ -3,6 +3,7 @@
 
 #include "app/requestqueue.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -50,6 +51,15 @@ TEST_F(RequestQueueTest, TheSettingsStayBesideIt) {
     receive(u"settings"_s, u"4"_s);
     receive(u"edit-appearance"_s, u"5"_s);
     EXPECT_TRUE(delivers({u"settings4"_s, u"edit-appearance5"_s}));
+}
+
+TEST_F(RequestQueueTest, BesideAQuitNothingElseIsCarriedOut) {
+    receive(u"show"_s);
+    receive(u"quit"_s);
+    receive(u"settings"_s);
+    EXPECT_TRUE(delivers({u"quit"_s}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(due.size(), 1);
 }
 
 TEST_F(RequestQueueTest, OneThatComesLaterIsCarriedOutToo) {
