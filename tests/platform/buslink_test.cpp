@@ -5,7 +5,9 @@
 
 #include "tests/platform/privatebus.h"
 
+#include <QDBusConnectionInterface>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSignalSpy>
@@ -131,6 +133,28 @@ TEST_F(BusLinkTest, SaysWhenNobodyHasToWaitForTheBus) {
     missing.open();
     EXPECT_TRUE(becomesTrue([&] { return others.size() == 1; }));
     EXPECT_FALSE(missing.bus().isConnected());
+}
+
+TEST_F(BusLinkTest, LeavesNoConnectionBehindWhenDestroyedWhileConnecting) {
+    QDBusConnection observer = PrivateBus::connect();
+    const auto connections = [&] {
+        return observer.interface()->registeredServiceNames().value().filter(u":"_s).size();
+    };
+    const auto before = connections();
+    int destroyed = 0;
+    for (int i = 0; i < 10; ++i) {
+        BusLink unused(QDBusConnection::SessionBus);
+        QSignalSpy decisions(&unused, &BusLink::decided);
+        unused.open();
+        while (!BusLink::isAnyConnecting() && decisions.isEmpty()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        destroyed += decisions.isEmpty() ? 1 : 0;
+    }
+    EXPECT_GT(destroyed, 0);
+    EXPECT_TRUE(becomesTrue([] { return !BusLink::isAnyConnecting(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return connections() == before; }, 5000))
+        << connections() - before;
 }
 
 TEST_F(BusLinkTest, TriesABusAgainThatClosesTheConnection) {

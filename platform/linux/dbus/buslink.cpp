@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 namespace morrowleaf {
 
@@ -25,6 +26,13 @@ std::atomic<int> connectingThreads = 0;
 
 } // namespace
 
+struct BusLink::Attempt {
+    QDBusConnection made{QString()};
+    // Set by the thread that has connected, and by a link that is destroyed: the second of
+    // them disconnects.
+    std::atomic_flag isOver;
+};
+
 BusLink::BusLink(QDBusConnection::BusType type, QObject* parent)
     : QObject(parent)
     , address_(busAddress(type))
@@ -38,6 +46,9 @@ BusLink::BusLink(QDBusConnection::BusType type, QObject* parent)
 
 BusLink::~BusLink() {
     answered_.reset();
+    if (attempt_ && attempt_->isOver.test_and_set()) {
+        bus_ = attempt_->made;
+    }
     // The lock that this takes is held while any connection is being made.
     if (!isAnyConnecting()) {
         QDBusConnection::disconnectFromBus(bus_.name());
@@ -56,7 +67,7 @@ void BusLink::open() {
 }
 
 void BusLink::probe() {
-    if (isConnecting_ || bus_.isConnected()) {
+    if (attempt_ || bus_.isConnected()) {
         return;
     }
     answered_.reset();
@@ -96,24 +107,26 @@ void BusLink::readAnswer() {
 }
 
 void BusLink::connectToBus() {
-    isConnecting_ = true;
+    attempt_ = std::make_shared<Attempt>();
     // Qt never reconnects under the same name.
     const QString name = u"morrowleaf-"_s + QUuid::createUuid().toString(QUuid::Id128);
-    const auto made = std::make_shared<QDBusConnection>(QString());
     ++connectingThreads;
-    QThread* thread = QThread::create([made, name, address = address_, previous = bus_.name()] {
-        QDBusConnection::disconnectFromBus(previous);
-        *made = QDBusConnection::connectToBus(address, name);
-        --connectingThreads;
-    });
-    connect(thread, &QThread::finished, this, [this, made] { adopt(*made); });
+    QThread* thread =
+        QThread::create([attempt = attempt_, name, address = address_, previous = bus_.name()] {
+            QDBusConnection::disconnectFromBus(previous);
+            attempt->made = QDBusConnection::connectToBus(address, name);
+            if (attempt->isOver.test_and_set()) {
+                QDBusConnection::disconnectFromBus(name);
+            }
+            --connectingThreads;
+        });
+    connect(thread, &QThread::finished, this, &BusLink::adopt);
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     thread->start();
 }
 
-void BusLink::adopt(const QDBusConnection& made) {
-    isConnecting_ = false;
-    bus_ = made;
+void BusLink::adopt() {
+    bus_ = std::exchange(attempt_, nullptr)->made;
     // libdbus sends this signal itself, within the process.
     bus_.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
                  u"Disconnected"_s, this, SLOT(wentDown()));

@@ -18,10 +18,9 @@ namespace morrowleaf {
 
 // A connection to a message bus that is made anew after the bus was gone. It never waits
 // for the bus, nor for another connection that is being made: it connects on a thread of
-// its own, and only to a bus that answers. It
-// does not poll either: it waits for the answer, or until the socket of the bus appears;
-// only a bus that accepts connections and closes them is tried again at growing
-// intervals. Main thread.
+// its own, and only to a bus that answers. It does not poll either: it waits for the
+// answer, or until the socket of the bus appears; only a bus that accepts connections and
+// closes them is tried again at growing intervals. Main thread.
 class BusLink : public QObject {
     Q_OBJECT
 
@@ -47,17 +46,19 @@ private slots:
     void wentDown();
 
 private:
+    struct Attempt;
+
     void probe();
     void readAnswer();
     void connectToBus();
-    void adopt(const QDBusConnection& made);
+    void adopt();
     void tryLater();
     void watchForSocket();
 
     QString address_;
     QDBusConnection bus_;
-    bool isOpen_ = false;       // up, or trying to be
-    bool isConnecting_ = false; // a thread is connecting
+    bool isOpen_ = false;              // up, or trying to be
+    std::shared_ptr<Attempt> attempt_; // null except while a thread connects
     std::unique_ptr<BusProbe> probe_;
     std::unique_ptr<QSocketNotifier> answered_;
     QFileSystemWatcher watcher_;
