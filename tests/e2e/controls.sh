@@ -93,3 +93,11 @@ use_theme_of() {
     esac
     [ -z "${E2E_DESKTOP:-}" ] || unset QT_QPA_PLATFORMTHEME
 }
+# has_theme PID: the program has loaded a theme of the machine
+has_theme() { grep -q '/platformthemes/' "/proc/$1/maps"; }
+# check_theme PID: it has, where it should
+check_theme() {
+    case ${E2E_DESKTOP:+${XDG_CURRENT_DESKTOP:-}} in
+    GNOME | XFCE) check "the theme of the desktop is on" has_theme "$1" ;;
+    esac
+}

@@ -29,6 +29,7 @@ use_theme_of "${1:-}"
 start app "$MORROWLEAF" --settings
 app=$last
 must "the settings window opens" focus_is "Morrowleaf Settings"
+check_theme "$app"
 # edit: opens the editor and waits until it is in place
 in_place() { [ "$(column panel Appearance "$1" 4)" = 960 ]; }
 edit() {

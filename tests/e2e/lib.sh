@@ -170,6 +170,12 @@ outlast_throttle() {
     [ "$left" -le 0 ] || sleep "$((left / 1000)).$(printf %03d $((left % 1000)))"
 }
 
+# answers_on --session|--system
+answers_on() {
+    gdbus call "$1" -d org.freedesktop.DBus -o /org/freedesktop/DBus \
+        -m org.freedesktop.DBus.GetId
+}
+
 start_session_bus() {
     local config=/usr/share/dbus-1/session.conf
     if [ -z "${E2E_DESKTOP:-}" ]; then
@@ -187,8 +193,8 @@ EOF
     start bus dbus-daemon --config-file="$config" --nofork --nopidfile \
         --address="unix:path=$work/run/bus"
     bus_pid=$last
-    until_true 60 test -S "$work/run/bus" || die "no session bus"
     export DBUS_SESSION_BUS_ADDRESS=unix:path=$work/run/bus
+    until_true 60 answers_on --session || die "no session bus"
     if [ -n "${E2E_DESKTOP:-}" ]; then
         start ibus ibus-daemon --panel disable
         until_true 60 ibus engine xkb:us::eng || die "no input method"
@@ -206,6 +212,6 @@ EOF
     rm -f "$work/run/system-bus"
     start systembus dbus-daemon --config-file="$work/system.conf" --nofork --nopidfile
     system_bus_pid=$last
-    until_true 60 test -S "$work/run/system-bus" || die "no system bus"
     export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$work/run/system-bus
+    until_true 60 answers_on --system || die "no system bus"
 }

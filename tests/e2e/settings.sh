@@ -26,6 +26,7 @@ app=$last
 window() { xdotool search --onlyvisible --name '^Morrowleaf Settings$'; }
 must "the settings window opens" window
 must "and has the keyboard" focus_is "Morrowleaf Settings"
+check_theme "$app"
 must "it is a window to a screen reader" there frame "Morrowleaf Settings"
 id=$(window | head -1)
 put_window Other '#a0a0ff' 0 300 700 700
