@@ -15,7 +15,7 @@ public:
     ToolkitGuard& operator=(const ToolkitGuard&) = delete;
 
     // Decides on theme and input method. Call just before the application object is
-    // created; returns at most 25 ms, or on a busy machine 250 ms, after that question.
+    // created; returns at most 15 ms, or on a busy machine 250 ms, after that question.
     virtual void prepareApplication() {}
     // Decides on accessibility. Call just before the first window is shown.
     virtual void prepareFirstWindow() {}

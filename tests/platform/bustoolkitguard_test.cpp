@@ -54,7 +54,7 @@ TEST_F(BusToolkitGuardTest, HidesTheDesktopOnlyFromTheToolkitBesideASilentBus) {
 }
 
 TEST_F(BusToolkitGuardTest, IsMorePatientOnABusyMachine) {
-    EXPECT_EQ(patienceAfter(2), 25);
+    EXPECT_EQ(patienceAfter(2), 15);
     EXPECT_EQ(patienceAfter(20), 100);
     EXPECT_EQ(patienceAfter(100), 250);
 }

@@ -13,7 +13,7 @@ namespace {
 
 // In milliseconds. A bus answers within a few, and the start takes ten times as long as the
 // first steps, so that the least patience and the factor cost at most half a start.
-constexpr int leastPatience = 25;
+constexpr int leastPatience = 15;
 constexpr int mostPatience = 250;
 constexpr int patiencePerElapsed = 5;
 constexpr auto desktopVariable = "XDG_CURRENT_DESKTOP";
