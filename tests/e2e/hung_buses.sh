@@ -203,8 +203,9 @@ must "and can be read aloud" grep -q org.a11y.Bus "$work/monitor.log"
 stop "$app"
 
 start_reader
-reader=$(pgrep -P "$last" dbus-daemon) || die "no accessibility bus"
+export NO_AT_BRIDGE=1 # the bridge of a GTK theme waits before the program handles signals
 address=$(reader_address)
+reader=$(pgrep -f -- "--address=unix:path=$address\$") || die "no accessibility bus"
 before=$(connections "$address")
 kill -STOP "$reader"
 start app "$MORROWLEAF"
