@@ -30,6 +30,11 @@ using namespace Qt::Literals::StringLiterals;
 
 class AppDelegateTest : public testing::Test {
 protected:
+    // Deletes what the delegate has left to the event loop, which uses the members.
+    ~AppDelegateTest() override {
+        delegate.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
     void launch(const QStringList& arguments = {u"morrowleaf"_s}) {
         delegate = std::make_unique<AppDelegate>(services);
         delegate->applicationDidFinishLaunching(arguments);
