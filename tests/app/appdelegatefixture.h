@@ -31,7 +31,7 @@ using namespace Qt::Literals::StringLiterals;
 class AppDelegateTest : public testing::Test {
 protected:
     // Deletes what the delegate has left to the event loop, which uses the members.
-    ~AppDelegateTest() override {
+    void TearDown() override {
         delegate.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

@@ -12,11 +12,11 @@ namespace {
 
 class BusToolkitGuardTest : public testing::Test {
 protected:
-    BusToolkitGuardTest() {
+    void SetUp() override {
         qputenv("XDG_CURRENT_DESKTOP", "GNOME");
         qunsetenv("AT_SPI_BUS_ADDRESS");
     }
-    ~BusToolkitGuardTest() override {
+    void TearDown() override {
         qunsetenv("XDG_CURRENT_DESKTOP");
         qunsetenv("AT_SPI_BUS_ADDRESS");
     }
