@@ -6,6 +6,8 @@
 #include "screen/layout.h"
 #include "textanim/handwriting.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <limits>
 
@@ -42,19 +44,43 @@ QuotationFit::QuotationFit(const Texts& texts)
     for (QString& word : words) {
         word = beginningOf(word, texts.longest);
     }
-    words_ = measureTexts(words, texts.face);
+    measureWords(words);
     measurements_ = 3;
     for (int target = measure::mostTarget; target >= measure::leastTarget; --target) {
         std::vector<qsizetype> lineEnds = balance_.lineEnds(target);
         if (cuts_.empty() || cuts_.back().lineEnds != lineEnds) {
-            cuts_.push_back({.lineEnds = std::move(lineEnds)});
+            const std::size_t lines = lineEnds.size();
+            cuts_.push_back(
+                {.lineEnds = std::move(lineEnds), .measured = std::vector<bool>(lines)});
         }
         cuts_.back().target = target;
     }
 }
 
+// Measures equal words once.
+void QuotationFit::measureWords(const QStringList& words) {
+    QHash<QString, std::size_t> places;
+    QStringList distinct;
+    for (const QString& word : words) {
+        if (!places.contains(word)) {
+            places.insert(word, static_cast<std::size_t>(distinct.size()));
+            distinct.append(word);
+        }
+    }
+    const MeasuredTexts measured = measureTexts(distinct, texts_.face);
+    words_.rowHeight = measured.rowHeight;
+    for (const QString& word : words) {
+        words_.pieces.push_back(measured.pieces[places.value(word)]);
+        double width = 0;
+        for (const RowPiece& piece : words_.pieces.back()) {
+            width += piece.advance;
+        }
+        wordWidths_.push_back(width);
+    }
+}
+
 QuotationFit::Result QuotationFit::fit(double wished, const Screen& screen) {
-    Result result{wished, {}};
+    Result result{wished, {}, {}};
     const auto fitsAsWished = [&](Cut& cut) { return fits(cut, wished, screen); };
     if (std::ranges::none_of(cuts_, fitsAsWished)) {
         double limit = measure::leastQuoteSize;
@@ -68,6 +94,8 @@ QuotationFit::Result QuotationFit::fit(double wished, const Screen& screen) {
     qsizetype begin = 0;
     for (const qsizetype end : cutFor(result.size, screen).lineEnds) {
         result.lines.append(beginningOf(balance_.line(begin, end), texts_.longest));
+        result.pieces.push_back(end - begin == 1 ? words_.pieces[static_cast<std::size_t>(begin)]
+                                                 : std::vector<RowPiece>());
         begin = end;
     }
     return result;
@@ -151,13 +179,28 @@ double QuotationFit::linesHeight(const Cut& cut, double size, double columnWidth
     return height;
 }
 
+// More than a line of these words can be wide, with spaces and kerning.
+double QuotationFit::widthAtMost(qsizetype begin, qsizetype end) const {
+    constexpr double widestSpace = 0.5 * shapingSize;
+    constexpr double kerning = 1.1;
+    double width = 0;
+    for (qsizetype word = begin; word < end; ++word) {
+        width += wordWidths_[static_cast<std::size_t>(word)] + widestSpace;
+    }
+    return kerning * width;
+}
+
 // Whether a line of several words is wider than the column, or an unbreakable part of
 // a word. Measures no more lines than needed.
 bool QuotationFit::isWider(Cut& cut, double size, double columnWidth) {
     const double column = inUnits(columnWidth, size);
-    while (cut.widest <= column && cut.measured < cut.lineEnds.size()) {
-        const qsizetype begin = cut.measured > 0 ? cut.lineEnds[cut.measured - 1] : 0;
-        const qsizetype end = cut.lineEnds[cut.measured++];
+    for (std::size_t i = 0; cut.widest <= column && i < cut.lineEnds.size(); ++i) {
+        const qsizetype begin = i > 0 ? cut.lineEnds[i - 1] : 0;
+        const qsizetype end = cut.lineEnds[i];
+        if (cut.measured[i] || (end - begin > 1 && widthAtMost(begin, end) <= column)) {
+            continue;
+        }
+        cut.measured[i] = true;
         if (end - begin > 1) {
             cut.widest =
                 std::max(cut.widest, unbrokenWidth(balance_.line(begin, end), texts_.face));

@@ -39,6 +39,8 @@ public:
     struct Result {
         double size = 0;
         QStringList lines;
+        // For each line of a single word its pieces; for the others none.
+        std::vector<std::vector<RowPiece>> pieces;
     };
 
     QuotationFit() = default;
@@ -54,10 +56,12 @@ private:
     struct Cut {
         int target = 0; // the smallest of them
         std::vector<qsizetype> lineEnds;
-        std::size_t measured = 0; // lines of which `widest` is the width
+        std::vector<bool> measured; // the lines of which `widest` is the width
         double widest = 0;
     };
 
+    void measureWords(const QStringList& words);
+    double widthAtMost(qsizetype begin, qsizetype end) const;
     double authorHeight(double scale, double columnWidth) const;
     double linesHeight(const Cut& cut, double size, double columnWidth) const;
     bool isWider(Cut& cut, double size, double columnWidth);
@@ -69,6 +73,7 @@ private:
     LineBalance balance_{QString()};
     std::vector<Cut> cuts_; // by descending target
     MeasuredTexts words_;
+    std::vector<double> wordWidths_;
     MeasuredTexts author_;
     MeasuredTexts trackedAuthor_; // by one unit
     double markRow_ = 0;          // heights of rows, in the units of TextRow

@@ -131,7 +131,8 @@ void QuoteView::compose(double seconds) {
     composeOverlays(metrics, box);
     composeLines(metrics, width, seconds);
     if (!closing_) {
-        closing_ = closingEntrances(storedTextAnim(state_.settings.textAnimRaw), lineCount());
+        closing_ =
+            closingEntrances(storedTextAnim(state_.settings.textAnimRaw), fitted_.lines.size());
     }
     layOut(mark_, {u"\u201C"_s, metrics.mark(fitted_.size)});
     layOut(author_,
@@ -189,11 +190,13 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
                     QPointF(0, measure::shadowDrop)};
     parts.maxWidth = width;
 
-    GlyphShapes shapes; // shared by the lines
+    const auto shapes = std::make_shared<GlyphShapes>();
+    double bottom = measure::headerTop; // of the lines so far, at least
     std::vector<Line> lines;
     lines.reserve(static_cast<size_t>(fitted_.lines.size()));
-    for (qsizetype i = 0; i < fitted_.lines.size(); ++i) {
+    for (qsizetype i = 0; i < fitted_.lines.size() && bottom < state_.size.height(); ++i) {
         parts.text = fitted_.lines[i];
+        parts.pieces = fitted_.pieces[static_cast<std::size_t>(i)];
         parts.index = i;
         const QString identity = lineIdentity(raw, i, parts.text);
         Line* old = i < lineCount() ? &lines_[static_cast<size_t>(i)] : nullptr;
@@ -206,6 +209,8 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
             lines.push_back({identity, appearedAt, RevealLine(parts, shapes), {}});
             ++work_.layouts;
         }
+        bottom += lines.back().line.size().height() +
+                  measure::lineSpacing * fitted_.size / measure::quoteSize;
     }
     lines_ = std::move(lines);
 }
@@ -308,6 +313,15 @@ QRectF QuoteView::rect(Element element) const {
 QRectF QuoteView::lineRect(qsizetype index) const {
     const Line& line = lines_[static_cast<size_t>(index)];
     return {line.topLeft, line.line.size()};
+}
+
+QuoteView::Work QuoteView::work() const {
+    Work work = work_;
+    work.measurements += quotationFit_.measurements();
+    for (const Line& line : lines_) {
+        work.readLetters += line.line.readLetters();
+    }
+    return work;
 }
 
 QString QuoteView::lineText(qsizetype index) const {

@@ -56,13 +56,15 @@ public:
     // The state last passed in, with the quotation cut off far below the bottom edge.
     const QuoteViewState& state() const { return state_; }
 
-    // How often a text has been measured to find its size and lines, and how often a
-    // text or a line has been laid out.
+    // How often a text has been measured to find its size and lines, how often a text
+    // or a line has been laid out, and of how many letters of the lines the outlines have
+    // been read: some in each frame after the first, and all others when a line appears.
     struct Work {
         int measurements = 0;
         int layouts = 0;
+        qsizetype readLetters = 0;
     };
-    Work work() const { return {work_.measurements + quotationFit_.measurements(), work_.layouts}; }
+    Work work() const;
 
     // Draws the elements that touch `clip`; `clip` and the painter are in points.
     void paint(QPainter& painter, double seconds, const QRectF& clip) const;
@@ -76,6 +78,7 @@ public:
     // The rectangles of the elements at rest, in points.
     enum class Element { Greeting, Today, Mark, Rule, Author, Hint };
     QRectF rect(Element element) const;
+    // The lines that begin above the bottom edge of the view.
     qsizetype lineCount() const { return static_cast<qsizetype>(lines_.size()); }
     QRectF lineRect(qsizetype index) const;
     QString lineText(qsizetype index) const;
@@ -130,8 +133,10 @@ private:
     void placeTexts(const Metrics& metrics, const QRectF& box);
     void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
     void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
+    void readAhead() const;
     void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;
     QRectF markRectAt(double seconds) const;
+    QRectF columnRectAt(double seconds) const;
     QRectF paintedLineRect(const Line& line, double seconds) const;
 
     const FontBook* fonts_;

@@ -19,7 +19,8 @@ namespace morrowleaf {
 namespace {
 
 constexpr double ruleOpacity = 0.35;
-constexpr double overflowFade = 72; // height of the gradient at the bottom, points
+constexpr qsizetype lettersAhead = 150; // are read in one frame
+constexpr double overflowFade = 72;     // height of the gradient at the bottom, points
 
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(std::clamp(opacity, 0.0, 1.0)));
@@ -60,6 +61,24 @@ QRectF QuoteView::paintedLineRect(const Line& line, double seconds) const {
     return own.translated(line.topLeft);
 }
 
+// What the visible part of the column touches.
+QRectF QuoteView::columnRectAt(double seconds) const {
+    QRectF touched;
+    if (mark::opacity(seconds) > 0) {
+        touched |= markRectAt(seconds);
+    }
+    for (const Line& line : lines_) {
+        touched |= paintedLineRect(line, seconds);
+    }
+    if (closing_->rule.progress(seconds) > 0) {
+        touched |= rule_;
+    }
+    if (closing_->author.progress(seconds) > 0) {
+        touched |= withOverhang(author_.rect());
+    }
+    return touched;
+}
+
 void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) const {
     const auto paintText = [&](const Text& text, double progress) {
         if (progress <= 0 || !withOverhang(text.rect()).intersects(clip)) {
@@ -75,6 +94,17 @@ void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) con
     paintText(greeting_, headerEntrance.progress(seconds));
     paintText(today_, headerEntrance.progress(seconds));
     paintText(hint_, hintEntrance.progress(seconds));
+    if (seconds > 0) { // the first frame has enough to do
+        readAhead();
+    }
+}
+
+// Reading all letters of a long line in the frame in which it appears would take too long.
+void QuoteView::readAhead() const {
+    qsizetype letters = 0;
+    for (const Line& line : lines_) {
+        letters += line.line.readAhead(lettersAhead - letters);
+    }
 }
 
 void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& clip) const {
@@ -139,8 +169,9 @@ void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip
 
 // Draws the column into a picture of its own first, so that all of it fades out at the bottom.
 void QuoteView::paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const {
-    const QRect area =
-        clip.intersected(QRectF(0, 0, state_.size.width(), place_.bottom)).toAlignedRect();
+    const QRect area = clip.intersected(QRectF(0, 0, state_.size.width(), place_.bottom))
+                           .intersected(columnRectAt(seconds))
+                           .toAlignedRect();
     if (area.isEmpty()) {
         return;
     }

@@ -3,7 +3,6 @@
 
 #include "textanim/begunglyphs.h"
 
-#include "base/graphemes.h"
 #include "textanim/textlayout.h"
 
 #include <algorithm>
@@ -22,21 +21,19 @@ bool isLigature(const GlyphCluster& cluster) {
 
 // Separates the letters of ligatures where tracking does not, in scripts whose letters
 // join. The number of characters stays the same.
-QString withSeparatedLetters(const QString& text, const TextLayout& layout) {
+QString withSeparatedLetters(const QString& text, const TextRow& row, qsizetype firstCharacter) {
     constexpr QChar nonJoiner(0x200C);
-    const std::vector<CharacterKind> kinds = setText(text, LineBreaks::Kept).kinds;
-    const QList<qsizetype> ends = characterEnds(text);
+    const SetText set = setText(text, LineBreaks::Kept);
     QString separated;
     qsizetype copied = 0;
-    for (const TextRow& row : layout.rows) {
-        for (const GlyphCluster& cluster : row.clusters) {
-            for (qsizetype i = 0; i + 1 < cluster.characterCount; ++i) {
-                const qsizetype character = cluster.firstCharacter + i;
-                if (kinds[static_cast<std::size_t>(character)] == CharacterKind::Joined) {
-                    separated += QStringView(text).mid(copied, ends[character] - copied);
-                    separated += nonJoiner;
-                    copied = ends[character];
-                }
+    for (const GlyphCluster& cluster : row.clusters) {
+        for (qsizetype i = 0; i + 1 < cluster.characterCount; ++i) {
+            const qsizetype character = cluster.firstCharacter - firstCharacter + i;
+            if (set.kinds[static_cast<std::size_t>(character)] == CharacterKind::Joined) {
+                const qsizetype end = set.originalEnds[character];
+                separated += QStringView(text).mid(copied, end - copied);
+                separated += nonJoiner;
+                copied = end;
             }
         }
     }
@@ -60,19 +57,21 @@ Extent extentOf(const std::vector<PlacedGlyph>& glyphs) {
     return extent;
 }
 
-void addTo(GlyphCluster& cluster, const std::map<qsizetype, const GlyphCluster*>& apart) {
+// `first` is the first character of the cluster among those apart.
+void addTo(GlyphCluster& cluster, qsizetype first,
+           const std::map<qsizetype, const GlyphCluster*>& apart) {
     std::vector<PlacedGlyph> glyphs;
     double shift = 0;
     for (qsizetype typed = 1; typed < cluster.characterCount; ++typed) {
-        const auto next = apart.find(cluster.firstCharacter + typed - 1);
+        const auto next = apart.find(first + typed - 1);
         if (next == apart.end() || next->second->characterCount != 1) {
             return; // the face cannot separate them
         }
         const std::vector<PlacedGlyph>& more = next->second->glyphs;
         if (typed == 1) {
             const Extent whole = extentOf(cluster.glyphs);
-            const Extent first = extentOf(more);
-            shift = cluster.rightToLeft ? whole.right - first.right : whole.left - first.left;
+            const Extent letter = extentOf(more);
+            shift = cluster.rightToLeft ? whole.right - letter.right : whole.left - letter.left;
         }
         for (PlacedGlyph glyph : more) {
             glyph.position.rx() += shift;
@@ -84,25 +83,21 @@ void addTo(GlyphCluster& cluster, const std::map<qsizetype, const GlyphCluster*>
 
 } // namespace
 
-void addBegunGlyphs(TextLayout& layout, const QString& text, const QFont& face) {
-    const bool hasLigatures = std::ranges::any_of(layout.rows, [](const TextRow& row) {
-        return std::ranges::any_of(row.clusters, isLigature);
-    });
-    if (!hasLigatures) {
+void addBegunGlyphs(TextRow& row, const QString& text, qsizetype firstCharacter,
+                    const QFont& face) {
+    if (std::ranges::none_of(row.clusters, isLigature)) {
         return;
     }
-    const TextLayout letters =
-        layOut(withSeparatedLetters(text, layout), face, leastTracking, 0, LineBreaks::Kept);
+    const TextLayout letters = layOut(withSeparatedLetters(text, row, firstCharacter), face,
+                                      leastTracking, 0, LineBreaks::Kept);
     std::map<qsizetype, const GlyphCluster*> apart; // by their first character
-    for (const TextRow& row : letters.rows) {
-        for (const GlyphCluster& cluster : row.clusters) {
+    for (const TextRow& separated : letters.rows) {
+        for (const GlyphCluster& cluster : separated.clusters) {
             apart[cluster.firstCharacter] = &cluster;
         }
     }
-    for (TextRow& row : layout.rows) {
-        for (GlyphCluster& cluster : row.clusters) {
-            addTo(cluster, apart);
-        }
+    for (GlyphCluster& cluster : row.clusters) {
+        addTo(cluster, cluster.firstCharacter - firstCharacter, apart);
     }
 }
 

@@ -9,11 +9,12 @@ class QFont;
 
 namespace morrowleaf {
 
-struct TextLayout;
+struct TextRow;
 
 // Gives each cluster of several characters (a ligature) the glyphs that stand in its
 // place while only some of them are typed: those of the letters by themselves.
-// `layout` is that of `text` in `face`. Costs one more layout, if there are ligatures.
-void addBegunGlyphs(TextLayout& layout, const QString& text, const QFont& face);
+// `text`, in `face`, is all that the row was made of; it begins with the character
+// `firstCharacter`. Costs one more layout, if there are ligatures.
+void addBegunGlyphs(TextRow& row, const QString& text, qsizetype firstCharacter, const QFont& face);
 
 } // namespace morrowleaf

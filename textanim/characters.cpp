@@ -79,7 +79,8 @@ CharacterKind kindOf(QStringView character) {
 SetText setText(const QString& text, LineBreaks breaks) {
     SetText set;
     set.text.reserve(text.size());
-    set.ends = characterEnds(text);
+    set.originalEnds = characterEnds(text);
+    set.ends = set.originalEnds;
     set.kinds.reserve(static_cast<std::size_t>(set.ends.size()));
     qsizetype begin = 0;
     for (qsizetype& end : set.ends) {

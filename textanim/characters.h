@@ -21,7 +21,8 @@ enum class CharacterKind {
 // text: control characters remain as empty ones.
 struct SetText {
     QString text;
-    QList<qsizetype> ends; // of the characters, in UTF-16 units of `text`
+    QList<qsizetype> ends;         // of the characters, in UTF-16 units of `text`
+    QList<qsizetype> originalEnds; // the same in the original text
     std::vector<CharacterKind> kinds;
 };
 

@@ -25,19 +25,6 @@ constexpr double traceDuration = 1.25; // seconds
 constexpr double inkStart = 0.7 * traceDuration;
 constexpr double inkDuration = 0.45 * traceDuration;
 
-// A single row, in a place of whole points.
-TextOutline outlineOfRow(const TextLayout& layout, const TextFont& font, GlyphShapes& shapes) {
-    const TextRow& row = layout.rows.front();
-    const double unit = font.size / shapingSize;
-    const QSizeF place(wholePoints(row.width * unit),
-                       wholePoints((row.ascent + row.descent) * unit));
-    const double baseline = place.height() - descentOf(rawFace(font.face)) * unit;
-    TextOutline text = outlineRow(layout, {0, baseline}, unit, shapes);
-    text.size = place;
-    text.baseline = baseline;
-    return text;
-}
-
 // Above this cost, the outlines of a text are too many to be traced in every frame.
 constexpr int mostTraced = 20'000;
 
@@ -67,32 +54,36 @@ void addPen(QImage& letters, const QImage& pen, const QColor& color) {
 
 class HandwritingPainter final : public LinePainter {
 public:
-    HandwritingPainter(HandwrittenLine line, double size)
-        : trace_(line.text.cost > mostTraced ? PenTrace{}
-                                             : penTrace(wholePath(line.text), stretchShare * size))
-        , penWidth_(line.penWidth)
-        , letters_(std::move(line.text), line.penWidth / 2 + 1) {}
+    HandwritingPainter(LateOutline text, double size)
+        : size_(size)
+        , penWidth_(penWidth(size))
+        , letters_(std::move(text), penWidth_ / 2 + 1) {}
 
-    const TextOutline& text() const override { return letters_.text(); }
+    LateOutline& text() override { return letters_.text(); }
     double duration() const override { return handwritingDuration(); }
     bool looksSame(double one, double other) const override {
         return one == other || penProgress(one) == penProgress(other);
     }
-    QRectF rect(double seconds) const override {
+    QRectF rect(double seconds) override {
         const PenProgress progress = penProgress(seconds);
         return progress.traced > 0 || progress.ink > 0 ? letters_.rect({}) : QRectF();
     }
 
     PlacedPicture draw(double seconds, double scale, const QColor& color) override {
         const PenProgress progress = penProgress(seconds);
-        if (trace_.stretches.empty()) {
+        const TextOutline& outline = letters_.outline();
+        if (!trace_) {
+            trace_ = outline.cost > mostTraced ? PenTrace{}
+                                               : penTrace(wholePath(outline), stretchShare * size_);
+        }
+        if (trace_->stretches.empty()) {
             LineEffects effects;
-            effects.opacity = text().cost > mostTraced ? progress.traced : 1;
+            effects.opacity = outline.cost > mostTraced ? progress.traced : 1;
             return letters_.draw(effects, scale, color);
         }
         const QRect area = deviceRect(letters_.rect({}), scale);
         if (!pen_ || pen_->scale() != scale || pen_->rect() != area) {
-            pen_.emplace(scale, penWidth_, area, baselineShift(text(), scale));
+            pen_.emplace(scale, penWidth_, area, baselineShift(outline, scale));
             ink_ = {};
         }
         PlacedPicture result{transparentPicture(area.size(), memory_), area.topLeft()};
@@ -104,7 +95,7 @@ public:
             painter.setOpacity(progress.ink);
             painter.drawImage(0, 0, ink_);
         }
-        addPen(result.picture, pen_->at(trace_, trace_.length * progress.traced), color);
+        addPen(result.picture, pen_->at(*trace_, trace_->length * progress.traced), color);
         return result;
     }
 
@@ -116,8 +107,9 @@ public:
     }
 
 private:
-    PenTrace trace_;
+    double size_;
     double penWidth_;
+    std::optional<PenTrace> trace_;
     Letters letters_;
     std::optional<PenDrawing> pen_;
     QImage ink_; // in the buffer of letters_, at the scale of the pen
@@ -135,22 +127,29 @@ double wholePoints(double length) {
     return std::ceil(length - 1e-3);
 }
 
-HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth) {
-    GlyphShapes shapes;
-    return handwrittenLine(text, font, maxWidth, shapes);
+PlacedRows placeHandwritten(const TextLayout& layout, const TextFont& font, double maxWidth) {
+    const double unit = font.size / shapingSize;
+    const TextRow& first = layout.rows.front();
+    if (layout.rows.size() > 1 || (maxWidth > 0 && first.width * unit > maxWidth)) {
+        return placeRows(layout, unit, maxWidth);
+    }
+    PlacedRows placed;
+    placed.frame.characterCount = layout.characterCount;
+    placed.frame.size = {wholePoints(first.width * unit),
+                         wholePoints((first.ascent + first.descent) * unit)};
+    placed.frame.baseline = placed.frame.size.height() - descentOf(rawFace(font.face)) * unit;
+    placed.places.push_back({{0, placed.frame.baseline}, unit});
+    return placed;
 }
 
-HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth,
-                                GlyphShapes& shapes) {
+HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth) {
     if (!(font.size > 0)) {
         return {};
     }
-    const double unit = font.size / shapingSize;
-    const TextLayout layout = layOut(text, font.face, 0, maxWidth / unit,
-                                     maxWidth > 0 ? LineBreaks::Kept : LineBreaks::Ignored);
-    const bool fits = maxWidth <= 0 || layout.rows.front().width * unit <= maxWidth;
-    return {layout.rows.size() == 1 && fits ? outlineOfRow(layout, font, shapes)
-                                            : outlineOf(layout, unit, maxWidth, shapes),
+    GlyphShapes shapes;
+    const RowLayout layout(text, font.face, 0, maxWidth / (font.size / shapingSize),
+                           maxWidth > 0 ? LineBreaks::Kept : LineBreaks::Ignored);
+    return {outlineOf(layout, placeHandwritten(layout.rows(), font, maxWidth), shapes),
             penWidth(font.size)};
 }
 
@@ -176,10 +175,8 @@ double handwritingDuration() {
     return inkStart + inkDuration;
 }
 
-std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
-                                                double maxWidth, GlyphShapes& shapes) {
-    return std::make_unique<HandwritingPainter>(handwrittenLine(text, font, maxWidth, shapes),
-                                                font.size);
+std::unique_ptr<LinePainter> handwritingPainter(LateOutline text, double size) {
+    return std::make_unique<HandwritingPainter>(std::move(text), size);
 }
 
 } // namespace morrowleaf

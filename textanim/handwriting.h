@@ -36,8 +36,8 @@ struct HandwrittenLine {
 double wholePoints(double length);
 
 HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth = 0);
-HandwrittenLine handwrittenLine(const QString& text, const TextFont& font, double maxWidth,
-                                GlyphShapes& shapes);
+// Places the rows of a line: a single one that fits in a rectangle of whole points.
+PlacedRows placeHandwritten(const TextLayout& layout, const TextFont& font, double maxWidth);
 QSizeF handwrittenLineSize(const QString& text, const TextFont& font, double maxWidth = 0);
 
 // The width of the pen in points for a font size in points: 0.018 times the size,
@@ -57,8 +57,7 @@ double handwritingDuration(); // seconds
 
 // Draws the line as a pen does: its outlines are traced, then filled with ink. A
 // line without outlines (only emoji) is drawn as ordinary type, and one with very many
-// fades in.
-std::unique_ptr<LinePainter> handwritingPainter(const QString& text, const TextFont& font,
-                                                double maxWidth, GlyphShapes& shapes);
+// fades in. `size` is that of the font, in points.
+std::unique_ptr<LinePainter> handwritingPainter(LateOutline text, double size);
 
 } // namespace morrowleaf

@@ -38,16 +38,16 @@ QTransform onDevice(const TextOutline& text, const LineEffects& effects, double 
 
 class MotionPainter final : public LinePainter {
 public:
-    MotionPainter(TextOutline text, const Motion& motion)
+    MotionPainter(LateOutline text, const Motion& motion)
         : letters_(std::move(text))
         , motion_(motion) {}
 
-    const TextOutline& text() const override { return letters_.text(); }
+    LateOutline& text() override { return letters_.text(); }
     double duration() const override { return motion_.duration; }
     bool looksSame(double one, double other) const override {
         return one == other || motion_.effectsAt(one) == motion_.effectsAt(other);
     }
-    QRectF rect(double seconds) const override {
+    QRectF rect(double seconds) override {
         const LineEffects effects = motion_.effectsAt(seconds);
         return effects.opacity > 0 ? letters_.rect(effects) : QRectF();
     }
@@ -63,7 +63,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<LinePainter> motionPainter(TextOutline text, const Motion& motion) {
+std::unique_ptr<LinePainter> motionPainter(LateOutline text, const Motion& motion) {
     return std::make_unique<MotionPainter>(std::move(text), motion);
 }
 
@@ -88,33 +88,34 @@ QImage transparentPicture(QSize size, std::vector<QRgb>& memory) {
     return picture;
 }
 
-Letters::Letters(TextOutline text, double margin)
+Letters::Letters(LateOutline text, double margin)
     : text_(std::move(text))
     , margin_(margin) {}
 
-QRectF Letters::rect(const LineEffects& effects) const {
-    if (text_.ink.isEmpty()) {
+QRectF Letters::rect(const LineEffects& effects) {
+    const TextOutline& text = outline();
+    if (text.ink.isEmpty()) {
         return {};
     }
     const QRectF ink =
-        placing(text_, effects).mapRect(text_.ink.adjusted(-margin_, -margin_, margin_, margin_));
+        placing(text, effects).mapRect(text.ink.adjusted(-margin_, -margin_, margin_, margin_));
     const double halo = 3 * effects.blurRadius * effects.scale;
     return ink.adjusted(-halo, -halo, halo, halo);
 }
 
-bool Letters::isIntricate() const {
-    return text_.cost > filledOnceAbove;
+bool Letters::isIntricate() {
+    return outline().cost > filledOnceAbove;
 }
 
 PlacedPicture Letters::draw(const LineEffects& effects, double scale, const QColor& color) {
     const double sigma = effects.blurRadius * effects.scale * scale;
     // Blurring all channels of a screen full of pictures would take too long.
-    const bool isBlurred = sigma > sharpBelow && !(text_.hasPictures && isIntricate());
+    const bool isBlurred = sigma > sharpBelow && !(outline().hasPictures && isIntricate());
     if (isBlurred) {
         return drawBlurred(effects, scale, sigma, color);
     }
     const QRect area = deviceRect(rect(effects), scale);
-    PlacedPicture result{paint(effects, text_.characterCount, scale, 1, area, color),
+    PlacedPicture result{paint(effects, text_.characterCount(), scale, 1, area, color),
                          area.topLeft()};
     if (effects.opacity < 1) {
         QPainter painter(&result.picture);
@@ -139,13 +140,13 @@ QImage Letters::paint(const LineEffects& effects, qint64 characters, double scal
         paintFilled(painter, effects, characters, scale, cell, color);
         return picture;
     }
-    painter.setTransform(onDevice(text_, effects, scale, cell), true);
-    paintTyped(painter, text_, characters, color, pictures_);
+    painter.setTransform(onDevice(outline(), effects, scale, cell), true);
+    paintTyped(painter, outline(), characters, color, pictures_);
     return picture;
 }
 
 const PlacedPicture& Letters::filled(qint64 characters, double scale, const QColor& color) {
-    const auto& parts = text_.parts;
+    const auto& parts = outline().parts;
     if (!filled_ || filled_->scale != scale || filled_->color != color ||
         (filled_->parts > 0 &&
          parts[filled_->parts - 1].firstCharacter + parts[filled_->parts - 1].characterCount >
@@ -160,7 +161,7 @@ const PlacedPicture& Letters::filled(qint64 characters, double scale, const QCol
     }
     QPainter painter(&filled_->picture.picture);
     painter.translate(-filled_->picture.origin);
-    painter.setTransform(onDevice(text_, {}, scale, 1), true);
+    painter.setTransform(onDevice(outline(), {}, scale, 1), true);
     for (std::size_t& i = filled_->parts; i < parts.size(); ++i) {
         if (parts[i].firstCharacter + parts[i].characterCount > characters) {
             break;
@@ -173,9 +174,9 @@ const PlacedPicture& Letters::filled(qint64 characters, double scale, const QCol
 void Letters::paintFilled(QPainter& painter, const LineEffects& effects, qint64 characters,
                           double scale, int cell, const QColor& color) {
     const PlacedPicture& whole = filled(characters, scale, color);
-    const QTransform atRest = onDevice(text_, {}, scale, 1);
+    const QTransform atRest = onDevice(outline(), {}, scale, 1);
     painter.save();
-    painter.setTransform(atRest.inverted() * onDevice(text_, effects, scale, cell), true);
+    painter.setTransform(atRest.inverted() * onDevice(outline(), effects, scale, cell), true);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     // A bilinear reduction by more than half would skip pixels.
     painter.drawImage(QRectF(whole.origin, whole.picture.size()),
@@ -184,9 +185,9 @@ void Letters::paintFilled(QPainter& painter, const LineEffects& effects, qint64 
                                                  Qt::SmoothTransformation)
                           : whole.picture);
     painter.restore();
-    painter.setTransform(onDevice(text_, effects, scale, cell), true);
-    if (filled_->parts < text_.parts.size()) {
-        paintPart(painter, text_.parts[filled_->parts], characters, color, pictures_);
+    painter.setTransform(onDevice(outline(), effects, scale, cell), true);
+    if (filled_->parts < outline().parts.size()) {
+        paintPart(painter, outline().parts[filled_->parts], characters, color, pictures_);
     }
 }
 
@@ -206,8 +207,8 @@ PlacedPicture Letters::drawBlurred(const LineEffects& effects, double scale, dou
     const QPoint corner(static_cast<int>(std::floor(static_cast<double>(box.left()) / cell)),
                         static_cast<int>(std::floor(static_cast<double>(box.top()) / cell)));
     const QSize cells(box.right() / cell - corner.x() + 2, box.bottom() / cell - corner.y() + 2);
-    const bool colored = text_.hasPictures;
-    const QImage small = paint(sharp, text_.characterCount, scale, cell, {corner, cells},
+    const bool colored = outline().hasPictures;
+    const QImage small = paint(sharp, text_.characterCount(), scale, cell, {corner, cells},
                                colored ? color : QColor(Qt::black));
     const BlurredLayer layer(
         small, corner * cell, cell, sigma,

@@ -22,12 +22,14 @@ namespace morrowleaf {
 class Letters {
 public:
     // `margin` in points is added around the ink, for what is drawn beyond the outlines.
-    explicit Letters(TextOutline text, double margin = 1);
+    explicit Letters(LateOutline text, double margin = 1);
 
-    const TextOutline& text() const { return text_; }
+    LateOutline& text() { return text_; }
+    qsizetype characterCount() const { return text_.characterCount(); }
+    const TextOutline& outline() { return text_.whole(); }
     // The rectangle that the letters touch with these effects, in points from the
     // top left of the line; empty for a line without ink.
-    QRectF rect(const LineEffects& effects) const;
+    QRectF rect(const LineEffects& effects);
 
     // Draws the whole line with effects; `scale` is in device pixels per point.
     PlacedPicture draw(const LineEffects& effects, double scale, const QColor& color);
@@ -38,7 +40,7 @@ public:
 
 private:
     // Whether its outlines and pictures are too many to be drawn in every frame.
-    bool isIntricate() const;
+    bool isIntricate();
 
     // The first characters at rest, for an intricate text.
     struct Filled {
@@ -55,7 +57,7 @@ private:
     PlacedPicture drawBlurred(const LineEffects& effects, double scale, double sigma,
                               const QColor& color);
 
-    TextOutline text_;
+    LateOutline text_;
     double margin_;
     std::vector<QRgb> memory_;
     std::optional<Filled> filled_;

@@ -11,7 +11,7 @@ class QColor;
 
 namespace morrowleaf {
 
-struct TextOutline;
+class LateOutline;
 
 // A picture and its position, in device pixels relative to the line's origin.
 struct PlacedPicture {
@@ -30,15 +30,16 @@ public:
     LinePainter(const LinePainter&) = delete;
     LinePainter& operator=(const LinePainter&) = delete;
 
-    // The outline of the line at rest.
-    virtual const TextOutline& text() const = 0;
+    // The line at rest. Drawing it, and its rect() unless it is empty, read the outline;
+    // before, call one of them on the main thread.
+    virtual LateOutline& text() = 0;
     // The seconds after which the line is at rest, apart from a rounding error.
     virtual double duration() const = 0;
     // Whether both instants give the same picture.
     virtual bool looksSame(double one, double other) const = 0;
     // The rectangle that the letters and the halo of their blur touch, in points
     // from the top left of the line; empty while nothing is visible.
-    virtual QRectF rect(double seconds) const = 0;
+    virtual QRectF rect(double seconds) = 0;
     // Draws the letters; `scale` is in device pixels per point. The pixels are
     // valid until the next call.
     virtual PlacedPicture draw(double seconds, double scale, const QColor& color) = 0;

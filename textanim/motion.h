@@ -35,7 +35,7 @@ Motion rise();
 Motion blur();
 
 // Makes a painter that draws a whole line with the effects of a motion.
-std::unique_ptr<LinePainter> motionPainter(TextOutline text, const Motion& motion);
+std::unique_ptr<LinePainter> motionPainter(LateOutline text, const Motion& motion);
 
 // `seconds`, but 0 for negative values and NaN.
 inline double sinceStart(double seconds) {

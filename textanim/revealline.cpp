@@ -8,13 +8,13 @@
 #include "textanim/handwriting.h"
 #include "textanim/letters.h"
 #include "textanim/motion.h"
-#include "textanim/shapedtext.h"
 #include "textanim/stagger.h"
 #include "textanim/textlayout.h"
 #include "textanim/typewriter.h"
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -26,40 +26,60 @@ double scaleOf(const QTransform& device) {
     return std::sqrt(std::abs(device.determinant()));
 }
 
-TextOutline typedOutline(const RevealLine::Parts& parts, GlyphShapes& shapes) {
-    if (!(parts.font.size > 0)) {
+LateOutline lateOutline(const RevealLine::Parts& parts,
+                        const std::shared_ptr<GlyphShapes>& shapes) {
+    const bool isWritten = parts.style == TextAnim::Handwrite;
+    const TextFont& font = isWritten ? parts.strokeFont : parts.font;
+    if (!(font.size > 0)) {
         return {};
     }
-    const double unit = parts.font.size / shapingSize;
-    TextLayout layout =
-        layOut(parts.text, parts.font.face, 0, parts.maxWidth / unit, LineBreaks::Kept);
-    addBegunGlyphs(layout, parts.text, parts.font.face);
-    return outlineOf(layout, unit, parts.maxWidth, shapes);
+    const double unit = font.size / shapingSize;
+    const auto breaks = isWritten && parts.maxWidth <= 0 ? LineBreaks::Ignored : LineBreaks::Kept;
+    const auto layout = std::make_shared<RowLayout>(parts.text, font.face, 0, parts.maxWidth / unit,
+                                                    breaks, parts.pieces);
+    const auto clustersOf = [layout, face = font.face, style = parts.style](std::size_t index,
+                                                                            double inPoints) {
+        TextRow row = layout->row(index, inPoints);
+        if (style == TextAnim::Typewriter) {
+            const auto& [text, firstCharacter, count] = layout->text(index);
+            addBegunGlyphs(row, text, firstCharacter, face);
+        }
+        return std::move(row.clusters);
+    };
+    return {isWritten ? placeHandwritten(layout->rows(), font, parts.maxWidth)
+                      : placeRows(layout->rows(), unit, parts.maxWidth),
+            clustersOf, shapes};
 }
 
-std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts, GlyphShapes& shapes) {
-    const auto inType = [&] {
-        return ShapedText(parts.text, parts.font, 0, parts.maxWidth, shapes).outline();
-    };
+std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts,
+                                        const std::shared_ptr<GlyphShapes>& shapes) {
+    LateOutline text = lateOutline(parts, shapes);
     switch (parts.style) {
     case TextAnim::Fade:
         break;
     case TextAnim::Handwrite:
-        return handwritingPainter(parts.text, parts.strokeFont, parts.maxWidth, shapes);
+        return handwritingPainter(std::move(text), parts.strokeFont.size);
     case TextAnim::Typewriter:
-        return typewriterPainter(typedOutline(parts, shapes));
+        return typewriterPainter(std::move(text));
     case TextAnim::Rise:
-        return motionPainter(inType(), rise());
+        return motionPainter(std::move(text), rise());
     case TextAnim::Blur:
-        return motionPainter(inType(), blur());
+        return motionPainter(std::move(text), blur());
     }
-    return motionPainter(inType(), fade());
+    return motionPainter(std::move(text), fade());
+}
+
+// Whether anything of a text can be seen.
+bool hasInk(const QString& text) {
+    return std::ranges::any_of(text, [](QChar unit) {
+        return !unit.isSpace() && unit.category() != QChar::Other_Control;
+    });
 }
 
 } // namespace
 
 struct RevealLine::Private {
-    Private(const Parts& p, GlyphShapes& shapes)
+    Private(const Parts& p, const std::shared_ptr<GlyphShapes>& shapes)
         : parts(p)
         , painter(painterFor(p, shapes))
         , delay(lineDelay(p.style, p.index)) {}
@@ -127,12 +147,10 @@ struct RevealLine::Private {
     }
 };
 
-RevealLine::RevealLine(const Parts& parts) {
-    GlyphShapes shapes;
-    *this = RevealLine(parts, shapes);
-}
+RevealLine::RevealLine(const Parts& parts)
+    : RevealLine(parts, std::make_shared<GlyphShapes>()) {}
 
-RevealLine::RevealLine(const Parts& parts, GlyphShapes& shapes)
+RevealLine::RevealLine(const Parts& parts, const std::shared_ptr<GlyphShapes>& shapes)
     : d_(std::make_unique<Private>(parts, shapes)) {}
 
 RevealLine::~RevealLine() = default;
@@ -146,7 +164,13 @@ double RevealLine::delay() const {
     return d_->delay;
 }
 QSizeF RevealLine::size() const {
-    return d_->painter->text().size;
+    return d_->painter->text().size();
+}
+qsizetype RevealLine::readLetters() const {
+    return d_->painter->text().readLetters();
+}
+qsizetype RevealLine::readAhead(qsizetype most) const {
+    return d_->painter->text().read(most);
 }
 
 void RevealLine::setColors(const QColor& color, const LineShadow& shadow) {
@@ -213,7 +237,7 @@ bool RevealLine::changesBetween(double from, double to) const {
 }
 
 double RevealLine::settledAfter() const {
-    if (d_->painter->text().ink.isEmpty()) {
+    if (!hasInk(d_->parts.text)) {
         return 0;
     }
     double seconds = d_->delay + d_->painter->duration();

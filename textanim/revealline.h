@@ -5,6 +5,7 @@
 
 #include "look/animationkinds.h"
 #include "textanim/fonts.h"
+#include "textanim/rowbreaking.h"
 
 #include <QColor>
 #include <QRectF>
@@ -12,6 +13,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class QPainter;
 class QTransform;
@@ -44,11 +46,14 @@ public:
         QColor color;
         LineShadow shadow;
         double maxWidth = 0; // of the column, points; 0 means unbounded
+        // Those of the text in its font, if it has been measured: a line that is measured
+        // is laid out only when it is drawn.
+        std::vector<RowPiece> pieces{};
     };
 
-    // Lays out the text, which is the costly part.
     explicit RevealLine(const Parts& parts);
-    RevealLine(const Parts& parts, GlyphShapes& shapes);
+    // `shapes` may be shared by several lines.
+    RevealLine(const Parts& parts, const std::shared_ptr<GlyphShapes>& shapes);
     ~RevealLine();
     RevealLine(RevealLine&&) noexcept;
     RevealLine& operator=(RevealLine&&) noexcept;
@@ -56,6 +61,12 @@ public:
     const Parts& parts() const;
     double delay() const; // seconds from appearance to the start
     QSizeF size() const;  // the space reserved from the start, points
+    // The letters of which the outlines have been read: all, at the latest when the line
+    // becomes visible.
+    qsizetype readLetters() const;
+    // Reads the next of them, at most so many; returns how many. Changes nothing that is
+    // drawn.
+    qsizetype readAhead(qsizetype most) const;
 
     // Changes colour and shadow, which need no new layout.
     void setColors(const QColor& color, const LineShadow& shadow);

@@ -13,6 +13,10 @@ struct RowPiece {
     double width = 0;   // without the white space at its end, which may hang over the row's end
     double advance = 0; // from its beginning to that of the next piece
     bool endsRow = false;
+    // Where rows are made of pieces: the end in the text, and the extents of its faces.
+    std::ptrdiff_t end = 0;
+    double ascent = 0;
+    double descent = 0;
 };
 
 // The fewest rows that no piece sticks out of; a piece wider than `maxWidth` has a

@@ -16,18 +16,12 @@ ShapedText::ShapedText()
 ShapedText::ShapedText(const QString& text, const TextFont& font, double tracking,
                        double maxWidth) {
     GlyphShapes shapes;
-    *this = ShapedText(text, font, tracking, maxWidth, shapes);
-}
-
-ShapedText::ShapedText(const QString& text, const TextFont& font, double tracking, double maxWidth,
-                       GlyphShapes& shapes) {
     TextOutline outline;
     if (font.size > 0) {
         const double unit = font.size / shapingSize;
-        const TextLayout layout =
-            layOut(text, font.face, tracking / unit, maxWidth / unit, LineBreaks::Kept);
-        outline = outlineOf(layout, unit, maxWidth, shapes);
-        lastTracking_ = layout.lastTracking * unit;
+        const RowLayout layout(text, font.face, tracking / unit, maxWidth / unit, LineBreaks::Kept);
+        outline = outlineOf(layout, placeRows(layout.rows(), unit, maxWidth), shapes);
+        lastTracking_ = layout.rows().lastTracking * unit;
     }
     outline_ = std::make_shared<TextOutline>(std::move(outline));
 }

@@ -18,7 +18,6 @@ class QPainter;
 
 namespace morrowleaf {
 
-class GlyphShapes;
 struct TextOutline;
 
 // A text that is laid out once: its glyph outlines, its size and its colour
@@ -34,8 +33,6 @@ public:
     // leading-aligned rows of nearly equal length; a row of one word that is wider
     // is scaled down.
     ShapedText(const QString& text, const TextFont& font, double tracking = 0, double maxWidth = 0);
-    ShapedText(const QString& text, const TextFont& font, double tracking, double maxWidth,
-               GlyphShapes& shapes);
 
     QSizeF size() const;     // typographic width × rows of (ascent + descent), points
     double baseline() const; // of the first row, points from the top

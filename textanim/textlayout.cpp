@@ -7,13 +7,9 @@
 #include "textanim/weightmatch.h"
 
 #include <QFontMetricsF>
-#include <QPainterPath>
-#include <QTextLayout>
 #include <QTextOption>
-#include <QtEndian>
 
 #include <algorithm>
-#include <cmath>
 
 namespace morrowleaf {
 
@@ -22,24 +18,8 @@ namespace {
 // Close to the largest width that Qt's layout can represent.
 constexpr double widestLine = 8'000'000;
 
-// Read from the file because QRawFont does not know it for a face of bitmaps only.
-double unitsPerEm(const QRawFont& face) {
-    const QByteArray head = face.fontTable("head");
-    return head.size() >= 20 ? qFromBigEndian<quint16>(head.constData() + 18) : face.unitsPerEm();
-}
-
-std::optional<double> verticalMetric(const QRawFont& face, qsizetype offset) {
-    const QByteArray header = face.fontTable("hhea");
-    const double perEm = unitsPerEm(face);
-    if (header.size() < offset + 2 || perEm <= 0) {
-        return std::nullopt;
-    }
-    const auto units = qFromBigEndian<qint16>(header.constData() + offset);
-    if (units == 0) {
-        return std::nullopt;
-    }
-    return units * double{shapingSize} / perEm;
-}
+// Letters of a smaller size, in points, cannot be told apart.
+constexpr double illegibleBelow = 2;
 
 QFont fontFor(CharacterKind kind, QFont font) {
     if (kind == CharacterKind::Joined) {
@@ -77,11 +57,6 @@ QList<QTextLayout::FormatRange> formatsFor(const SetText& set, const QFont& font
     return formats;
 }
 
-// A joiner that the face of the text lacks becomes a space of another face.
-bool isNothing(const QRawFont& face, quint32 glyph) {
-    return face.familyName() != emojiFamily() && face.boundingRect(glyph).isEmpty();
-}
-
 struct CharacterRange {
     qsizetype begin, end;
 };
@@ -112,13 +87,9 @@ bool shareGlyph(const std::vector<PlacedGlyph>& some, const std::vector<PlacedGl
     });
 }
 
-TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
-              const QRawFont& requested) {
-    TextRow row;
-    row.width = line.naturalTextWidth();
-    row.ascent = ascentOf(requested);
-    row.descent = descentOf(requested);
-    std::vector<QRawFont> faces{requested};
+std::vector<GlyphCluster> clustersOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
+                                     const QRawFont& requested) {
+    std::vector<GlyphCluster> clusters;
     const qsizetype lineEnd = line.textStart() + line.textLength();
     auto end = std::ranges::upper_bound(characterEnds, qsizetype{line.textStart()});
     qsizetype begin = line.textStart();
@@ -129,30 +100,23 @@ TextRow rowOf(const QTextLine& line, const QList<qsizetype>& characterEnds,
         GlyphCluster cluster{end - characterEnds.begin(), 1, false, {}, {}};
         cluster.glyphs =
             glyphsIn(line, {begin, std::min(*end, lineEnd)}, requested, &cluster.rightToLeft);
-        for (const PlacedGlyph& glyph : cluster.glyphs) {
-            if (std::ranges::find(faces, glyph.face) == faces.end() &&
-                !isNothing(glyph.face, glyph.index)) {
-                faces.push_back(glyph.face);
-                row.ascent = std::max(row.ascent, ascentOf(glyph.face));
-                row.descent = std::max(row.descent, descentOf(glyph.face));
-            }
-        }
-        if (!row.clusters.empty() && shareGlyph(row.clusters.back().glyphs, cluster.glyphs)) {
-            GlyphCluster& last = row.clusters.back();
+        if (!clusters.empty() && shareGlyph(clusters.back().glyphs, cluster.glyphs)) {
+            GlyphCluster& last = clusters.back();
             ++last.characterCount;
             for (PlacedGlyph& glyph : cluster.glyphs) {
                 if (std::ranges::find(last.glyphs, glyph) == last.glyphs.end()) {
                     last.glyphs.push_back(std::move(glyph));
                 }
             }
-        } else {
-            row.clusters.push_back(std::move(cluster));
+        } else if (!cluster.glyphs.empty()) {
+            clusters.push_back(std::move(cluster));
         }
     }
-    return row;
+    return clusters;
 }
 
-void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double tracking) {
+void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double tracking,
+             bool rightToLeft) {
     QFont large = face;
     large.setPixelSize(shapingSize);
     if (tracking != 0) {
@@ -161,9 +125,10 @@ void prepare(QTextLayout& layout, const SetText& set, const QFont& face, double 
     QTextOption option;
     option.setUseDesignMetrics(true);
     // With Qt::LayoutDirectionAuto, QTextLayout would look for it again and again.
-    option.setTextDirection(set.text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setWrapMode(QTextOption::WordWrap);
+    layout.setCacheEnabled(true); // otherwise its glyphs would be shaped again when they are read
     layout.setFont(large);
     layout.setText(set.text);
     layout.setTextOption(option);
@@ -207,7 +172,8 @@ qsizetype endOf(const QTextLine& line) {
 RowPiece pieceOf(const QTextLine& line, const QTextLayout& layout) {
     const QString text = layout.text().mid(line.textStart(), line.textLength());
     RowPiece piece{line.naturalTextWidth(), line.naturalTextWidth(),
-                   endOf(line) == layout.text().size() || text.endsWith(QChar::LineSeparator)};
+                   endOf(line) == layout.text().size() || text.endsWith(QChar::LineSeparator),
+                   endOf(line)};
     const auto advance = [&](const QString& part) {
         return QFontMetricsF(layout.font()).horizontalAdvance(part);
     };
@@ -225,7 +191,7 @@ RowPiece pieceOf(const QTextLine& line, const QTextLayout& layout) {
 
 // Where no row ends a soft hyphen is not drawn, but Qt leaves room for it.
 SetText withoutSoftHyphens(const SetText& set) {
-    SetText result{{}, {}, set.kinds};
+    SetText result{{}, {}, set.originalEnds, set.kinds};
     qsizetype begin = 0;
     for (const qsizetype end : set.ends) {
         result.text += set.text.mid(begin, end - begin).remove(QChar(QChar::SoftHyphen));
@@ -235,101 +201,154 @@ SetText withoutSoftHyphens(const SetText& set) {
     return result;
 }
 
-// The same text with a line separator at the end of each row but the last, in place
-// of white space there.
-SetText withRows(const SetText& set, const std::vector<qsizetype>& rowEnds) {
-    SetText result{{}, set.ends, set.kinds};
-    auto character = result.ends.begin();
-    qsizetype begin = 0;
-    for (const qsizetype rowEnd : rowEnds) {
-        QString row = set.text.mid(begin, rowEnd - begin);
-        if (rowEnd < set.text.size()) {
-            if (row.endsWith(QChar::SoftHyphen)) {
-                row.back() = u'-';
-            }
-            while (!row.isEmpty() && row.back().isSpace()) {
-                row.chop(1);
-            }
-            row += QChar::LineSeparator;
-        }
-        const qsizetype start = result.text.size();
-        result.text += row;
-        for (; character != result.ends.end() && *character <= rowEnd; ++character) {
-            const bool isLast = *character == rowEnd;
-            const qsizetype inRow = *character - begin;
-            *character = start + (isLast ? row.size() : std::min(inRow, row.size() - 1));
-        }
-        begin = rowEnd;
+// A row as a text of its own: without white space at its end, and with the hyphen that
+// is shown there.
+QString rowText(const QString& text, bool isLast) {
+    if (isLast) {
+        return text;
     }
-    return result;
+    QString row = text;
+    if (row.endsWith(QChar::SoftHyphen)) {
+        row.back() = u'-';
+    }
+    while (!row.isEmpty() && row.back().isSpace()) {
+        row.chop(1);
+    }
+    return row;
 }
 
-// Breaks into rows where a line is wider than the column.
-SetText brokenText(const SetText& set, QTextLayout& layout, double maxWidth) {
+std::vector<RowPiece> piecesOf(const SetText& set, const QFont& face, double tracking,
+                               RowExtents& extents) {
+    QTextLayout layout;
+    prepare(layout, set, face, tracking, set.text.isRightToLeft());
     std::vector<RowPiece> pieces;
-    std::vector<qsizetype> pieceEnds;
     for (const QTextLine& line : linesOf(layout, 0)) {
         pieces.push_back(pieceOf(line, layout));
-        pieceEnds.push_back(endOf(line));
+        const RowExtents::Extents own = extents.of(line);
+        pieces.back().ascent = own.ascent;
+        pieces.back().descent = own.descent;
     }
-    std::vector<qsizetype> rowEnds;
-    for (const std::size_t end : breakRows(pieces, maxWidth)) {
-        rowEnds.push_back(pieceEnds[end - 1]);
-    }
-    return withRows(set, rowEnds);
+    return pieces;
 }
 
 } // namespace
 
-QRawFont rawFace(const QFont& face) {
-    QFont large = face;
-    large.setPixelSize(shapingSize);
-    return QRawFont::fromFont(large);
+RowLayout::RowLayout(const QString& text, const QFont& face, double tracking, double maxWidth,
+                     LineBreaks breaks, const std::vector<RowPiece>& pieces)
+    : face_(face)
+    , requested_(rawFace(face))
+    , tracking_(tracking)
+    , breaks_(breaks) {
+    SetText set = setText(text, breaks);
+    rows_.rightToLeft = text.isRightToLeft();
+    rows_.characterCount = set.ends.size();
+    if (!set.kinds.empty() && set.kinds.back() != CharacterKind::Joined) {
+        rows_.lastTracking = tracking;
+    }
+    if (maxWidth > 0 && !pieces.empty()) {
+        makeRows(text, set, pieces, maxWidth);
+        return;
+    }
+    whole_ = shaped(set, maxWidth <= 0);
+    RowExtents extents(requested_);
+    if (maxWidth > 0 && widestOf(whole_->lines) > maxWidth) {
+        makeRows(text, set, piecesOf(set, face, tracking, extents), maxWidth);
+        whole_.reset();
+        return;
+    }
+    if (set.text.contains(QChar::SoftHyphen)) {
+        set = withoutSoftHyphens(set);
+        whole_ = shaped(set, maxWidth <= 0);
+    }
+    for (const QTextLine& line : whole_->lines) {
+        const RowExtents::Extents own = extents.of(line);
+        rows_.rows.push_back({{}, line.naturalTextWidth(), own.ascent, own.descent});
+    }
+    if (rows_.rows.empty()) {
+        rows_.rows.push_back({{}, 0, ascentOf(requested_), descentOf(requested_)});
+    }
+    texts_.assign(rows_.rows.size(), {text, 0, rows_.characterCount});
 }
 
-double ascentOf(const QRawFont& face) {
-    return verticalMetric(face, 4).value_or(face.ascent());
+RowLayout::Shaped RowLayout::shaped(const SetText& set, bool keepsSpaces) const {
+    Shaped result{set.ends, std::make_unique<QTextLayout>(), {}};
+    prepare(*result.layout, set, face_, tracking_, rows_.rightToLeft);
+    if (keepsSpaces) {
+        keepTrailingSpaces(*result.layout);
+    }
+    result.lines = linesOf(*result.layout, widestLine);
+    return result;
 }
 
-double descentOf(const QRawFont& face) {
-    const auto metric = verticalMetric(face, 6);
-    return metric ? -*metric : face.descent();
+void RowLayout::makeRows(const QString& text, const SetText& set,
+                         const std::vector<RowPiece>& pieces, double maxWidth) {
+    std::size_t piece = 0;
+    qsizetype character = 0;
+    qsizetype begin = 0; // of the row in the text
+    for (const std::size_t end : breakRows(pieces, maxWidth)) {
+        TextRow row{{}, pieces[end - 1].width - pieces[end - 1].advance, 0, 0};
+        for (; piece < end; ++piece) {
+            row.width += pieces[piece].advance;
+            row.ascent = std::max(row.ascent, pieces[piece].ascent);
+            row.descent = std::max(row.descent, pieces[piece].descent);
+        }
+        rows_.rows.push_back(std::move(row));
+        const bool isLast = end == pieces.size();
+        const qsizetype next =
+            isLast ? set.ends.size()
+                   : std::ranges::upper_bound(set.ends, pieces[end - 1].end) - set.ends.begin();
+        const qsizetype rowEnd = isLast ? text.size() : set.originalEnds[next - 1];
+        texts_.push_back(
+            {rowText(text.mid(begin, rowEnd - begin), isLast), character, next - character});
+        character = next;
+        begin = rowEnd;
+    }
+}
+
+TextRow RowLayout::row(std::size_t index, double unit) const {
+    TextRow row = rows_.rows[index];
+    if (whole_) {
+        if (index < whole_->lines.size()) {
+            row.clusters = clustersOf(whole_->lines[index], whole_->ends, requested_);
+        }
+        return row;
+    }
+    if (unit * shapingSize < illegibleBelow) {
+        row.clusters = boxes(index);
+        return row;
+    }
+    const Shaped own = shaped(withoutSoftHyphens(setText(texts_[index].text, breaks_)), false);
+    if (!own.lines.empty()) {
+        row.clusters = clustersOf(own.lines.front(), own.ends, requested_);
+    }
+    for (GlyphCluster& cluster : row.clusters) {
+        cluster.firstCharacter += texts_[index].firstCharacter;
+    }
+    return row;
+}
+
+std::vector<GlyphCluster> RowLayout::boxes(std::size_t row) const {
+    const double height = 0.4 * shapingSize; // about that of small letters
+    const auto [text, first, count] = texts_[row];
+    const double advance = rows_.rows[row].width / static_cast<double>(count);
+    std::vector<GlyphCluster> clusters;
+    for (qsizetype i = 0; i < count; ++i) {
+        const auto place = static_cast<double>(rows_.rightToLeft ? count - 1 - i : i);
+        GlyphCluster cluster{first + i, 1, rows_.rightToLeft, {}, {}};
+        cluster.box = {place * advance, -height, 0.8 * advance, height};
+        clusters.push_back(std::move(cluster));
+    }
+    return clusters;
 }
 
 TextLayout layOut(const QString& text, const QFont& face, double tracking, double maxWidth,
                   LineBreaks breaks) {
-    QTextLayout layout;
-    SetText set = setText(text, breaks);
-    prepare(layout, set, face, tracking);
-    if (maxWidth <= 0) {
-        keepTrailingSpaces(layout);
+    const RowLayout layout(text, face, tracking, maxWidth, breaks);
+    TextLayout whole = layout.rows();
+    for (std::size_t i = 0; i < whole.rows.size(); ++i) {
+        whole.rows[i] = layout.row(i, 1);
     }
-    std::vector<QTextLine> lines = linesOf(layout, widestLine);
-    if (maxWidth > 0 && widestOf(lines) > maxWidth) {
-        set = brokenText(set, layout, maxWidth);
-    }
-    if (set.text.contains(QChar::SoftHyphen)) {
-        set = withoutSoftHyphens(set);
-    }
-    if (set.text != layout.text()) {
-        prepare(layout, set, face, tracking);
-        lines = linesOf(layout, widestLine);
-    }
-
-    TextLayout result;
-    result.rightToLeft = text.isRightToLeft();
-    result.characterCount = set.ends.size();
-    if (!set.kinds.empty() && set.kinds.back() != CharacterKind::Joined) {
-        result.lastTracking = tracking;
-    }
-    const QRawFont requested = rawFace(face);
-    for (const QTextLine& line : lines) {
-        result.rows.push_back(rowOf(line, set.ends, requested));
-    }
-    if (result.rows.empty()) {
-        result.rows.push_back({{}, 0, ascentOf(requested), descentOf(requested)});
-    }
-    return result;
+    return whole;
 }
 
 MeasuredTexts measureTexts(const QStringList& texts, const QFont& face, double tracking) {
@@ -344,36 +363,25 @@ MeasuredTexts measureTexts(const QStringList& texts, const QFont& face, double t
         all.text += set.text + QChar(QChar::LineSeparator);
         ends.push_back(all.text.size());
     }
-    QTextLayout layout;
-    prepare(layout, all, face, tracking);
-
-    std::vector<QRawFont> faces{rawFace(face)};
-    double ascent = ascentOf(faces.front());
-    double descent = descentOf(faces.front());
+    const QRawFont requested = rawFace(face);
+    RowExtents extents(requested);
+    double ascent = ascentOf(requested);
+    double descent = descentOf(requested);
     MeasuredTexts result;
     result.pieces.resize(ends.size());
-    auto pieces = result.pieces.begin();
-    for (const QTextLine& line : linesOf(layout, 0)) {
-        if (pieces == result.pieces.end()) {
+    std::size_t text = 0;
+    qsizetype begin = 0; // of the text
+    for (RowPiece piece : piecesOf(all, face, tracking, extents)) {
+        if (text == ends.size()) {
             break; // after the last separator
         }
-        pieces->push_back(pieceOf(line, layout));
-        if (endOf(line) == ends[static_cast<std::size_t>(pieces - result.pieces.begin())]) {
-            ++pieces;
-        }
-        for (const QGlyphRun& run : line.glyphRuns()) {
-            const QRawFont own = run.rawFont();
-            if (std::ranges::find(faces, own) != faces.end()) {
-                continue;
-            }
-            const QList<quint32> glyphs = run.glyphIndexes();
-            if (std::ranges::all_of(glyphs,
-                                    [&own](quint32 glyph) { return isNothing(own, glyph); })) {
-                continue; // a joiner from another face makes a row no higher
-            }
-            faces.push_back(own);
-            ascent = std::max(ascent, ascentOf(own));
-            descent = std::max(descent, descentOf(own));
+        ascent = std::max(ascent, piece.ascent);
+        descent = std::max(descent, piece.descent);
+        const bool isLast = piece.end == ends[text];
+        piece.end -= begin + (isLast ? 1 : 0);
+        result.pieces[text].push_back(piece);
+        if (isLast) {
+            begin = ends[text++];
         }
     }
     result.rowHeight = ascent + descent;
@@ -382,7 +390,7 @@ MeasuredTexts measureTexts(const QStringList& texts, const QFont& face, double t
 
 double unbrokenWidth(const QString& text, const QFont& face) {
     QTextLayout layout;
-    prepare(layout, setText(text, LineBreaks::Kept), face, 0);
+    prepare(layout, setText(text, LineBreaks::Kept), face, 0, text.isRightToLeft());
     return widestOf(linesOf(layout, widestLine));
 }
 

@@ -13,7 +13,7 @@
 #include <QtMath>
 
 #include <algorithm>
-#include <span>
+#include <limits>
 #include <utility>
 
 namespace morrowleaf {
@@ -21,9 +21,6 @@ namespace morrowleaf {
 namespace {
 
 using DrawnGlyph = GlyphShapes::DrawnGlyph;
-
-// Letters of a smaller size (points) cannot be told apart; boxes stand in their place.
-constexpr double illegibleBelow = 2;
 
 // Drawing a picture takes about as long as filling so many elements of outlines.
 constexpr int elementsPerPicture = 50;
@@ -59,9 +56,7 @@ OutlineInk outlineGlyphs(const std::vector<PlacedGlyph>& glyphs, QPointF origin,
         const GlyphShapes::Shape& shape = shapes.shapeOf(glyph);
         const QPointF at = origin + glyph.position * unit;
         const QTransform place = QTransform::fromTranslate(at.x(), at.y()).scale(unit, unit);
-        if (!shape.outline.isEmpty() && unit * shapingSize < illegibleBelow) {
-            ink.outline.addRect(place.mapRect(shape.outline.boundingRect()));
-        } else if (!shape.outline.isEmpty()) {
+        if (!shape.outline.isEmpty()) {
             ink.outline.addPath(place.map(shape.outline));
         } else if (!shape.drawn.picture.isNull()) {
             const double scale = unit * shapingSize / pictureSize;
@@ -79,22 +74,20 @@ OutlinePart outlineCluster(const GlyphCluster& cluster, QPointF origin, double u
                      cluster.characterCount,
                      outlineGlyphs(cluster.glyphs, origin, unit, shapes),
                      {}};
+    if (!cluster.box.isEmpty()) {
+        part.ink.outline.addRect(
+            {origin + cluster.box.topLeft() * unit, cluster.box.size() * unit});
+    }
     for (const std::vector<PlacedGlyph>& glyphs : cluster.begun) {
         part.begun.push_back(outlineGlyphs(glyphs, origin, unit, shapes));
     }
     return part;
 }
 
-void appendRow(TextOutline& text, const TextRow& row, QPointF origin, double unit,
-               GlyphShapes& shapes) {
-    for (const GlyphCluster& cluster : row.clusters) {
-        text.parts.push_back(outlineCluster(cluster, origin, unit, shapes));
-    }
-}
-
-void groupParts(TextOutline& text) {
-    QRectF covered;
-    for (std::size_t i = 0; i < text.parts.size(); ++i) {
+// Adds the parts from `first` on to the groups, ink and cost.
+void groupParts(TextOutline& text, std::size_t first) {
+    QRectF covered = text.groups.empty() ? QRectF() : text.groups.back().outline.boundingRect();
+    for (std::size_t i = first; i < text.parts.size(); ++i) {
         const OutlinePart& part = text.parts[i];
         for (const GlyphPicture& picture : part.ink.pictures) {
             text.ink |= picture.place;
@@ -193,14 +186,6 @@ const QImage& ReducedPictures::inSize(const QImage& picture, QSize size) {
     return reduced;
 }
 
-TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit, GlyphShapes& shapes) {
-    TextOutline text;
-    text.characterCount = layout.characterCount;
-    appendRow(text, layout.rows.front(), origin, unit, shapes);
-    groupParts(text);
-    return text;
-}
-
 QPainterPath wholePath(const TextOutline& text) {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
@@ -210,30 +195,79 @@ QPainterPath wholePath(const TextOutline& text) {
     return path;
 }
 
-TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, GlyphShapes& shapes) {
-    TextOutline text;
+PlacedRows placeRows(const TextLayout& layout, double unit, double maxWidth) {
+    PlacedRows placed;
+    TextOutline& text = placed.frame;
     text.characterCount = layout.characterCount;
-    std::vector<double> scales;
     for (const TextRow& row : layout.rows) {
         const double width = row.width * unit;
-        scales.push_back(maxWidth > 0 && width > maxWidth ? maxWidth / width : 1);
-        text.size.setWidth(std::max(text.size.width(), width * scales.back()));
+        const double scale = maxWidth > 0 && width > maxWidth ? maxWidth / width : 1;
+        placed.places.push_back({{}, unit * scale});
+        text.size.setWidth(std::max(text.size.width(), width * scale));
     }
     double top = 0;
     for (std::size_t i = 0; i < layout.rows.size(); ++i) {
         const TextRow& row = layout.rows[i];
-        const double rowUnit = unit * scales[i];
-        const double baseline = top + row.ascent * rowUnit;
+        RowPlace& place = placed.places[i];
+        const double baseline = top + row.ascent * place.unit;
         if (i == 0) {
             text.baseline = baseline;
         }
-        const double left = layout.rightToLeft ? text.size.width() - row.width * rowUnit : 0;
-        appendRow(text, row, {left, baseline}, rowUnit, shapes);
-        top = baseline + row.descent * rowUnit;
+        const double left = layout.rightToLeft ? text.size.width() - row.width * place.unit : 0;
+        place.origin = {left, baseline};
+        top = baseline + row.descent * place.unit;
     }
     text.size.setHeight(top);
-    groupParts(text);
-    return text;
+    return placed;
+}
+
+void addClusters(TextOutline& text, std::span<const GlyphCluster> clusters, const RowPlace& place,
+                 GlyphShapes& shapes) {
+    const std::size_t first = text.parts.size();
+    for (const GlyphCluster& cluster : clusters) {
+        text.parts.push_back(outlineCluster(cluster, place.origin, place.unit, shapes));
+    }
+    groupParts(text, first);
+}
+
+TextOutline outlineOf(const RowLayout& layout, PlacedRows placed, GlyphShapes& shapes) {
+    for (std::size_t i = 0; i < placed.places.size(); ++i) {
+        const RowPlace& place = placed.places[i];
+        addClusters(placed.frame, layout.row(i, place.unit).clusters, place, shapes);
+    }
+    return std::move(placed.frame);
+}
+
+qsizetype LateOutline::read(qsizetype most) {
+    qsizetype count = 0;
+    while (count < most && !isRead()) {
+        if (!clusters_) {
+            clusters_ = clustersOf_(row_, places_[row_].unit);
+            cluster_ = 0;
+        }
+        const std::size_t next =
+            std::min(static_cast<std::size_t>(most - count), clusters_->size() - cluster_);
+        addClusters(outline_, std::span(*clusters_).subspan(cluster_, next), places_[row_],
+                    *shapes_);
+        count += static_cast<qsizetype>(next);
+        cluster_ += next;
+        if (cluster_ == clusters_->size()) {
+            clusters_.reset();
+            ++row_;
+        }
+    }
+    if (isRead()) {
+        clustersOf_ = nullptr;
+        shapes_.reset();
+    }
+    return count;
+}
+
+const TextOutline& LateOutline::whole() {
+    if (!isRead()) {
+        read(std::numeric_limits<qsizetype>::max());
+    }
+    return outline_;
 }
 
 void paintOutline(QPainter& painter, const TextOutline& text, const QColor& color) {

@@ -13,6 +13,10 @@
 #include <QtGlobal>
 
 #include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -20,6 +24,8 @@ class QPainter;
 
 namespace morrowleaf {
 
+class RowLayout;
+struct GlyphCluster;
 struct PlacedGlyph;
 struct TextLayout;
 
@@ -95,14 +101,63 @@ struct TextOutline {
     int cost = 0;
 };
 
+// Where a row is: its left end and baseline in points, and the points in one unit of
+// the layout.
+struct RowPlace {
+    QPointF origin;
+    double unit = 0;
+};
+
+struct PlacedRows {
+    TextOutline frame; // the outline, still without parts
+    std::vector<RowPlace> places;
+};
+
 // Stacks the rows of a layout; one unit of the layout is `unit` points long. If
 // `maxWidth` is above 0, rows wider than that many points are scaled down. Rows
 // are aligned left, or right if the text runs from right to left.
-TextOutline outlineOf(const TextLayout& layout, double unit, double maxWidth, GlyphShapes& shapes);
+PlacedRows placeRows(const TextLayout& layout, double unit, double maxWidth);
 
-// Outlines only the first row, with its left end and baseline at `origin`; `size`
-// and `baseline` are left to the caller.
-TextOutline outlineRow(const TextLayout& layout, QPointF origin, double unit, GlyphShapes& shapes);
+// Adds clusters of the row at `place`, in the order of the text.
+void addClusters(TextOutline& text, std::span<const GlyphCluster> clusters, const RowPlace& place,
+                 GlyphShapes& shapes);
+
+TextOutline outlineOf(const RowLayout& layout, PlacedRows placed, GlyphShapes& shapes);
+
+// An outline whose letters are read from the typeface when they are first asked for, or
+// little by little before: reading is costly. What places the text is known from the start.
+class LateOutline {
+public:
+    // Gives the clusters of a row; one unit of the layout is `unit` points long.
+    using ClustersOf = std::function<std::vector<GlyphCluster>(std::size_t row, double unit)>;
+
+    LateOutline() = default;
+    // `shapes` may be shared with other outlines.
+    LateOutline(PlacedRows placed, ClustersOf clustersOf, std::shared_ptr<GlyphShapes> shapes)
+        : outline_(std::move(placed.frame))
+        , places_(std::move(placed.places))
+        , clustersOf_(std::move(clustersOf))
+        , shapes_(std::move(shapes)) {}
+
+    QSizeF size() const { return outline_.size; }
+    qsizetype characterCount() const { return outline_.characterCount; }
+    qsizetype readLetters() const { return static_cast<qsizetype>(outline_.parts.size()); }
+    // Reads the next letters, at most so many; returns how many.
+    qsizetype read(qsizetype most);
+    const TextOutline& whole();
+
+private:
+    bool isRead() const { return row_ == places_.size(); }
+
+    TextOutline outline_;
+    std::vector<RowPlace> places_;
+    ClustersOf clustersOf_;
+    std::shared_ptr<GlyphShapes> shapes_;
+    // What is read next.
+    std::size_t row_ = 0;
+    std::optional<std::vector<GlyphCluster>> clusters_; // of that row, once it is begun
+    std::size_t cluster_ = 0;
+};
 
 // All outlines in the order of the text.
 QPainterPath wholePath(const TextOutline& text);

@@ -15,13 +15,13 @@ namespace {
 
 class TypewriterPainter final : public LinePainter {
 public:
-    explicit TypewriterPainter(TextOutline text)
+    explicit TypewriterPainter(LateOutline text)
         : letters_(std::move(text)) {}
 
-    const TextOutline& text() const override { return letters_.text(); }
-    double duration() const override { return typingDuration(text().characterCount); }
+    LateOutline& text() override { return letters_.text(); }
+    double duration() const override { return typingDuration(letters_.characterCount()); }
     bool looksSame(double one, double other) const override { return typed(one) == typed(other); }
-    QRectF rect(double seconds) const override {
+    QRectF rect(double seconds) override {
         return typed(seconds) > 0 ? letters_.rect({}) : QRectF();
     }
     PlacedPicture draw(double seconds, double scale, const QColor& color) override {
@@ -30,7 +30,9 @@ public:
     void releaseMemory() override { letters_.releaseMemory(); }
 
 private:
-    qint64 typed(double seconds) const { return typedCharacters(seconds, text().characterCount); }
+    qint64 typed(double seconds) const {
+        return typedCharacters(seconds, letters_.characterCount());
+    }
 
     Letters letters_;
 };
@@ -53,7 +55,7 @@ double typingDuration(qint64 length) {
     return seconds;
 }
 
-std::unique_ptr<LinePainter> typewriterPainter(TextOutline text) {
+std::unique_ptr<LinePainter> typewriterPainter(LateOutline text) {
     return std::make_unique<TypewriterPainter>(std::move(text));
 }
 

@@ -23,6 +23,6 @@ double typingDuration(qint64 length);
 
 // Draws the characters one after another, each at its final place. Seconds are as
 // for typedCharacters().
-std::unique_ptr<LinePainter> typewriterPainter(TextOutline text);
+std::unique_ptr<LinePainter> typewriterPainter(LateOutline text);
 
 } // namespace morrowleaf

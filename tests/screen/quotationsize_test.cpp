@@ -195,14 +195,20 @@ TEST(QuotationSize, IsFoundWithFewMeasurements) {
         QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {text, u"B"_s});
         QuoteView view(state, shippedFonts());
         const int first = view.work().measurements;
-        EXPECT_LE(first, 3 + 3 * view.lineCount()) << text.left(9).toStdString();
+        const qsizetype lines = balancedLines(view.state().quote.text).size();
+        EXPECT_LE(first, 3 + 3 * lines) << text.left(9).toStdString();
         for (const double wish : wishes) {
             state.settings.sizeScale = wish;
             view.update(state, 1);
         }
-        EXPECT_LE(view.work().measurements - first, 2 * view.lineCount())
-            << text.left(9).toStdString();
+        EXPECT_LE(view.work().measurements - first, 2 * lines) << text.left(9).toStdString();
     }
+}
+
+// Their words tell that such lines are narrow.
+TEST(QuotationSize, MeasuresNoLineThatIsClearlyNarrowerThanTheColumn) {
+    QuoteViewState state = stateOf({1512, 982}, u"fraunces"_s, {u"a "_s.repeated(4000), u"B"_s});
+    EXPECT_EQ(QuoteView(state, shippedFonts()).work().measurements, 3);
 }
 
 TEST(QuotationSize, FillsTheHeightWithLinesCutForIt) {

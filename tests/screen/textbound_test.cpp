@@ -4,7 +4,9 @@
 #include "screen/layout.h"
 
 #include "base/graphemes.h"
+#include "tests/screen/drawnview.h"
 #include "tests/screen/sceneforscreens.h"
+#include "textanim/stagger.h"
 
 #include <gtest/gtest.h>
 
@@ -103,6 +105,36 @@ TEST(QuoteViewBounds, LinesReachTheBottomOfTheView) {
             const QuoteView view(state, shippedFonts());
             EXPECT_GT(view.lineRect(view.lineCount() - 1).top(), size.height() - 60)
                 << size.width() << ' ' << textScale;
+            EXPECT_LT(view.lineRect(view.lineCount() - 1).top(), size.height() + 160)
+                << size.width() << ' ' << textScale;
+        }
+    }
+}
+
+// Reading the outlines of a plane of letters takes far longer than a frame should.
+TEST(QuoteViewBounds, ReadsFewOutlinesInEachFrame) {
+    for (const TextAnim style : allTextAnims) {
+        QuoteViewState state = plainState();
+        state.settings.textAnimRaw = rawValue(style);
+        for (const QString& text : {u"I will fill it "_s.repeated(200), QString(2000, u'\u6C34')}) {
+            state.quote = {text, u"B"_s};
+            const QuoteView view(state, shippedFonts());
+            drawn(view, 0);
+            view.nextMotion(0);
+            EXPECT_EQ(view.work().readLetters, 0) << rawValue(style).toStdString();
+            qsizetype most = 0; // in a frame
+            for (int frame = 1; frame < 45; ++frame) {
+                const qsizetype before = view.work().readLetters;
+                drawn(view, frame / 30.0);
+                most = std::max(most, view.work().readLetters - before);
+            }
+            EXPECT_LE(most, 150) << rawValue(style).toStdString();
+
+            EXPECT_EQ(drawn(view, 1.5), drawn(QuoteView(state, shippedFonts()), 1.5));
+            const QuoteView resting(state, shippedFonts());
+            drawn(resting, lineDelay(style, view.lineCount()) + 60);
+            EXPECT_EQ(view.work().readLetters, resting.work().readLetters);
+            EXPECT_GT(view.work().readLetters, 1200);
         }
     }
 }

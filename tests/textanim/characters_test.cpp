@@ -162,7 +162,7 @@ TEST(BegunLigature, NeedsNoOtherFace) {
     for (const QString& name : {u"fraunces"_s, u"serif"_s, u"sans"_s}) {
         const QFont font = shippedFace(name).face;
         TextLayout layout = layOut(u"office"_s, font, 0, 0, LineBreaks::Kept);
-        addBegunGlyphs(layout, u"office"_s, font);
+        addBegunGlyphs(layout.rows.front(), u"office"_s, 0, font);
         for (const GlyphCluster& cluster : layout.rows.front().clusters) {
             for (const auto& glyphs : cluster.begun) {
                 for (const PlacedGlyph& glyph : glyphs) {

@@ -76,6 +76,49 @@ double penHeight(const HandwrittenLine& line, double share) {
     return at->points.boundingRect().center().y();
 }
 
+TEST(RowLayout, OfAMeasuredTextIsTheSame) {
+    const TextFont font = shippedFace(u"fraunces"_s);
+    for (const QString& text :
+         {QString(100, u'\u6C34'), u"\u6C34\u706B\U0001F600\u6728"_s.repeated(30),
+          u"super\u00ADcali\u00ADfragi\u00ADlistic-expi\u2014ali\ndocious"_s.repeated(3)}) {
+        for (const double width : {3000.0, 8000.0, 100'000.0}) {
+            RowLayout unmeasured(text, font.face, 0, width, LineBreaks::Kept);
+            RowLayout measured(text, font.face, 0, width, LineBreaks::Kept,
+                               measureTexts({text}, font.face).pieces.front());
+            ASSERT_EQ(measured.rows().rows.size(), unmeasured.rows().rows.size()) << width;
+            for (std::size_t i = 0; i < unmeasured.rows().rows.size(); ++i) {
+                const TextRow one = unmeasured.row(i, 1);
+                const TextRow other = measured.row(i, 1);
+                EXPECT_NEAR(one.width, other.width, 0.1) << width << ' ' << i;
+                EXPECT_EQ(one.ascent, other.ascent) << width << ' ' << i;
+                EXPECT_EQ(one.descent, other.descent) << width << ' ' << i;
+                EXPECT_EQ(one.clusters.size(), other.clusters.size());
+            }
+        }
+    }
+}
+
+// The letters of one word in a column of a few points.
+TEST(RowLayout, HasBoxesForLettersThatCannotBeToldApart) {
+    const TextFont font = shippedFace(u"fraunces"_s);
+    for (const QString& text : {QString(2000, u'w'), QString(2000, u'\u0644')}) {
+        const RowLayout layout(text, font.face, 0, 9000, LineBreaks::Kept);
+        ASSERT_EQ(layout.rows().rows.size(), 1U);
+        const TextRow large = layout.row(0, 2.5 / shapingSize);
+        ASSERT_EQ(large.clusters.size(), 2000U);
+        EXPECT_FALSE(large.clusters.front().glyphs.empty());
+        const TextRow small = layout.row(0, 1.5 / shapingSize);
+        ASSERT_EQ(small.clusters.size(), 2000U);
+        for (std::size_t i = 0; i < 2000; ++i) {
+            const GlyphCluster& box = small.clusters[i];
+            EXPECT_TRUE(box.glyphs.empty());
+            EXPECT_EQ(box.firstCharacter, static_cast<qsizetype>(i));
+            const double drawn = large.clusters[i].glyphs.front().position.x();
+            EXPECT_NEAR(box.box.left(), drawn, 0.01 * large.width);
+        }
+    }
+}
+
 } // namespace
 
 TEST(BreakRows, KeepsOneRowThatFits) {
