@@ -11,6 +11,7 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_GLOBAL_AUTOGEN_TARGET ON) # all generated sources at once, for clang-tidy
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF) # without building what they are linked with
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 set(MORROWLEAF_SANITIZE "" CACHE STRING "Sanitizers for every target, such as address,undefined")

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "textanim/textlayout.h"
+
 #include <QColor>
 #include <QHash>
 #include <QImage>
@@ -23,11 +25,6 @@
 class QPainter;
 
 namespace morrowleaf {
-
-class RowLayout;
-struct GlyphCluster;
-struct PlacedGlyph;
-struct TextLayout;
 
 // A glyph that is a picture (an emoji) and has no outline.
 struct GlyphPicture {
