@@ -66,9 +66,9 @@ struct Instant {
 
 std::vector<Instant> instants() {
     constexpr double frame = 1.0 / 30;
-    std::vector<Instant> all;
-    for (int i = 0; i < 90; ++i) {
-        all.push_back({i * frame, true});
+    std::vector<Instant> all(90);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i].seconds = static_cast<double>(i) * frame;
     }
     for (const double start : {5.0, 20.0, 600.0}) {
         all.push_back({start, false});

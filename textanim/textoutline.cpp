@@ -169,7 +169,7 @@ const GlyphShapes::Shape& GlyphShapes::shapeOf(const PlacedGlyph& glyph) {
         } else if (glyph.movedEdges != 0) {
             shape.outline = withMovedEdges(shape.outline, glyph.movedEdges);
         }
-        known = shapes_.insert(key, std::move(shape));
+        known = shapes_.insert(key, shape);
     }
     return *known;
 }
