@@ -16,7 +16,8 @@ start_reader
 begin_with '{"paletteIndex": 8, "screenAnimation": "still", "grainEnabled": false}'
 convert -size 800x600 xc:'#c02020' "$work/red.png"
 own=$XDG_DATA_HOME/Morrowleaf/backgrounds
-dialogs() { xdotool search --onlyvisible --class 'xdg-desktop-portal-gtk'; }
+# Of the toolkit's portal, or of that of the desktop.
+dialogs() { xdotool search --onlyvisible --class '^xdg-desktop-portal-'; }
 copied() { cmp -s "$work/red.png" "$own"/*; }
 topmost() { [ $(($(xprop -root _NET_CLIENT_LIST_STACKING | sed 's/.*[, ]//'))) -eq "$(dialogs | tail -1)" ]; }
 has_keyboard() { [ "$(xdotool getactivewindow)" -eq "$(dialogs | tail -1)" ]; }
