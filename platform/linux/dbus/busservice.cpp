@@ -10,6 +10,10 @@ namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+constexpr auto noOwner = "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
+} // namespace
+
 Bus::Bus(const QDBusConnection& connection)
     : OrgFreedesktopDBusInterface(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
                                   connection) {}
@@ -25,7 +29,6 @@ BusService::BusService(const QString& name, QObject* parent)
 }
 
 void BusService::follow(const QDBusConnection& bus) {
-    constexpr auto noOwner = "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
     bus_ = bus;
     owner_.clear();
     watcher_.setConnection(bus);
