@@ -33,6 +33,7 @@ NOT_SEARCHED = {"build", "out"}
 
 SOURCES = {".h", ".cpp"}
 SOURCES_OF_THE_PLATFORM = SOURCES | {".m", ".mm"}
+MAY_BE_OBJECTIVE_C = ("platform/", "tests/macos/")
 OTHER_SOURCES = set(".c .cc .cxx .cppm .h++ .hh .hpp .hxx .H .inc .inl .ipp .tpp".split())
 
 STANDARD = set(
@@ -193,7 +194,7 @@ class Check:
                 continue
             for file in sorted(top.rglob("*")) if top.is_dir() else [top]:
                 path = file.relative_to(self.root).as_posix()
-                ours = SOURCES_OF_THE_PLATFORM if path.startswith("platform/") else SOURCES
+                ours = SOURCES_OF_THE_PLATFORM if path.startswith(MAY_BE_OBJECTIVE_C) else SOURCES
                 if file.suffix in ours and file.is_file():
                     yield path, file
                 elif file.suffix in OTHER_SOURCES | SOURCES_OF_THE_PLATFORM and file.is_file():

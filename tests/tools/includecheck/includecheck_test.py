@@ -165,7 +165,9 @@ class IncludeCheck(unittest.TestCase):
     def test_sources_end_in_h_or_cpp(self):
         for ending in ("c", "cc", "cxx", "hpp", "inc", "mm"):
             self.assert_fault(f"screen/a.{ending}", "", "sources end in .h or .cpp")
-        self.assert_sound("platform/linux/a.mm", "#import <AppKit/AppKit.h>\n")
+        self.assert_fault("tests/a.mm", "", "sources end in .h or .cpp")
+        for path in ("platform/linux/a.mm", "tests/macos/fakes/a.mm"):
+            self.assert_sound(path, "#import <AppKit/AppKit.h>\n")
         found = self.faults({"screen/a.txt": "", "screen/a.cpp": '#include "screen/a.txt"\n'})
         self.assertEqual(found, ["screen/a.cpp:1: screen/a.txt is no header"])
 
