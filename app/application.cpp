@@ -9,6 +9,7 @@
 #include "app/selftest.h"
 #include "app/services.h"
 #include "app/timing.h"
+#include "base/stoptoken.h"
 #include "photos/bgstore.h"
 #include "platform/chooser.h"
 #include "platform/system.h"
@@ -26,13 +27,10 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <mutex>
 #include <optional>
-#include <stop_token>
 #include <thread>
 #include <utility>
 
@@ -70,19 +68,32 @@ std::FILE* silenceLibraries() {
     return errors;
 }
 
-// Ends the process with `status` if the result is not destroyed in time: a destructor in a
-// library may wait for a bus or a display server that does not answer.
-std::jthread limitEnd(int status) {
-    return std::jthread([status](const std::stop_token& isDestroyed) {
-        std::mutex mutex;
-        std::unique_lock lock(mutex);
-        std::condition_variable_any wait;
-        wait.wait_for(lock, isDestroyed, endLimit, [] { return false; });
-        if (!isDestroyed.stop_requested()) {
-            std::_Exit(status);
+// Ends the process with a status if this is not destroyed in time after start(): a
+// destructor in a library may wait for a bus or a display server that does not answer.
+class EndLimit {
+public:
+    EndLimit() = default;
+    ~EndLimit() {
+        ended_.request();
+        if (thread_.joinable()) {
+            thread_.join();
         }
-    });
-}
+    }
+    EndLimit(const EndLimit&) = delete;
+    EndLimit& operator=(const EndLimit&) = delete;
+
+    void start(int status) {
+        thread_ = std::thread([status, ended = ended_.token()] {
+            if (!ended.waitFor(endLimit)) {
+                std::_Exit(status);
+            }
+        });
+    }
+
+private:
+    StopSource ended_;
+    std::thread thread_;
+};
 
 // Runs a mode that prints one line and needs no display.
 void runLineMode(int& argc, char** argv, Mode mode) {
@@ -157,7 +168,7 @@ void launch(AppDelegate& delegate, RequestListener& requests, RequestQueue& queu
 // Creates everything that needs the application object and runs until the program quits.
 // The settings are in their file before `limit` begins to run.
 int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& guard,
-                 const QStringList& arguments, Starter starter, std::jthread& limit) {
+                 const QStringList& arguments, Starter starter, EndLimit& limit) {
     Platform platform = makePlatform(windowSystem);
     // exit(), because quit() asks all windows to close first. What has not been accepted
     // by then is for the next instance.
@@ -190,7 +201,7 @@ int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& 
     guard.prepareFirstWindow();
     launch(delegate, *platform.requests, queue, arguments, starter);
     const int status = QApplication::exec();
-    limit = limitEnd(status);
+    limit.start(status);
     return status;
 }
 
@@ -222,7 +233,7 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
     }
     guard->prepareApplication();
     QApplication::setDesktopFileName(u"org.morrowleaf.Morrowleaf"_s);
-    std::jthread limit;
+    EndLimit limit;
     const QApplication app(argc, argv);
     QApplication::setApplicationName(u"Morrowleaf"_s);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -18,7 +18,7 @@ namespace morrowleaf {
 struct Job::Delivery {
     // The state that both threads share.
     struct Link {
-        std::stop_source stop;
+        StopSource stop;
         std::mutex mutex;
         QObject* receiver = nullptr; // null once the job is gone
     };
@@ -28,7 +28,7 @@ struct Job::Delivery {
         link->receiver = &receiver;
     }
     ~Delivery() {
-        link->stop.request_stop();
+        link->stop.request();
         // Destroying the receiver also discards a result that has been posted.
         const std::scoped_lock lock(link->mutex);
         link->receiver = nullptr;
@@ -46,7 +46,7 @@ Job::~Job() = default;
 Job::Job(Job&& other) noexcept = default;
 Job& Job::operator=(Job&& other) noexcept = default;
 
-void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> work,
+void Job::start(QThreadPool& pool, std::function<void(const StopToken&)> work,
                 std::function<void()> done, int priority) {
     delivery_ = std::make_unique<Delivery>(std::move(done));
     const auto deliver = [delivery = delivery_.get()] {
@@ -55,10 +55,11 @@ void Job::start(QThreadPool& pool, std::function<void(const std::stop_token&)> w
         call();
     };
     auto run = [link = delivery_->link, work = std::move(work), deliver]() mutable {
-        if (link->stop.stop_requested()) {
+        const StopToken stop = link->stop.token();
+        if (stop.isRequested()) {
             return;
         }
-        work(link->stop.get_token());
+        work(stop);
         work = nullptr; // frees its captures before the result is delivered
         const std::scoped_lock lock(link->mutex);
         if (link->receiver) {

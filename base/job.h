@@ -3,10 +3,11 @@
 
 #pragma once
 
+#include "base/stoptoken.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
-#include <stop_token>
 #include <type_traits>
 #include <utility>
 
@@ -17,7 +18,7 @@ namespace morrowleaf {
 // Work that runs on a thread of a pool, with its result delivered on the thread that
 // started it:
 //
-//     decoding_ = Job(workers, [path](const std::stop_token&) { return decode(path); },
+//     decoding_ = Job(workers, [path](const StopToken&) { return decode(path); },
 //                     [this](const QImage& image) { show(image); });
 //
 // A Job belongs to the thread that made it, which needs an event loop. `done` is
@@ -36,17 +37,17 @@ class Job {
 public:
     Job(); // holds no work
 
-    // `work` takes a const std::stop_token& and returns the result, which need
+    // `work` takes a const StopToken& and returns the result, which need
     // not be copyable; `done` takes the result. Queued work with a higher
     // priority runs first.
     template <typename Work, typename Done>
     Job(QThreadPool& pool, Work work, Done done, int priority = 0)
         : Job() {
-        using Result = std::invoke_result_t<Work&, const std::stop_token&>;
+        using Result = std::invoke_result_t<Work&, const StopToken&>;
         auto result = std::make_shared<std::optional<Result>>();
         start(
             pool,
-            [work = std::move(work), result](const std::stop_token& stop) mutable {
+            [work = std::move(work), result](const StopToken& stop) mutable {
                 result->emplace(work(stop));
             },
             [done = std::move(done), result]() mutable { done(*std::move(*result)); }, priority);
@@ -59,7 +60,7 @@ public:
 private:
     struct Delivery;
 
-    void start(QThreadPool& pool, std::function<void(const std::stop_token&)> work,
+    void start(QThreadPool& pool, std::function<void(const StopToken&)> work,
                std::function<void()> done, int priority);
 
     std::unique_ptr<Delivery> delivery_;

@@ -22,10 +22,10 @@ constexpr qint64 largestFile = Q_INT64_C(512) << 20; // bytes
 // Quick to decode, yet it shows whether the file contains pixels.
 constexpr QSize trialSize(192, 108);
 
-bool copyBytes(QFile& from, QFile& to, const std::stop_token& stop) {
+bool copyBytes(QFile& from, QFile& to, const StopToken& stop) {
     QByteArray piece(pieceSize, Qt::Uninitialized);
     qint64 copied = 0;
-    while (!stop.stop_requested()) {
+    while (!stop.isRequested()) {
         const qint64 read = from.read(piece.data(), pieceSize);
         if (read <= 0) {
             return read == 0 && to.flush();
@@ -81,7 +81,7 @@ void PhotoImport::start(const QString& source, const QString& destination, Done 
     const auto request = std::prev(requests_.end());
     request->job = Job(
         *copiers_,
-        [source, destination, copy = copy_](const std::stop_token& stop) {
+        [source, destination, copy = copy_](const StopToken& stop) {
             return inspectPhoto(source) && copy(source, destination, stop);
         },
         [this, request](bool copied) { copied ? check(request) : finish(request, false); });
@@ -89,7 +89,7 @@ void PhotoImport::start(const QString& source, const QString& destination, Done 
 
 void PhotoImport::check(Requests::iterator request) {
     request->job = Job(
-        workers_, [copy = request->destination](const std::stop_token&) { return isUsable(copy); },
+        workers_, [copy = request->destination](const StopToken&) { return isUsable(copy); },
         [this, request](bool usable) {
             if (!usable) {
                 QFile::remove(request->destination);
@@ -123,10 +123,10 @@ void PhotoImport::cancel() {
     }
 }
 
-bool copyPhotoFile(const QString& source, const QString& destination, const std::stop_token& stop) {
+bool copyPhotoFile(const QString& source, const QString& destination, const StopToken& stop) {
     QFile from;
     QFile to(destination);
-    if (!openRegularFile(from, source) || from.size() > largestFile || stop.stop_requested() ||
+    if (!openRegularFile(from, source) || from.size() > largestFile || stop.isRequested() ||
         !to.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered,
                  QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
         return false;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/job.h"
+#include "base/stoptoken.h"
 
 #include <QString>
 #include <QTimer>
@@ -12,7 +13,6 @@
 #include <functional>
 #include <list>
 #include <memory>
-#include <stop_token>
 
 class QThreadPool;
 
@@ -22,7 +22,7 @@ namespace morrowleaf {
 // may read. Returns false and leaves no copy on failure or if `stop` is requested. An
 // existing file at `destination` is a failure and stays untouched. Any thread.
 [[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
-                                 const std::stop_token& stop);
+                                 const StopToken& stop);
 
 // Copies photos and checks that they can be decoded. The copies run beside each other, so
 // that one from a slow disk does not hold up the others.
@@ -34,7 +34,7 @@ public:
     using Done = std::function<void(bool)>;
     // As copyPhotoFile().
     using Copy = std::function<bool(const QString& source, const QString& destination,
-                                    const std::stop_token& stop)>;
+                                    const StopToken& stop)>;
 
     // `workers` decode the copies and must outlive the import. Several threads call `copy`.
     explicit PhotoImport(QThreadPool& workers, Copy copy = copyPhotoFile);

@@ -39,7 +39,7 @@ void PhotoLoader::setPhoto(const QString& path, QSize pixels) {
     }
     decoding_ = Job(
         photos_.workers(),
-        [photo, pixels](const std::stop_token&) { return photo->decodeFilling(pixels); },
+        [photo, pixels](const StopToken&) { return photo->decodeFilling(pixels); },
         [this](const QImage& image) { take(image); }, beforeThumbnails);
 }
 
@@ -73,7 +73,7 @@ void GlassLoader::setPicture(const QImage& picture, double devicePixelRatio) {
     }
     making_ = Job(
         workers_,
-        [picture, devicePixelRatio](const std::stop_token&) {
+        [picture, devicePixelRatio](const StopToken&) {
             return makeGlass(picture, devicePixelRatio);
         },
         [this](const std::shared_ptr<const Glass>& glass) {

@@ -52,9 +52,7 @@ QImage Thumbnails::picture(const QString& path, QSize size) {
     if (!photo) {
         return {};
     }
-    const auto decode = [photo, size](const std::stop_token&) {
-        return photo->decodeFilling(size);
-    };
+    const auto decode = [photo, size](const StopToken&) { return photo->decodeFilling(size); };
     const auto done = [this, path](const QImage& picture) { take(path, picture); };
     thumbnails_[path] = {size, {}, Job(photos_.workers(), decode, done)};
     return {};

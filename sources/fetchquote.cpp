@@ -38,10 +38,10 @@ public:
             return;
         }
         QTimer::singleShot(deadline, Qt::PreciseTimer, this, [this] { answer(std::nullopt); });
-        const auto load = [source, random = fetcher.random_](
-                              const std::stop_token& stop) -> std::optional<Quote> {
+        const auto load =
+            [source, random = fetcher.random_](const StopToken& stop) -> std::optional<Quote> {
             const std::optional<QByteArray> body = loadSource(source, bodyLimit, stop);
-            return body && !stop.stop_requested() ? parseQuote(*body, random) : std::nullopt;
+            return body && !stop.isRequested() ? parseQuote(*body, random) : std::nullopt;
         };
         job_ =
             Job(*fetcher.pool_, load, [this](const std::optional<Quote>& quote) { answer(quote); });

@@ -50,7 +50,7 @@ std::optional<SourceAddress> sourceAddress(const QString& source) {
 }
 
 std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
-                                        const std::stop_token& stop) {
+                                        const StopToken& stop) {
     QFile file;
     // The size is only a hint: files of the kernel report 0, and a file may grow.
     if (!openRegularFile(file, path) || file.size() > limit) {
@@ -59,7 +59,7 @@ std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
     QByteArray bytes;
     bytes.reserve(file.size());
     std::array<char, 65536> piece{};
-    while (!stop.stop_requested()) {
+    while (!stop.isRequested()) {
         const qint64 got = file.read(piece.data(), piece.size());
         if (got == 0) {
             return bytes;
@@ -73,7 +73,7 @@ std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
 }
 
 std::optional<QByteArray> loadSource(const QString& source, qsizetype limit,
-                                     const std::stop_token& stop) {
+                                     const StopToken& stop) {
     const std::optional<SourceAddress> address = sourceAddress(source);
     if (!address) {
         return std::nullopt;

@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include "base/stoptoken.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
 
 #include <optional>
-#include <stop_token>
 
 namespace morrowleaf {
 
@@ -29,11 +30,11 @@ struct SourceAddress {
 // requested meanwhile. May block without a time limit, in the kernel or the resolver;
 // call it on a thread that may be abandoned.
 [[nodiscard]] std::optional<QByteArray> loadSource(const QString& source, qsizetype limit,
-                                                   const std::stop_token& stop);
+                                                   const StopToken& stop);
 
 // The content of the regular file at `path`, under the same conditions. Rejects pipes,
 // devices, sockets and folders at once.
 [[nodiscard]] std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
-                                                      const std::stop_token& stop);
+                                                      const StopToken& stop);
 
 } // namespace morrowleaf

@@ -14,10 +14,8 @@
 #include <QThreadPool>
 
 #include <chrono>
-#include <condition_variable>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <utility>
 
 namespace morrowleaf {
@@ -110,9 +108,10 @@ bool isComplete(const QNetworkReply& reply, qsizetype received) {
 
 class WebLoad : public QObject {
 public:
-    WebLoad(const QUrl& url, qsizetype limit)
+    WebLoad(const QUrl& url, qsizetype limit, const StopToken& stop)
         : at_(url)
-        , limit_(limit) {
+        , limit_(limit)
+        , stop_(stop) {
         manager_.setProxyFactory(new SystemProxies); // takes ownership
         reply_.reset(manager_.get(requestFor(url)));
         reply_->setReadBufferSize(readBuffer);
@@ -121,11 +120,7 @@ public:
         connect(reply_.get(), &QNetworkReply::redirected, this, &WebLoad::redirected);
     }
 
-    std::optional<QByteArray> run(const std::stop_token& stop) {
-        // Queued, because a loop that has not started cannot be quit.
-        const std::stop_callback quit(stop, [this] {
-            QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
-        });
+    std::optional<QByteArray> run() {
         loop_.exec();
         // On its own thread Qt reads a header for as long as it keeps coming, even if
         // nobody waits for it any more.
@@ -153,16 +148,12 @@ private:
         loop_.quit();
     }
 
-    bool watch(const std::stop_token& stop) {
-        std::mutex mutex;
-        std::unique_lock lock(mutex);
-        std::condition_variable_any ended;
+    bool watch(const StopToken& ended) {
         bool flooded = false;
-        while (!stop.stop_requested()) {
-            ended.wait_for(lock, stop, guardPause, [] { return false; });
-            if (flood_.end(floodBytes)) {
-                flooded = true;
-                loop_.quit();
+        while (!ended.waitFor(guardPause)) {
+            flooded = flood_.end(floodBytes) || flooded;
+            if (flooded || stop_.isRequested()) {
+                loop_.quit(); // and again next time: it may not have started yet
             }
         }
         return flooded;
@@ -178,6 +169,7 @@ private:
 
     QUrl at_;
     qsizetype limit_;
+    StopToken stop_;
     QByteArray received_;
     std::optional<QByteArray> body_;
     QEventLoop loop_;
@@ -187,7 +179,7 @@ private:
     // A flood keeps this thread too busy for a timer. The destructor of the pool waits for
     // the watch.
     QThreadPool watchers_;
-    Job watch_{watchers_, [this](const std::stop_token& stop) { return watch(stop); }, [](bool) {}};
+    Job watch_{watchers_, [this](const StopToken& ended) { return watch(ended); }, [](bool) {}};
 };
 
 } // namespace
@@ -196,12 +188,11 @@ bool mayRedirect(const QUrl& from, const QUrl& to) {
     return isWeb(to) && (!isSecure(from) || isSecure(to));
 }
 
-std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit,
-                                      const std::stop_token& stop) {
+std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit, const StopToken& stop) {
     if (isWeb(url) && !canBeReached(url)) {
         return std::nullopt;
     }
-    return WebLoad(url, limit).run(stop);
+    return WebLoad(url, limit, stop).run();
 }
 
 } // namespace morrowleaf

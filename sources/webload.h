@@ -3,11 +3,12 @@
 
 #pragma once
 
+#include "base/stoptoken.h"
+
 #include <QByteArray>
 #include <QUrl>
 
 #include <optional>
-#include <stop_token>
 
 namespace morrowleaf {
 
@@ -16,7 +17,7 @@ namespace morrowleaf {
 // `stop` is requested meanwhile. Any thread but the main one: it runs an event loop, and
 // blocks as long as the resolver does.
 [[nodiscard]] std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit,
-                                                    const std::stop_token& stop);
+                                                    const StopToken& stop);
 
 // Whether a response from `from` may redirect to `to`: only to http or https, and never
 // from https to http.

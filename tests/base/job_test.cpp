@@ -56,7 +56,7 @@ TEST_F(JobTest, DeliversLaterOnTheThreadThatStartedIt) {
     std::optional<int> result;
     const Job job(
         pool,
-        [&worker](const std::stop_token&) {
+        [&worker](const StopToken&) {
             worker = QThread::currentThread();
             return 42;
         },
@@ -76,7 +76,7 @@ TEST_F(JobTest, DeliversToAnyThreadWithAnEventLoop) {
         QEventLoop loop;
         int result = 0;
         const Job job(
-            pool, [](const std::stop_token&) { return 1; },
+            pool, [](const StopToken&) { return 1; },
             [&](int value) {
                 result = value;
                 loop.quit();
@@ -90,7 +90,7 @@ TEST_F(JobTest, DeliversToAnyThreadWithAnEventLoop) {
 TEST_F(JobTest, TheResultNeedNotBeCopyable) {
     std::unique_ptr<int> result;
     const Job job(
-        pool, [](const std::stop_token&) { return std::make_unique<int>(7); },
+        pool, [](const StopToken&) { return std::make_unique<int>(7); },
         [&](std::unique_ptr<int> value) { result = std::move(value); });
     ASSERT_TRUE(await([&] { return result != nullptr; }));
     EXPECT_EQ(*result, 7);
@@ -100,7 +100,7 @@ TEST_F(JobTest, WorkThatHasNotBegunIsSkipped) {
     block();
     std::atomic<bool> ran = false;
     auto job = std::make_unique<Job>(
-        pool, [&ran](const std::stop_token&) { return ran = true; }, [](bool) { FAIL(); });
+        pool, [&ran](const StopToken&) { return ran = true; }, [](bool) { FAIL(); });
     job.reset();
     goOn.release();
     deliverAll();
@@ -111,11 +111,11 @@ TEST_F(JobTest, DestructionStopsRunningWorkAndDoesNotWaitForIt) {
     std::atomic<bool> stopped = false;
     auto job = std::make_unique<Job>(
         pool,
-        [this, &stopped](const std::stop_token& stop) {
-            EXPECT_FALSE(stop.stop_requested());
+        [this, &stopped](const StopToken& stop) {
+            EXPECT_FALSE(stop.isRequested());
             begun.release();
             goOn.acquire();
-            stopped = stop.stop_requested();
+            stopped = stop.isRequested();
             return 0;
         },
         [](int) { FAIL(); });
@@ -129,7 +129,7 @@ TEST_F(JobTest, DestructionStopsRunningWorkAndDoesNotWaitForIt) {
 TEST_F(JobTest, AResultThatIsOnItsWayIsDropped) {
     const auto object = std::make_shared<int>(1);
     auto job = std::make_unique<Job>(
-        pool, [object](const std::stop_token&) { return object; },
+        pool, [object](const StopToken&) { return object; },
         [](const std::shared_ptr<int>&) { FAIL(); });
     pool.waitForDone();
     EXPECT_GT(object.use_count(), 1);
@@ -142,7 +142,7 @@ TEST_F(JobTest, TheResultOfCancelledWorkIsFreed) {
     const auto object = std::make_shared<int>(1);
     auto job = std::make_unique<Job>(
         pool,
-        [this, object](const std::stop_token&) {
+        [this, object](const StopToken&) {
             begun.release();
             goOn.acquire();
             return object;
@@ -163,7 +163,7 @@ TEST_F(JobTest, TheCallbackIsFreedAtOnceAndOnItsOwnThread) {
     };
     auto job = std::make_unique<Job>(
         pool,
-        [this](const std::stop_token&) {
+        [this](const StopToken&) {
             begun.release();
             goOn.acquire();
             return 0;
@@ -182,7 +182,7 @@ TEST_F(JobTest, WhatTheWorkHoldsIsFreedBeforeTheResultArrives) {
     bool delivered = false;
     const std::weak_ptr<int> watched = object;
     const Job job(
-        pool, [object = std::move(object)](const std::stop_token&) { return *object; },
+        pool, [object = std::move(object)](const StopToken&) { return *object; },
         [&](int) {
             EXPECT_TRUE(watched.expired());
             delivered = true;
@@ -192,7 +192,7 @@ TEST_F(JobTest, WhatTheWorkHoldsIsFreedBeforeTheResultArrives) {
 
 TEST_F(JobTest, AnotherJobTakesThePlaceOfTheFirst) {
     QList<int> results;
-    const auto give = [](int value) { return [value](const std::stop_token&) { return value; }; };
+    const auto give = [](int value) { return [value](const StopToken&) { return value; }; };
     const auto take = [&results](int value) { results.append(value); };
     Job job(pool, give(1), take);
     job = Job(pool, give(2), take);
@@ -207,7 +207,7 @@ TEST_F(JobTest, AnotherJobTakesThePlaceOfTheFirst) {
 TEST_F(JobTest, KeepsRunningWhenItIsMoved) {
     int result = 0;
     Job first(
-        pool, [](const std::stop_token&) { return 5; }, [&](int value) { result = value; });
+        pool, [](const StopToken&) { return 5; }, [&](int value) { result = value; });
     const Job second = std::move(first);
     deliverAll();
     EXPECT_EQ(result, 5);
@@ -217,7 +217,7 @@ TEST_F(JobTest, TheCallbackMayDestroyItsJob) {
     std::unique_ptr<Job> job;
     QList<int> results;
     job = std::make_unique<Job>(
-        pool, [](const std::stop_token&) { return 1; },
+        pool, [](const StopToken&) { return 1; },
         [&job, &results](int value) {
             job.reset();
             results.append(value);
@@ -233,7 +233,7 @@ TEST_F(JobTest, TheCallbackMayStartTheNextJobInItsPlace) {
         results.append(value);
         if (value < 3) {
             job = Job(
-                pool, [value](const std::stop_token&) { return value + 1; }, next);
+                pool, [value](const StopToken&) { return value + 1; }, next);
         }
     };
     next(0);
@@ -246,7 +246,7 @@ TEST_F(JobTest, HigherPrioritiesRunFirst) {
     QList<int> results;
     const auto start = [&](int priority) {
         return Job(
-            pool, [](const std::stop_token&) { return 0; },
+            pool, [](const StopToken&) { return 0; },
             [&results, priority](int) { results.append(priority); }, priority);
     };
     const std::array jobs{start(0), start(2), start(1)};
@@ -261,7 +261,7 @@ TEST_F(JobTest, ManyJobsComeAndGoWhileOthersRun) {
     int delivered = 0;
     for (std::size_t i = 0; i < 20'000; ++i) {
         jobs[i * 7 % jobs.size()] = Job(
-            pool, [i](const std::stop_token&) { return i; }, [&](std::size_t) { ++delivered; });
+            pool, [i](const StopToken&) { return i; }, [&](std::size_t) { ++delivered; });
         if (i % 64 == 0) {
             QCoreApplication::processEvents();
         }

@@ -306,9 +306,9 @@ TEST_F(PhotoTest, TheInputEndsAfterItsTime) {
 }
 
 TEST_F(PhotoTest, DoesNotCopyOverAFileOrWhenCancelled) {
-    const std::stop_token going;
-    std::stop_source stopped;
-    stopped.request_stop();
+    const StopToken going;
+    StopSource stopped;
+    stopped.request();
     const QString source = file("content");
     const QString taken = file("taken");
     EXPECT_FALSE(copyPhotoFile(source, taken, going));
@@ -316,7 +316,7 @@ TEST_F(PhotoTest, DoesNotCopyOverAFileOrWhenCancelled) {
     ASSERT_TRUE(there.open(QIODevice::ReadOnly));
     EXPECT_EQ(there.readAll(), QByteArray("taken"));
     const QString fresh = folder.filePath(u"fresh"_s);
-    EXPECT_FALSE(copyPhotoFile(source, fresh, stopped.get_token()));
+    EXPECT_FALSE(copyPhotoFile(source, fresh, stopped.token()));
     EXPECT_FALSE(QFile::exists(fresh));
     EXPECT_TRUE(copyPhotoFile(source, fresh, going));
 }
@@ -327,7 +327,7 @@ TEST_F(PhotoTest, LeavesNoFileOnAFullDisk) {
     if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {
         GTEST_SKIP() << "may not mount a small disk here";
     }
-    const std::stop_token going;
+    const StopToken going;
     const bool copied = copyPhotoFile(file(QByteArray(1 << 20, 'x')), small + u"/copy"_s, going);
     const QStringList left = QDir(small).entryList(QDir::Files | QDir::Hidden);
     ::umount(qPrintable(small));

@@ -61,9 +61,8 @@ protected:
     std::atomic<bool> diskIsQuick = false;
     QThreadPool workers;
     std::unique_ptr<PhotoImport> photos = std::make_unique<PhotoImport>(
-        workers,
-        [this](const QString& source, const QString& destination, const std::stop_token& stop) {
-            while (source.contains("/slow"_L1) && !diskIsQuick && !stop.stop_requested()) {
+        workers, [this](const QString& source, const QString& destination, const StopToken& stop) {
+            while (source.contains("/slow"_L1) && !diskIsQuick && !stop.isRequested()) {
                 QThread::msleep(1);
             }
             return copyPhotoFile(source, destination, stop);
