@@ -3,10 +3,10 @@
 
 #pragma once
 
+#include <QByteArray>
+
 #include <cstdint>
 #include <set>
-
-class QByteArray;
 
 namespace morrowleaf {
 
@@ -30,7 +30,7 @@ public:
     bool end(std::uint64_t limit) const;
 
 private:
-    std::set<std::uint64_t> exempt_; // inode numbers of sockets
+    std::set<QByteArray> exempt_; // identities of sockets
 };
 
 } // namespace morrowleaf

@@ -5,10 +5,10 @@
 
 #include "platform/linux/dbus/logind.h"
 #include "platform/linux/dbus/screensavers.h"
-#include "platform/linux/unixsignals.h"
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11monitors.h"
 #include "platform/shared/sessiongate.h"
+#include "platform/shared/unixsignals.h"
 
 #include <QGuiApplication>
 #include <QScreen>

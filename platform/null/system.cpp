@@ -3,7 +3,7 @@
 
 #include "platform/system.h"
 
-#include "platform/network.h"
+#include "platform/shared/sockets.h"
 
 #include <chrono>
 
@@ -16,17 +16,12 @@ double uptime() {
 
 void releaseFreeMemory() {}
 
-void ignoreBrokenPipes() {}
-
-std::FILE* divertErrorOutput() {
-    return nullptr;
+QByteArray identifySocket(int /*fd*/) {
+    return {};
 }
 
-// This backend does not know how much a connection has received, so it ends none.
-FloodGuard::FloodGuard() = default;
-
-bool FloodGuard::end(std::uint64_t /*limit*/) const {
-    return false;
+std::uint64_t bytesReceived(int /*fd*/) {
+    return 0;
 }
 
 } // namespace morrowleaf

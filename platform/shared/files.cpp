@@ -31,13 +31,29 @@ qint64 nanoseconds(const timespec& time) {
                                static_cast<quint64>(time.tv_nsec));
 }
 
+#ifdef __APPLE__
+const timespec& modifiedAt(const struct stat& found) {
+    return found.st_mtimespec;
+}
+const timespec& touchedAt(const struct stat& found) {
+    return found.st_ctimespec;
+}
+#else
+const timespec& modifiedAt(const struct stat& found) {
+    return found.st_mtim;
+}
+const timespec& touchedAt(const struct stat& found) {
+    return found.st_ctim;
+}
+#endif
+
 FileMark markOf(const struct stat& found) {
     return {true,
             found.st_dev,
             found.st_ino,
             found.st_size,
-            nanoseconds(found.st_mtim),
-            nanoseconds(found.st_ctim)};
+            nanoseconds(modifiedAt(found)),
+            nanoseconds(touchedAt(found))};
 }
 
 bool find(const QString& path, struct stat& found) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/unixsignals.h"
+#include "platform/shared/unixsignals.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/linux/unixsignals.h"
+#include "platform/shared/unixsignals.h"
 
 #include <array>
 #include <csignal>
@@ -29,10 +29,21 @@ void writeToPipe(int /*signal*/) {
     [[maybe_unused]] const auto written = write(pipeEnds[1], &byte, 1);
 }
 
+bool openPipe() {
+    if (pipe(pipeEnds.data()) != 0) {
+        return false;
+    }
+    for (const int end : pipeEnds) {
+        fcntl(end, F_SETFD, FD_CLOEXEC);
+        fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    return true;
+}
+
 } // namespace
 
 UnixSignals::UnixSignals() {
-    if (pipeEnds[0] < 0 && pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (pipeEnds[0] < 0 && !openPipe()) {
         return;
     }
     notifier_ = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
