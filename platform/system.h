@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QString>
+
 #include <cstdio>
 
 namespace morrowleaf {
@@ -14,6 +16,9 @@ double uptime();
 // Returns freed heap memory to the system; does nothing if the allocator does not support
 // that. Takes a few milliseconds. Any thread.
 void releaseFreeMemory();
+
+// The folder in which this system keeps the settings of this program. Any thread.
+QString settingsFolder();
 
 // Makes writing to a pipe or a socket that nobody reads an error; by default it ends the
 // process. Call at the start, before there are threads.

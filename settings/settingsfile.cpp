@@ -3,11 +3,11 @@
 
 #include "settings/settingsfile.h"
 
+#include "platform/system.h"
 #include "settings/settingsstore.h"
 #include "settings/settingsworker.h"
 
 #include <QCoreApplication>
-#include <QStandardPaths>
 #include <QThread>
 
 #include <future>
@@ -37,8 +37,7 @@ auto ask(SettingsWorker* worker, Call call) {
 } // namespace
 
 QString defaultSettingsPath() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           "/morrowleaf/settings.json"_L1;
+    return settingsFolder() + "/settings.json"_L1;
 }
 
 SettingsFile::SettingsFile(SettingsStore& store, const QString& path, QObject* parent)

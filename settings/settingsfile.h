@@ -17,7 +17,8 @@ class SettingsStore;
 class SettingsWorker;
 struct SettingsSnapshot;
 
-// $XDG_CONFIG_HOME/morrowleaf/settings.json; without that variable, below ~/.config.
+// Linux: $XDG_CONFIG_HOME/morrowleaf/settings.json; without that variable, below ~/.config.
+// macOS: ~/Library/Application Support/Morrowleaf/settings.json.
 QString defaultSettingsPath();
 
 // Keeps a store and one JSON file in step, in both directions. Construct it after the

@@ -3,11 +3,15 @@
 
 #include "platform/system.h"
 
+#include <QStandardPaths>
+
 #include <ctime>
 
 #include <malloc.h>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
 
 double uptime() {
     timespec time{};
@@ -17,6 +21,11 @@ double uptime() {
 
 void releaseFreeMemory() {
     malloc_trim(0);
+}
+
+QString settingsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/morrowleaf"_s;
 }
 
 } // namespace morrowleaf

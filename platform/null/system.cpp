@@ -5,9 +5,13 @@
 
 #include "platform/shared/sockets.h"
 
+#include <QStandardPaths>
+
 #include <chrono>
 
 namespace morrowleaf {
+
+using namespace Qt::Literals::StringLiterals;
 
 double uptime() {
     const std::chrono::duration<double> since = std::chrono::steady_clock::now().time_since_epoch();
@@ -15,6 +19,11 @@ double uptime() {
 }
 
 void releaseFreeMemory() {}
+
+QString settingsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/morrowleaf"_s;
+}
 
 QByteArray identifySocket(int /*fd*/) {
     return {};
