@@ -107,6 +107,9 @@ void AppDelegate::present(bool preview, bool editing) {
     if (editing) {
         addInspector(*content, window->overlay());
     }
+    // Queued, because the window must not change while it is painted.
+    connect(content, &QuoteScreen::systemBackdropWanted, &window->overlay(),
+            &OverlayWindow::setBackdrop, Qt::QueuedConnection);
     window->setContent(content);
     window->setAlpha(0);
     const auto handleThisLoss = [this, lost = QPointer(window.get())] {
@@ -202,6 +205,12 @@ DesktopView AppDelegate::captureDesktop(QuoteWindow& window, QScreen& screen, bo
         break;
     case SeeThrough::Blurred:
         desktop.kind = DesktopView::Kind::LiveBlur;
+        break;
+    case SeeThrough::SystemBlur:
+        desktop.kind = DesktopView::Kind::SystemBlur;
+        break;
+    case SeeThrough::SystemGlass:
+        desktop.kind = DesktopView::Kind::SystemGlass;
         break;
     case SeeThrough::No:
         break;

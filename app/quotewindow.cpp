@@ -41,7 +41,6 @@ public:
     void setDesktop(const QImage& desktop);
     // From 0 to 1; at 1 the veil is hidden.
     void setAlpha(double alpha);
-    double alpha() const { return alpha_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -64,7 +63,7 @@ void Veil::setDesktop(const QImage& desktop) {
 }
 
 void Veil::setAlpha(double alpha) {
-    alpha_ = std::clamp(alpha, 0.0, 1.0);
+    alpha_ = alpha;
     setVisible(alpha_ < 1);
     update();
 }
@@ -110,11 +109,10 @@ void QuoteWindow::setDesktop(const QImage& desktop) {
 }
 
 void QuoteWindow::setAlpha(double alpha) {
-    veil_->setAlpha(alpha);
-}
-
-double QuoteWindow::alpha() const {
-    return veil_->alpha();
+    alpha_ = std::clamp(alpha, 0.0, 1.0);
+    if (!overlay_->setAlpha(alpha_)) {
+        veil_->setAlpha(alpha_);
+    }
 }
 
 void QuoteWindow::fadeIn(Timing& timing) {

@@ -28,10 +28,10 @@ public:
     // What to fade over if the desktop does not show through the window.
     void setDesktop(const QImage& desktop); // device pixels of the whole window
 
-    // From 0 to 1. Works without the window system: the window's own pixels become
+    // From 0 to 1. Also works without the window system: the window's own pixels become
     // translucent, or those of setDesktop() show through.
     void setAlpha(double alpha);
-    double alpha() const;
+    double alpha() const { return alpha_; }
     // Fades from the current alpha to 1, or to 0 and then calls `done`. Another fade or
     // orderOut() cancels a fade without calling `done`.
     void fadeIn(Timing& timing);
@@ -54,6 +54,7 @@ private:
     std::unique_ptr<OverlayWindow> overlay_;
     QWidget* content_ = nullptr;
     Veil* veil_ = nullptr;
+    double alpha_ = 1;
     Task fade_;
 };
 

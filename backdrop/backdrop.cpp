@@ -43,6 +43,9 @@ Layers layersOf(const BackdropState& state, bool hasPicture, bool hasGlass) {
         (kind == DesktopView::Kind::Captured && !hasPicture) || t <= 0) {
         return {};
     }
+    if (isDrawnBySystem(state.desktop)) {
+        return {.ground = 1 - t};
+    }
     const double glass = glassOpacity(t);
     const double tint = glassTint(t);
     Layers layers{.ground = 1 - t, .tint = t * glass * tint};

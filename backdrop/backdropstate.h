@@ -22,6 +22,9 @@ struct DesktopView {
         Plain,    // the desktop shows through the window's alpha, unblurred
         LiveBlur, // the same, blurred by the compositor
         Captured, // `picture` holds the desktop, and the window is opaque
+        // The system draws what systemBackdropFor() says:
+        SystemBlur,
+        SystemGlass,
     };
     Kind kind = Kind::Nothing;
     QImage picture; // for Captured: device pixels of the whole window
@@ -47,9 +50,16 @@ struct BackdropState {
     DesktopView desktop;
 };
 
-// Whether glass can be drawn, which needs a picture of what is behind the window.
+// Whether glass can be drawn: by us over a picture of the desktop, or by the system.
 inline bool glassAvailable(const DesktopView& desktop) {
-    return desktop.kind == DesktopView::Kind::Captured;
+    return desktop.kind == DesktopView::Kind::Captured ||
+           desktop.kind == DesktopView::Kind::SystemGlass;
+}
+
+// Whether the system draws everything behind the ground.
+inline bool isDrawnBySystem(const DesktopView& desktop) {
+    return desktop.kind == DesktopView::Kind::SystemBlur ||
+           desktop.kind == DesktopView::Kind::SystemGlass;
 }
 
 // `value` clamped to 0...1; NaN gives 0.

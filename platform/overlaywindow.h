@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QColor>
 #include <QObject>
 
 #include <memory>
@@ -35,6 +36,20 @@ enum class SeeThrough {
     No,      // nothing; paint every pixel opaque
     Plain,   // the desktop behind the window
     Blurred, // the same, blurred by the compositor
+    // The desktop behind what setBackdrop() puts there:
+    SystemBlur,  // a blur
+    SystemGlass, // a blur or glass
+};
+
+// What the system draws between the desktop and the pixels of a window.
+struct SystemBackdrop {
+    enum class Kind { None, Blur, Glass, ClearGlass };
+
+    Kind kind = Kind::None;
+    QColor tint;        // with its opacity
+    double opacity = 1; // of everything, 0...1
+
+    bool operator==(const SystemBackdrop&) const = default;
 };
 
 // Turns one top-level widget into a window that covers its screen: borderless,
@@ -51,6 +66,11 @@ public:
 
     // Constant during the life of this object.
     virtual SeeThrough seeThrough() const = 0;
+    // Gives the whole window an alpha of 0...1, with what the system draws in it. Returns
+    // false, and does nothing, if the window's pixels must have it instead.
+    [[nodiscard]] virtual bool setAlpha(double /*alpha*/) { return false; }
+    // Only has an effect for SystemBlur and SystemGlass.
+    virtual void setBackdrop(const SystemBackdrop& /*backdrop*/) {}
     // Maps the window, raises it and takes focus and input as set up.
     virtual void orderFront() = 0;
     // Unmaps the window and returns the focus to the window that had it before.

@@ -5,6 +5,7 @@
 
 #include "backdrop/backdrop.h"
 #include "backdrop/glass.h"
+#include "backdrop/systembackdrop.h"
 #include "photos/bgstore.h"
 #include "quotes/quotebox.h"
 #include "screen/greeting.h"
@@ -23,7 +24,6 @@
 #include <cmath>
 
 namespace morrowleaf {
-
 namespace {
 
 constexpr qsizetype spokenLimit = 4000; // characters, of a text or an author
@@ -157,6 +157,7 @@ void QuoteScreen::Private::rebuildView() {
         desktop.kind == DesktopView::Kind::Captured && backdrop.transparency > leastTransparency;
     glass.setPicture(seenThrough ? desktop.picture : QImage(), screen.devicePixelRatioF());
     backdrop.desktop.glass = glass.glass();
+    emit screen.systemBackdropWanted(systemBackdropFor(backdrop));
     stale = false;
 }
 

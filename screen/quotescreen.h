@@ -5,6 +5,7 @@
 
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
+#include "platform/overlaywindow.h"
 #include "screen/frameclock.h"
 #include "screen/spokentexts.h"
 
@@ -51,6 +52,11 @@ public:
 
     SpokenTexts spokenTexts() const override;
     QList<QRect> spokenRects() const override;
+
+signals:
+    // What the system has to draw behind this screen, also if it is what it has drawn so
+    // far. Emitted while the screen paints.
+    void systemBackdropWanted(const morrowleaf::SystemBackdrop& backdrop);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -126,12 +126,13 @@ TEST(Backdrop, TheRimIsBrighterThanTheMiddleAndOnlyOfLiquidGlass) {
     EXPECT_EQ(raw(with, 240, 150), raw(without, 240, 150));
 }
 
-TEST(Backdrop, GlassIsAvailableExactlyOverACapture) {
-    for (const auto kind : {DesktopView::Kind::Nothing, DesktopView::Kind::Plain,
-                            DesktopView::Kind::LiveBlur, DesktopView::Kind::Captured}) {
+TEST(Backdrop, GlassIsAvailableOverACaptureAndWhereTheSystemHasIt) {
+    using Kind = DesktopView::Kind;
+    for (const auto kind : {Kind::Nothing, Kind::Plain, Kind::LiveBlur, Kind::Captured,
+                            Kind::SystemBlur, Kind::SystemGlass}) {
         DesktopView desktop;
         desktop.kind = kind;
-        EXPECT_EQ(glassAvailable(desktop), kind == DesktopView::Kind::Captured);
+        EXPECT_EQ(glassAvailable(desktop), kind == Kind::Captured || kind == Kind::SystemGlass);
     }
     EXPECT_EQ(makeGlass(QImage(), 1), nullptr);
 }

@@ -24,6 +24,8 @@ struct OverlayRecord {
     int inputReleases = 0;
     std::vector<WindowLevel> levels;
     double alphaAtFront = -1;
+    std::vector<double> alphas; // those that the overlay has taken
+    std::vector<SystemBackdrop> backdrops;
 };
 
 // Records what the controller does to the desktop.
@@ -42,6 +44,7 @@ public:
     Platform platform;
     bool hasScreen = true;
     SeeThrough seeThrough = SeeThrough::Plain;
+    bool fadesWindows = false; // by itself
     QImage picture;
     int captures = 0;
     quint32 frontTime = 0;
@@ -64,6 +67,15 @@ private:
             , record(std::move(r)) {}
         ~Overlay() override { record->overlay = nullptr; }
         SeeThrough seeThrough() const override { return desktop.seeThrough; }
+        bool setAlpha(double alpha) override {
+            if (desktop.fadesWindows) {
+                record->alphas.push_back(alpha);
+            }
+            return desktop.fadesWindows;
+        }
+        void setBackdrop(const SystemBackdrop& backdrop) override {
+            record->backdrops.push_back(backdrop);
+        }
         void orderFront() override {
             ++record->fronts;
             record->window->show();
