@@ -264,7 +264,7 @@ void AppDelegate::openSettings() {
         auto* view = new SettingsView(services_.store, services_.loader,
                                       *services_.platform.loginItem, actions_);
         connect(view, &SettingsView::loginItemRefused, qApp, &QApplication::beep);
-        settingsWindow_ = std::make_unique<SettingsWindow>(view);
+        settingsWindow_ = std::make_unique<SettingsWindow>(view, *services_.platform.floater);
         if (const QScreen* screen = services_.platform.mainScreen->current()) {
             settingsWindow_->place(screen->availableGeometry());
         }

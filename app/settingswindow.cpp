@@ -6,7 +6,6 @@
 #include <QIcon>
 #include <QStyle>
 #include <QTimer>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -20,12 +19,13 @@ constexpr QSize contentSize(520, 520);
 constexpr int leftMargin = 32;
 constexpr int belowMiddle = 400;
 constexpr Qt::WindowFlags kind = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                 Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                                 Qt::WindowStaysOnTopHint;
+                                 Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 } // namespace
 
-SettingsWindow::SettingsWindow(QWidget* view)
-    : QMainWindow(nullptr, kind) {
+SettingsWindow::SettingsWindow(QWidget* view, Floater& floater)
+    : QMainWindow(nullptr, kind)
+    , floater_(floater) {
+    floater_.setFloating(*this, true);
     setObjectName(u"SettingsWindow"_s);
     setWindowTitle(u"Morrowleaf Settings"_s);
     setWindowIcon(QIcon(u":/morrowleaf/app-icon.svg"_s));
@@ -53,17 +53,12 @@ void SettingsWindow::bringToFront() {
     activateWindow();
 }
 
-// Set on the QWindow, because a change of the widget's flags hides the widget.
 void SettingsWindow::joinOrdinaryWindows() {
-    if (QWindow* handle = windowHandle()) {
-        handle->setFlag(Qt::WindowStaysOnTopHint, false);
-    }
+    floater_.setFloating(*this, false);
 }
 
 void SettingsWindow::riseAboveOrdinaryWindows() {
-    if (QWindow* handle = windowHandle()) {
-        handle->setFlag(Qt::WindowStaysOnTopHint);
-    }
+    floater_.setFloating(*this, true);
 }
 
 void SettingsWindow::paintEvent(QPaintEvent* event) {

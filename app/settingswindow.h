@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/floater.h"
+
 #include <QMainWindow>
 #include <QRect>
 
@@ -14,7 +16,8 @@ class SettingsWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit SettingsWindow(QWidget* view);
+    // `floater` must outlive the window.
+    SettingsWindow(QWidget* view, Floater& floater);
 
     // Places the window in `available`, the part of a screen that panels leave free, in
     // points. Call before it is first shown.
@@ -24,7 +27,7 @@ public:
     void bringToFront();
 
     // Gives up the place above ordinary windows, so that a dialog of another program can
-    // come in front, and takes it again. Without effect until the window is first shown.
+    // come in front, and takes it again.
     void joinOrdinaryWindows();
     void riseAboveOrdinaryWindows();
 
@@ -34,6 +37,7 @@ protected:
 private:
     void moveIntoPlace(const QSize& frame);
 
+    Floater& floater_;
     QRect available_; // empty once the window has been placed
 };
 

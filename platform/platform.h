@@ -5,6 +5,7 @@
 
 #include "platform/colorscheme.h"
 #include "platform/filechooser.h"
+#include "platform/floater.h"
 #include "platform/loginitem.h"
 #include "platform/overlaywindow.h"
 #include "platform/screens.h"
@@ -24,6 +25,7 @@ struct Platform {
     std::unique_ptr<OverlayMaker> overlays;
     std::unique_ptr<DesktopPicture> desktopPicture;
     std::unique_ptr<FileChooser> fileChooser;
+    std::unique_ptr<Floater> floater;
     std::unique_ptr<SessionEvents> sessionEvents;
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;

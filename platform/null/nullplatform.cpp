@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 namespace morrowleaf {
 
@@ -71,6 +72,18 @@ public:
     }
 };
 
+class HintFloater final : public Floater {
+public:
+    void setFloating(QWidget& window, bool isFloating) override {
+        // A change of the widget's flags would hide a widget that is shown.
+        if (QWindow* handle = window.windowHandle()) {
+            handle->setFlag(Qt::WindowStaysOnTopHint, isFloating);
+        } else {
+            window.setWindowFlag(Qt::WindowStaysOnTopHint, isFloating);
+        }
+    }
+};
+
 class RememberedLoginItem final : public LoginItem {
 public:
     Status status() const override { return status_; }
@@ -109,6 +122,7 @@ Platform makeNullPlatform() {
             .overlays = std::make_unique<NullOverlays>(),
             .desktopPicture = std::make_unique<NoPicture>(),
             .fileChooser = std::make_unique<NoChooser>(),
+            .floater = std::make_unique<HintFloater>(),
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<TrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
