@@ -127,7 +127,8 @@ void AppDelegate::present(bool preview, bool editing) {
         return;
     }
     monitor_ = std::make_unique<EventMonitor>(editing ? EndedBy::Escape : EndedBy::AnyInput,
-                                              *window_, window_->overlay().orderedFrontAt());
+                                              *window_, window_->overlay().orderedFrontAt(),
+                                              *services_.platform.inputTaps);
     connect(monitor_.get(), &EventMonitor::endRequested, this, [this] { dismiss(true); });
     if (!editing) {
         const double seconds = Prefs::dismissSeconds(services_.store);
@@ -222,7 +223,7 @@ void AppDelegate::dismiss(bool animated) {
     autoDismiss_.reset();
     // The monitor's own signal may have led here.
     if (EventMonitor* monitor = monitor_.release()) {
-        QCoreApplication::instance()->removeEventFilter(monitor);
+        monitor->stop();
         monitor->deleteLater();
     }
     if (!window_) {

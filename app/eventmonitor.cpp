@@ -102,11 +102,29 @@ bool isMenuOrDialogInFront(const QWidget& window) {
 
 } // namespace
 
-EventMonitor::EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since)
+EventMonitor::EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since, InputTaps& taps)
     : endedBy_(endedBy)
     , window_(window)
-    , since_(since) {
-    QCoreApplication::instance()->installEventFilter(this);
+    , since_(since)
+    , tap_(taps.tap(endedBy == EndedBy::Escape ? TappedInput::EscapeKey
+                                               : TappedInput::ButtonsAndKeys,
+                    [this] { return takeTapped(); })) {
+    if (!tap_) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+}
+
+void EventMonitor::stop() {
+    isStopped_ = true;
+    QCoreApplication::instance()->removeEventFilter(this);
+}
+
+bool EventMonitor::takeTapped() {
+    if (isStopped_ || (endedBy_ == EndedBy::Escape && isMenuOrDialogInFront(window_))) {
+        return false;
+    }
+    emit endRequested();
+    return true;
 }
 
 bool EventMonitor::endsShowing(const QEvent& event) const {

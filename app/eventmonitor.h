@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "platform/inputtaps.h"
+
 #include <QObject>
+
+#include <memory>
 
 class QWidget;
 
@@ -15,8 +19,8 @@ enum class EndedBy {
     Escape,   // the Escape key, unless a menu or a dialog is in front
 };
 
-// Watches all input events of the program during its life. Consumes every event that ends
-// the showing and announces it by a signal. Main thread.
+// Watches all input events of the program until stop(). Consumes every event that ends the
+// showing and announces it by a signal. Main thread.
 //
 // Modifier and lock keys alone do not end a showing, nor do keys that operate the
 // machine, such as those for volume and brightness.
@@ -26,7 +30,11 @@ class EventMonitor : public QObject {
 public:
     // `window` is the window of the showing and must outlive this. Ignores events with a
     // time stamp before `since`, in milliseconds that wrap at 32 bits; 0 ignores none.
-    EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since);
+    // Where the system lets no program tap its input, it watches Qt's events.
+    EventMonitor(EndedBy endedBy, const QWidget& window, quint32 since, InputTaps& taps);
+
+    // Call it before the monitor is destroyed, which must not happen within its signal.
+    void stop();
 
 signals:
     void endRequested();
@@ -36,10 +44,13 @@ protected:
 
 private:
     bool endsShowing(const QEvent& event) const;
+    bool takeTapped();
 
     EndedBy endedBy_;
     const QWidget& window_;
     quint32 since_;
+    bool isStopped_ = false;
+    std::unique_ptr<InputTap> tap_; // null: Qt's events are watched
 };
 
 } // namespace morrowleaf

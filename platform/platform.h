@@ -6,6 +6,7 @@
 #include "platform/colorscheme.h"
 #include "platform/filechooser.h"
 #include "platform/floater.h"
+#include "platform/inputtaps.h"
 #include "platform/loginitem.h"
 #include "platform/overlaywindow.h"
 #include "platform/screens.h"
@@ -26,6 +27,7 @@ struct Platform {
     std::unique_ptr<DesktopPicture> desktopPicture;
     std::unique_ptr<FileChooser> fileChooser;
     std::unique_ptr<Floater> floater;
+    std::unique_ptr<InputTaps> inputTaps;
     std::unique_ptr<SessionEvents> sessionEvents;
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;

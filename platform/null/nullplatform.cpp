@@ -84,6 +84,13 @@ public:
     }
 };
 
+class NoInputTaps final : public InputTaps {
+public:
+    std::unique_ptr<InputTap> tap(TappedInput /*input*/, std::function<bool()> /*take*/) override {
+        return nullptr;
+    }
+};
+
 class RememberedLoginItem final : public LoginItem {
 public:
     Status status() const override { return status_; }
@@ -123,6 +130,7 @@ Platform makeNullPlatform() {
             .desktopPicture = std::make_unique<NoPicture>(),
             .fileChooser = std::make_unique<NoChooser>(),
             .floater = std::make_unique<HintFloater>(),
+            .inputTaps = std::make_unique<NoInputTaps>(),
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<TrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
