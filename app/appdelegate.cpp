@@ -74,7 +74,7 @@ void AppDelegate::applicationDidFinishLaunching(const QStringList& arguments) {
 }
 
 void AppDelegate::installStatusItem() {
-    statusItem_ = std::make_unique<StatusItem>(actions_);
+    statusItem_ = std::make_unique<StatusItem>(actions_, *services_.platform.trayHost);
 }
 
 void AppDelegate::show() {

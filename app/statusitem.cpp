@@ -57,30 +57,15 @@ QIcon symbolIn(const QColor& colour) {
     return icon;
 }
 
-// The symbol in a colour that is legible on the panels of this desktop.
-QIcon panelSymbol() {
-    // KDE and GNOME tint an installed symbolic icon themselves.
-    QIcon themed = QIcon::fromTheme(u"org.morrowleaf.Morrowleaf-symbolic"_s);
-    const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
-    if (!themed.isNull() && (desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1))) {
-        return themed;
-    }
-    return symbolIn(QGuiApplication::palette().color(QPalette::WindowText));
-}
-
-// Only X11 can place a menu that has no parent window.
-bool canPopUpAnywhere() {
-    return !QGuiApplication::platformName().startsWith("wayland"_L1);
-}
-
 } // namespace
 
-StatusItem::StatusItem(MenuActions& actions) {
+StatusItem::StatusItem(MenuActions& actions, const TrayHost& host)
+    : host_(host) {
     menu_.addActions({&actions.showQuote, &actions.editAppearance, &actions.openSettings});
     menu_.addSeparator();
     menu_.addAction(&actions.quit);
 
-    icon_.setIcon(panelSymbol());
+    icon_.setIcon(symbol());
     icon_.setToolTip(u"Morrowleaf"_s);
     icon_.setContextMenu(&menu_);
     connect(&icon_, &QSystemTrayIcon::activated, this,
@@ -95,16 +80,28 @@ void StatusItem::handleClick(QSystemTrayIcon::ActivationReason reason, QAction& 
     if (reason != QSystemTrayIcon::Trigger) {
         return;
     }
-    if (canPopUpAnywhere()) {
+    switch (host_.click()) {
+    case TrayHost::Click::PopsUpMenu:
         menu_.popup(QCursor::pos());
-    } else {
+        break;
+    case TrayHost::Click::ShowsQuote:
         showQuote.trigger();
+        break;
+    case TrayHost::Click::OpensMenu:
+        break;
     }
+}
+
+QIcon StatusItem::symbol() const {
+    const QIcon tinted = host_.tintedSymbol();
+    // The colour of the palette is legible on the panels of most desktops.
+    return !tinted.isNull() ? tinted
+                            : symbolIn(QGuiApplication::palette().color(QPalette::WindowText));
 }
 
 bool StatusItem::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
-        icon_.setIcon(panelSymbol());
+        icon_.setIcon(symbol());
     }
     return false;
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/trayhost.h"
+
 #include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -17,8 +19,8 @@ class StatusItem : public QObject {
     Q_OBJECT
 
 public:
-    // `actions` must outlive the item.
-    explicit StatusItem(MenuActions& actions);
+    // `actions` and `host` must outlive the item.
+    StatusItem(MenuActions& actions, const TrayHost& host);
 
     const QMenu& menu() const { return menu_; }
 
@@ -28,7 +30,9 @@ protected:
 
 private:
     void handleClick(QSystemTrayIcon::ActivationReason reason, QAction& showQuote);
+    QIcon symbol() const;
 
+    const TrayHost& host_;
     QMenu menu_;
     QSystemTrayIcon icon_;
 };

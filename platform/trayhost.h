@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QIcon>
 #include <QObject>
 
 namespace morrowleaf {
@@ -16,6 +17,18 @@ class TrayHost : public QObject {
 
 public:
     using QObject::QObject;
+
+    // The symbol of the status item in a form that the desktop tints by itself. Null if
+    // there is none; the program draws and colours it then.
+    virtual QIcon tintedSymbol() const { return {}; }
+
+    enum class Click {
+        PopsUpMenu, // the program opens the menu
+        OpensMenu,  // the system has opened the menu by itself
+        ShowsQuote, // no menu can be placed
+    };
+    // What a click on the status item does.
+    virtual Click click() const { return Click::PopsUpMenu; }
 
 signals:
     // Not emitted before the event loop runs. A new host does not know the items of this

@@ -33,6 +33,8 @@ public:
             Qt::SingleShotConnection);
     }
 
+    QIcon tintedSymbol() const override { return notifier_.tintedSymbol(); }
+
 private:
     NotifierHost notifier_;
     std::unique_ptr<TrayHost> x11_; // null until Qt would not wait for the bus

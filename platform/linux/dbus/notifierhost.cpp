@@ -33,6 +33,12 @@ NotifierHost::NotifierHost(std::shared_ptr<const BusLink> session)
     connect(&service_, &BusService::vanished, this, &NotifierHost::settled);
 }
 
+QIcon NotifierHost::tintedSymbol() const {
+    const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+    const bool isTinted = desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1);
+    return isTinted ? QIcon::fromTheme(u"org.morrowleaf.Morrowleaf-symbolic"_s) : QIcon();
+}
+
 void NotifierHost::subscribe() {
     present_ = false;
     subscription_ = std::make_unique<QObject>();

@@ -19,6 +19,9 @@ class NotifierHost : public TrayHost {
 public:
     // `session` is opened afterwards by whoever created it.
     explicit NotifierHost(std::shared_ptr<const BusLink> session);
+    QIcon tintedSymbol() const override;
+    // Of a tray on Wayland, where only the tray can place a menu.
+    Click click() const override { return Click::ShowsQuote; }
 
 signals:
     // Qt, which asks the same on the main thread, would not wait now: the watcher has
