@@ -12,7 +12,8 @@ A room is a folder with a row in that table. This checks that
 - neither the table nor the files nor the units (a header with its sources) form
   cycles
 - includes are written from the root
-- only platform/ uses headers, names and libraries of an operating system
+- only platform/ uses headers, names and libraries of an operating system, and only
+  platform/linux/ uses headers of Linux
 - the CMake files have the same rooms, and link what is included
 
     includecheck.py ROOT        prints one line per fault; status 1 if there is any
@@ -55,6 +56,11 @@ LIBRARY_HEADER = re.compile(
 )
 SYSTEM_HEADER = re.compile(
     r"QDBus|QtDBus|QX11|QWayland|QWindowSystem|QPlatform(?!SurfaceEvent)|QNative(?!GestureEvent)"
+)
+LINUX = "platform/linux/"
+LINUX_HEADER = re.compile(
+    r"(?:linux|xcb|X11|dbus)/|wayland-|malloc\.h$|Q(?:t?DBus|X11|Wayland)"
+    r"|sys/(?:epoll|eventfd|inotify|prctl|signalfd|sysinfo|timerfd)\.h$"
 )
 SYSTEM_NAME = re.compile(
     r'"/(?:proc|sys|dev|etc|run)\b'
@@ -224,6 +230,8 @@ class Check:
             self.found.append(f'{place}: "{target}" is not written from the root')
         elif not path.startswith(MAY_ASK_THE_SYSTEM) and self.is_foreign(target):
             self.found.append(f"{place}: includes {target} of the system outside platform/")
+        elif path.startswith("platform/") and not path.startswith(LINUX) and LINUX_HEADER.match(target):
+            self.found.append(f"{place}: includes {target} of Linux outside {LINUX}")
 
     def check_line(self, place, line):
         directive = DIRECTIVE.match(line)

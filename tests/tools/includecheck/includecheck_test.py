@@ -279,6 +279,15 @@ class IncludeCheck(unittest.TestCase):
         self.assert_fault("quotes/a.cpp", "#if __has_include(<unistd.h>)\n#endif\n",
                           "asks for unistd.h of the system")
 
+    def test_no_header_of_linux_outside_its_backend(self):
+        for header in ("linux/tcp.h", "malloc.h", "sys/epoll.h", "xcb/xcb.h", "X11/Xlib.h",
+                       "wayland-client.h", "dbus/dbus.h", "QDBusConnection", "QtDBus/QDBusMessage"):
+            for path in ("platform/a.h", "platform/shared/a.cpp", "platform/null/a.cpp"):
+                self.assert_fault(path, f"#include <{header}>\n", f"includes {header} of Linux")
+            self.assert_sound("platform/linux/x11/a.cpp", f"#include <{header}>\n")
+        for header in ("unistd.h", "sys/stat.h", "malloc/malloc.h"):
+            self.assert_sound("platform/shared/a.cpp", f"#include <{header}>\n")
+
     def test_no_name_of_the_system_outside_the_platform(self):
         for code in ('QFile file("/proc/self/exe");', 'QDir dir("/sys/class");', "CLOCK_BOOTTIME;",
                      "clock_gettime(id, &t);", "flock(fd, 1);", "malloc_trim(0);", "mallopt(1, 2);",
