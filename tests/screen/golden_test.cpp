@@ -6,7 +6,6 @@
 #include "tests/screen/goldenpictures.h"
 #include "tests/screen/sceneforscreens.h"
 
-#include <QDir>
 #include <QPainter>
 #include <gtest/gtest.h>
 
@@ -36,16 +35,7 @@ QImage frameOf(const QuoteViewState& state, double seconds = atRest) {
 
 void expectGolden(const QString& name, const QuoteViewState& state, int factor,
                   double seconds = atRest) {
-    const QImage picture = forRecord(frameOf(state, seconds), factor);
-    const PictureDifference difference = comparePictures(goldenPicture(name, picture), picture);
-    EXPECT_TRUE(difference.acceptable())
-        << name.toStdString() << ": same size " << difference.sameSize << ", worst block "
-        << difference.worstBlock << ", stray pixels " << difference.strayPixels;
-    if (!difference.acceptable()) {
-        const QString kept = QDir::temp().filePath(u"morrowleaf-golden-"_s + name);
-        picture.save(kept);
-        ADD_FAILURE() << "the new picture is " << kept.toStdString();
-    }
+    morrowleaf::expectGolden(name, forRecord(frameOf(state, seconds), factor));
 }
 
 class PictureComparison : public ::testing::Test {

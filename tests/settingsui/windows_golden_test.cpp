@@ -18,7 +18,6 @@
 #include "tools/sourcepath.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QPainter>
 #include <QTest>
 #include <algorithm>
@@ -39,17 +38,7 @@ QFont bundledFace() {
 }
 
 void expectGolden(const QString& name, const QImage& frame, int factor) {
-    const QString file = u"%1@%2.png"_s.arg(name).arg(ratio());
-    const QImage picture = forRecord(frame, factor);
-    const PictureDifference difference = comparePictures(goldenPicture(file, picture), picture);
-    EXPECT_TRUE(difference.acceptable())
-        << file.toStdString() << ": same size " << difference.sameSize << ", worst block "
-        << difference.worstBlock << ", stray pixels " << difference.strayPixels;
-    if (!difference.acceptable()) {
-        const QString kept = QDir::temp().filePath("morrowleaf-golden-"_L1 + file);
-        picture.save(kept);
-        ADD_FAILURE() << "the new picture is " << kept.toStdString();
-    }
+    morrowleaf::expectGolden(u"%1@%2.png"_s.arg(name).arg(ratio()), forRecord(frame, factor));
 }
 
 // The right end of a screen, where the editor is.
