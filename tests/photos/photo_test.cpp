@@ -322,6 +322,9 @@ TEST_F(PhotoTest, DoesNotCopyOverAFileOrWhenCancelled) {
 }
 
 TEST_F(PhotoTest, LeavesNoFileOnAFullDisk) {
+#ifndef __linux__
+    GTEST_SKIP() << "a small disk is mounted on Linux only";
+#else
     const QString small = folder.filePath(u"small"_s);
     ASSERT_TRUE(QDir().mkpath(small));
     if (::mount("none", qPrintable(small), "tmpfs", 0, "size=64k") != 0) {
@@ -333,6 +336,7 @@ TEST_F(PhotoTest, LeavesNoFileOnAFullDisk) {
     ::umount(qPrintable(small));
     EXPECT_FALSE(copied);
     EXPECT_EQ(left, QStringList());
+#endif
 }
 
 } // namespace

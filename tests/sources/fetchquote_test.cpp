@@ -116,7 +116,9 @@ TEST_F(FetchQuote, ReadsLocalFiles) {
     EXPECT_EQ(fetch(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)), "A|Unknown");
     QFile::link(path, folder.filePath(u"link"_s));
     EXPECT_EQ(fetch(folder.filePath(u"link"_s)), "A|Unknown");
-    EXPECT_NE(fetch(u"/proc/version"_s), "nothing");
+#ifdef __linux__
+    EXPECT_NE(fetch(u"/proc/version"_s), "nothing"); // has a size of 0
+#endif
     EXPECT_EQ(fetch(u"data:application/json,%7B%22q%22:%22A%22%7D"_s), "A|Unknown");
     EXPECT_EQ(fetch(u"data:;base64,eyJxIjoiQSJ9"_s), "A|Unknown");
 }
@@ -195,7 +197,7 @@ TEST_F(FetchQuote, TheFetcherMayBeDestroyedInAnAnswer) {
 TEST_F(FetchQuote, NoAnswerComesAfterTheFetcherIsDestroyed) {
     auto own = std::make_unique<QuoteFetcher>();
     for (int i = 0; i < 50; ++i) {
-        own->fetchQuote(u"/proc/version"_s, [](const std::optional<Quote>&) { FAIL(); });
+        own->fetchQuote(u"/etc/passwd"_s, [](const std::optional<Quote>&) { FAIL(); });
     }
     QElapsedTimer clock;
     clock.start();

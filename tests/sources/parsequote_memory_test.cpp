@@ -22,8 +22,13 @@ constexpr qsizetype bodySize = qsizetype{4} << 20;
 constexpr long budget = 32L * 1024; // KiB
 
 long peakKiB() {
+#ifdef __APPLE__
+    constexpr long unit = 1024; // bytes
+#else
+    constexpr long unit = 1; // KiB
+#endif
     rusage usage{};
-    return ::getrusage(RUSAGE_SELF, &usage) == 0 ? usage.ru_maxrss : 0;
+    return ::getrusage(RUSAGE_SELF, &usage) == 0 ? usage.ru_maxrss / unit : 0;
 }
 
 struct Body {
