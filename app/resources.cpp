@@ -12,7 +12,9 @@ namespace morrowleaf {
 using namespace Qt::Literals::StringLiterals;
 
 QStringList placesOfResources(const QString& programFolder) {
-    QStringList places{QDir::cleanPath(programFolder + "/../share/morrowleaf"_L1)};
+    const bool isInBundle = programFolder.endsWith("/Contents/MacOS"_L1);
+    const auto besideProgram = isInBundle ? "/../Resources"_L1 : "/../share/morrowleaf"_L1;
+    QStringList places{QDir::cleanPath(programFolder + besideProgram)};
     constexpr int deepestBuildFolder = 5;
     QString up = programFolder;
     for (int i = 0; i < deepestBuildFolder; ++i) {

@@ -12,8 +12,8 @@ namespace morrowleaf {
 // place first; never in the root folder.
 QStringList placesOfResources(const QString& programFolder);
 
-// The folder of the program's resources: beside an installed binary, or in the source
-// tree for one that was just built. Empty if there is none. Needs an application object.
+// The folder of the program's resources: beside an installed binary, in its bundle, or in
+// the source tree for one that was just built. Empty if there is none. Needs an application object.
 QString resourceFolder();
 
 // The folders of typefaces and photos in the folder `resources`; empty without one.

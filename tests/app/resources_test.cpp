@@ -27,6 +27,11 @@ TEST(Resources, AreNeverLookedForInTheRootFolder) {
                            u"/a/b/c/resources"_s, u"/a/b/resources"_s}));
 }
 
+TEST(Resources, AreInTheBundleOfAProgram) {
+    EXPECT_EQ(placesOfResources(u"/Applications/Morrowleaf.app/Contents/MacOS"_s).value(0),
+              u"/Applications/Morrowleaf.app/Contents/Resources"_s);
+}
+
 TEST(Resources, WithoutAFolderNothingIsLookedForElsewhere) {
     EXPECT_EQ(fontFolder(QString()), QString());
     EXPECT_EQ(backgroundFolder(QString()), QString());
