@@ -8,6 +8,8 @@
 // A backdrop is a view with the material and, over a blur, a box of the tint's colour; the
 // glass is tinted by itself.
 
+// Glass is in the headers of macOS 26. Built with older ones, the program has the blur alone.
+#if __MAC_OS_X_VERSION_MAX_ALLOWED >= 260000
 static NSView* makeGlass(NSRect frame, bool isClear) {
     if (@available(macOS 26.0, *)) {
         NSGlassEffectView* glass = [[NSGlassEffectView alloc] initWithFrame:frame];
@@ -17,6 +19,19 @@ static NSView* makeGlass(NSRect frame, bool isClear) {
     }
     return nil;
 }
+
+static void tintGlass(NSView* glass, NSColor* colour) {
+    if (@available(macOS 26.0, *)) {
+        [(NSGlassEffectView*)glass setTintColor:colour];
+    }
+}
+#else
+static NSView* makeGlass(NSRect frame, bool isClear) {
+    return nil;
+}
+
+static void tintGlass(NSView* glass, NSColor* colour) {}
+#endif
 
 static NSView* makeBlur(NSRect frame) {
     NSVisualEffectView* blur = [[NSVisualEffectView alloc] initWithFrame:frame];
@@ -66,8 +81,8 @@ void macTintBackdrop(void* backdrop, double red, double green, double blue, doub
     NSView* last = (NSView*)[[(NSView*)backdrop subviews] lastObject];
     if ([last isKindOfClass:[NSBox class]]) {
         [(NSBox*)last setFillColor:colour];
-    } else if (@available(macOS 26.0, *)) {
-        [(NSGlassEffectView*)last setTintColor:colour];
+    } else {
+        tintGlass(last, colour);
     }
     [pool drain];
 }

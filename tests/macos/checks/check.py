@@ -310,12 +310,13 @@ def names_in(nodes):
 
 def check_file(system, root, file):
     """The faults of a source, without repetitions, and what has been looked at."""
-    found = []
-    for target in (compiler.OLDEST, compiler.NEWEST):
-        warned = subprocess.run(compiler.clang(root, system=target) + ["-fsyntax-only", str(file)],
-                                capture_output=True, text=True).stderr
-        found += [line for line in warned.splitlines() if re.search(r": (warning|error):", line)
-                  and (target == compiler.OLDEST or "deprecated" in line)]
+    def compile_for(system, headers):
+        said = subprocess.run(compiler.clang(root, system=system, headers=headers) + ["-fsyntax-only", str(file)],
+                              capture_output=True, text=True).stderr
+        return [line for line in said.splitlines() if re.search(r": (warning|error):", line)]
+
+    found = compile_for(compiler.OLDEST, compiler.NEWEST) + compile_for(compiler.OLDEST, compiler.OLDEST)
+    found += [line for line in compile_for(compiler.NEWEST, compiler.NEWEST) if "deprecated" in line]
     dump = subprocess.run(compiler.clang(root) + ["-w", "-fsyntax-only", "-Xclang", "-ast-dump=json", str(file)],
                           capture_output=True, text=True).stdout
     check = Check(system, file.name)

@@ -33,12 +33,14 @@ def core_files(root):
     return sorted((root / CORE).glob("*.m"))
 
 
-def clang(root, processor="arm64", system=OLDEST):
-    """The command up to the file; `root` holds a copy of the core and of the declarations."""
+def clang(root, processor="arm64", system=OLDEST, headers=NEWEST):
+    """The command up to the file; `root` holds a copy of the core and of the declarations,
+    of which those that are newer than `headers` are left out."""
     program = tool("clang-14", "clang")
     built_in = subprocess.run([program, "-print-resource-dir"], capture_output=True, text=True,
                               check=True).stdout.strip()
     return [program, "-target", f"{processor}-apple-macos{system}", "-x", "objective-c", "-std=gnu17",
             "-fno-objc-arc", "-fblocks", "-nostdinc", "-isystem", f"{built_in}/include",
             "-isystem", str(root / SDK), "-I", str(root),
+            f"-D__MAC_OS_X_VERSION_MAX_ALLOWED={int(float(headers) * 10000)}",
             "-Weverything", "-Wunguarded-availability", *(f"-Wno-{name}" for name in UNWANTED)]

@@ -186,6 +186,8 @@ MISTAKES = [
     ("newer than the oldest system and unguarded", [
         (BACKDROP, "    if (@available(macOS 26.0, *)) {\n        NSGlassEffectView* glass", "    {\n        NSGlassEffectView* glass")],
         "only available on macOS 26.0"),
+    ("newer than the oldest headers and unguarded", [
+        (BACKDROP, "MAX_ALLOWED >= 260000", "MAX_ALLOWED >= 130000")], "undeclared identifier 'NSGlassEffectView'"),
     ("newer than the oldest system and not declared so", [(APPKIT, "API_SINCE(26.0)\n", "")], "is newer than macOS 13.0 and is not declared so"),
     ("deprecated meanwhile", [(APPKIT, "- (void)orderFrontRegardless;", "- (void)orderFrontRegardless API_UNTIL(10.0, 15.0);")],
      "deprecated in macOS 15"),

@@ -83,6 +83,7 @@ typedef enum NSVisualEffectState : NSInteger {
 - (void)setState:(NSVisualEffectState)state;
 @end
 
+#if __MAC_OS_X_VERSION_MAX_ALLOWED >= 260000
 typedef enum NSGlassEffectViewStyle : NSInteger {
     NSGlassEffectViewStyleRegular = 0,
     NSGlassEffectViewStyleClear = 1,
@@ -94,6 +95,7 @@ API_SINCE(26.0)
 - (void)setCornerRadius:(CGFloat)cornerRadius;
 - (void)setTintColor:(NSColor*)tintColor;
 @end
+#endif
 
 typedef enum NSWindowCollectionBehavior : NSUInteger {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,

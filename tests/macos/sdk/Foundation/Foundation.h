@@ -7,6 +7,11 @@
 // without the system's own headers, which take the place of these on a Mac. Every line is
 // checked against the system's metadata (tests/macos/checks/).
 
+// The system that these are of; a Mac may have the headers of an older one.
+#ifndef __MAC_OS_X_VERSION_MAX_ALLOWED
+#define __MAC_OS_X_VERSION_MAX_ALLOWED 260000
+#endif
+
 #if defined(__arm64__)
 typedef _Bool BOOL;
 #else
