@@ -3,9 +3,10 @@
 
 #include "settingsui/readouts.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
+#include <iomanip>
+#include <locale>
+#include <sstream>
 
 namespace morrowleaf {
 namespace {
@@ -19,11 +20,12 @@ QString readout(double value, int decimals, QLatin1StringView unit) {
     if (value < -999) {
         return u"<-999"_s;
     }
-    std::array<char, 16> digits{};
-    // Unlike printf, this knows no locale; unlike Qt, it rounds halves as printf does.
-    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                       std::chars_format::fixed, decimals);
-    return QString(QLatin1StringView(digits.data(), written.ptr)) + unit;
+    // Unlike printf, this can do without the user's locale; unlike Qt, it rounds halves as
+    // printf does.
+    std::ostringstream digits;
+    digits.imbue(std::locale::classic());
+    digits << std::fixed << std::setprecision(decimals) << value;
+    return QString::fromStdString(digits.str()) + unit;
 }
 
 } // namespace

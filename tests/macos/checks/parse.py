@@ -51,6 +51,7 @@ def fetch():
         wanted = tuple(f"package/lib/{folder}/" for folder in FOLDERS)
         with tarfile.open(archive) as files:
             files.extractall(folder, [m for m in files if m.name.startswith(wanted)])
+        shutil.rmtree(KEPT, ignore_errors=True)
         shutil.copytree(Path(folder) / "package/lib", KEPT)
     (KEPT / "others").mkdir()
     for name in OTHERS:
@@ -68,7 +69,7 @@ def command(file):
     folders = [KEPT / "libcxx/include", KEPT / "libcxxabi/include", Path(built_in) / "include",
                *(KEPT / f for f in FOLDERS[2:]), KEPT / "others", QT, *(QT / m for m in MODULES)]
     names = ("QT_NO_CAST_FROM_ASCII", "QT_NO_CAST_FROM_BYTEARRAY", "QT_NO_NARROWING_CONVERSIONS_IN_CONNECT",
-             "QT_NO_FOREACH", "_LIBCPP_DISABLE_AVAILABILITY")
+             "QT_NO_FOREACH")
     return [clang, "-target", f"arm64-apple-macos{compiler.OLDEST}", "-std=c++20", "-fsyntax-only", "-nostdinc",
             "-nostdinc++", "-Wall", "-Wextra", "-Wconversion", "-Werror", "-Wno-unknown-warning-option",
             "-Wno-incompatible-sysroot", *(f"-D{n}" for n in names), "-I", str(compiler.ROOT),
