@@ -22,7 +22,11 @@ void endProcess(int /*signal*/) {
     _exit(0);
 }
 
-void writeToPipe(int /*signal*/) {
+void writeToPipe(int /*signal*/, siginfo_t* info, void* /*context*/) {
+    // GLib, which a theme may bring into the process, raises SIGTERM when the session bus dies.
+    if (info->si_pid == getpid()) {
+        return;
+    }
     alarm(longestEnd);
     const char byte = 0;
     // A failure cannot be handled here; if the pipe is full, it will be read anyway.
@@ -54,8 +58,8 @@ UnixSignals::UnixSignals() {
         emit quitRequested();
     });
     struct sigaction action {};
-    action.sa_handler = writeToPipe;
-    action.sa_flags = SA_RESTART;
+    action.sa_sigaction = writeToPipe;
+    action.sa_flags = SA_RESTART | SA_SIGINFO;
     struct sigaction end {};
     end.sa_handler = endProcess;
     sigaction(SIGALRM, &end, nullptr);

@@ -10,9 +10,9 @@
 
 namespace morrowleaf {
 
-// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal. If the process has not ended 5 s
-// later, it ends with status 0 without the main thread. The handlers stay installed for
-// the life of the process; create only one object at a time. Main thread.
+// Turns SIGTERM, SIGINT and SIGHUP of other processes into a Qt signal. If the process has
+// not ended 5 s later, it ends with status 0 without the main thread. The handlers stay
+// installed for the life of the process; create only one object at a time. Main thread.
 class UnixSignals : public QObject {
     Q_OBJECT
 

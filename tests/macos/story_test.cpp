@@ -7,6 +7,7 @@
 #include "base/curves.h"
 #include "settingsui/swatch.h"
 #include "tests/macos/storyfixture.h"
+#include "tests/platform/signalfromoutside.h"
 
 #include <QFile>
 #include <QKeyEvent>
@@ -281,7 +282,7 @@ TEST_F(MacStory, TheStatusItemHasTheSystemsSymbolAndOneMenu) {
 
 TEST_F(MacStory, ASignalAsksTheProgramToQuit) {
     QSignalSpy asked(platform.sessionEvents.get(), &SessionEvents::quitRequested);
-    std::raise(SIGTERM);
+    signalFromOutside(SIGTERM);
     EXPECT_TRUE(asked.count() == 1 || asked.wait(10'000));
 }
 
