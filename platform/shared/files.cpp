@@ -49,7 +49,7 @@ const timespec& touchedAt(const struct stat& found) {
 
 FileMark markOf(const struct stat& found) {
     return {true,
-            found.st_dev,
+            static_cast<quint64>(found.st_dev), // signed on macOS
             found.st_ino,
             found.st_size,
             nanoseconds(modifiedAt(found)),
