@@ -48,11 +48,12 @@ std::vector<std::pair<QString, QString>> entriesOf(const Kinds& kinds) {
 
 // Both keys with every modifier, since the themes ignore those.
 QList<QKeySequence> returnKeys() {
-    constexpr std::array modifiers{Qt::SHIFT, Qt::CTRL, Qt::ALT, Qt::META};
+    constexpr std::array modifiers{Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
+                                   Qt::MetaModifier};
     QList<QKeySequence> keys{Qt::Key_Return, Qt::Key_Enter};
-    for (const Qt::Modifier modifier : modifiers) {
+    for (const Qt::KeyboardModifier modifier : modifiers) {
         for (const QKeySequence& key : QList(keys)) {
-            keys.append(QKeyCombination::fromCombined(key[0].toCombined() | modifier));
+            keys.append(QKeyCombination(key[0].keyboardModifiers() | modifier, key[0].key()));
         }
     }
     return keys;
