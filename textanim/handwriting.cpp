@@ -41,7 +41,7 @@ void addPen(QImage& letters, const QImage& pen, const QColor& color) {
             if (coverage[x] == 0) {
                 continue;
             }
-            const unsigned room = 255 - qAlpha(pixels[x]);
+            const auto room = static_cast<unsigned>(255 - qAlpha(pixels[x]));
             const unsigned share = (coverage[x] * room + 127) / 255;
             const auto part = [share](int channel) {
                 return (static_cast<unsigned>(channel) * share + 127) / 255;
