@@ -69,7 +69,7 @@ def command(file):
     folders = [KEPT / "libcxx/include", KEPT / "libcxxabi/include", Path(built_in) / "include",
                *(KEPT / f for f in FOLDERS[2:]), KEPT / "others", QT, *(QT / m for m in MODULES)]
     names = ("QT_NO_CAST_FROM_ASCII", "QT_NO_CAST_FROM_BYTEARRAY", "QT_NO_NARROWING_CONVERSIONS_IN_CONNECT",
-             "QT_NO_FOREACH")
+             "QT_NO_FOREACH", "QT_GUI_LIB", "QT_WIDGETS_LIB", 'MORROWLEAF_SOURCE_DIR="."')
     return [clang, "-target", f"arm64-apple-macos{compiler.OLDEST}", "-std=c++20", "-fsyntax-only", "-nostdinc",
             "-nostdinc++", "-Wall", "-Wextra", "-Wconversion", "-Werror", "-Wno-unknown-warning-option",
             "-Wno-incompatible-sysroot", *(f"-D{n}" for n in names), "-I", str(compiler.ROOT),
