@@ -112,7 +112,7 @@ QString reserveBeside(const QFileInfo& victim, bool folder) {
     const QString suffix = victim.suffix().isEmpty() ? QString() : u'.' + victim.suffix();
     for (int attempt = 1; attempt <= 1000; ++attempt) {
         const QString number = attempt == 1 ? QString() : u'-' + QString::number(attempt);
-        const QString free = stem + number + suffix;
+        QString free = stem + number + suffix;
         const QByteArray name = QFile::encodeName(free);
         const int made = folder ? ::mkdir(name.constData(), ownFolder)
                                 : ::open(name.constData(), O_CREAT | O_EXCL | O_CLOEXEC, ownFile);
@@ -190,7 +190,7 @@ QString setFileAside(const QString& path) {
         (S_ISREG(found.st_mode) && !ownerMayWrite(found))) {
         return {};
     }
-    const QString aside = reserveBeside(QFileInfo(path), S_ISDIR(found.st_mode));
+    QString aside = reserveBeside(QFileInfo(path), S_ISDIR(found.st_mode));
     if (aside.isEmpty()) {
         return {};
     }
