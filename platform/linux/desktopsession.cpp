@@ -41,8 +41,7 @@ public:
     explicit DesktopSession(std::shared_ptr<const BusLink> session)
         : logind_(gate_)
         , screenSavers_(gate_, std::move(session)) {
-        connect(&gate_, &SessionGate::delivered, this, &DesktopSession::announce);
-        connect(&gate_, &SessionGate::leaving, this, &SessionEvents::willLeave);
+        gate_.announceBy(*this);
         connect(&signals_, &UnixSignals::quitRequested, this, &SessionEvents::quitRequested);
         settle_.setSingleShot(true);
         settle_.setInterval(settleTime);
@@ -74,20 +73,6 @@ private:
         }
     }
     void lookForScreens() { gate_.setInhibited(u"no screen"_s, !hasScreen()); }
-
-    void announce(SessionGate::Event event) {
-        switch (event) {
-        case SessionGate::Event::Wake:
-            emit didWake();
-            break;
-        case SessionGate::Event::Active:
-            emit sessionDidBecomeActive();
-            break;
-        case SessionGate::Event::Unlocked:
-            emit screenIsUnlocked();
-            break;
-        }
-    }
 
     SessionGate gate_;
     QTimer settle_;

@@ -16,8 +16,7 @@ class MacSession final : public SessionEvents {
 public:
     MacSession()
         : watch_(macWatchSession(&MacSession::receive, this)) {
-        connect(&gate_, &SessionGate::delivered, this, &MacSession::announce);
-        connect(&gate_, &SessionGate::leaving, this, &SessionEvents::willLeave);
+        gate_.announceBy(*this);
         connect(&signals_, &UnixSignals::quitRequested, this, &SessionEvents::quitRequested);
         askForLock();
     }
@@ -56,20 +55,6 @@ private:
         }
     }
     void askForLock() { gate_.setInhibited(locked, macIsScreenLocked()); }
-
-    void announce(SessionGate::Event event) {
-        switch (event) {
-        case SessionGate::Event::Wake:
-            emit didWake();
-            break;
-        case SessionGate::Event::Active:
-            emit sessionDidBecomeActive();
-            break;
-        case SessionGate::Event::Unlocked:
-            emit screenIsUnlocked();
-            break;
-        }
-    }
 
     const QString locked = u"locked"_s;
     const QString elsewhere = u"elsewhere"_s; // another session has the screen

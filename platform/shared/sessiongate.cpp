@@ -7,6 +7,23 @@
 
 namespace morrowleaf {
 
+void SessionGate::announceBy(SessionEvents& events) const {
+    connect(this, &SessionGate::leaving, &events, &SessionEvents::willLeave);
+    connect(this, &SessionGate::delivered, &events, [&events](Event event) {
+        switch (event) {
+        case Event::Wake:
+            emit events.didWake();
+            break;
+        case Event::Active:
+            emit events.sessionDidBecomeActive();
+            break;
+        case Event::Unlocked:
+            emit events.screenIsUnlocked();
+            break;
+        }
+    });
+}
+
 void SessionGate::report(Event event) {
     if (inhibitors_.isEmpty()) {
         emit delivered(event);

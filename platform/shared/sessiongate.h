@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/sessionevents.h"
+
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -20,6 +22,9 @@ public:
     enum class Event { Wake, Active, Unlocked };
 
     using QObject::QObject;
+
+    // Announces what is delivered, and the leaving, by the signals of `events`.
+    void announceBy(SessionEvents& events) const;
 
     void report(Event event);
     // Starts or ends an inhibitor, such as a locked screen, identified by its name.
