@@ -3,16 +3,16 @@
 
 #include "platform/linux/dbus/buschannel.h"
 
+#include "tests/platform/carryout.h"
 #include "tests/platform/privatebus.h"
 
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QSignalSpy>
-#include <QTimer>
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace morrowleaf {
 namespace {
@@ -64,17 +64,8 @@ TEST_F(BusChannelTest, AcceptsARequestAfterItHasBeenCarriedOut) {
     ASSERT_TRUE(reaches(later));
     QSignalSpy acceptances(&later, &RequestSender::accepted);
     QSignalSpy failures(&later, &RequestSender::failed);
-    QEventLoop program;
-    QTimer execution;
-    execution.setSingleShot(true);
-    QObject::connect(ending.get(), &RequestListener::requested, &execution,
-                     [&execution] { execution.start(0); });
-    QObject::connect(&execution, &QTimer::timeout, &program, [&] {
-        ending.reset();
-        program.quit();
-    });
     EXPECT_TRUE(later.send({.action = u"show"_s, .activationToken = {}}));
-    program.exec();
+    endOnceCarriedOut(std::move(ending));
     EXPECT_TRUE(becomesTrue([&] { return !failures.isEmpty(); }));
     EXPECT_EQ(acceptances.size(), 0);
 }

@@ -3,9 +3,9 @@
 
 #include "platform/shared/lockedinstance.h"
 #include "platform/shared/socketchannel.h"
+#include "tests/platform/carryout.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -13,7 +13,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,6 +20,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace morrowleaf {
@@ -192,22 +192,13 @@ TEST_F(LockedInstanceTest, GivesUpOnAnInstanceThatDoesNotAnswer) {
 TEST_F(LockedInstanceTest, AcceptsARequestAfterItHasBeenCarriedOut) {
     auto ending = std::make_unique<SocketListener>(dir.path());
     ending->listen();
-    QEventLoop program;
-    QTimer execution;
-    execution.setSingleShot(true);
-    QObject::connect(ending.get(), &RequestListener::requested, &execution,
-                     [&execution] { execution.start(0); });
-    QObject::connect(&execution, &QTimer::timeout, &program, [&] {
-        ending.reset();
-        program.quit();
-    });
     SocketSender later(dir.path());
     QSignalSpy acceptances(&later, &RequestSender::accepted);
     QSignalSpy failures(&later, &RequestSender::failed);
     QObject::connect(&later, &RequestSender::answered, &later,
                      [&later] { EXPECT_TRUE(later.send(toShow)); });
     later.reach();
-    program.exec();
+    endOnceCarriedOut(std::move(ending));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !failures.isEmpty(); }, 30'000));
     EXPECT_EQ(acceptances.size(), 0);
 }
