@@ -3,22 +3,15 @@
 
 #include "screen/quotescreen.h"
 
-#include "backdrop/backdrop.h"
-#include "photos/bgstore.h"
-#include "quotes/quotebox.h"
 #include "screen/quoteview.h"
-#include "settings/prefs.h"
-#include "settings/settingsstore.h"
 #include "settings/settingstable.h"
-#include "tests/screen/sceneforscreens.h"
+#include "tests/screen/quotescreenfixture.h"
 #include "tools/sourcepath.h"
 
 #include <QAccessible>
 #include <QApplication>
-#include <QPaintEvent>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -28,90 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString lake = sourcePath(u"resources/Backgrounds/lake.jpg"_s);
-
-class CountingScreen : public QuoteScreen {
-public:
-    using QuoteScreen::QuoteScreen;
-    int frames = 0;
-    QRegion lastRegion;
-
-protected:
-    void paintEvent(QPaintEvent* event) override {
-        ++frames;
-        lastRegion = event->region();
-        QuoteScreen::paintEvent(event);
-    }
-};
-
-class QuoteScreens : public ::testing::Test {
-protected:
-    QuoteScreens() {
-        registerAppDefaults(store);
-        store.set(K::screenAnim, u"still"_s);
-        store.set(K::palette, 0);
-    }
-
-    std::unique_ptr<CountingScreen> make(FrameClock& frameClock, QWidget* parent = nullptr) {
-        const Clock clock = [] { return plainState().moment; };
-        auto box = std::make_unique<QuoteBox>(
-            store,
-            [this](const QString&, std::function<void(std::optional<Quote>)> done) {
-                loaded = std::move(done);
-            },
-            clock, [](qsizetype) -> qsizetype { return 0; });
-        return std::make_unique<CountingScreen>(store, shippedFonts(), photos, std::move(box),
-                                                clock, frameClock, parent);
-    }
-    std::unique_ptr<CountingScreen> make(QWidget* parent = nullptr) {
-        return make(fakeFrames, parent);
-    }
-
-    std::unique_ptr<CountingScreen> shown(QWidget* inspector = nullptr) {
-        auto screen = make();
-        if (inspector != nullptr) {
-            screen->setInspector(inspector);
-        }
-        screen->resize(640, 480);
-        screen->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(screen.get()));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return screen->view() != nullptr; }));
-        return screen;
-    }
-
-    // Moves the clock of the entrances to an instant, and lets the screen follow.
-    void jumpTo(CountingScreen& screen, double seconds) {
-        time = seconds;
-        const int before = screen.frames;
-        if (screen.isAnimating()) {
-            EXPECT_TRUE(
-                QTest::qWaitFor([&] { return screen.frames > before || !screen.isAnimating(); }));
-        }
-    }
-
-    void settle(CountingScreen& screen) {
-        time += 100;
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            time += 1; // a photo may still arrive
-            return !screen.isAnimating();
-        }));
-        QTest::qWait(20);
-    }
-
-    // What the screen should look like, drawn without a window.
-    static QImage expected(const QuoteScreen& screen, double seconds) {
-        const QuoteView& view = *screen.view();
-        BackdropPainter painter;
-        return renderFrame(painter, backdropFor(view.state().settings, view.state().palette, false),
-                           view, seconds, view.state().moment.unixSeconds - unixToReference);
-    }
-
-    QTemporaryDir folder;
-    SettingsStore store;
-    BGStore photos{store, folder.path(), folder.path()};
-    std::function<void(std::optional<Quote>)> loaded;
-    double time = 50;
-    FrameClock fakeFrames{[this] { return time; }};
-};
 
 int differing(const QImage& a, const QImage& b) {
     int count = a.size() == b.size() ? 0 : 1 << 30;
