@@ -21,7 +21,7 @@ protected:
         macfakes::addDisplay(7, 1440, -180, 2560, 1440); // its top is 360 above the first one's
         view = macfakes::makeView();
     }
-    ~MacCore() override {
+    void TearDown() override {
         EXPECT_EQ(macfakes::liveObjects(), 0);
         EXPECT_EQ(macfakes::mistakes(), std::vector<std::string>{});
         macfakes::reset();

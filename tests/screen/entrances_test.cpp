@@ -36,7 +36,8 @@ TEST(Mark, SpringsInOnce) {
     EXPECT_DOUBLE_EQ(mark::scale(0.35), 0.7);
     EXPECT_NEAR(mark::scale(0.85), 0.7 + 0.3 * spring(0.5, 1.1, 0.75), 1e-12);
     double highest = 0;
-    for (double t = 0; t < 4; t += 0.01) {
+    for (int tick = 0; tick < 400; ++tick) {
+        const double t = tick * 0.01;
         highest = std::max(highest, mark::scale(t));
         EXPECT_LE(mark::opacity(t), 1);
     }

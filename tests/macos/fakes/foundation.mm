@@ -263,7 +263,9 @@ CFDictionaryRef CGSessionCopyCurrentDictionary() {
         loginStatus = status;
         return YES;
     }
-    *error = [[[FakeError alloc] init] autorelease];
+    if (error != nullptr) {
+        *error = [[[FakeError alloc] init] autorelease];
+    }
     return NO;
 }
 - (BOOL)registerAndReturnError:(NSError**)error {

@@ -17,7 +17,7 @@ Class class_getSuperclass(Class cls);
 }
 
 // The runtime keeps its tables of selectors until the end.
-extern "C" const char* __lsan_default_suppressions() {
+extern "C" const char* __lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
     return "leak:libobjc";
 }
 
@@ -128,7 +128,7 @@ std::vector<std::string>& mistakes() {
     return self;
 }
 - (BOOL)isKindOfClass:(Class)wanted {
-    for (Class cls = isa; cls != (Class)0; cls = class_getSuperclass(cls)) {
+    for (Class cls = isa; cls != nullptr; cls = class_getSuperclass(cls)) {
         if (cls == wanted) {
             return YES;
         }

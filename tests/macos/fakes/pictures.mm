@@ -95,11 +95,15 @@ id drawnInto = nil;
         return;
     }
     const FakeBitmap* bitmap = ((FakeContext*)drawnInto)->bitmap;
-    for (double y = rect.origin.y; y < rect.origin.y + rect.size.height; ++y) {
-        for (double x = rect.origin.x; x < rect.origin.x + rect.size.width; ++x) {
+    const auto left = static_cast<NSInteger>(rect.origin.x);
+    const auto bottom = static_cast<NSInteger>(rect.origin.y);
+    const auto right = static_cast<NSInteger>(rect.origin.x + rect.size.width);
+    const auto top = static_cast<NSInteger>(rect.origin.y + rect.size.height);
+    for (NSInteger y = bottom; y < top; ++y) {
+        for (NSInteger x = left; x < right; ++x) {
             // From the top, as bitmaps are, and black.
-            const auto row = bitmap->height - 1 - static_cast<NSInteger>(y);
-            bitmap->bytes[row * bitmap->bytesPerRow + static_cast<NSInteger>(x) * 4 + 3] = 255;
+            const NSInteger row = bitmap->height - 1 - y;
+            bitmap->bytes[row * bitmap->bytesPerRow + x * 4 + 3] = 255;
         }
     }
 }
