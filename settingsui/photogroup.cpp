@@ -112,7 +112,7 @@ void PhotoGroup::rebuild() {
         cells_.append(makeSwatch(path, spokenName(path)));
     }
     for (qsizetype i = 0; i < qMin(own.size(), mostOwn); ++i) {
-        const QString path = own[i];
+        const QString& path = own[i];
         const QString name = u"Your photo %1"_s.arg(i + 1);
         PhotoSwatch* swatch = makeSwatch(path, name);
         auto* cross = new RemoveButton(u"Remove %1"_s.arg(name.toLower()), swatch);

@@ -20,7 +20,7 @@ namespace {
 class JobTest : public ::testing::Test {
 protected:
     JobTest() { pool.setMaxThreadCount(1); }
-    ~JobTest() override { goOn.release(100); }
+    void TearDown() override { goOn.release(100); }
 
     // Processes events until `over` returns true, for ten seconds at most.
     template <typename Over>
@@ -127,7 +127,7 @@ TEST_F(JobTest, DestructionStopsRunningWorkAndDoesNotWaitForIt) {
 }
 
 TEST_F(JobTest, AResultThatIsOnItsWayIsDropped) {
-    const auto object = std::make_shared<int>(1);
+    auto object = std::make_shared<int>(1);
     auto job = std::make_unique<Job>(
         pool, [object](const StopToken&) { return object; },
         [](const std::shared_ptr<int>&) { FAIL(); });
@@ -139,7 +139,7 @@ TEST_F(JobTest, AResultThatIsOnItsWayIsDropped) {
 }
 
 TEST_F(JobTest, TheResultOfCancelledWorkIsFreed) {
-    const auto object = std::make_shared<int>(1);
+    auto object = std::make_shared<int>(1);
     auto job = std::make_unique<Job>(
         pool,
         [this, object](const StopToken&) {

@@ -21,7 +21,8 @@ TEST(StopToken, OfNobodyIsNeverRequested) {
 TEST(StopToken, ShowsTheRequestInEveryCopy) {
     StopSource source;
     const StopToken before = source.token();
-    const StopToken copy = before;
+    StopToken copy;
+    copy = before;
     EXPECT_FALSE(copy.isRequested());
     source.request();
     source.request();
