@@ -26,7 +26,7 @@ Result snapshot(const QStringList& arguments) {
         environment.remove(name);
     }
     process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationDirPath() + "/../../tools/snapshot"_L1, arguments);
+    process.start(QCoreApplication::applicationDirPath() + "/../tools/snapshot"_L1, arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
         return {};
     }
