@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-# What every target shares: the language, the warnings, the sanitizers, and two
-# functions that add a library and a test.
+# What every target shares: the language, the warnings, the sanitizers, and the
+# functions that add a library, a reader program and a test.
 
 include_guard(GLOBAL)
 
@@ -61,6 +61,19 @@ function(morrowleaf_library name)
   endif()
 endfunction()
 
+# morrowleaf_reader(NAME SOURCES file... LIBRARIES target...)
+# A program that reads what strangers wrote, for morrowleaf and for tests. They look for it
+# in ../libexec/morrowleaf beside their own folder, installed or not.
+add_custom_target(readers)
+function(morrowleaf_reader name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+  set_target_properties(${name} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/libexec/morrowleaf)
+  add_dependencies(readers ${name})
+endfunction()
+
 # Everything that tests with the label "unit" need, and all fuzzers.
 add_custom_target(unit_tests)
 add_custom_target(fuzzers)
@@ -80,6 +93,7 @@ function(morrowleaf_test name)
   endif()
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${main} ${arg_LIBRARIES} morrowleaf_sourcepath GTest::gmock)
+  add_dependencies(${name} readers)
   if(arg_LABEL STREQUAL unit)
     add_dependencies(unit_tests ${name})
   endif()

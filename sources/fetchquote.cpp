@@ -3,11 +3,9 @@
 
 #include "sources/fetchquote.h"
 
-#include "base/job.h"
-#include "sources/parsequote.h"
+#include "sources/quoteanswer.h"
 #include "sources/sourcebytes.h"
 
-#include <QThreadPool>
 #include <QTimer>
 
 #include <utility>
@@ -17,68 +15,29 @@ namespace morrowleaf {
 using namespace std::chrono_literals;
 
 namespace {
-
-constexpr auto deadline = 6s;                       // from the call to the answer
-constexpr auto shutdownTimeout = 200ms;             // for all loads, when the fetcher is destroyed
-constexpr qsizetype bodyLimit = qsizetype{4} << 20; // bytes, decoded
-
-// Counts loads that are stuck too, so that their threads cannot accumulate.
-constexpr int loadLimit = 32;
-
+constexpr auto deadline = 6s; // from the call to the answer
+constexpr int loadsAtOnce = 4;
 } // namespace
 
-// One load, from the call to its answer.
-class QuoteFetcher::Load : public QObject {
-public:
-    Load(QuoteFetcher& fetcher, const QString& source, Done done)
-        : QObject(&fetcher)
-        , done_(std::move(done)) {
-        if (fetcher.pool_->activeThreadCount() >= loadLimit) {
-            QTimer::singleShot(0, this, [this] { answer(std::nullopt); });
-            return;
-        }
-        QTimer::singleShot(deadline, Qt::PreciseTimer, this, [this] { answer(std::nullopt); });
-        const auto load =
-            [source, random = fetcher.random_](const StopToken& stop) -> std::optional<Quote> {
-            const std::optional<QByteArray> body = loadSource(source, bodyLimit, stop);
-            return body && !stop.isRequested() ? parseQuote(*body, random) : std::nullopt;
-        };
-        job_ =
-            Job(*fetcher.pool_, load, [this](const std::optional<Quote>& quote) { answer(quote); });
-    }
-
-private:
-    // `done_` may destroy the fetcher.
-    void answer(const std::optional<Quote>& quote) {
-        job_ = {};
-        if (const Done done = std::exchange(done_, nullptr)) {
-            deleteLater();
-            done(quote);
-        }
-    }
-
-    Done done_;
-    Job job_;
-};
-
-QuoteFetcher::QuoteFetcher(RandomIndex random, QObject* parent)
+QuoteFetcher::QuoteFetcher(const QString& reader, QObject* parent)
     : QObject(parent)
-    , random_(std::move(random))
-    , pool_(std::make_unique<QThreadPool>()) {
-    pool_->setMaxThreadCount(loadLimit);
-    pool_->setExpiryTimeout(0); // an idle program keeps no threads
-}
-
-QuoteFetcher::~QuoteFetcher() {
-    const QObjectList loads = children();
-    qDeleteAll(loads);
-    if (!pool_->waitForDone(static_cast<int>(std::chrono::milliseconds(shutdownTimeout).count()))) {
-        static_cast<void>(pool_.release()); // its destructor would wait
-    }
-}
+    , readers_(reader, loadsAtOnce) {}
 
 void QuoteFetcher::fetchQuote(const QString& from, Done done) {
-    new Load(*this, from, std::move(done)); // owned by its parent; deletes itself after the answer
+    if (!sourceAddress(from)) {
+        QTimer::singleShot(0, this, [done = std::move(done)] { done(std::nullopt); });
+        return;
+    }
+    const int load = ++lastLoad_;
+    const auto answer = [this, load, done = std::move(done)](const AnswerBytes& bytes) {
+        loads_.erase(load);
+        done(bytes ? readQuoteAnswer(bytes.view()) : std::nullopt); // may destroy this
+    };
+    loads_[load] = readers_.read({.request = from.toUtf8(),
+                                  .answerSize = quoteAnswerSize,
+                                  .time = deadline,
+                                  .counted = ReaderWish::Counted::FromWish},
+                                 answer);
 }
 
 QuoteLoader QuoteFetcher::loader() {

@@ -3,35 +3,32 @@
 
 #pragma once
 
-#include "base/randomindex.h"
+#include "platform/readers.h"
 #include "quotes/quote.h"
 
 #include <QObject>
 
 #include <functional>
-#include <memory>
+#include <map>
 #include <optional>
-
-class QThreadPool;
 
 namespace morrowleaf {
 
 // Loads quotations from sources: web addresses and local files. The program has one such
 // object; it lives on the main thread and delivers all answers there.
 //
-// Each load runs on a thread of a pool. A load that the kernel blocks (in the resolver,
-// or on a file system that hangs) cannot be stopped: it is answered at its deadline, but
-// keeps its thread. Destroying this object ends all loads without an answer; that takes
-// up to 200 ms and abandons threads that are still busy then.
+// Each source is read by a process of its own, which is killed at its deadline. At most
+// four run at the same time. Destroying this object ends all loads at once, without an
+// answer.
 class QuoteFetcher : public QObject {
     Q_OBJECT
 
 public:
     using Done = std::function<void(std::optional<Quote>)>;
 
-    // `random` is called on the threads of the pool.
-    explicit QuoteFetcher(RandomIndex random = secureRandomIndex(), QObject* parent = nullptr);
-    ~QuoteFetcher() override;
+    // `reader` is the path of the program that reads a source.
+    explicit QuoteFetcher(const QString& reader = readerPath(QStringLiteral("quotereader")),
+                          QObject* parent = nullptr);
 
     // Loads a source as the user typed it. Calls `done` once, later, after 6 seconds at
     // most, with std::nullopt on any failure.
@@ -41,10 +38,9 @@ public:
     QuoteLoader loader();
 
 private:
-    class Load;
-
-    RandomIndex random_;
-    std::unique_ptr<QThreadPool> pool_;
+    Readers readers_;
+    std::map<int, Reading> loads_; // in progress
+    int lastLoad_ = 0;
 };
 
 } // namespace morrowleaf

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "base/stoptoken.h"
-
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
 
 #include <optional>
+
+class QFile;
 
 namespace morrowleaf {
 
@@ -25,16 +25,17 @@ struct SourceAddress {
 // or another scheme, or has no host.
 [[nodiscard]] std::optional<SourceAddress> sourceAddress(const QString& source);
 
-// The bytes of a source: a file's content, or the decoded body of a response from the
-// web. std::nullopt if it cannot be loaded, is longer than `limit` bytes, or `stop` is
-// requested meanwhile. May block without a time limit, in the kernel or the resolver;
-// call it on a thread that may be abandoned.
-[[nodiscard]] std::optional<QByteArray> loadSource(const QString& source, qsizetype limit,
-                                                   const StopToken& stop);
+// The rest of an open file. std::nullopt if it cannot be read or is longer than `limit`
+// bytes. Blocks as long as the file system does.
+[[nodiscard]] std::optional<QByteArray> readWithin(QFile& file, qsizetype limit);
 
-// The content of the regular file at `path`, under the same conditions. Rejects pipes,
-// devices, sockets and folders at once.
-[[nodiscard]] std::optional<QByteArray> readLocalFile(const QString& path, qsizetype limit,
-                                                      const StopToken& stop);
+// What a data address contains. std::nullopt if it has no comma or broken base64.
+[[nodiscard]] std::optional<QByteArray> dataOf(const QUrl& url);
+
+// The content of a body that was sent with this "Content-Encoding". std::nullopt if the
+// encoding is unknown, the body is broken or cut off, or the content is longer than
+// `limit` bytes.
+[[nodiscard]] std::optional<QByteArray> unpack(const QByteArray& body, const QByteArray& encoding,
+                                               qsizetype limit);
 
 } // namespace morrowleaf

@@ -3,20 +3,15 @@
 
 #include "sources/webload.h"
 
-#include "base/job.h"
 #include "platform/network.h"
+#include "sources/sourcebytes.h"
 
-#include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkProxyFactory>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QThreadPool>
+#include <QLibrary>
 
-#include <chrono>
-#include <cstdint>
-#include <memory>
-#include <utility>
+#include <algorithm>
+#include <array>
+
+#include <curl/curl.h>
 
 namespace morrowleaf {
 
@@ -24,175 +19,159 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool isSecure(const QUrl& url) {
-    return url.scheme() == "https"_L1;
+constexpr long redirectLimit = 20;
+constexpr int headerLimit = 1000;                        // lines, of all responses together
+constexpr qsizetype headerBytes = qsizetype{256} * 1024; // of all responses together
+constexpr long timeout = 6000; // milliseconds; only counts if nobody kills the process
+
+bool namesProxy(const char* variable) {
+    return !qEnvironmentVariableIsEmpty(variable);
 }
 
-bool isWeb(const QUrl& url) {
-    return isSecure(url) || url.scheme() == "http"_L1;
+// The desktop's proxy for `url`, or an empty text for none.
+QByteArray desktopProxy(const QByteArray& url) {
+    using Factory = void* (*)();
+    using Proxies = char** (*)(void*, const char*);
+    QLibrary library(u"proxy"_s, 1);
+    const auto make = reinterpret_cast<Factory>(library.resolve("px_proxy_factory_new"));
+    const auto ask = reinterpret_cast<Proxies>(library.resolve("px_proxy_factory_get_proxies"));
+    void* const factory = make != nullptr && ask != nullptr ? make() : nullptr;
+    char** const proxies = factory != nullptr ? ask(factory, url.constData()) : nullptr;
+    const QByteArray first = proxies != nullptr ? QByteArray(proxies[0]) : QByteArray();
+    if (first.startsWith("socks://")) {
+        return "socks5://" + first.sliced(8);
+    }
+    return first.startsWith("direct") ? QByteArray() : first;
 }
 
-// The proxies of the desktop or the environment, queried for every connection. A query
-// may block for long.
-class SystemProxies : public QNetworkProxyFactory {
-public:
-    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
-        return systemProxyForQuery(query);
-    }
-};
-
-QString firstHost(const QUrl& url) {
-    const QList<QNetworkProxy> proxies = SystemProxies().queryProxy(QNetworkProxyQuery(url));
-    const QNetworkProxy proxy = proxies.value(0, QNetworkProxy(QNetworkProxy::NoProxy));
-    return proxy.hostName().isEmpty() ? url.host(QUrl::FullyEncoded) : proxy.hostName();
+bool isHttp(CURL* curl) {
+    const char* scheme = nullptr;
+    curl_easy_getinfo(curl, CURLINFO_SCHEME, &scheme);
+    return qstricmp(scheme, "http") == 0;
 }
-
-// Whether the first host on the way to `url` (a proxy, or its own host) has an address.
-// Blocks as long as the resolver does. Checked before connecting, because Qt resolves
-// names on threads that it joins at exit: a resolver that hangs would keep the program
-// from ending.
-bool canBeReached(const QUrl& url) {
-    return hasAddress(firstHost(url).toUtf8());
-}
-
-constexpr int redirectLimit = 20;
-constexpr qint64 readBuffer = qint64{64} * 1024;
-
-// Bytes received that end a connection: during the load, and after it.
-constexpr std::uint64_t floodBytes = std::uint64_t{5} << 20U;
-constexpr std::uint64_t remainderBytes = std::uint64_t{1} << 20U;
-constexpr auto guardPause = std::chrono::milliseconds(100);
-
-QNetworkRequest requestFor(const QUrl& url) {
-    QNetworkRequest request(url);
-    request.setRawHeader("Accept", "application/json");
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::NoLessSafeRedirectPolicy);
-    request.setMaximumRedirectsAllowed(redirectLimit);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    return request;
-}
-
-// Responses with an error status count as answers too; interrupted transfers do not.
-bool isAnswer(const QNetworkReply& reply) {
-    switch (reply.error()) {
-    case QNetworkReply::NoError:
-        return true;
-    case QNetworkReply::ProxyAuthenticationRequiredError:
-    case QNetworkReply::ContentAccessDenied:
-    case QNetworkReply::ContentOperationNotPermittedError:
-    case QNetworkReply::ContentNotFoundError:
-    case QNetworkReply::AuthenticationRequiredError:
-    case QNetworkReply::ContentConflictError:
-    case QNetworkReply::ContentGoneError:
-    case QNetworkReply::UnknownContentError:
-    case QNetworkReply::ProtocolInvalidOperationError:
-    case QNetworkReply::InternalServerError:
-    case QNetworkReply::OperationNotImplementedError:
-    case QNetworkReply::ServiceUnavailableError:
-    case QNetworkReply::UnknownServerError:
-        return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() >= 400;
-    default:
-        return false;
-    }
-}
-
-// Qt does not report when the body of an error response is incomplete.
-bool isComplete(const QNetworkReply& reply, qsizetype received) {
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    return reply.error() == QNetworkReply::NoError || !announced.isValid() ||
-           reply.hasRawHeader("Content-Encoding") || received >= announced.toLongLong();
-}
-
-class WebLoad : public QObject {
-public:
-    WebLoad(const QUrl& url, qsizetype limit, const StopToken& stop)
-        : at_(url)
-        , limit_(limit)
-        , stop_(stop) {
-        manager_.setProxyFactory(new SystemProxies); // takes ownership
-        reply_.reset(manager_.get(requestFor(url)));
-        reply_->setReadBufferSize(readBuffer);
-        connect(reply_.get(), &QNetworkReply::readyRead, this, &WebLoad::take);
-        connect(reply_.get(), &QNetworkReply::finished, this, &WebLoad::finish);
-        connect(reply_.get(), &QNetworkReply::redirected, this, &WebLoad::redirected);
-    }
-
-    std::optional<QByteArray> run() {
-        loop_.exec();
-        // On its own thread Qt reads a header for as long as it keeps coming, even if
-        // nobody waits for it any more.
-        flood_.end(remainderBytes);
-        return std::move(body_);
-    }
-
-private:
-    void take() {
-        while (reply_->bytesAvailable() > 0) {
-            received_ += reply_->read(readBuffer);
-            if (received_.size() > limit_) {
-                loop_.quit();
-                return;
-            }
-        }
-    }
-
-    void finish() {
-        take();
-        if (received_.size() <= limit_ && isAnswer(*reply_) &&
-            isComplete(*reply_, received_.size())) {
-            body_ = std::move(received_);
-        }
-        loop_.quit();
-    }
-
-    bool watch(const StopToken& ended) {
-        bool flooded = false;
-        while (!ended.waitFor(guardPause)) {
-            flooded = flood_.end(floodBytes) || flooded;
-            if (flooded || stop_.isRequested()) {
-                loop_.quit(); // and again next time: it may not have started yet
-            }
-        }
-        return flooded;
-    }
-
-    // Qt sends the next request after this returns.
-    void redirected(const QUrl& next) {
-        const QUrl from = std::exchange(at_, next);
-        if (!mayRedirect(from, next) || !canBeReached(next)) {
-            loop_.quit();
-        }
-    }
-
-    QUrl at_;
-    qsizetype limit_;
-    StopToken stop_;
-    QByteArray received_;
-    std::optional<QByteArray> body_;
-    QEventLoop loop_;
-    FloodGuard flood_;
-    QNetworkAccessManager manager_;
-    std::unique_ptr<QNetworkReply> reply_;
-    // A flood keeps this thread too busy for a timer. The destructor of the pool waits for
-    // the watch.
-    QThreadPool watchers_;
-    Job watch_{watchers_, [this](const StopToken& ended) { return watch(ended); }, [](bool) {}};
-};
 
 } // namespace
 
-bool mayRedirect(const QUrl& from, const QUrl& to) {
-    return isWeb(to) && (!isSecure(from) || isSecure(to));
+struct WebTransfer {
+    CURL* curl = nullptr;
+    curl_slist* fields = nullptr;
+    qsizetype limit = 0;
+    QByteArray body;
+    int headers = 0;
+    qsizetype bytesOfHeaders = 0;
+    bool wasSecure = false;
+    QList<QByteArray> certificates;
+
+    template <typename Value>
+    void set(CURLoption option, Value value) const {
+        curl_easy_setopt(curl, option, value);
+    }
+};
+
+namespace {
+
+std::size_t takeBody(char* data, std::size_t size, std::size_t count, void* to) {
+    auto& transfer = *static_cast<WebTransfer*>(to);
+    const std::size_t bytes = size * count;
+    if (transfer.body.size() + static_cast<qsizetype>(bytes) > transfer.limit) {
+        return CURL_WRITEFUNC_ERROR;
+    }
+    transfer.body.append(data, static_cast<qsizetype>(bytes));
+    return bytes;
 }
 
-std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit, const StopToken& stop) {
-    if (isWeb(url) && !canBeReached(url)) {
+std::size_t takeHeader(char* /*data*/, std::size_t size, std::size_t count, void* to) {
+    auto& transfer = *static_cast<WebTransfer*>(to);
+    const std::size_t bytes = size * count;
+    transfer.bytesOfHeaders += static_cast<qsizetype>(bytes);
+    const bool tooMuch = ++transfer.headers > headerLimit || transfer.bytesOfHeaders > headerBytes;
+    return tooMuch ? CURL_WRITEFUNC_ERROR : bytes;
+}
+
+// Called before each request, that of a redirect too.
+int permitRequest(void* of, char* /*remote*/, char* /*local*/, int /*remotePort*/,
+                  int /*localPort*/) {
+    auto& transfer = *static_cast<WebTransfer*>(of);
+    const bool secure = !isHttp(transfer.curl);
+    const bool permitted = secure || !transfer.wasSecure;
+    transfer.wasSecure = secure;
+    return permitted ? CURL_PREREQFUNC_OK : CURL_PREREQFUNC_ABORT;
+}
+
+// Those that the user or the system names; otherwise the library's default stays.
+void useCertificates(WebTransfer& transfer) {
+    const QByteArray file = qgetenv("SSL_CERT_FILE");
+    const QByteArray folder =
+        qEnvironmentVariable("SSL_CERT_DIR", QString::fromUtf8(certificateFolder())).toUtf8();
+    if (!file.isEmpty() || !folder.isEmpty()) {
+        transfer.set(CURLOPT_CAINFO, file.isEmpty() ? nullptr : file.constData());
+        transfer.set(CURLOPT_CAPATH, folder.isEmpty() ? nullptr : folder.constData());
+        transfer.certificates = {file, folder};
+    }
+}
+
+} // namespace
+
+WebLoad::WebLoad(const QUrl& url)
+    : transfer_(std::make_unique<WebTransfer>()) {
+    curl_global_init(CURL_GLOBAL_DEFAULT);
+    WebTransfer& transfer = *transfer_;
+    transfer.curl = curl_easy_init();
+    if (transfer.curl == nullptr) {
+        return;
+    }
+    const QByteArray address = url.toEncoded(QUrl::RemoveFragment);
+    transfer.set(CURLOPT_URL, address.constData());
+    transfer.fields = curl_slist_append(nullptr, "Accept: application/json");
+    transfer.fields = curl_slist_append(transfer.fields, "Accept-Encoding: gzip, deflate");
+    transfer.set(CURLOPT_HTTPHEADER, transfer.fields);
+    transfer.set(CURLOPT_USERAGENT, "Morrowleaf");
+    transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
+    transfer.set(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    transfer.set(CURLOPT_FOLLOWLOCATION, 1L);
+    transfer.set(CURLOPT_MAXREDIRS, redirectLimit);
+    transfer.set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
+    // A connection that is used again may break, and the request would be repeated.
+    transfer.set(CURLOPT_FRESH_CONNECT, 1L);
+    transfer.set(CURLOPT_FORBID_REUSE, 1L);
+    transfer.set(CURLOPT_NOSIGNAL, 1L);
+    transfer.set(CURLOPT_TIMEOUT_MS, timeout);
+    transfer.set(CURLOPT_WRITEFUNCTION, takeBody);
+    transfer.set(CURLOPT_WRITEDATA, transfer_.get());
+    transfer.set(CURLOPT_HEADERFUNCTION, takeHeader);
+    transfer.set(CURLOPT_HEADERDATA, transfer_.get());
+    transfer.set(CURLOPT_PREREQFUNCTION, permitRequest);
+    transfer.set(CURLOPT_PREREQDATA, transfer_.get());
+    useCertificates(transfer);
+    static constexpr std::array variables{"http_proxy", "https_proxy", "HTTPS_PROXY", "all_proxy",
+                                          "ALL_PROXY",  "no_proxy",    "NO_PROXY"};
+    if (std::none_of(variables.begin(), variables.end(), namesProxy)) {
+        transfer.set(CURLOPT_PROXY, desktopProxy(address).constData());
+    }
+}
+
+WebLoad::~WebLoad() {
+    curl_easy_cleanup(transfer_->curl);
+    curl_slist_free_all(transfer_->fields);
+}
+
+QList<QByteArray> WebLoad::certificates() const {
+    return transfer_->certificates;
+}
+
+std::optional<QByteArray> WebLoad::run(qsizetype limit) {
+    transfer_->limit = limit;
+    if (transfer_->curl == nullptr || curl_easy_perform(transfer_->curl) != CURLE_OK) {
         return std::nullopt;
     }
-    return WebLoad(url, limit, stop).run();
+    curl_header* encoding = nullptr;
+    constexpr int last = -1; // the response after all redirects
+    const bool encoded = curl_easy_header(transfer_->curl, "Content-Encoding", 0, CURLH_HEADER,
+                                          last, &encoding) == CURLHE_OK;
+    if (encoded && encoding->amount > 1) {
+        return std::nullopt;
+    }
+    return unpack(transfer_->body, encoded ? QByteArray(encoding->value) : QByteArray(), limit);
 }
 
 } // namespace morrowleaf

@@ -3,24 +3,35 @@
 
 #pragma once
 
-#include "base/stoptoken.h"
-
 #include <QByteArray>
+#include <QList>
 #include <QUrl>
 
+#include <memory>
 #include <optional>
 
 namespace morrowleaf {
 
-// Loads the decoded body of the response to an http, https or data request, whatever its
-// status. std::nullopt if the load fails, the body is longer than `limit` bytes, or
-// `stop` is requested meanwhile. Any thread but the main one: it runs an event loop, and
-// blocks as long as the resolver does.
-[[nodiscard]] std::optional<QByteArray> loadFromWeb(const QUrl& url, qsizetype limit,
-                                                    const StopToken& stop);
+struct WebTransfer;
 
-// Whether a response from `from` may redirect to `to`: only to http or https, and never
-// from https to http.
-bool mayRedirect(const QUrl& from, const QUrl& to);
+// One request to an http or https address. In two steps, because what the desktop says of
+// its proxies must be asked before the process gives up its rights.
+class WebLoad {
+public:
+    // Finds the proxy: that of the environment, or the desktop's. May block for long.
+    explicit WebLoad(const QUrl& url);
+    ~WebLoad();
+
+    // The files and folders with the certificates to trust.
+    QList<QByteArray> certificates() const;
+
+    // Loads the decoded body of the response, whatever its status. std::nullopt if that
+    // fails, or the body is longer than `limit` bytes before or after decompression. May
+    // block for long in the resolver; meant for a process that is killed at its deadline.
+    [[nodiscard]] std::optional<QByteArray> run(qsizetype limit);
+
+private:
+    std::unique_ptr<WebTransfer> transfer_;
+};
 
 } // namespace morrowleaf

@@ -1,25 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/shared/sockets.h"
+#include "platform/network.h"
 
-#include <linux/tcp.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
+#include <QDirIterator>
 
 namespace morrowleaf {
 
-QByteArray identifySocket(int fd) {
-    struct stat info {};
-    return ::fstat(fd, &info) == 0 ? QByteArray::number(qulonglong{info.st_ino}) : QByteArray();
-}
+using namespace Qt::Literals::StringLiterals;
 
-std::uint64_t bytesReceived(int fd) {
-    tcp_info info{};
-    socklen_t size = sizeof info;
-    const bool known = ::getsockopt(fd, IPPROTO_TCP, TCP_INFO, &info, &size) == 0;
-    return known ? info.tcpi_bytes_received : 0;
+QByteArray certificateFolder() {
+    // Some systems keep only one large file there.
+    const auto folder = u"/etc/ssl/certs"_s;
+    return QDirIterator(folder, {u"????????.0"_s}).hasNext() ? QFile::encodeName(folder)
+                                                             : QByteArray();
 }
 
 } // namespace morrowleaf

@@ -3,7 +3,7 @@
 
 #include "platform/system.h"
 
-#include "platform/shared/sockets.h"
+#include "platform/network.h"
 
 #include <QStandardPaths>
 
@@ -25,12 +25,8 @@ QString settingsFolder() {
            u"/morrowleaf"_s;
 }
 
-QByteArray identifySocket(int /*fd*/) {
+QByteArray certificateFolder() {
     return {};
-}
-
-std::uint64_t bytesReceived(int /*fd*/) {
-    return 0;
 }
 
 } // namespace morrowleaf

@@ -3,21 +3,26 @@
 
 """A web server on the loopback address with the faults that a request asks for.
 
-Prints one line of ports, "http IPv4, http IPv6, never accepting", and serves
-until its standard input is closed. The path of a request names the behaviour;
+Prints one line, "http IPv4 port, http IPv6 port, port that never accepts, https port,
+file of its certificate", then one line for each request, and serves until its standard
+input is closed. The path of a request names the behaviour, without what follows a "?";
 "/redirect/N" redirects N times before the quotation.
 """
 import gzip
 import os
 import socket
+import ssl
 import struct
+import subprocess
 import sys
+import tempfile
 import threading
 import time
 import zlib
 
 QUOTE = b'{"q":"A","a":"B"}'
 BEHAVIOURS = {}
+PORTS = {}
 
 
 def behaviour(function):
@@ -278,6 +283,17 @@ def gzip_cut(conn, _):
 
 
 @behaviour
+def gzip_cut_text(conn, _):
+    packed = gzip.compress(b"Be kind to everybody whom you meet, and to yourself.")
+    answer(conn, packed[:-12], Content_Encoding="gzip")
+
+
+@behaviour
+def gzip_members(conn, _):
+    answer(conn, gzip.compress(QUOTE[:5]) + gzip.compress(QUOTE[5:]), Content_Encoding="gzip")
+
+
+@behaviour
 def unknown_encoding(conn, _):
     answer(conn, QUOTE, Content_Encoding="none-such")
 
@@ -307,6 +323,21 @@ def redirect_to_ftp(conn, _):
 
 
 @behaviour
+def to_https(conn, _):
+    redirect(conn, f"https://127.0.0.1:{PORTS['https']}/ok")
+
+
+@behaviour
+def to_http(conn, _):
+    redirect(conn, f"http://127.0.0.1:{PORTS['http']}/ok?in-the-clear")
+
+
+@behaviour
+def to_https_and_back(conn, _):
+    redirect(conn, f"https://127.0.0.1:{PORTS['https']}/to-http")
+
+
+@behaviour
 def redirect_nowhere(conn, _):
     redirect(conn, "")
 
@@ -315,6 +346,20 @@ def redirect_nowhere(conn, _):
 def redirect_flood(conn, _):
     conn.sendall(head("302 Found", Location="/ok"))
     flood(conn, b"x" * 65536)
+
+
+@behaviour
+def slow_and_large(conn, _):
+    body = padded(2 << 20)
+    conn.sendall(head(Content_Length=len(body)))
+    for start in range(0, len(body), 1 << 18):
+        conn.sendall(body[start : start + (1 << 18)])
+        time.sleep(0.2)
+
+
+@behaviour
+def cut_in_the_header(conn, _):
+    conn.sendall(b"HTTP/1.1 200 OK\r\nContent-Le")
 
 
 @behaviour
@@ -391,6 +436,9 @@ def serve(conn):
                 conn.sendall(b"HTTP/1.1 400 Bad Request\r\n\r\n")
                 return
         path = request.split(b" ")[1].decode().lstrip("/")
+        sys.stdout.write(path + "\n")
+        sys.stdout.flush()
+        path = path.partition("?")[0]
         if path.startswith("redirect/"):
             left = int(path[9:])
             redirect(conn, f"/redirect/{left - 1}" if left > 1 else "/ok")
@@ -404,18 +452,39 @@ def serve(conn):
         conn.close()
 
 
-def accept(listener):
+def serve_encrypted(conn, context):
+    try:
+        conn.settimeout(20)
+        serve(context.wrap_socket(conn, server_side=True))
+    except OSError:
+        conn.close()
+
+
+def accept(listener, context):
     while True:
         conn, _ = listener.accept()
-        threading.Thread(target=serve, args=(conn,), daemon=True).start()
+        target, args = (serve_encrypted, (conn, context)) if context else (serve, (conn,))
+        threading.Thread(target=target, args=args, daemon=True).start()
 
 
-def listen(family, address):
+def listen(family, address, context=None):
     listener = socket.socket(family, socket.SOCK_STREAM)
     listener.bind((address, 0))
     listener.listen(64)
-    threading.Thread(target=accept, args=(listener,), daemon=True).start()
+    threading.Thread(target=accept, args=(listener, context), daemon=True).start()
     return listener.getsockname()[1]
+
+
+def make_certificate(folder):
+    """A certificate of its own for 127.0.0.1, and what serves with it."""
+    certificate, key = os.path.join(folder, "certificate"), os.path.join(folder, "key")
+    subprocess.run(["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt",
+                    "ec_paramgen_curve:prime256v1", "-nodes", "-subj", "/CN=hostile",
+                    "-addext", "subjectAltName=IP:127.0.0.1", "-keyout", key, "-out", certificate],
+                   check=True, capture_output=True)
+    context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+    context.load_cert_chain(certificate, key)
+    return certificate, context
 
 
 def listen_without_accepting():
@@ -434,14 +503,16 @@ def listen_without_accepting():
 
 def main():
     full = listen_without_accepting()
-    ports = [listen(socket.AF_INET, "127.0.0.1")]
-    try:
-        ports.append(listen(socket.AF_INET6, "::1"))
-    except OSError:
-        ports.append(0)
-    ports.append(full[0].getsockname()[1])
-    print(*ports, flush=True)
-    sys.stdin.read()
+    with tempfile.TemporaryDirectory() as folder:
+        certificate, context = make_certificate(folder)
+        PORTS["http"] = listen(socket.AF_INET, "127.0.0.1")
+        PORTS["https"] = listen(socket.AF_INET, "127.0.0.1", context)
+        try:
+            ipv6 = listen(socket.AF_INET6, "::1")
+        except OSError:
+            ipv6 = 0
+        print(PORTS["http"], ipv6, full[0].getsockname()[1], PORTS["https"], certificate, flush=True)
+        sys.stdin.read()
 
 
 main()

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "platform/files.h"
 #include "sources/fetchquote.h"
+#include "sources/quoteanswer.h"
 #include "sources/sourcebytes.h"
 #include "sources/sourcepresets.h"
-#include "sources/webload.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -62,16 +63,66 @@ TEST(SourceAddress, KeepsPathsUnchanged) {
     EXPECT_EQ(sourceAddress(u"data:,x"_s)->url.scheme(), "data"_L1);
 }
 
-TEST(Redirects, NeverLeaveTheWebOrEncryption) {
-    const auto may = [](const char* from, const char* to) {
-        return mayRedirect(QUrl(QString::fromUtf8(from)), QUrl(QString::fromUtf8(to)));
+TEST(DataAddress, HoldsItsContent) {
+    const auto data = [](const char* address) {
+        return dataOf(QUrl(QString::fromUtf8(address))).value_or("nothing");
     };
-    EXPECT_TRUE(may("http://a/", "http://b/"));
-    EXPECT_TRUE(may("http://a/", "https://b/"));
-    EXPECT_TRUE(may("https://a/", "https://b/"));
-    EXPECT_FALSE(may("https://a/", "http://a/"));
-    EXPECT_FALSE(may("http://a/", "file:///proc/version"));
-    EXPECT_FALSE(may("http://a/", "data:,x"));
+    EXPECT_EQ(data("data:,a%20b?c#d"), "a b?c#d");
+    EXPECT_EQ(data("data:text/plain;base64,YSBi"), "a b");
+    EXPECT_EQ(data("data:;base64,YSBi!"), "nothing");
+    EXPECT_EQ(data("data:text/plain"), "nothing");
+}
+
+TEST(Unpack, RefusesWhatIsBrokenCutOrTooLong) {
+    const QByteArray plain(1000, 'a');
+    const QByteArray framed = qCompress(plain).sliced(4); // without Qt's own header
+    const QByteArray bare = framed.sliced(2).chopped(4);
+    const auto unpacked = [](const QByteArray& body, const char* encoding, qsizetype limit) {
+        return unpack(body, encoding, limit).value_or("nothing");
+    };
+    EXPECT_EQ(unpacked(plain, "", 1000), plain);
+    EXPECT_EQ(unpacked(plain, "Identity", 1000), plain);
+    EXPECT_EQ(unpacked(plain, "", 999), "nothing");
+    EXPECT_EQ(unpacked(framed, "deflate", 1000), plain);
+    EXPECT_EQ(unpacked(bare, " Deflate ", 1000), plain);
+    EXPECT_EQ(unpacked(framed, "deflate", 999), "nothing");
+    EXPECT_EQ(unpacked(plain, "br", 1000), "nothing");
+    EXPECT_EQ(unpacked({}, "gzip", 1000), "nothing");
+    for (qsizetype cut = 0; cut < framed.size(); ++cut) {
+        EXPECT_EQ(unpacked(framed.first(cut), "deflate", 1000), "nothing") << cut;
+    }
+}
+
+TEST(QuoteAnswer, CrossesUnchanged) {
+    const Quote quote{u"A\n\u2014 \U0001F343 "_s + QChar(0) + u"b"_s, u"\u00c9"_s};
+    std::vector<char> memory(100, '\0');
+    ASSERT_TRUE(writeQuoteAnswer(quote, memory));
+    EXPECT_EQ(readQuoteAnswer({memory.data(), 100}), quote);
+    EXPECT_FALSE(writeQuoteAnswer(quote, std::span(memory).first(5)));
+}
+
+TEST(QuoteAnswer, IsNothingUnlessItIsTwoTexts) {
+    const auto read = [](const char* bytes, qsizetype size) {
+        return readQuoteAnswer({bytes, size}).has_value();
+    };
+    EXPECT_TRUE(read("a\xff"
+                     "b\xff",
+                     4));
+    EXPECT_FALSE(read("a\xff"
+                      "b\xff",
+                      3));
+    EXPECT_FALSE(read("a\xff\xff", 3));
+    EXPECT_FALSE(read("\xff"
+                      "b\xff",
+                      3));
+    EXPECT_FALSE(read("\xc3\xff"
+                      "b\xff",
+                      4));
+    EXPECT_FALSE(read("a\xff"
+                      "\xed\xa0\x80\xff",
+                      6));
+    EXPECT_FALSE(readQuoteAnswer(QByteArray(1000, '\0')));
+    EXPECT_FALSE(readQuoteAnswer({}));
 }
 
 TEST(SourcePresets, AreThree) {
@@ -107,7 +158,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QuoteFetcher fetcher{[](qsizetype) { return qsizetype{0}; }};
+    QuoteFetcher fetcher;
 };
 
 TEST_F(FetchQuote, ReadsLocalFiles) {
@@ -165,7 +216,8 @@ TEST_F(FetchQuote, RejectsAFileThatItMayNotRead) {
             ::_exit(3);
         }
         const auto read = [](const QByteArray& path) {
-            return readLocalFile(QFile::decodeName(path), 100, {});
+            QFile file;
+            return openRegularFile(file, QFile::decodeName(path)) && readWithin(file, 100);
         };
         ::_exit(!read(open) ? 2 : (read(secret) ? 1 : 0));
     }
@@ -173,6 +225,26 @@ TEST_F(FetchQuote, RejectsAFileThatItMayNotRead) {
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+TEST_F(FetchQuote, KeepsTheLongestText) {
+    const QString text(((4 << 20) - 8) / 2, QChar(0x4e2d)); // three bytes each in UTF-8
+    QByteArray body("\xff\xfe", 2);
+    const QString json = u"{\"q\":\""_s + text.left(text.size() - 20) + u"\"}"_s;
+    body.append(reinterpret_cast<const char*>(json.utf16()), json.size() * 2);
+    EXPECT_EQ(fetch(file(u"long"_s, body)).size(), (text.size() - 20) * 3 + 8);
+}
+
+TEST_F(FetchQuote, IsNothingWithoutItsReader) {
+    QuoteFetcher none(folder.filePath(u"missing"_s));
+    QEventLoop loop;
+    bool found = true;
+    none.fetchQuote(file(u"q"_s, R"({"q":"A"})"), [&](const std::optional<Quote>& quote) {
+        found = quote.has_value();
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_FALSE(found);
 }
 
 TEST_F(FetchQuote, LimitsTheSizeOfAFile) {

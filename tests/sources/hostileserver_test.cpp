@@ -5,9 +5,11 @@
 // time, memory and main thread can be measured; several run at once, because most of them
 // last until the deadline.
 
+#include "sources/fetchquote.h"
 #include "tools/sourcepath.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <iostream>
@@ -27,7 +30,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr const char* nothing = nullptr;
-constexpr const char* anything = "*";
 
 struct Case {
     const char* place; // a path, or an address with placeholders for the ports
@@ -58,7 +60,7 @@ constexpr std::array cases{
     Case{"endless-status", nothing},
     Case{"endless-continue", nothing},
     Case{"endless-chunk-extension", nothing},
-    Case{"endless-trailer", anything}, // the body before the trailer may count
+    Case{"endless-trailer", nothing},
     Case{"reset-at-once", nothing},
     Case{"reset-in-body", nothing},
     Case{"close-at-once", nothing},
@@ -74,6 +76,9 @@ constexpr std::array cases{
     Case{"gzip-empty-members", nothing},
     Case{"gzip-garbage", nothing},
     Case{"gzip-cut", nothing},
+    Case{"gzip-cut-text", nothing},
+    Case{"gzip-members", "A"},
+    Case{"unknown-encoding", nothing},
     Case{"redirect/19", "A"},
     Case{"redirect/20", "A"},
     Case{"redirect/21", nothing},
@@ -82,7 +87,7 @@ constexpr std::array cases{
     Case{"redirect-to-data", nothing},
     Case{"redirect-to-ftp", nothing},
     Case{"redirect-nowhere", nothing},
-    Case{"redirect-flood", nothing},
+    Case{"redirect-flood", "A"}, // nobody has to read the body of a redirect
     Case{"no-content", nothing},
     Case{"not-modified", nothing},
     Case{"status-401", "A"},
@@ -96,10 +101,17 @@ constexpr std::array cases{
     Case{"wrong-type", "A"},
     Case{"chunked", "A"},
     Case{"chunked-garbage", nothing},
-    Case{"chunked-cut", anything}, // whether that is an error depends on how it arrives
+    Case{"chunked-cut", nothing},
+    Case{"cut-in-the-header", nothing},
     Case{"not-http", nothing},
     Case{"binary-noise", nothing},
     Case{"https://127.0.0.1:IPV4/ok", nothing},
+    Case{"https://127.0.0.1:TLS/ok", "A"},
+    Case{"https://localhost:TLS/ok", nothing}, // the certificate is for another name
+    Case{"https://127.0.0.1:TLS/too-short", nothing},
+    Case{"https://127.0.0.1:TLS/to-http", nothing},
+    Case{"to-https", "A"},
+    Case{"to-https-and-back", nothing},
     Case{"http://[::1]:IPV6/ok", "A"},
     Case{"http://127.0.0.1:FULL/", nothing},
     Case{"http://127.0.0.1:1/", nothing},
@@ -114,7 +126,8 @@ protected:
         while (!server.canReadLine() && server.waitForReadyRead(20000)) {
         }
         ports = QString::fromLatin1(server.readLine()).simplified().split(u' ');
-        ASSERT_EQ(ports.size(), 3);
+        ASSERT_EQ(ports.size(), 5);
+        qputenv("SSL_CERT_FILE", ports[4].toUtf8());
         // Keeps a proxy of the machine away from the loopback address.
         qputenv("no_proxy", "127.0.0.1,::1,nothing.invalid");
     }
@@ -130,26 +143,49 @@ protected:
         }
         return text.replace("IPV4"_L1, ports[0])
             .replace("IPV6"_L1, ports[1])
-            .replace("FULL"_L1, ports[2]);
+            .replace("FULL"_L1, ports[2])
+            .replace("TLS"_L1, ports[3]);
     }
 
-    void start(const Case& one, std::function<void(const QJsonObject&)> done) const {
+    // How often the server has been asked for something that ends in `tail`.
+    int requests(const QString& tail) {
+        server.waitForReadyRead(0);
+        while (server.canReadLine()) {
+            asked << QString::fromUtf8(server.readLine()).trimmed();
+        }
+        return int(std::count_if(asked.begin(), asked.end(),
+                                 [&](const QString& line) { return line.endsWith(tail); }));
+    }
+
+    void start(const Case& one, std::function<void(const QJsonObject&)> done) {
+        const QString tag = u"?load=%1"_s.arg(++loads);
         auto* probe = new QProcess(QCoreApplication::instance());
-        QObject::connect(probe, &QProcess::finished, probe, [probe, done = std::move(done)] {
+        QObject::connect(probe, &QProcess::finished, probe, [=, this, done = std::move(done)] {
             QJsonObject report = QJsonDocument::fromJson(probe->readAllStandardOutput()).object();
             report["crashed"_L1] =
                 probe->exitStatus() != QProcess::NormalExit || probe->exitCode() != 0;
             report["errors"_L1] = QString::fromUtf8(probe->readAllStandardError());
+            report["requests"_L1] = requests(tag);
             probe->deleteLater();
             done(report);
         });
         probe->start(QCoreApplication::applicationDirPath() + "/loadprobe"_L1,
-                     {address("ok"), address(one.place), QString::number(one.count)});
+                     {address("ok"), address(one.place) + tag, QString::number(one.count)});
     }
 
     QProcess server;
     QStringList ports;
+    QStringList asked;
+    int loads = 0;
 };
+
+// No load repeats its request.
+int expectedRequests(const Case& one) {
+    const QByteArray place(one.place);
+    const bool arrives = !place.startsWith("http") || place.contains("IPV6") ||
+                         place.startsWith("https://127.0.0.1:TLS");
+    return arrives ? one.count : 0;
+}
 
 // What is wrong with a load; empty if everything is right.
 QString complaint(const Case& one, const QJsonObject& report) {
@@ -163,8 +199,11 @@ QString complaint(const Case& one, const QJsonObject& report) {
     if (report["crashed"_L1].toBool()) {
         wrong << u"crashed"_s;
     }
-    if (one.text != anything && report["text"_L1].toString() != QString::fromUtf8(one.text)) {
+    if (report["text"_L1].toString() != QString::fromUtf8(one.text)) {
         wrong << "text "_L1 + report["text"_L1].toString().left(100);
+    }
+    if (report["requests"_L1].toInt() != expectedRequests(one)) {
+        wrong << u"requests %1"_s.arg(report["requests"_L1].toInt());
     }
     most("milliseconds"_L1, 6500);
     most("partingMilliseconds"_L1, 1000);
@@ -213,12 +252,13 @@ TEST_F(HostileServer, CannotHangCrashBloatOrStallTheProgram) {
             break;
         }
     }
+    EXPECT_EQ(requests(u"?in-the-clear"_s), 0);
     for (auto one = wrong.constBegin(); one != wrong.constEnd(); ++one) {
         ADD_FAILURE() << cases[one.key()].place << ": " << one.value().toStdString();
     }
 }
 
-TEST_F(HostileServer, GetsNoHeadersBeyondAcceptAndQts) {
+TEST_F(HostileServer, GetsNoHeadersBeyondAcceptAndTheLoaders) {
     QEventLoop loop;
     QString text;
     start({"echo", nothing}, [&](const QJsonObject& report) {
@@ -232,9 +272,7 @@ TEST_F(HostileServer, GetsNoHeadersBeyondAcceptAndQts) {
             names << line.section(u':', 0, 0);
         }
     }
-    // Qt adds all headers but "Accept".
-    EXPECT_EQ(names, QStringList({u"Accept-Encoding"_s, u"Accept-Language"_s, u"Accept"_s,
-                                  u"Connection"_s, u"Host"_s, u"User-Agent"_s}));
+    EXPECT_EQ(names, QStringList({u"Accept-Encoding"_s, u"Accept"_s, u"Host"_s, u"User-Agent"_s}));
     EXPECT_TRUE(text.contains("Accept: application/json\n"_L1)) << text.toStdString();
 }
 
@@ -248,6 +286,50 @@ TEST_F(HostileServer, GetsNoCookieBack) {
     loop.exec();
     EXPECT_TRUE(text.contains("Accept:"_L1)) << text.toStdString();
     EXPECT_FALSE(text.contains("Cookie"_L1)) << text.toStdString();
+}
+
+TEST_F(HostileServer, DisturbsNoOtherLoad) {
+    morrowleaf::QuoteFetcher fetcher;
+    QEventLoop loop;
+    QStringList texts;
+    for (const char* place : {"endless", "gzip-empty-members", "slow-and-large"}) {
+        fetcher.fetchQuote(address(place), [&](const std::optional<morrowleaf::Quote>& quote) {
+            texts << (quote ? quote->text : u"nothing"_s);
+            if (texts.size() == 3) {
+                loop.quit();
+            }
+        });
+    }
+    loop.exec();
+    EXPECT_EQ(texts, QStringList({u"nothing"_s, u"nothing"_s, u"A"_s}));
+}
+
+TEST_F(HostileServer, CannotHoldBackMoreLoadsThanItsOwn) {
+    morrowleaf::QuoteFetcher fetcher;
+    QEventLoop loop;
+    QElapsedTimer clock;
+    clock.start();
+    int left = 12;
+    qint64 quick = 0;
+    const auto end = [&] {
+        if (--left == 0) {
+            loop.quit();
+        }
+    };
+    for (int i = 0; i < 11; ++i) {
+        fetcher.fetchQuote(address("silent"), [&](const std::optional<morrowleaf::Quote>& quote) {
+            EXPECT_FALSE(quote);
+            end();
+        });
+    }
+    // Nothing is left for it but to wait, and it may wait no longer than the others.
+    fetcher.fetchQuote(address("ok"), [&](const std::optional<morrowleaf::Quote>&) {
+        quick = clock.elapsed();
+        end();
+    });
+    loop.exec();
+    EXPECT_LT(quick, 7000);
+    EXPECT_LT(clock.elapsed(), 7000);
 }
 
 } // namespace

@@ -51,7 +51,7 @@ STANDARD = set(
 )
 # The classes of Qt without a folder before them, so that none names a module.
 LIBRARY_HEADER = re.compile(
-    r"Q[A-Za-z0-9]+$|\w+\.moc$|unicode/\w+\.h$|nlohmann/json\.hpp$|immintrin\.h$"
+    r"Q[A-Za-z0-9]+$|\w+\.moc$|unicode/\w+\.h$|nlohmann/json\.hpp$|immintrin\.h$|curl/curl\.h$|zlib\.h$"
     r"|benchmark/|gtest/|gmock/"
 )
 SYSTEM_HEADER = re.compile(
@@ -89,7 +89,7 @@ LINK = re.compile(r"\bLIBRARIES\b([^)]*)|target_link_libraries\s*\(\s*\S+([^)]*)
 OWN_LIBRARY = re.compile(r"morrowleaf_(\w+)$")
 PORTABLE_LIBRARY = re.compile(
     r"(?:PRIVATE|PUBLIC|INTERFACE|Qt6::(?:Core|Gui|Widgets|Network|Svg)|ICU::uc"
-    r"|nlohmann_json::nlohmann_json|benchmark::benchmark|bench_\w+)$"
+    r"|nlohmann_json::nlohmann_json|CURL::libcurl|ZLIB::ZLIB|benchmark::benchmark|bench_\w+)$"
 )
 
 
