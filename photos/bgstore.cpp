@@ -66,7 +66,7 @@ BGStore::BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
     , builtinFolder_(std::move(builtinFolder))
     , ownFolder_(std::move(ownFolder))
     , workers_(workers)
-    , import_(std::make_unique<PhotoImport>(workers)) {
+    , import_(std::make_unique<PhotoImport>(readers_)) {
     if (ownFolder_.isEmpty()) {
         qFatal("There is no folder for the user's own photos.");
     }
@@ -120,8 +120,6 @@ void BGStore::remove(const QString& path) {
     if (!path.isEmpty()) {
         QFile::remove(path);
     }
-    cache_.remove(path);
-    unreadable_.remove(path);
     QStringList own = Prefs::customBGs(store_);
     own.removeAll(path);
     store_.set(K::customBGs, own);
@@ -149,42 +147,6 @@ QStringList BGStore::builtins() const {
         name = folder.absoluteFilePath(name);
     }
     return names;
-}
-
-std::shared_ptr<const Photo> BGStore::image(const QString& path) {
-    if (path.isEmpty()) {
-        return nullptr;
-    }
-    if (const auto cached = cache_.constFind(path); cached != cache_.cend()) {
-        return *cached;
-    }
-    if (const auto bad = unreadable_.constFind(path); bad != unreadable_.cend()) {
-        if (*bad == stampOf(path)) {
-            return nullptr;
-        }
-        unreadable_.erase(bad);
-    }
-    auto photo = inspectPhoto(path);
-    if (!photo) {
-        return nullptr;
-    }
-    auto shared = std::make_shared<const Photo>(std::move(*photo));
-    cache_.insert(path, shared);
-    return shared;
-}
-
-void BGStore::markUnreadable(const QString& path) {
-    cache_.remove(path);
-    unreadable_.insert(path, stampOf(path));
-}
-
-void BGStore::forgetFailures() {
-    unreadable_.clear();
-}
-
-BGStore::FileStamp BGStore::stampOf(const QString& path) {
-    const QFileInfo info(path);
-    return {info.exists() ? info.size() : -1, info.lastModified()};
 }
 
 } // namespace morrowleaf

@@ -3,10 +3,8 @@
 
 #pragma once
 
-#include "photos/photo.h"
+#include "photos/photoreaders.h"
 
-#include <QDateTime>
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -33,8 +31,9 @@ public:
     static constexpr int limit = 3;
 
     // Shuts others off, by and by, from the listed photos in `ownFolder` that an earlier
-    // version has left open. `workers` do this, decode photos and must outlive the store. The
-    // program passes a pool of its own: Qt paints with the global one and would wait for a photo.
+    // version has left open. `workers` do this and whatever else is made of pictures, and must
+    // outlive the store. The program passes a pool of its own: Qt paints with the global one
+    // and would wait.
     BGStore(SettingsStore& store, QString builtinFolder, QString ownFolder,
             QThreadPool& workers = *QThreadPool::globalInstance());
     // Destroys the copy of an unfinished add() and does not call `done`.
@@ -53,30 +52,18 @@ public:
     void remove(const QString& path);
     // The built-in photos, sorted by file name. Reads the folder at every call.
     QStringList builtins() const;
-    // Returns the same object at every call while the photo is readable, else null.
-    std::shared_ptr<const Photo> image(const QString& path);
-    // Records that decoding failed: image() returns null until the file at that path
-    // changes or forgetFailures() is called.
-    void markUnreadable(const QString& path);
-    void forgetFailures();
-    // For decoding photos.
+    // Reads the photos, which may have been made by anybody.
+    PhotoReaders& readers() { return readers_; }
     QThreadPool& workers() const { return workers_; }
 
 private:
-    struct FileStamp {
-        qint64 size = -1;
-        QDateTime changed;
-        bool operator==(const FileStamp&) const = default;
-    };
-    static FileStamp stampOf(const QString& path);
     bool list(const QString& copy);
 
     SettingsStore& store_;
     QString builtinFolder_;
     QString ownFolder_;
     QThreadPool& workers_;
-    QHash<QString, std::shared_ptr<const Photo>> cache_;
-    QHash<QString, FileStamp> unreadable_;
+    PhotoReaders readers_;
     std::unique_ptr<PhotoImport> import_;
     std::weak_ptr<void> awaiting_;
     QObject context_; // of queued calls

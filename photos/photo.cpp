@@ -3,37 +3,57 @@
 
 #include "photos/photo.h"
 
-#include "photos/photofile.h"
-
 #include <QColorSpace>
 #include <QImageReader>
 #include <QPainter>
 #include <QTransform>
 
-#include <mutex>
+#include <algorithm>
+#include <array>
 
 namespace morrowleaf {
 namespace {
 
-// Far beyond any photo's header. Photos are inspected on the main thread, which must not
-// read without a limit.
-constexpr PhotoFile::Bounds headerBounds{std::chrono::seconds(2), Q_INT64_C(64) << 20};
+// What the header of a picture says.
+struct PhotoHeader {
+    QByteArray format; // "jpeg", "png", ...
+    QSize size;        // pixels as stored, before orientation; empty if this is no picture
+    QImageIOHandler::Transformations orientation = QImageIOHandler::TransformationNone;
 
-// Pixels; used while the size to show is not known yet.
-constexpr QSize largestShown(3840, 2160);
+    QSize stored(const QSize& upright) const {
+        const bool turned = orientation.testFlag(QImageIOHandler::TransformationRotate90);
+        return turned ? upright.transposed() : upright;
+    }
+};
 
-// Raises Qt's limit, which ignores the size at which a photo is decoded and would reject
-// ordinary photos. decodeBytes() is checked before decoding instead.
-void liftDecoderLimit() {
-    static std::once_flag once;
-    std::call_once(once, [] { QImageReader::setAllocationLimit(int(photoMemoryLimit >> 20)); });
+// Pixels only: the cost of vector and page formats cannot be estimated, and their readers
+// may start other programs.
+bool isPixelFormat(const QByteArray& format) {
+    static constexpr std::array known{"jpeg", "png",  "webp", "tiff", "bmp", "gif", "heif", "heic",
+                                      "avif", "avci", "jxl",  "jp2",  "ico", "tga", "icns", "hdr",
+                                      "exr",  "psd",  "qoi",  "ppm",  "pgm", "pbm", "dib"};
+    return std::any_of(known.begin(), known.end(), [&](const char* k) { return format == k; });
+}
+
+PhotoHeader readHeader(QImageReader& reader, QIODevice& device) {
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(false);
+    reader.setDevice(&device);
+    PhotoHeader header;
+    header.format = reader.format();
+    if (header.format == "jpg") {
+        header.format = "jpeg";
+    }
+    if (isPixelFormat(header.format)) {
+        header.size = reader.size();
+        header.orientation = reader.transformation();
+    }
+    return header;
 }
 
 QImage read(QImageReader& reader, const PhotoHeader& header, const QSize& target) {
-    const QRect crop = fillingCrop(header.size, target);
-    reader.setAutoTransform(false);
     if (header.format == "jpeg") {
-        reader.setClipRect(crop);
+        reader.setClipRect(fillingCrop(header.size, target));
         reader.setScaledSize(target);
         return reader.read();
     }
@@ -73,24 +93,36 @@ QImage upright(const QImage& image, QImageIOHandler::Transformations orientation
 
 } // namespace
 
-QImage Photo::decodeFilling(QSize target) const {
+QRect fillingCrop(const QSize& stored, const QSize& target) {
+    const double scale = std::min(double(stored.width()) / target.width(),
+                                  double(stored.height()) / target.height());
+    const QSize crop(std::clamp(qRound(target.width() * scale), 1, stored.width()),
+                     std::clamp(qRound(target.height() * scale), 1, stored.height()));
+    return {QPoint((stored.width() - crop.width()) / 2, (stored.height() - crop.height()) / 2),
+            crop};
+}
+
+QSize readPhotoSize(QIODevice& device) {
+    QImageReader reader;
+    const PhotoHeader header = readHeader(reader, device);
+    return header.size.isEmpty() ? QSize() : header.stored(header.size);
+}
+
+QImage decodePhoto(QIODevice& device, const QSize& target) {
     if (target.isEmpty()) {
         return {};
     }
-    liftDecoderLimit();
-    PhotoFile file(path);
+    // Qt's own limit ignores the size at which a photo is decoded and would reject ordinary
+    // photos.
+    QImageReader::setAllocationLimit(int(photoMemoryLimit >> 20));
     QImageReader reader;
-    const auto header = readPhotoHeader(file, reader);
-    if (!header) {
+    const PhotoHeader header = readHeader(reader, device);
+    if (header.size.isEmpty()) {
         return {};
     }
-    const bool turned = header->orientation.testFlag(QImageIOHandler::TransformationRotate90);
-    const QSize stored = turned ? target.transposed() : target;
-    if (decodeBytes(*header, stored) > photoMemoryLimit) {
-        return {};
-    }
-    QImage image = read(reader, *header, stored);
-    if (image.isNull() || file.exhausted()) {
+    const QSize stored = header.stored(target);
+    QImage image = read(reader, header, stored);
+    if (image.isNull()) {
         return {};
     }
     if (image.size() != stored) {
@@ -100,19 +132,9 @@ QImage Photo::decodeFilling(QSize target) const {
     if (space.isValid() && space != QColorSpace(QColorSpace::SRgb)) {
         image.convertToColorSpace(QColorSpace::SRgb);
     }
-    image = upright(opaque(std::move(image)), header->orientation);
+    image = upright(opaque(std::move(image)), header.orientation);
     image.setColorSpace({});
     return image;
-}
-
-std::optional<Photo> inspectPhoto(const QString& path) {
-    PhotoFile file(path, headerBounds);
-    QImageReader reader;
-    const auto header = readPhotoHeader(file, reader);
-    if (!header || decodeBytes(*header, largestShown) > photoMemoryLimit) {
-        return std::nullopt;
-    }
-    return Photo{path};
 }
 
 } // namespace morrowleaf

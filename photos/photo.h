@@ -4,25 +4,29 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
-#include <QString>
 
-#include <optional>
+class QIODevice;
 
 namespace morrowleaf {
 
-// A photo that can be decoded. Contains no pixels.
-struct Photo {
-    QString path;
+// Decoding, which trusts no file: for the program that reads photos and for tools, never
+// for the program that the user sees. Both functions read a device that is open and at its
+// start, and may take seconds and much memory.
 
-    // Decodes the picture so that it fills `target` (pixels): cropped about its centre,
-    // upright, in sRGB, opaque (Format_RGB32, over black). Null on failure. May take
-    // seconds. Any thread.
-    QImage decodeFilling(QSize target) const;
-};
+inline constexpr qint64 photoMemoryLimit = Q_INT64_C(512) << 20; // bytes, of one picture
 
-// Inspects only the header of the photo at `path`. std::nullopt unless it is a regular
-// file of a known format that can be decoded within the memory limit. Any thread.
-[[nodiscard]] std::optional<Photo> inspectPhoto(const QString& path);
+// The size of the picture in pixels, upright, according to its header. Empty unless it is
+// a picture of a known format.
+[[nodiscard]] QSize readPhotoSize(QIODevice& device);
+
+// Decodes the picture so that it fills `target` (pixels): cropped about its centre,
+// upright, in sRGB, opaque (Format_RGB32, over black). Null on failure.
+[[nodiscard]] QImage decodePhoto(QIODevice& device, const QSize& target);
+
+// The part of a stored picture, about its centre, with the aspect ratio of `target`
+// (pixels).
+QRect fillingCrop(const QSize& stored, const QSize& target);
 
 } // namespace morrowleaf

@@ -3,7 +3,7 @@
 
 #include "photos/photoimport.h"
 
-#include "photos/photo.h"
+#include "photos/photoreaders.h"
 #include "platform/files.h"
 
 #include <QFile>
@@ -45,15 +45,10 @@ bool copyBytes(QFile& from, QFile& to, const StopToken& stop) {
     return false;
 }
 
-bool isUsable(const QString& path) {
-    const auto photo = inspectPhoto(path);
-    return photo && !photo->decodeFilling(trialSize).isNull();
-}
-
 } // namespace
 
-PhotoImport::PhotoImport(QThreadPool& workers, Copy copy)
-    : workers_(workers)
+PhotoImport::PhotoImport(PhotoReaders& readers, Copy copy)
+    : readers_(readers)
     , copy_(std::move(copy))
     , copiers_(std::make_unique<QThreadPool>()) {
     copiers_->setMaxThreadCount(copyLimit);
@@ -64,7 +59,7 @@ PhotoImport::PhotoImport(QThreadPool& workers, Copy copy)
 
 PhotoImport::~PhotoImport() {
     for (Request& request : requests_) {
-        request.job = {};
+        request.copying = {};
     }
     if (!copiers_->waitForDone(shutdownTimeout)) {
         static_cast<void>(copiers_.release()); // its destructor would wait
@@ -77,24 +72,29 @@ PhotoImport::~PhotoImport() {
 // Inspects the source before copying it, so that a huge file that is not a picture is not
 // copied. The copy decides, because the source may have changed.
 void PhotoImport::start(const QString& source, const QString& destination, Done done) {
-    requests_.push_back({++lastNumber_, destination, std::move(done), {}});
+    requests_.push_back({++lastNumber_, destination, std::move(done), {}, {}});
     const auto request = std::prev(requests_.end());
-    request->job = Job(
+    request->reading = readers_.inspect(source, [this, request, source](const QSize& size) {
+        size.isEmpty() ? finish(request, false) : copy(request, source);
+    });
+}
+
+void PhotoImport::copy(Requests::iterator request, const QString& source) {
+    request->copying = Job(
         *copiers_,
-        [source, destination, copy = copy_](const StopToken& stop) {
-            return inspectPhoto(source) && copy(source, destination, stop);
+        [source, destination = request->destination, copy = copy_](const StopToken& stop) {
+            return copy(source, destination, stop);
         },
         [this, request](bool copied) { copied ? check(request) : finish(request, false); });
 }
 
 void PhotoImport::check(Requests::iterator request) {
-    request->job = Job(
-        workers_, [copy = request->destination](const StopToken&) { return isUsable(copy); },
-        [this, request](bool usable) {
-            if (!usable) {
+    request->reading =
+        readers_.decode(request->destination, trialSize, [this, request](const QImage& picture) {
+            if (picture.isNull()) {
                 QFile::remove(request->destination);
             }
-            finish(request, usable);
+            finish(request, !picture.isNull());
         });
 }
 
@@ -117,7 +117,8 @@ void PhotoImport::cancel() {
         cancelled.splice(cancelled.end(), requests_, requests_.begin());
     }
     for (Request& request : cancelled) {
-        request.job = {};
+        request.reading = {};
+        request.copying = {};
         QFile::remove(request.destination); // the copying may take a while to notice
         request.done(false);
     }

@@ -5,6 +5,7 @@
 
 #include "base/job.h"
 #include "base/stoptoken.h"
+#include "platform/readers.h"
 
 #include <QString>
 #include <QTimer>
@@ -17,6 +18,8 @@
 class QThreadPool;
 
 namespace morrowleaf {
+
+class PhotoReaders;
 
 // Copies a regular file of up to 512 MB byte for byte to a new file that only the user
 // may read. Returns false and leaves no copy on failure or if `stop` is requested. An
@@ -36,8 +39,8 @@ public:
     using Copy = std::function<bool(const QString& source, const QString& destination,
                                     const StopToken& stop)>;
 
-    // `workers` decode the copies and must outlive the import. Several threads call `copy`.
-    explicit PhotoImport(QThreadPool& workers, Copy copy = copyPhotoFile);
+    // `readers` look at the photos and must outlive the import. Several threads call `copy`.
+    explicit PhotoImport(PhotoReaders& readers, Copy copy = copyPhotoFile);
     ~PhotoImport();
     PhotoImport(const PhotoImport&) = delete;
     PhotoImport& operator=(const PhotoImport&) = delete;
@@ -55,15 +58,17 @@ private:
         int number;
         QString destination;
         Done done;
-        Job job;
+        Reading reading;
+        Job copying;
     };
     using Requests = std::list<Request>;
 
+    void copy(Requests::iterator request, const QString& source);
     void check(Requests::iterator request);
     void finish(Requests::iterator request, bool usable);
     void cancel();
 
-    QThreadPool& workers_;
+    PhotoReaders& readers_;
     Copy copy_;
     std::unique_ptr<QThreadPool> copiers_;
     Requests requests_; // in progress

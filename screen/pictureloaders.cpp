@@ -8,20 +8,13 @@
 
 namespace morrowleaf {
 
-namespace {
-constexpr int beforeThumbnails = 1; // priority of the job
-}
-
 PhotoLoader::PhotoLoader(BGStore& photos, QObject* parent)
     : QObject(parent)
-    , photos_(photos) {
-    photos_.forgetFailures(); // each showing tries again
-}
+    , photos_(photos) {}
 
 void PhotoLoader::setPhoto(const QString& path, QSize pixels) {
-    const std::shared_ptr<const Photo> photo = path.isEmpty() ? nullptr : photos_.image(path);
-    readable_ = photo != nullptr;
-    if (!photo || pixels.isEmpty()) {
+    if (path.isEmpty() || pixels.isEmpty()) {
+        readable_ = !path.isEmpty();
         path_.clear();
         size_ = {};
         pixels_ = {};
@@ -32,25 +25,19 @@ void PhotoLoader::setPhoto(const QString& path, QSize pixels) {
     if (path == path_ && pixels == size_) {
         return;
     }
+    readable_ = readable_ || path != path_;
     path_ = path;
     size_ = pixels;
     if (pixels_.size() != pixels) {
         pixels_ = {};
     }
-    decoding_ = Job(
-        photos_.workers(),
-        [photo, pixels](const StopToken&) { return photo->decodeFilling(pixels); },
-        [this](const QImage& image) { take(image); }, beforeThumbnails);
+    decoding_ =
+        photos_.readers().decode(path, pixels, [this](const QImage& image) { take(image); });
 }
 
 void PhotoLoader::take(const QImage& image) {
-    if (image.isNull()) {
-        photos_.markUnreadable(path_);
-        readable_ = false;
-        path_.clear();
-        size_ = {};
-    }
-    replaced_ = image.isNull() ? QImage() : pixels_;
+    readable_ = !image.isNull();
+    replaced_ = readable_ ? pixels_ : QImage();
     pixels_ = image;
     emit changed();
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/job.h"
+#include "platform/readers.h"
 
 #include <QImage>
 #include <QObject>
@@ -19,8 +20,9 @@ namespace morrowleaf {
 class BGStore;
 struct Glass;
 
-// The photo of one quote screen. It is decoded on a worker thread at the size
-// shown, and its pixels are kept while it is wanted.
+// The photo of one quote screen. A reader program decodes it at the size shown, and its
+// pixels are kept while it is wanted. A photo that cannot be decoded is tried again when
+// it is wanted anew.
 class PhotoLoader : public QObject {
     Q_OBJECT
 
@@ -53,7 +55,7 @@ private:
     QSize size_;
     QImage pixels_;
     QImage replaced_;
-    Job decoding_;
+    Reading decoding_;
 };
 
 // The glass for one captured picture: made on a worker thread when it is first

@@ -48,22 +48,12 @@ QImage Thumbnails::picture(const QString& path, QSize size) {
         known != thumbnails_.end() && known->second.size == size) {
         return known->second.picture;
     }
-    const auto photo = photos_.image(path);
-    if (!photo) {
-        return {};
-    }
-    const auto decode = [photo, size](const StopToken&) { return photo->decodeFilling(size); };
-    const auto done = [this, path](const QImage& picture) { take(path, picture); };
-    thumbnails_[path] = {size, {}, Job(photos_.workers(), decode, done)};
+    thumbnails_[path] = {
+        size, {}, photos_.readers().decode(path, size, [=, this](const QImage& picture) {
+            thumbnails_[path].picture = picture;
+            emit ready(path);
+        })};
     return {};
-}
-
-void Thumbnails::take(const QString& path, const QImage& picture) {
-    if (picture.isNull()) {
-        photos_.markUnreadable(path);
-    }
-    thumbnails_[path].picture = picture;
-    emit ready(path);
 }
 
 PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& chooser,

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "base/job.h"
+#include "platform/readers.h"
 
 #include <QFont>
 #include <QImage>
@@ -20,8 +20,8 @@ class PhotoChooser;
 class PhotoSwatch;
 class SettingsStore;
 
-// Small pictures of photos, decoded by a worker and cached at the exact size in which
-// they are drawn. The destructor does not wait for a decoder. Main thread.
+// Small pictures of photos, decoded by a reader program and cached at the exact size in
+// which they are drawn. One that cannot be decoded is not tried again. Main thread.
 class Thumbnails : public QObject {
     Q_OBJECT
 
@@ -39,10 +39,8 @@ private:
     struct Thumbnail {
         QSize size;
         QImage picture; // null while it is being decoded, and if that failed
-        Job decoding;
+        Reading decoding;
     };
-
-    void take(const QString& path, const QImage& picture);
 
     BGStore& photos_;
     std::unordered_map<QString, Thumbnail> thumbnails_; // by path

@@ -3,7 +3,8 @@
 
 // Draws frames of the quote screen without a display, for viewing and comparing.
 #include "backdrop/backdrop.h"
-#include "photos/bgstore.h"
+#include "photos/photo.h"
+#include "platform/files.h"
 #include "quotes/schedule.h"
 #include "screen/quotescreen.h"
 #include "screen/quoteview.h"
@@ -20,7 +21,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <algorithm>
@@ -143,6 +143,11 @@ QImage contactSheet(const QList<QImage>& pictures, const QStringList& captions, 
     return sheet;
 }
 
+QImage readPhoto(const QString& path, const QSize& size) {
+    QFile file;
+    return openRegularFile(file, path) ? decodePhoto(file, size) : QImage();
+}
+
 void save(const QImage& picture, const QString& path) {
     if (!picture.save(path)) {
         fail("cannot write "_L1 + path);
@@ -164,8 +169,6 @@ int main(int argc, char** argv) {
     SettingsStore store;
     readSettings(parser, store);
     const QString resources = parser.value(u"resources"_s);
-    const QTemporaryDir nowhere;
-    BGStore photos(store, resources + "/Backgrounds"_L1, nowhere.path());
     FontBook fonts;
     fonts.registerBundledFonts(resources + "/Fonts"_L1);
 
@@ -180,12 +183,11 @@ int main(int argc, char** argv) {
     state.quote = parser.isSet(u"quote"_s)
                       ? Quote{parser.value(u"quote"_s), parser.value(u"author"_s)}
                       : quoteOfTheDay(state.moment);
-    const std::shared_ptr<const Photo> photo = photos.image(state.settings.bgImagePath);
-    state.palette = viewPalette(state.settings, photo != nullptr, state.moment);
-    BackdropState backdrop = backdropFor(state.settings, state.palette, photo != nullptr);
-    if (photo) {
-        backdrop.photo = photo->decodeFilling((state.size * state.devicePixelRatio).toSize());
-    }
+    const QImage photo =
+        readPhoto(state.settings.bgImagePath, (state.size * state.devicePixelRatio).toSize());
+    state.palette = viewPalette(state.settings, !photo.isNull(), state.moment);
+    BackdropState backdrop = backdropFor(state.settings, state.palette, !photo.isNull());
+    backdrop.photo = photo;
 
     const QuoteView view(state, fonts);
     BackdropPainter painter;

@@ -16,7 +16,6 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QThreadPool>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -214,7 +213,6 @@ TEST_F(BGStoreTest, RefusesWhatIsNotARegularFileAtOnce) {
     for (const QString& source :
          {pipe, door, folder.path(), u"/dev/zero"_s, path(u"missing"_s), QString()}) {
         EXPECT_EQ(add(source), QString()) << source.toStdString();
-        EXPECT_EQ(photos->image(source), nullptr);
     }
     ::close(fd);
     EXPECT_EQ(ownFiles(), QStringList());
@@ -233,24 +231,6 @@ TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCopy) {
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
-TEST_F(BGStoreTest, DoesNotUseTheGlobalPool) {
-    const QString source = picture(u"a.png"_s, "png", {3000, 2000});
-    QThreadPool workers;
-    photos = std::make_unique<BGStore>(store, QString(), own, workers);
-    QThreadPool::globalInstance()->waitForDone();
-    start(source);
-    EXPECT_EQ(QThreadPool::globalInstance()->activeThreadCount(), 0);
-    // A worker decodes the copy.
-    QElapsedTimer since;
-    since.start();
-    while (workers.activeThreadCount() == 0 && since.elapsed() < 60'000) {
-        QCoreApplication::processEvents();
-    }
-    EXPECT_EQ(workers.activeThreadCount(), 1);
-    await(1);
-    EXPECT_EQ(listed().size(), 1);
-}
-
 TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCheck) {
     const QString source = picture(u"a.png"_s, "png", {6000, 4000});
     const qint64 size = QFileInfo(source).size();
@@ -264,12 +244,14 @@ TEST_F(BGStoreTest, LeavesNoFileWhenDestroyedDuringTheCheck) {
         return std::count_if(files.begin(), files.end(),
                              [&](const QFileInfo& file) { return file.size() == size; });
     };
+    // Before its check a photo is inspected and copied.
     while (copied() < 2 && since.elapsed() < 60'000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
     }
     ASSERT_EQ(copied(), 2);
+    ASSERT_TRUE(results.isEmpty());
     photos.reset();
     EXPECT_EQ(ownFiles(), QStringList());
-    QThreadPool::globalInstance()->waitForDone();
     QCoreApplication::processEvents();
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_TRUE(results.isEmpty());
@@ -280,7 +262,6 @@ TEST_F(BGStoreTest, RefusesAFileAboveTheSizeLimit) {
     const QString source = picture(u"a.png"_s);
     QFile file(source);
     ASSERT_TRUE(file.resize((Q_INT64_C(512) << 20) + 1)); // sparse
-    ASSERT_NE(photos->image(source), nullptr);
     EXPECT_EQ(add(source), QString());
     EXPECT_EQ(ownFiles(), QStringList());
     EXPECT_FALSE(store.value(K::customBGs).has_value());
@@ -319,12 +300,10 @@ TEST_F(BGStoreTest, RemovingTheChosenPhotoDropsTheChoice) {
     EXPECT_EQ(ownFiles(), QStringList());
 }
 
-TEST_F(BGStoreTest, RemovesAFileThatIsNotListedAndItsCachedObject) {
+TEST_F(BGStoreTest, RemovesAFileThatIsNotListed) {
     const QString outside = picture(u"outside.png"_s);
-    ASSERT_NE(photos->image(outside), nullptr);
     photos->remove(outside);
     EXPECT_FALSE(QFile::exists(outside));
-    EXPECT_EQ(photos->image(outside), nullptr);
     EXPECT_EQ(store.value(K::customBGs), QJsonValue(QJsonArray()));
 }
 
@@ -366,32 +345,6 @@ TEST_F(BGStoreTest, ListsNoBuiltinsWithoutAFolder) {
 TEST(BGStoreDeathTest, NeedsAFolderForOwnPhotos) {
     SettingsStore store;
     EXPECT_DEATH(BGStore(store, QString(), QString()), "no folder for the user's own photos");
-}
-
-TEST_F(BGStoreTest, GivesTheSameImageWithoutReadingAgain) {
-    const QString file = picture(u"a.png"_s);
-    const auto first = photos->image(file);
-    ASSERT_NE(first, nullptr);
-    EXPECT_TRUE(QFile::remove(file));
-    EXPECT_EQ(photos->image(file), first);
-}
-
-TEST_F(BGStoreTest, DoesNotCacheFailures) {
-    const QString file = textFile(u"a.png"_s);
-    EXPECT_EQ(photos->image(file), nullptr);
-    picture(u"a.png"_s);
-    EXPECT_NE(photos->image(file), nullptr);
-    EXPECT_EQ(photos->image(QString()), nullptr);
-}
-
-TEST_F(BGStoreTest, AFailedDecodeMakesThePhotoUnreadableUntilItsFileChanges) {
-    const QString file = picture(u"a.png"_s);
-    ASSERT_NE(photos->image(file), nullptr);
-    photos->markUnreadable(file);
-    EXPECT_EQ(photos->image(file), nullptr);
-    EXPECT_EQ(photos->image(file), nullptr);
-    picture(u"a.png"_s, "png", {50, 60});
-    EXPECT_NE(photos->image(file), nullptr);
 }
 
 } // namespace

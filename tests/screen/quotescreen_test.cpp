@@ -196,10 +196,24 @@ TEST_F(QuoteScreens, FallsBackToTheMeshForAPhotoThatCannotBeDecoded) {
 }
 
 TEST_F(QuoteScreens, TriesAPhotoThatCouldNotBeDecodedAgainAtTheNextShowing) {
-    store.set(K::bgImage, lake);
-    ASSERT_NE(photos.image(lake), nullptr);
-    photos.markUnreadable(lake);
+    const QString late = folder.filePath(u"late.png"_s);
+    store.set(K::bgImage, late);
+    {
+        const auto screen = shown();
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return screen->view()->state().palette.name == u"Midnight"_s; }));
+        screen->resize(600, 400); // not a reason to expect it
+        ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view()->state().size.width() == 600; }));
+        EXPECT_EQ(screen->view()->state().palette.name, u"Midnight"_s);
+    }
+    QImage red(64, 64, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(late));
     const auto screen = shown();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        time += 1;
+        return screen->grab().toImage().pixelColor(320, 60).red() > 60;
+    }));
     EXPECT_EQ(screen->view()->state().palette.name, u"Photo"_s);
 }
 

@@ -95,6 +95,18 @@ TEST_F(InspectorTest, AnAddedPhotoIsNotCancelledOnceTheEditorIsOpenAgain) {
     EXPECT_EQ(Prefs::bgImage(store), Prefs::customBGs(store).first());
 }
 
+TEST_F(InspectorTest, APhotoThatCouldNotBeDecodedIsTriedAgainWhenTheEditorOpens) {
+    const QString own = folder.filePath(u"own.png"_s);
+    listOwn({own});
+    panel();
+    QTest::qWait(300);
+    EXPECT_FALSE(photoSwatches().last()->hasPicture());
+    closeEditor();
+    picture(u"own.png"_s);
+    panel();
+    EXPECT_TRUE(await([&] { return photoSwatches().last()->hasPicture(); }));
+}
+
 TEST_F(InspectorTest, OddNamesOfPhotosAreNoHindrance) {
     const QStringList names{u"\u05de\u05d5\u05e8\u05d9\u05d3 \u202e right to left.png"_s,
                             QString(80, QChar(0x4e2d)) + ".png"_L1, u"50% & <b>bold<b>\n#?.png"_s};

@@ -6,6 +6,7 @@
 
 #include "backdrop/backdrop.h"
 #include "photos/bgstore.h"
+#include "photos/photo.h"
 #include "platform/null/nullplatform.h"
 #include "settings/prefs.h"
 #include "settings/settingsstore.h"
@@ -141,11 +142,12 @@ int main(int argc, char** argv) {
     }
     draw(u"small"_s, state, {1024, 600});
     const QString photo = photos.builtins().value(0);
-    if (const auto found = photos.image(photo)) {
+    QFile file(photo);
+    if (file.open(QIODevice::ReadOnly)) {
         state.palette = Palette::photo();
         state.hasPhoto = true;
         store.set(K::bgImage, photo);
-        state.photo = found->decodeFilling(QSize(900, 982) * app.devicePixelRatio());
+        state.photo = decodePhoto(file, QSize(900, 982) * app.devicePixelRatio());
         draw(u"photo"_s, state, {900, 982});
         draw(u"tall"_s, state, {900, 1300});
     }
