@@ -32,6 +32,17 @@ if command -v strace >/dev/null; then
     check "with its own typefaces" grep -q "elsewhere/.*Fraunces72pt-Light.ttf" "$work/trace.log"
 fi
 
+# reads NAME REQUEST SIZE: the installed reader answers the request
+reads() {
+    truncate -s "$3" "$work/answer"
+    printf '%s\n' "$2" | "$work/elsewhere/libexec/morrowleaf/$1" 5 5<>"$work/answer"
+}
+printf '{"q": "A line."}' >"$work/quote"
+check "it has a reader of quotations" reads quotereader "$work/quote" 1000
+check "which reads them" grep -qF "A line." "$work/answer"
+check "it has a reader of photos" \
+    reads photoreader "16 16 $work/elsewhere/share/morrowleaf/Backgrounds/sea.jpg" 1024
+
 registered() { XDG_CONFIG_HOME=$1 "$work/elsewhere/bin/morrowleaf" --register-login; }
 check "the login item is enabled" [ "$(registered "$work/config")" = "login item: enabled" ]
 check "and starts this program" \
