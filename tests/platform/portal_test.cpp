@@ -201,12 +201,15 @@ TEST_F(PortalTest, CancelledByTheUserOrWithoutALocalFile) {
     ASSERT_TRUE(dialogOpens());
     portal->respond(1, {});
     EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
-    answer.reset();
-    portal->dialog.path.clear();
-    ask();
-    ASSERT_TRUE(dialogOpens());
-    portal->respond(0, {u"https://example.org/a.png"_s});
-    EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled));
+    for (const QString& address : {u"https://example.org/a.png"_s, u"file:a.png"_s,
+                                   u"file://elsewhere/a.png"_s, u"file:///a%00.png"_s}) {
+        answer.reset();
+        portal->dialog.path.clear();
+        ask();
+        ASSERT_TRUE(dialogOpens());
+        portal->respond(0, {address});
+        EXPECT_TRUE(isAnswered(FileAnswer::Kind::Cancelled)) << address.toStdString();
+    }
 }
 
 TEST_F(PortalTest, CancelledWhenThePortalVanishes) {

@@ -77,6 +77,11 @@ QString handleOf(const QWidget& window) {
                : QString();
 }
 
+// Of what QUrl takes for a path: an address may be relative, or have a host.
+bool isLocal(const QString& path) {
+    return path.startsWith(u'/') && !path.startsWith("//"_L1) && !path.contains(QChar(0));
+}
+
 // One question to the portal. It deletes itself once answered, and closes the
 // dialog when its parent, the window, goes.
 class PortalRequest : public FileRequest {
@@ -147,8 +152,10 @@ private:
         const QString path = code == success && !addresses.isEmpty()
                                  ? QUrl(addresses.first(), QUrl::StrictMode).toLocalFile()
                                  : QString();
-        return {.kind = path.isEmpty() ? FileAnswer::Kind::Cancelled : FileAnswer::Kind::Chosen,
-                .path = path};
+        if (!isLocal(path)) {
+            return {.kind = FileAnswer::Kind::Cancelled, .path = {}};
+        }
+        return {.kind = FileAnswer::Kind::Chosen, .path = path};
     }
 
     void giveUp() {
