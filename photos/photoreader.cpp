@@ -36,7 +36,11 @@ bool answerPixels(QFile& file, const QSize& size, std::span<char> answer) {
     if (image.isNull() || answer.size() != static_cast<std::size_t>(image.sizeInBytes())) {
         return false;
     }
-    std::copy_n(reinterpret_cast<const char*>(image.constBits()), answer.size(), answer.data());
+    // What a decoder leaves in the fourth byte of a pixel without alpha is its own affair.
+    const auto* const from = reinterpret_cast<const quint32*>(image.constBits());
+    std::transform(from, from + answer.size() / photoPixelBytes,
+                   reinterpret_cast<quint32*>(answer.data()),
+                   [](quint32 pixel) { return pixel | 0xff000000; });
     return true;
 }
 

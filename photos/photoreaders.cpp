@@ -51,7 +51,8 @@ Reading PhotoReaders::decode(const QString& path, const QSize& size,
         possible ? qsizetype{photoPixelBytes} * size.width() * size.height() : 0;
     return readers_.read(wish(path, size, bytes),
                          [size, done = std::move(done)](const AnswerBytes& answer) {
-                             done(answer ? imageIn(answer, size) : QImage());
+                             const bool usable = answer && areOpaque(answer.view());
+                             done(usable ? imageIn(answer, size) : QImage());
                          });
 }
 

@@ -4,9 +4,11 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QSize>
 #include <QString>
 
+#include <cstring>
 #include <optional>
 
 namespace morrowleaf {
@@ -36,6 +38,17 @@ inline std::optional<PhotoRequest> parsePhotoRequest(const QByteArray& request) 
     return PhotoRequest{
         {request.first(first).toInt(), request.sliced(first + 1, second - first - 1).toInt()},
         QString::fromUtf8(request.sliced(second + 1))};
+}
+
+// Whether all pixels are as they must be: others would make holes in a window.
+inline bool areOpaque(QByteArrayView pixels) {
+    quint32 common = ~quint32{0};
+    for (qsizetype at = 0; at + photoPixelBytes <= pixels.size(); at += photoPixelBytes) {
+        quint32 pixel = 0;
+        std::memcpy(&pixel, pixels.data() + at, photoPixelBytes);
+        common &= pixel;
+    }
+    return common >= 0xff000000;
 }
 
 } // namespace morrowleaf

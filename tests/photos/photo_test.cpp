@@ -115,6 +115,18 @@ protected:
     std::optional<PhotoReaders> readers{std::in_place};
 };
 
+TEST_F(PhotoTest, IsNothingIfItsReaderAnswersNonsense) {
+    const auto answer = [this](const QByteArray& commands) {
+        const QString script = file("#!/bin/sh\n" + commands);
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
+        readers.emplace(script);
+        return decode(file({}), {2, 2});
+    };
+    EXPECT_EQ(answer("printf '%16s' '' | tr ' ' '\\377' >&$1").pixel(1, 1), 0xffffffff);
+    EXPECT_TRUE(answer("printf '%15s' '' | tr ' ' '\\377' >&$1").isNull()); // one is transparent
+    EXPECT_TRUE(answer("exit 1").isNull());
+}
+
 TEST_F(PhotoTest, FillsTheTargetCroppedAboutTheCentre) {
     const QImage wide = filling(encoded(quarters({400, 100}), "png"), {50, 50});
     ASSERT_EQ(wide.size(), QSize(50, 50));
