@@ -7,6 +7,9 @@
 
 extern "C" {
 // The generated C uses this keyword as the name of a parameter.
+#if defined(__clang__)
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define namespace ns_
 #include "wlr-layer-shell-unstable-v1.h"
 #undef namespace

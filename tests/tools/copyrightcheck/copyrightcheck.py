@@ -33,7 +33,8 @@ QUOTES_OTHERS = {
     "docs/recipes/build_fraunces.py",
     "tests/tools/copyrightcheck/copyrightcheck_test.py",
 }
-BINARY = {".png", ".jpg", ".ttf", ".otf"}
+BINARY = {".bmp", ".gif", ".icns", ".ico", ".jpg", ".otf", ".pgm", ".png", ".ppm", ".tga", ".tiff",
+          ".ttf", ".wbmp", ".webp"}
 NO_LICENCE, NO_HOLDER = "UNKNOWN", "*No copyright*"
 # Code with the word "copyright", which licensecheck mistakes for a holder.
 CODE = re.compile(r"[a-z(]|\d{1,3}:|.*[${};=]")
