@@ -6,7 +6,9 @@
 Prints one line, "http IPv4 port, http IPv6 port, port that never accepts, https port,
 file of its certificate", then one line for each request, and serves until its standard
 input is closed. The path of a request names the behaviour, without what follows a "?";
-"/redirect/N" redirects N times before the quotation.
+"/redirect/N" redirects N times before the quotation, "/via/NAME" once before the
+behaviour. With the argument "--list" it
+prints the names of all behaviours instead.
 """
 import gzip
 import os
@@ -438,6 +440,9 @@ def serve(conn):
         path = request.split(b" ")[1].decode().lstrip("/")
         sys.stdout.write(path + "\n")
         sys.stdout.flush()
+        if path.startswith("via/"):
+            redirect(conn, path[3:])
+            return
         path = path.partition("?")[0]
         if path.startswith("redirect/"):
             left = int(path[9:])
@@ -502,6 +507,9 @@ def listen_without_accepting():
 
 
 def main():
+    if sys.argv[1:] == ["--list"]:
+        print(*BEHAVIOURS, sep="\n")
+        return
     full = listen_without_accepting()
     with tempfile.TemporaryDirectory() as folder:
         certificate, context = make_certificate(folder)
