@@ -61,6 +61,11 @@ function(morrowleaf_library name)
   endif()
 endfunction()
 
+# What a backend needs to confine a program. Programs that do not confine themselves need
+# not load it.
+add_library(morrowleaf_jail INTERFACE)
+target_link_libraries(morrowleaf_jail INTERFACE morrowleaf_system)
+
 # morrowleaf_reader(NAME SOURCES file... LIBRARIES target...)
 # A program that reads what strangers wrote, for morrowleaf and for tests. They look for it
 # in ../libexec/morrowleaf beside their own folder, installed or not.
@@ -68,7 +73,7 @@ add_custom_target(readers)
 function(morrowleaf_reader name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
   add_executable(${name} ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} morrowleaf_jail)
   set_target_properties(${name} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/libexec/morrowleaf)
   add_dependencies(readers ${name})

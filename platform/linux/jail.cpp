@@ -31,15 +31,11 @@
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
-#include <utility>
-#include <vector>
 
 #include <fcntl.h>
-#include <linux/audit.h>
-#include <linux/filter.h>
 #include <linux/landlock.h>
-#include <linux/seccomp.h>
 #include <sched.h>
+#include <seccomp.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
@@ -137,155 +133,99 @@ int setFileRules(JailKind kind, const QList<QByteArray>& readable) {
 
 // ---- Refused calls
 
-#if defined(__x86_64__)
-constexpr std::uint32_t architecture = AUDIT_ARCH_X86_64;
-#elif defined(__aarch64__)
-constexpr std::uint32_t architecture = AUDIT_ARCH_AARCH64;
-#else
-constexpr std::uint32_t architecture = 0; // not tried anywhere else, so there is no filter
-#endif
-
-constexpr std::uint32_t allowed = SECCOMP_RET_ALLOW;
-
-constexpr std::uint32_t refusedWith(int error) {
-    return SECCOMP_RET_ERRNO | static_cast<std::uint32_t>(error);
-}
-
-// A program for the kernel, which runs it at every call with the call's number and
-// arguments.
-class Filter {
-public:
-    Filter() {
-        load(offsetof(seccomp_data, arch));
-        // Under another architecture the numbers mean other calls.
-        unless(BPF_JEQ, architecture, SECCOMP_RET_KILL_PROCESS);
-        load(offsetof(seccomp_data, nr));
-#if defined(__x86_64__)
-        // So they do in the second numbering of this one.
-        constexpr std::uint32_t secondNumbering = 0x40000000;
-        when(BPF_JGE, secondNumbering, SECCOMP_RET_KILL_PROCESS);
-#endif
-    }
-
-    void refuse(long call, int error = EPERM) {
-        when(BPF_JEQ, static_cast<std::uint32_t>(call), refusedWith(error));
-    }
-
-    // Refuses `call` unless its argument is one of `values`.
-    void refuseUnlessOneOf(long call, std::size_t argument, const std::vector<int>& values,
-                           int error) {
-        std::vector<sock_filter> of;
-        std::swap(of, code_);
-        loadArgument(argument);
-        for (const int value : values) {
-            when(BPF_JEQ, static_cast<std::uint32_t>(value), allowed);
-        }
-        end(refusedWith(error));
-        insertFor(call, of);
-    }
-
-    // Refuses `call` unless its argument has this bit.
-    void refuseWithout(long call, std::size_t argument, std::uint32_t bit) {
-        std::vector<sock_filter> of;
-        std::swap(of, code_);
-        loadArgument(argument);
-        when(BPF_JSET, bit, allowed);
-        end(refusedWith(EPERM));
-        insertFor(call, of);
-    }
-
-    // Returns whether the filter is in force, for all threads.
-    bool install() {
-        end(allowed);
-        const sock_fprog program{static_cast<unsigned short>(code_.size()), code_.data()};
-        return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_TSYNC,
-                         &program) == 0;
-    }
-
-private:
-    void load(std::size_t offset) {
-        code_.push_back(BPF_STMT(BPF_LD | BPF_W | BPF_ABS, static_cast<std::uint32_t>(offset)));
-    }
-    // The lower half, which both architectures store first; the upper one never matters.
-    void loadArgument(std::size_t number) {
-        load(offsetof(seccomp_data, args) + number * sizeof(std::uint64_t));
-    }
-    void end(std::uint32_t verdict) {
-        code_.push_back(BPF_STMT(BPF_RET | BPF_K, verdict));
-    }
-    void jump(int comparison, std::uint32_t value, std::size_t then, std::size_t otherwise) {
-        code_.push_back(BPF_JUMP(static_cast<std::uint16_t>(BPF_JMP | comparison | BPF_K), value,
-                                 static_cast<std::uint8_t>(then),
-                                 static_cast<std::uint8_t>(otherwise)));
-    }
-    void when(int comparison, std::uint32_t value, std::uint32_t verdict) {
-        jump(comparison, value, 0, 1);
-        end(verdict);
-    }
-    void unless(int comparison, std::uint32_t value, std::uint32_t verdict) {
-        jump(comparison, value, 1, 0);
-        end(verdict);
-    }
-    // Appends what has been collected, to be run for `call` only, to `before`.
-    void insertFor(long call, std::vector<sock_filter>& before) {
-        const std::vector<sock_filter> block = std::exchange(code_, std::move(before));
-        jump(BPF_JEQ, static_cast<std::uint32_t>(call), 0, block.size());
-        code_.insert(code_.end(), block.begin(), block.end());
-    }
-
-    std::vector<sock_filter> code_;
-};
-
 // Without a use in any reader, and each a way to other processes or into the kernel.
 constexpr std::array refusedCalls{
     // other programs, and looking into other processes
-    SYS_execve, SYS_execveat, SYS_ptrace, SYS_process_vm_readv, SYS_process_vm_writev,
-    SYS_pidfd_open, SYS_pidfd_getfd, SYS_kcmp, SYS_process_madvise,
+    SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(ptrace), SCMP_SYS(process_vm_readv),
+    SCMP_SYS(process_vm_writev), SCMP_SYS(pidfd_open), SCMP_SYS(pidfd_getfd), SCMP_SYS(kcmp),
+    SCMP_SYS(process_madvise),
     // what slows others down or moves them about
-    SYS_setpriority, SYS_ioprio_set, SYS_sched_setscheduler, SYS_sched_setparam, SYS_sched_setattr,
-    SYS_sched_setaffinity, SYS_migrate_pages, SYS_move_pages,
+    SCMP_SYS(setpriority), SCMP_SYS(ioprio_set), SCMP_SYS(sched_setscheduler),
+    SCMP_SYS(sched_setparam), SCMP_SYS(sched_setattr), SCMP_SYS(sched_setaffinity),
+    SCMP_SYS(migrate_pages), SCMP_SYS(move_pages),
     // signals; an abort ends the process even so
-    SYS_kill, SYS_tkill, SYS_tgkill, SYS_rt_sigqueueinfo, SYS_rt_tgsigqueueinfo,
-    SYS_pidfd_send_signal,
+    SCMP_SYS(kill), SCMP_SYS(tkill), SCMP_SYS(tgkill), SCMP_SYS(rt_sigqueueinfo),
+    SCMP_SYS(rt_tgsigqueueinfo), SCMP_SYS(pidfd_send_signal),
     // memory and queues that other processes share, among them the display's
-    SYS_shmget, SYS_shmat, SYS_shmctl, SYS_msgget, SYS_semget, SYS_mq_open,
+    SCMP_SYS(shmget), SCMP_SYS(shmat), SCMP_SYS(shmctl), SCMP_SYS(msgget), SCMP_SYS(semget),
+    SCMP_SYS(mq_open),
     // waiting for connections
-    SYS_listen, SYS_accept, SYS_accept4,
+    SCMP_SYS(listen), SCMP_SYS(accept), SCMP_SYS(accept4),
     // large and young parts of the kernel
-    SYS_io_uring_setup, SYS_io_uring_enter, SYS_io_uring_register, SYS_bpf, SYS_userfaultfd,
-    SYS_perf_event_open, SYS_keyctl, SYS_add_key, SYS_request_key, SYS_fanotify_init,
-    SYS_name_to_handle_at, SYS_open_by_handle_at,
+    SCMP_SYS(io_uring_setup), SCMP_SYS(io_uring_enter), SCMP_SYS(io_uring_register), SCMP_SYS(bpf),
+    SCMP_SYS(userfaultfd), SCMP_SYS(perf_event_open), SCMP_SYS(keyctl), SCMP_SYS(add_key),
+    SCMP_SYS(request_key), SCMP_SYS(fanotify_init), SCMP_SYS(name_to_handle_at),
+    SCMP_SYS(open_by_handle_at),
     // what only root may do, which this may be
-    SYS_mount, SYS_umount2, SYS_pivot_root, SYS_chroot, SYS_unshare, SYS_setns, SYS_reboot,
-    SYS_swapon, SYS_swapoff, SYS_init_module, SYS_finit_module, SYS_delete_module, SYS_kexec_load,
-    SYS_acct, SYS_settimeofday, SYS_clock_settime, SYS_sethostname, SYS_setdomainname, SYS_quotactl,
-    SYS_personality};
+    SCMP_SYS(mount), SCMP_SYS(umount2), SCMP_SYS(pivot_root), SCMP_SYS(chroot), SCMP_SYS(unshare),
+    SCMP_SYS(setns), SCMP_SYS(reboot), SCMP_SYS(swapon), SCMP_SYS(swapoff), SCMP_SYS(init_module),
+    SCMP_SYS(finit_module), SCMP_SYS(delete_module), SCMP_SYS(kexec_load), SCMP_SYS(acct),
+    SCMP_SYS(settimeofday), SCMP_SYS(clock_settime), SCMP_SYS(sethostname), SCMP_SYS(setdomainname),
+    SCMP_SYS(quotactl), SCMP_SYS(personality)};
+
+// Collects what is refused, for all threads.
+class Filter {
+public:
+    Filter()
+        : rules_(seccomp_init(SCMP_ACT_ALLOW)) {
+        seccomp_attr_set(rules_, SCMP_FLTATR_CTL_TSYNC, 1);
+        // There the numbers of the calls mean others.
+        seccomp_attr_set(rules_, SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS);
+    }
+    ~Filter() { seccomp_release(rules_); }
+    Filter(const Filter&) = delete;
+    Filter& operator=(const Filter&) = delete;
+
+    void refuse(int call, int error = EPERM) {
+        seccomp_rule_add_array(rules_, SCMP_ACT_ERRNO(error), call, 0, nullptr);
+    }
+    // Only where the first argument compares so.
+    void refuseIf(int call, scmp_compare compare, scmp_datum_t a, scmp_datum_t b = 0,
+                  int error = EPERM) {
+        const scmp_arg_cmp first{0, compare, a, b};
+        seccomp_rule_add_array(rules_, SCMP_ACT_ERRNO(error), call, 1, &first);
+    }
+    // Returns whether the filter is in force.
+    bool install() { return seccomp_load(rules_) == 0; }
+
+private:
+    scmp_filter_ctx rules_; // null if there is no memory; every function fails then
+};
+
+// The comparisons are of 64 bits, of which the kernel reads half: so whatever is above the
+// highest kind is refused, too.
+void refuseOtherSockets(Filter& filter) {
+    // Netlink tells the resolver which addresses this machine has. Pairs of sockets within
+    // the process stay: libcurl wakes its threads with them.
+    constexpr std::array kinds{AF_INET, AF_INET6, AF_NETLINK};
+    constexpr int highest = AF_NETLINK;
+    for (int kind = 0; kind <= highest; ++kind) {
+        if (std::find(kinds.begin(), kinds.end(), kind) == kinds.end()) {
+            filter.refuseIf(SCMP_SYS(socket), SCMP_CMP_EQ, static_cast<scmp_datum_t>(kind), 0,
+                            EAFNOSUPPORT);
+        }
+    }
+    filter.refuseIf(SCMP_SYS(socket), SCMP_CMP_GT, highest, 0, EAFNOSUPPORT);
+}
 
 bool refuseCalls(JailKind kind) {
-    if (architecture == 0) {
-        return false;
-    }
     Filter filter;
-    for (const long call : refusedCalls) {
+    for (const int call : refusedCalls) {
         filter.refuse(call);
     }
     // Threads, but no processes. The younger call keeps its flags where no filter can see
     // them; a C library then falls back on the older one.
-#if defined(SYS_fork)
-    filter.refuse(SYS_fork);
-    filter.refuse(SYS_vfork);
-#endif
-    filter.refuse(SYS_clone3, ENOSYS);
-    filter.refuseWithout(SYS_clone, 0, CLONE_THREAD);
-    filter.refuseUnlessOneOf(SYS_prlimit64, 0, {0}, EPERM); // the limits of others
+    filter.refuse(SCMP_SYS(fork));
+    filter.refuse(SCMP_SYS(vfork));
+    filter.refuse(SCMP_SYS(clone3), ENOSYS);
+    filter.refuseIf(SCMP_SYS(clone), SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0);
+    filter.refuseIf(SCMP_SYS(prlimit64), SCMP_CMP_NE, 0); // the limits of others
     if (kind == JailKind::Web) {
-        // Netlink tells the resolver which addresses this machine has. Pairs of sockets
-        // within the process stay: libcurl wakes its threads with them.
-        filter.refuseUnlessOneOf(SYS_socket, 0, {AF_INET, AF_INET6, AF_NETLINK}, EAFNOSUPPORT);
+        refuseOtherSockets(filter);
     } else {
-        filter.refuse(SYS_socket);
-        filter.refuse(SYS_socketpair);
-        filter.refuse(SYS_connect);
+        filter.refuse(SCMP_SYS(socket));
+        filter.refuse(SCMP_SYS(socketpair));
+        filter.refuse(SCMP_SYS(connect));
     }
     return filter.install();
 }
