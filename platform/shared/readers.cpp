@@ -60,7 +60,7 @@ public:
             memory_ = AnswerMemory::make(wish_.answerSize);
         }
         if (!memory_) {
-            QTimer::singleShot(0, this, [this] { answer({}); });
+            timer_.start(0);
             return;
         }
         if (wish_.counted == ReaderWish::Counted::FromStart) {
@@ -89,6 +89,7 @@ public:
 
     // Ends everything but the object itself.
     void end() {
+        done_ = nullptr;
         timer_.stop();
         if (process_ != nullptr) {
             letGo(std::exchange(process_, nullptr));
@@ -105,8 +106,9 @@ private:
     }
 
     void answer(const AnswerBytes& bytes) {
+        const Readers::Done done = std::exchange(done_, nullptr);
         end();
-        if (const Readers::Done done = std::exchange(done_, nullptr)) {
+        if (done) {
             done(bytes); // may destroy this
         }
     }

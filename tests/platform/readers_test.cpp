@@ -139,6 +139,15 @@ TEST_F(ReadersTest, DestroyedReadersKillTheirOwn) {
     run(400ms);
 }
 
+TEST_F(ReadersTest, DestroyedReadersAnswerNoMore) {
+    auto readers = std::make_unique<Readers>(folder.filePath(u"missing"_s), 2);
+    const auto fail = [](const AnswerBytes&) { FAIL(); };
+    const Reading missing = readers->read(wish("x"), fail);
+    const Reading tooLong = readers->read(wish(QByteArray(readerRequestLimit + 1, 'x')), fail);
+    readers.reset();
+    run(50ms);
+}
+
 TEST_F(ReadersTest, TheNewestOfThoseThatWaitIsNext) {
     const QString reader = script("cat >>log; until [ -e go ]; do sleep 0.02; done");
     for (const int atOnce : {2, 1}) {
