@@ -4,6 +4,7 @@
 #include "sources/webload.h"
 
 #include "platform/network.h"
+#include "platform/readerside.h"
 #include "sources/sourcebytes.h"
 
 #include <QLibrary>
@@ -146,7 +147,9 @@ WebLoad::WebLoad(const QUrl& url)
     static constexpr std::array variables{"http_proxy", "https_proxy", "HTTPS_PROXY", "all_proxy",
                                           "ALL_PROXY",  "no_proxy",    "NO_PROXY"};
     if (std::none_of(variables.begin(), variables.end(), namesProxy)) {
-        transfer.set(CURLOPT_PROXY, desktopProxy(address).constData());
+        // The library asks the session, and might leave a door to it open.
+        const QByteArray proxy = askApart([&address] { return desktopProxy(address); });
+        transfer.set(CURLOPT_PROXY, proxy.constData());
     }
 }
 

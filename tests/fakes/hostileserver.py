@@ -7,8 +7,8 @@ Prints one line, "http IPv4 port, http IPv6 port, port that never accepts, https
 file of its certificate", then one line for each request, and serves until its standard
 input is closed. The path of a request names the behaviour, without what follows a "?";
 "/redirect/N" redirects N times before the quotation, "/via/NAME" once before the
-behaviour. With the argument "--list" it
-prints the names of all behaviours instead.
+behaviour. As a proxy it answers for every host. With the argument "--list" it prints the
+names of all behaviours instead.
 """
 import gzip
 import os
@@ -440,6 +440,8 @@ def serve(conn):
         path = request.split(b" ")[1].decode().lstrip("/")
         sys.stdout.write(path + "\n")
         sys.stdout.flush()
+        if path.startswith("http://"):
+            path = path[7:].partition("/")[2]
         if path.startswith("via/"):
             redirect(conn, path[3:])
             return

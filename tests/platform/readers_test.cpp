@@ -3,6 +3,8 @@
 
 #include "platform/readers.h"
 
+#include "platform/readerside.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -223,6 +225,27 @@ TEST_F(ReadersTest, TheAnswerOutlivesItsReaders) {
         loop.exec();
     }
     EXPECT_EQ(kept.view().toByteArray(), "12345678");
+}
+
+TEST(AskApart, LeavesNothingOpen) {
+    const auto openFiles = [] { return QDir(u"/proc/self/fd"_s).entryList().size(); };
+    const auto before = openFiles();
+    EXPECT_EQ(askApart([] {
+                  QFile file(u"/dev/null"_s);
+                  return QByteArray(file.open(QIODevice::ReadOnly) ? "a\nb" : "nothing");
+              }),
+              "a\nb");
+    EXPECT_EQ(openFiles(), before);
+}
+
+TEST(AskApart, IsEmptyWhateverGoesWrong) {
+    EXPECT_EQ(askApart([] {
+                  ::raise(SIGKILL);
+                  return QByteArray("a");
+              }),
+              "");
+    EXPECT_EQ(askApart([] { return QByteArray(5000, 'a'); }), "");
+    EXPECT_EQ(askApart([] { return QByteArray(); }), "");
 }
 
 } // namespace

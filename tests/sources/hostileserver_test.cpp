@@ -288,6 +288,41 @@ TEST_F(HostileServer, GetsNoCookieBack) {
     EXPECT_FALSE(text.contains("Cookie"_L1)) << text.toStdString();
 }
 
+TEST_F(HostileServer, IsReachedThroughTheProxyOfTheEnvironmentOrTheDesktop) {
+    const auto load = [this] {
+        morrowleaf::QuoteFetcher fetcher;
+        QEventLoop loop;
+        QString text;
+        fetcher.fetchQuote(u"http://nothing.invalid/ok"_s,
+                           [&](const std::optional<morrowleaf::Quote>& quote) {
+                               text = quote ? quote->text : u"nothing"_s;
+                               loop.quit();
+                           });
+        loop.exec();
+        return text;
+    };
+    const QByteArray proxy = "http://127.0.0.1:" + ports[0].toLatin1();
+    for (const char* variable : {"http_proxy", "https_proxy", "HTTPS_PROXY", "all_proxy",
+                                 "ALL_PROXY", "no_proxy", "NO_PROXY"}) {
+        qunsetenv(variable);
+    }
+    qputenv("LD_LIBRARY_PATH", DESKTOP_PROXY_FOLDER);
+    qputenv("DESKTOP_PROXY", proxy);
+    EXPECT_EQ(load(), u"A"_s);
+    qputenv("DESKTOP_PROXY", "direct://");
+    EXPECT_EQ(load(), u"nothing"_s);
+    qputenv("http_proxy", proxy);
+    EXPECT_EQ(load(), u"A"_s);
+    qputenv("http_proxy", "http://127.0.0.1:1");
+    EXPECT_EQ(load(), u"nothing"_s); // and no way around it
+    qputenv("no_proxy", "nothing.invalid");
+    EXPECT_EQ(load(), u"nothing"_s);
+    EXPECT_EQ(requests(u"http://nothing.invalid/ok"_s), 2);
+    for (const char* variable : {"http_proxy", "LD_LIBRARY_PATH", "DESKTOP_PROXY"}) {
+        qunsetenv(variable);
+    }
+}
+
 TEST_F(HostileServer, DisturbsNoOtherLoad) {
     morrowleaf::QuoteFetcher fetcher;
     QEventLoop loop;
