@@ -118,7 +118,7 @@ bool BGStore::list(const QString& copy) {
 
 void BGStore::remove(const QString& path) {
     if (!path.isEmpty()) {
-        QFile::remove(path);
+        import_->remove(path);
     }
     QStringList own = Prefs::customBGs(store_);
     own.removeAll(path);

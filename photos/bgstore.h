@@ -47,8 +47,8 @@ public:
     // Lets add() calls take as long as they need, until the last of the pointers that this
     // has returned is gone. What has not ended after `time` then is cancelled.
     [[nodiscard]] std::shared_ptr<void> awaitAdds(std::chrono::milliseconds time);
-    // Deletes the file and removes the photo from the list and, if it is chosen, from the
-    // settings. Ignores errors.
+    // Removes the photo from the list and, if it is chosen, from the settings, and deletes
+    // the file soon. Ignores errors.
     void remove(const QString& path);
     // The built-in photos, sorted by file name. Reads the folder at every call.
     QStringList builtins() const;

@@ -98,6 +98,10 @@ void PhotoImport::check(Requests::iterator request) {
         });
 }
 
+void PhotoImport::remove(const QString& path) {
+    copiers_->start([path] { QFile::remove(path); });
+}
+
 void PhotoImport::finish(Requests::iterator request, bool usable) {
     const Done done = std::move(request->done);
     requests_.erase(request);

@@ -27,8 +27,8 @@ class PhotoReaders;
 [[nodiscard]] bool copyPhotoFile(const QString& source, const QString& destination,
                                  const StopToken& stop);
 
-// Copies photos and checks that they can be decoded. The copies run beside each other, so
-// that one from a slow disk does not hold up the others.
+// Copies photos, checks that they can be decoded, and removes them. The copies run beside
+// each other, so that one from a slow disk does not hold up the others.
 //
 // The destructor removes copies that have not been reported. It takes up to 200 ms and
 // abandons threads that a file system still blocks then. Main thread.
@@ -48,6 +48,8 @@ public:
     // Copies `source` to the new file `destination`. Calls `done` later, on this thread;
     // false means that no copy exists.
     void start(const QString& source, const QString& destination, Done done);
+    // Deletes a file, later and on another thread. Ignores errors.
+    void remove(const QString& path);
     // Cancels what has been started so far and has not ended after `time`, unless keep()
     // is called before. Calls `done` with false.
     void cancelAfter(std::chrono::milliseconds time);

@@ -75,7 +75,7 @@ tab_to "push button" "Remove your photo 2"
 press space
 keeps "removed, it is neither listed nor chosen" backgroundImagePath '""' \
     customBackgrounds "[\"$own/one.png\"]"
-check "nor there" not test -e "$own/two.png"
+must "nor there" not test -e "$own/two.png"
 must "and the keyboard stays where it was" focused "push button" "Add a photo"
 press space
 must "the dialog opens" dialog

@@ -61,9 +61,9 @@ TEST_F(InspectorTest, RemovingTheChosenPhotoDeletesItAndTheChoice) {
     store.set(K::bgImage, own);
     store.set(K::palette, 1);
     press(panel().findChild<RemoveButton*>());
-    EXPECT_FALSE(QFile::exists(own));
     EXPECT_EQ(Prefs::bgImage(store), QString());
     EXPECT_EQ(marked(), QStringList{Palette::all()[1].name});
+    EXPECT_TRUE(await([&] { return !QFile::exists(own); }));
 }
 
 TEST_F(InspectorTest, AnAddedPhotoIsListedAndChosen) {
