@@ -47,7 +47,7 @@ Job::Job(Job&& other) noexcept = default;
 Job& Job::operator=(Job&& other) noexcept = default;
 
 void Job::start(QThreadPool& pool, std::function<void(const StopToken&)> work,
-                std::function<void()> done, int priority) {
+                std::function<void()> done) {
     delivery_ = std::make_unique<Delivery>(std::move(done));
     const auto deliver = [delivery = delivery_.get()] {
         // `done` may destroy the job, and the delivery with it.
@@ -66,7 +66,7 @@ void Job::start(QThreadPool& pool, std::function<void(const StopToken&)> work,
             QMetaObject::invokeMethod(link->receiver, deliver, Qt::QueuedConnection);
         }
     };
-    pool.start(std::move(run), priority);
+    pool.start(std::move(run));
 }
 
 void inParallel(int count, const std::function<void(int)>& work) {

@@ -18,8 +18,8 @@ namespace morrowleaf {
 // Work that runs on a thread of a pool, with its result delivered on the thread that
 // started it:
 //
-//     decoding_ = Job(workers, [path](const StopToken&) { return decode(path); },
-//                     [this](const QImage& image) { show(image); });
+//     copying_ = Job(workers, [path](const StopToken& stop) { return copy(path, stop); },
+//                    [this](bool copied) { report(copied); });
 //
 // A Job belongs to the thread that made it, which needs an event loop. `done` is
 // called there at most once, never from within the constructor, and may destroy or
@@ -38,10 +38,9 @@ public:
     Job(); // holds no work
 
     // `work` takes a const StopToken& and returns the result, which need
-    // not be copyable; `done` takes the result. Queued work with a higher
-    // priority runs first.
+    // not be copyable; `done` takes the result.
     template <typename Work, typename Done>
-    Job(QThreadPool& pool, Work work, Done done, int priority = 0)
+    Job(QThreadPool& pool, Work work, Done done)
         : Job() {
         using Result = std::invoke_result_t<Work&, const StopToken&>;
         auto result = std::make_shared<std::optional<Result>>();
@@ -50,7 +49,7 @@ public:
             [work = std::move(work), result](const StopToken& stop) mutable {
                 result->emplace(work(stop));
             },
-            [done = std::move(done), result]() mutable { done(*std::move(*result)); }, priority);
+            [done = std::move(done), result]() mutable { done(*std::move(*result)); });
     }
 
     ~Job();
@@ -61,7 +60,7 @@ private:
     struct Delivery;
 
     void start(QThreadPool& pool, std::function<void(const StopToken&)> work,
-               std::function<void()> done, int priority);
+               std::function<void()> done);
 
     std::unique_ptr<Delivery> delivery_;
 };

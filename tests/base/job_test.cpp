@@ -241,20 +241,6 @@ TEST_F(JobTest, TheCallbackMayStartTheNextJobInItsPlace) {
     EXPECT_EQ(results, QList<int>({0, 1, 2, 3}));
 }
 
-TEST_F(JobTest, HigherPrioritiesRunFirst) {
-    block();
-    QList<int> results;
-    const auto start = [&](int priority) {
-        return Job(
-            pool, [](const StopToken&) { return 0; },
-            [&results, priority](int) { results.append(priority); }, priority);
-    };
-    const std::array jobs{start(0), start(2), start(1)};
-    goOn.release();
-    deliverAll();
-    EXPECT_EQ(results, QList<int>({2, 1, 0}));
-}
-
 TEST_F(JobTest, ManyJobsComeAndGoWhileOthersRun) {
     pool.setMaxThreadCount(4);
     std::vector<Job> jobs(50);
