@@ -51,12 +51,15 @@ touch "$work/blocked"
 check "a failure is told in the system's words" \
     [ "$(registered "$work/blocked")" = "login item failed: Not a directory" ]
 
-recommends() { dpkg-deb -f "$work"/package/*.deb Recommends | grep -qw -- "$1"; }
+# needs FIELD PACKAGE: the package names another one in this field
+needs() { dpkg-deb -f "$work"/package/*.deb "$1" | grep -qw -- "$2"; }
 if command -v lintian >/dev/null; then
     cpack --config "$1/CPackConfig.cmake" -B "$work/package" >"$work/cpack.log" 2>&1
     check "the Debian package is built" ls "$work"/package/*.deb
-    check "it recommends a face for Chinese, Japanese and Korean" recommends fonts-noto-cjk
-    check "and one for emoji" recommends fonts-noto-color-emoji
+    check "it recommends a face for Chinese, Japanese and Korean" needs Recommends fonts-noto-cjk
+    check "and one for emoji" needs Recommends fonts-noto-color-emoji
+    check "and the certificates of the web" needs Recommends ca-certificates
+    check "it depends on what only its readers use" needs Depends libcurl4
     check "without errors" lintian --allow-root --fail-on error "$work"/package/*.deb
 fi
 finish
