@@ -16,12 +16,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <iostream>
 
 #include <linux/seccomp.h>
-#include <seccomp.h>
-#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -44,23 +41,6 @@ Kernel thisKernel() {
             ::syscall(SYS_seccomp, SECCOMP_GET_ACTION_AVAIL, 0, &action) == 0};
 }
 
-// From then on the kernel lacks what `kernel` lacks, as far as this process can see.
-void hideFeatures(const Kernel& kernel) {
-    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
-    if (kernel.fileRules == 0) {
-        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(ENOSYS), SYS_landlock_create_ruleset, 0,
-                               nullptr);
-    }
-    if (!kernel.filters) {
-        const scmp_arg_cmp older{0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0};
-        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(seccomp), 0, nullptr);
-        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, &older);
-    }
-    if (seccomp_load(filter) != 0) {
-        ::_exit(9);
-    }
-}
-
 enum class User { This, Nobody };
 
 class Jail : public testing::Test {
@@ -81,18 +61,21 @@ protected:
     // What the taken-over process managed to do.
     QJsonObject takeOver(const QString& kind, User user, const Kernel& kernel) {
         QProcess process;
-        process.setChildProcessModifier([user, kernel] {
-            constexpr uid_t nobody = 65534;
-            if (user == User::Nobody && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
-                ::_exit(9);
-            }
-            if (kernel.fileRules == 0 || !kernel.filters) {
-                hideFeatures(kernel);
-            }
-        });
+        QStringList less;
+        if (user == User::Nobody) {
+            less << u"nobody"_s;
+        }
+        if (kernel.fileRules < thisKernel().fileRules) {
+            less << u"no-file-rules"_s;
+        }
+        if (kernel.filters < thisKernel().filters) {
+            less << u"no-filters"_s;
+        }
         process.start(QCoreApplication::applicationDirPath() + "/jailed"_L1,
-                      {kind, folder.path(), QString::number(QCoreApplication::applicationPid()),
-                       local.fullServerName(), QString::number(tcp.serverPort())});
+                      QStringList{kind, folder.path(),
+                                  QString::number(QCoreApplication::applicationPid()),
+                                  local.fullServerName(), QString::number(tcp.serverPort())} +
+                          less);
         EXPECT_TRUE(process.waitForFinished(30'000));
         executed = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
         return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
@@ -174,6 +157,9 @@ TEST_F(Jail, HoldsAnOrdinaryUser) {
 
 TEST_F(Jail, HoldsWithWhatTheKernelHas) {
     const Kernel all = thisKernel();
+    if (!all.filters) {
+        GTEST_SKIP() << "only filters can hide what this kernel has";
+    }
     for (const Kernel& less :
          {Kernel{0, all.filters}, Kernel{all.fileRules, false}, Kernel{0, false}}) {
         for (const QString& kind : {u"web"_s, u"file"_s, u"photo"_s}) {

@@ -4,8 +4,10 @@
 // A process that has been taken over: it confines itself as a reader program does, tries
 // everything that would harm the user, and prints one JSON object with what succeeded.
 //
-// jailed web|file|photo HOME PARENT SOCKET PORT: HOME holds a file "secret" and may be
-// written, PARENT is a process, SOCKET a local socket, PORT a TCP port of this machine.
+// jailed web|file|photo HOME PARENT SOCKET PORT [LESS...]: HOME holds a file "secret" and
+// may be written, PARENT is a process, SOCKET a local socket, PORT a TCP port of this
+// machine. LESS is "nobody", the user who tries it all, or what the kernel shall lack:
+// "no-file-rules", "no-filters".
 
 #include "platform/jail.h"
 
@@ -15,6 +17,7 @@
 #include <QJsonObject>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -23,10 +26,13 @@
 
 #include <fcntl.h>
 #include <netinet/in.h>
+#include <seccomp.h>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -35,6 +41,27 @@ using namespace morrowleaf;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+// Returns whether that is so from then on, as far as this process can see.
+bool reduce(const QByteArray& less) {
+    if (less == "nobody") {
+        constexpr uid_t nobody = 65534;
+        return ::setgid(nobody) == 0 && ::setuid(nobody) == 0;
+    }
+    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    const auto remove = [filter](int call) {
+        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(ENOSYS), call, 0, nullptr);
+    };
+    if (less == "no-file-rules") {
+        remove(SYS_landlock_create_ruleset);
+    }
+    if (less == "no-filters") {
+        const scmp_arg_cmp older{0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0};
+        remove(SCMP_SYS(seccomp));
+        seccomp_rule_add_array(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1, &older);
+    }
+    return seccomp_load(filter) == 0;
+}
 
 bool canRead(const QByteArray& path) {
     const int file = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
@@ -120,8 +147,14 @@ bool canAllocate(std::size_t bytes) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 6) {
+    constexpr int firstLess = 6;
+    if (argc < firstLess) {
         return 2;
+    }
+    for (int i = firstLess; i < argc; ++i) {
+        if (!reduce(argv[i])) {
+            return 2;
+        }
     }
     const QByteArray name = argv[1];
     const JailKind kind = name == "web"    ? JailKind::Web
