@@ -97,6 +97,9 @@ stop() {
     wait "$1"
 }
 
+# has_ended PID: also if nobody has asked for its status, as for an orphan in a container
+has_ended() { ! grep -qs '^State:[[:space:]]*[^Z[:space:]]' "/proc/$1/status"; }
+
 # until_true SECONDS COMMAND...: repeats the command until it succeeds; fails
 # after that time
 until_true() {

@@ -47,7 +47,7 @@ ends_with_reader() {
     kill -"$1" "$app"
     wait "$app"
     status=$?
-    check "the reader ends too" until_true 1 not kill -0 "$reader"
+    check "the reader ends too" until_true 1 has_ended "$reader"
 }
 ends_with_reader TERM
 check "it ends with status 0 in the middle of it" test "$status" -eq 0

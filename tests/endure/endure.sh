@@ -180,7 +180,7 @@ kills() {
         kill -KILL "$app"
         wait "$app" 2>/dev/null
         for pid in $left; do
-            until_true 2 not kill -0 "$pid" || lose "the end of a reader"
+            until_true 2 has_ended "$pid" || lose "the end of a reader"
         done
         [ "$(/usr/bin/jq .mark "$settings_file")" = "$mark" ] || lose "the settings"
     done

@@ -289,7 +289,7 @@ TEST_F(HostileServer, GetsNoCookieBack) {
 }
 
 TEST_F(HostileServer, IsReachedThroughTheProxyOfTheEnvironmentOrTheDesktop) {
-    const auto load = [this] {
+    const auto load = [] {
         morrowleaf::QuoteFetcher fetcher;
         QEventLoop loop;
         QString text;
