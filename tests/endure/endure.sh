@@ -21,7 +21,7 @@ lose() {
 }
 own_memory() { awk '/^Anonymous:/ {print $2}' "/proc/$app/smaps_rollup"; }
 open_files() { find "/proc/$app/fd" -mindepth 1 | wc -l; }
-readers() { pgrep -P "$app" -x 'quotereader|photoreader'; }
+readers() { pgrep -P "$app" -x '.*reader'; }
 no_readers() { ! readers; }
 activate() {
     gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
