@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLoggingCategory>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
@@ -18,6 +19,9 @@ namespace morrowleaf {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+// The readers themselves write nothing anywhere: what they would say may be a stranger's.
+Q_LOGGING_CATEGORY(log, "morrowleaf.readers", QtWarningMsg)
 
 // Kills the process if it runs, and forgets it. The destructor of a QProcess waits for the
 // end of its process, which may be far away if a file system blocks it: so the object goes
@@ -106,6 +110,9 @@ private:
     }
 
     void answer(const AnswerBytes& bytes) {
+        if (!bytes && readers_ != nullptr) {
+            qCInfo(log).noquote() << readers_->program_ << "has not answered";
+        }
         const Readers::Done done = std::exchange(done_, nullptr);
         end();
         if (done) {
