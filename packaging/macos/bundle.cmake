@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 
 # Makes the target `morrowleaf` the bundle Morrowleaf.app, with the files of resources/ in
-# Contents/Resources. MORROWLEAF_ICON is the path of its icon, which may be generated.
+# Contents/Resources and the reader programs in Contents/libexec. MORROWLEAF_ICON is the
+# path of its icon, which may be generated.
 set_target_properties(morrowleaf PROPERTIES
   OUTPUT_NAME Morrowleaf
   MACOSX_BUNDLE TRUE
@@ -19,3 +20,13 @@ endforeach()
 target_sources(morrowleaf PRIVATE ${MORROWLEAF_ICON})
 set_source_files_properties(${MORROWLEAF_ICON} TARGET_DIRECTORY morrowleaf
   PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+
+# Where the program looks for them, in the folder of the build too.
+set(readers ${CMAKE_CURRENT_BINARY_DIR}/bundled_readers.done)
+add_custom_command(OUTPUT ${readers}
+  COMMAND ${CMAKE_COMMAND} -E make_directory $<TARGET_BUNDLE_CONTENT_DIR:morrowleaf>/libexec/morrowleaf
+  COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:quotereader> $<TARGET_FILE:photoreader>
+    $<TARGET_BUNDLE_CONTENT_DIR:morrowleaf>/libexec/morrowleaf
+  COMMAND ${CMAKE_COMMAND} -E touch ${readers}
+  DEPENDS morrowleaf quotereader photoreader VERBATIM)
+add_custom_target(bundled_readers ALL DEPENDS ${readers})

@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Makes Morrowleaf.app around a program that does nothing, and checks what is in it: the
-property list, the icon, the resources and the program's processor and systems. Then does
+"""Makes Morrowleaf.app around programs that do nothing, and checks what is in it: the
+property list, the icon, the resources and the programs' processor and systems. Then does
 the same with faults in the property list, which must be found.
 
     bundle.py     prints what is wrong; status 1 if anything is
@@ -85,7 +85,7 @@ def check_program(file):
     data = file.read_bytes() if file.is_file() else bytes(32)
     magic, processor, _, kind, commands = struct.unpack_from("<5I", data)
     if (magic, processor, kind) != (0xFEEDFACF, 0x0100000C, 2):
-        yield "the program is no executable file for arm64"
+        yield f"{file.name} is no executable file for arm64"
         return
     at, systems = 32, None
     for _ in range(commands):
@@ -94,7 +94,7 @@ def check_program(file):
             systems = tuple(f"{v >> 16}.{v >> 8 & 255}" for v in struct.unpack_from("<2I", data, at + 12))
         at += size
     if systems != (compiler.OLDEST, compiler.NEWEST):
-        yield f"the program is made for the systems {systems}"
+        yield f"{file.name} is made for the systems {systems}"
 
 
 def check_bundle(app):
@@ -107,12 +107,14 @@ def check_bundle(app):
     found += check_properties(info)
     found += check_icon(contents / "Resources" / str(info.get("CFBundleIconFile")))
     found += check_program(contents / "MacOS" / str(info.get("CFBundleExecutable")))
+    for name in ("quotereader", "photoreader"):
+        found += check_program(contents / "libexec/morrowleaf" / name)
     for folder in ("Fonts", "Backgrounds"):
         ours = {f.name for f in (ROOT / "resources" / folder).iterdir() if f.suffix != ".md"}
         there = {f.name for f in (contents / "Resources" / folder).glob("*")}
         if not ours or ours != there:
             found.append(f"Resources/{folder} differs: {sorted(ours ^ there)}")
-    extra = {f.name for f in contents.iterdir()} - {"Info.plist", "MacOS", "Resources", "_CodeSignature", "PkgInfo"}
+    extra = {f.name for f in contents.iterdir()} - {"Info.plist", "MacOS", "Resources", "_CodeSignature", "PkgInfo", "libexec"}
     if extra:
         found.append(f"Contents has more: {sorted(extra)}")
     return found

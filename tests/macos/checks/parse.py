@@ -33,10 +33,10 @@ KEPT = compiler.ROOT / "build/darwin"
 QT = Path("/usr/include/x86_64-linux-gnu/qt6")
 MODULES = ("QtCore", "QtGui", "QtWidgets", "QtNetwork", "QtSvg", "QtTest")
 # Libraries of which only headers are needed.
-OTHERS = ("nlohmann", "unicode", "gtest", "gmock")
+OTHERS = ("nlohmann", "unicode", "gtest", "gmock", "x86_64-linux-gnu/curl", "zlib.h", "zconf.h")
 # What is compiled on Linux only, beside all that includes its backend.
 ELSEWHERE = re.compile(r"platform/linux/|tests/(e2e|macos)/|bench/|tools/steppedclock\.cpp$"
-                       r"|tests/sources/(hostileserver_test|loadprobe)\.cpp$")
+                       r"|tests/sources/(hostileserver_test|loadprobe)\.cpp$|tests/platform/jail(ed|_test)\.cpp$")
 
 
 def fetch():
@@ -55,7 +55,7 @@ def fetch():
         shutil.copytree(Path(folder) / "package/lib", KEPT)
     (KEPT / "others").mkdir()
     for name in OTHERS:
-        (KEPT / "others" / name).symlink_to(f"/usr/include/{name}")
+        (KEPT / "others" / Path(name).name).symlink_to(f"/usr/include/{name}")
 
 
 def is_elsewhere(file):
@@ -69,7 +69,7 @@ def command(file):
     folders = [KEPT / "libcxx/include", KEPT / "libcxxabi/include", Path(built_in) / "include",
                *(KEPT / f for f in FOLDERS[2:]), KEPT / "others", QT, *(QT / m for m in MODULES)]
     names = ("QT_NO_CAST_FROM_ASCII", "QT_NO_CAST_FROM_BYTEARRAY", "QT_NO_NARROWING_CONVERSIONS_IN_CONNECT",
-             "QT_NO_FOREACH", "QT_GUI_LIB", "QT_WIDGETS_LIB", 'MORROWLEAF_SOURCE_DIR="."')
+             "QT_NO_FOREACH", "QT_GUI_LIB", "QT_WIDGETS_LIB", 'MORROWLEAF_SOURCE_DIR="."', 'FUZZER="photo"', "CHANGED=1")
     return [clang, "-target", f"arm64-apple-macos{compiler.OLDEST}", "-std=c++20", "-fsyntax-only", "-nostdinc",
             "-nostdinc++", "-Wall", "-Wextra", "-Wconversion", "-Werror", "-Wno-unknown-warning-option",
             "-Wno-incompatible-sysroot", *(f"-D{n}" for n in names), "-I", str(compiler.ROOT),
