@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
-// The main function of the benchmarks that draw text.
+// The main function of the benchmarks that need an application object.
 #include <QGuiApplication>
 
 #include <benchmark/benchmark.h>

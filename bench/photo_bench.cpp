@@ -7,7 +7,6 @@
 #include "photos/photo.h"
 #include "photos/photoreaders.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QImage>
@@ -132,10 +131,3 @@ BENCHMARK(decodeTile)->Unit(benchmark::kMillisecond);
 BENCHMARK(readHeader)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    const QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -6,7 +6,6 @@
 
 #include "sources/fetchquote.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QTcpServer>
@@ -81,10 +80,3 @@ BENCHMARK(loadFile)->Unit(benchmark::kMillisecond);
 BENCHMARK(loadFromWeb)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv) {
-    const QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
