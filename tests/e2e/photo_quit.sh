@@ -19,11 +19,7 @@ has_reader() { reader=$(pgrep -P "$app" -x photoreader); }
 spent() { awk '{print $14 + $15}' "/proc/$reader/stat" 2>/dev/null; }
 has_begun() { [ "$(spent)" -ge 5 ]; }
 launch() {
-    local n
-    n=$(maps)
-    start app "$MORROWLEAF"
-    app=$last
-    until_true 60 opened_since "$n" || die "no showing"
+    launch_showing
     until_true 60 has_reader || die "nobody reads the photo"
 }
 

@@ -21,13 +21,6 @@ address=http://127.0.0.1:$(cat "$work/port")/quote
 look='"dismissSeconds": 600, "screenAnimation": "still", "paletteIndex": 4'
 store=$XDG_CONFIG_HOME/morrowleaf/settings.json
 
-launch() {
-    local n
-    n=$(maps)
-    start app "$MORROWLEAF"
-    app=$last
-    until_true 60 opened_since "$n" || die "no showing"
-}
 leave() {
     kill -TERM "$app"
     wait "$app"
@@ -56,12 +49,12 @@ same() { [ "$(differing "$1" "$2")" -eq 0 ]; }
 cached() { grep -q '"cachedQuoteText": *"The lamp that is lit' "$store"; }
 
 settings "{$look}"
-launch
+launch_showing
 column_at_rest scheduled
 leave
 
 settings "{$look, \"quoteSourceURL\": \"$address\"}"
-launch
+launch_showing
 must "while the source is silent the scheduled quotation stands" column_becomes waiting scheduled
 check "the source was asked once" test "$(grep -c 'asked for /quote' "$work/server.log")" -eq 1
 check "for JSON" grep -q 'accepting application/json$' "$work/server.log"
@@ -74,7 +67,7 @@ check "to stay" not same scheduled loaded
 leave
 
 kill "$server"
-launch
+launch_showing
 must "without the server the cached quotation stands" column_becomes offline loaded
 leave
 finish

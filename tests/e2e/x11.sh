@@ -49,6 +49,14 @@ is_shown() { [ "$(maps)" -gt "$(unmaps)" ]; }
 is_gone() { [ "$(maps)" -eq "$(unmaps)" ]; }
 # opened_since N: more than N showings have opened
 opened_since() { [ "$(maps)" -gt "$1" ]; }
+# launch_showing: starts the program as $app and waits for its showing
+launch_showing() {
+    local n
+    n=$(maps)
+    start app "$MORROWLEAF"
+    app=$last
+    until_true 60 opened_since "$n" || die "no showing"
+}
 
 # mark_display: waits until the watcher has seen all earlier events of the X
 # server

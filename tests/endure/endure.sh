@@ -38,11 +38,7 @@ close_it() {
     until_true 60 is_gone || lose "a showing that can be closed"
 }
 launch() {
-    local n
-    n=$(maps)
-    start app "$MORROWLEAF"
-    app=$last
-    until_true 60 opened_since "$n" || die "no showing"
+    launch_showing
     settle
 }
 # member NAME VALUE...: the members of a JSON object
