@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/fakes/killedreaders.h"
+
 #include <QCoreApplication>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
@@ -9,5 +11,7 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     const QCoreApplication app(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    morrowleaf::awaitKilledReaders();
+    return status;
 }

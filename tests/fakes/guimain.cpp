@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/fakes/killedreaders.h"
+
 #include <QApplication>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
@@ -14,5 +16,7 @@ int main(int argc, char** argv) {
     QApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    morrowleaf::awaitKilledReaders();
+    return status;
 }
