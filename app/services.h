@@ -26,7 +26,7 @@ struct Services {
     Platform& platform;
     Timing& timing;
     FrameClock& frames; // drives the quote screen and the animations of `timing`
-    Clock clock = [] { return Moment::now(); };
+    Clock clock = systemClock();
     RandomIndex random = secureRandomIndex();
 };
 

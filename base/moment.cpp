@@ -18,14 +18,30 @@ constexpr qint64 julianDaysBeforeYearOne = 1721425;
 // About 290 million years; beyond, the milliseconds do not fit into 64 bits.
 constexpr double lastSecond = 9.2e15;
 
-} // namespace
+constexpr double zoneKept = 1; // seconds
 
-Moment Moment::now() {
+double unixNow() {
     // A count of nanoseconds, as the clocks of std::chrono have it, ends in 2262.
     std::timespec time{};
     std::ignore = std::timespec_get(&time, TIME_UTC);
-    return {static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9,
-            QTimeZone::systemTimeZone()};
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+} // namespace
+
+Moment Moment::now() {
+    return {unixNow(), QTimeZone::systemTimeZone()};
+}
+
+Clock systemClock() {
+    return [zone = QTimeZone(), askedAt = 0.0]() mutable -> Moment {
+        const double now = unixNow();
+        if (!zone.isValid() || std::abs(now - askedAt) >= zoneKept) {
+            zone = QTimeZone::systemTimeZone();
+            askedAt = now;
+        }
+        return {now, zone};
+    };
 }
 
 QDateTime Moment::local() const {

@@ -29,5 +29,8 @@ struct Moment {
 
 // Returns the current moment. Tests pass a fixed one.
 using Clock = std::function<Moment()>;
+// A clock for frames: it asks the system for its zone, which takes several file
+// accesses, only once in a while. Use each copy on one thread.
+Clock systemClock();
 
 } // namespace morrowleaf

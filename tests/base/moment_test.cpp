@@ -93,4 +93,15 @@ TEST(Moment, NowIsBetweenTwoReadingsOfTheClock) {
     EXPECT_EQ(now.zone, QTimeZone::systemTimeZone());
 }
 
+TEST(Moment, TheSystemClockGoesOnInTheSystemsZone) {
+    const Clock clock = systemClock();
+    const double before = Moment::now().unixSeconds;
+    for (int i = 0; i < 3; ++i) {
+        const Moment now = clock();
+        EXPECT_GE(now.unixSeconds, before);
+        EXPECT_LE(now.unixSeconds, Moment::now().unixSeconds);
+        EXPECT_EQ(now.zone, QTimeZone::systemTimeZone());
+    }
+}
+
 } // namespace
