@@ -5,8 +5,7 @@
 
 #include "backdrop/glass.h"
 #include "backdrop/kernel.h"
-#include "backdrop/mesh.h"
-#include "backdrop/meshlattice.h"
+#include "backdrop/keynodes.h"
 #include "backdrop/photoground.h"
 #include "backdrop/vignette.h"
 #include "look/grain.h"
@@ -14,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <optional>
 
 namespace morrowleaf {
 
@@ -62,46 +60,10 @@ struct BackdropPainter::Private {
     FittedPicture photo;
     FittedPicture desktop;
     PhotoGround photoGround;
-    MeshLattice mesh;
-    MeshPoints meshPoints{};
-    std::array<QColor, 9> meshColors;
-    bool meshBuilt = false;
-    NodeGrid nodes;
+    KeyNodes keys;
+    NodeGrid nodes; // of the pixels painted last
     GrainTile tile;
     GlassRim rim;
-
-    // The input from which the nodes have been computed.
-    struct Shaded {
-        QSize size;
-        double ratio = 1;
-        double scale = 1;
-        Shading shading;
-        std::shared_ptr<const Glass> glass; // keeps alive what shading.under points to
-
-        bool operator==(const Shaded&) const = default;
-    };
-    std::optional<Shaded> shaded;
-
-    void buildMesh(const MeshPoints& points, const std::array<QColor, 9>& colors) {
-        if (meshBuilt && colors == meshColors && points == meshPoints) {
-            return;
-        }
-        meshPoints = points;
-        meshColors = colors;
-        meshBuilt = true;
-        mesh.build(unfolded(points), colors);
-        shaded.reset();
-    }
-
-    // All parts of one frame share the nodes.
-    void shade(const Shaded& wanted) {
-        if (shaded == wanted) {
-            return;
-        }
-        nodes.resize(wanted.size, wanted.ratio);
-        shadeNodes(nodes, wanted.size, wanted.ratio, mesh, wanted.scale, wanted.shading);
-        shaded = wanted;
-    }
 };
 
 BackdropPainter::BackdropPainter()
@@ -111,6 +73,10 @@ BackdropPainter::~BackdropPainter() = default;
 
 bool BackdropPainter::moves(const BackdropState& state) {
     return state.animated && !state.hasPhoto && state.screenAnim != ScreenAnim::Still;
+}
+
+KeyNodes& BackdropPainter::keys() {
+    return d_->keys;
 }
 
 void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropState& state,
@@ -134,6 +100,7 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
     const Layers layers = layersOf(state, hasDesktop, glass != nullptr);
     const QImage& desktop = d_->desktop.fitted(hasDesktop ? state.desktop.picture : QImage(), size);
     if (layers.ground <= 0 && layers.tint <= 0) {
+        d_->keys.clear();
         if (hasDesktop) {
             copyRows(target, area, desktop);
         } else {
@@ -150,6 +117,7 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         const QImage& photo = d_->photoGround.composed(d_->photo.fitted(state.photo, size), ratio,
                                                        strength, state.grainOn);
         if (shown >= 1 && layers.ground >= 1) {
+            d_->keys.clear();
             copyRows(target, area, photo);
             return;
         }
@@ -169,12 +137,8 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         }
     }
 
-    const double speedOf = speed(state.screenAnim);
-    const double asked = speedOf == 0 ? 0 : since2001 * speedOf;
-    const double phase = std::isfinite(asked) ? asked : 0;
     const double mesh = layers.ground * (1 - shown);
     const double grain = state.grainOn ? mesh : 0;
-    d_->buildMesh(meshDrift(phase, amplitude(state.screenAnim)), state.palette.colors);
     Shading shading;
     shading.factor = mesh * (state.grainOn ? 1 - grainOpacity : 1);
     shading.alpha = mesh;
@@ -186,7 +150,8 @@ void BackdropPainter::paint(QImage& target, const QRect& clip, const BackdropSta
         shading.under = &glass->frosted;
         shading.underWeight = layers.glass;
     }
-    d_->shade({size, ratio, backdropScale(state.screenAnim, phase), shading, glass});
+    d_->keys.setScene({size, ratio, state.screenAnim, state.palette.colors, shading, glass});
+    d_->keys.mixInto(d_->nodes, area, since2001);
     d_->tile.build(ratio, grain, hasDesktop || layers.ground >= 1);
     input.nodes = &d_->nodes;
     input.tile = &d_->tile;

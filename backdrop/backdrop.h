@@ -11,6 +11,8 @@
 
 namespace morrowleaf {
 
+class KeyNodes; // keynodes.h
+
 // Draws backdrops and caches what is costly to compute. Use one painter for each
 // screen, always on the same thread.
 class BackdropPainter {
@@ -24,6 +26,9 @@ public:
     // error), with its device pixel ratio set. `since2001`: seconds since
     // 2001-01-01 00:00:00 UTC by the wall clock.
     void paint(QImage& target, const QRect& clip, const BackdropState& state, double since2001);
+
+    // The nodes of what was painted last; without a scene if it has none.
+    KeyNodes& keys();
 
     // Whether the picture changes with time.
     static bool moves(const BackdropState& state);

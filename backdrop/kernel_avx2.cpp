@@ -123,18 +123,18 @@ MORROWLEAF_AVX2 void mixRowsAvx2(const qint16* above, const qint16* below, qint1
     constexpr int width = 16; // lanes
     const __m256i share = _mm256_set1_epi16(weight);
     int i = 0;
-    for (; i + width <= count; i += width) {
+    while (count - i >= width) {
         const __m256i from = loaded(above + i);
         const __m256i gap = _mm256_sub_epi16(loaded(below + i), from);
         const __m256i mixed =
             _mm256_add_epi16(from, _mm256_mulhi_epi16(_mm256_add_epi16(gap, gap), share));
         _mm256_storeu_si256(reinterpret_cast<__m256i*>(out + i), mixed);
+        i += width;
+        if (i < count && i + width > count) {
+            i = count - width; // computes some lanes twice
+        }
     }
     mixRowsPortable(above + i, below + i, weight, out + i, count - i);
-}
-
-bool hasAvx2() {
-    return __builtin_cpu_supports("avx2") != 0;
 }
 
 } // namespace morrowleaf
@@ -149,10 +149,6 @@ void kernelRowAvx2(const KernelRow& row, int first, int last) {
 
 void mixRowsAvx2(const qint16* above, const qint16* below, qint16 weight, qint16* out, int count) {
     mixRowsPortable(above, below, weight, out, count);
-}
-
-bool hasAvx2() {
-    return false;
 }
 
 } // namespace morrowleaf

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "look/processor.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -31,14 +33,11 @@ void kernelRowAvx2(const KernelRow& row, int first, int last);
 // For small pictures, whose cells are below 8 pixels; speed does not matter there.
 void kernelRowFine(const KernelRow& row, int first, int last);
 
-// out = above + (below - above) * weight / 32768, for `count` lanes.
+// out = above + (below - above) * weight / 32768, for `count` lanes. `out` overlaps neither.
 using MixFunction = void (*)(const qint16* above, const qint16* below, qint16 weight, qint16* out,
                              int count);
 void mixRowsPortable(const qint16* above, const qint16* below, qint16 weight, qint16* out,
                      int count);
 void mixRowsAvx2(const qint16* above, const qint16* below, qint16 weight, qint16* out, int count);
-
-// Whether the processor has AVX2 and this build contains code for it.
-bool hasAvx2();
 
 } // namespace morrowleaf

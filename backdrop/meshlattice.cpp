@@ -4,7 +4,7 @@
 #include "backdrop/meshlattice.h"
 
 #include "backdrop/catmullrom.h"
-#include "backdrop/kernelrow.h"
+#include "look/processor.h"
 
 #include <algorithm>
 #include <cmath>

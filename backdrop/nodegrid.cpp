@@ -5,6 +5,7 @@
 
 #include "backdrop/catmullrom.h"
 #include "backdrop/vignette.h"
+#include "look/processor.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,6 +36,81 @@ Tap tapAt(double place, int cells, bool meshEndsInside) {
     return tap;
 }
 
+// A row of nodes and what it is computed from.
+struct NodeRow {
+    std::size_t count = 0;
+    const float* across = nullptr; // first of the four rows of the red plane
+    std::size_t plane = 0;         // from one plane to the next
+    std::array<float, 4> weights{};
+    const float* dx = nullptr; // horizontal distances from the middle, points
+    float dy = 0;
+    float factor = 0;
+    float strength = 0;
+    std::array<float, 4> base{};
+    qint16 alpha = 0;
+    float* light = nullptr; // room for `count` values, as are the planes
+    std::array<float*, 3> planes{};
+    qint16* out = nullptr;
+};
+
+// Copies what it needs from `given`, since a store to the nodes might change it.
+[[gnu::always_inline]] inline void shadeRow(const NodeRow& given) {
+    const NodeRow row = given;
+    const std::size_t count = row.count;
+    constexpr auto inner = float(vignetteInner);
+    constexpr auto perPoint = float(1 / (vignetteOuter - vignetteInner));
+    const float* const dx = row.dx;
+    const float dy = row.dy;
+    const float factor = row.factor;
+    const float strength = row.strength;
+    float* const light = row.light;
+    for (std::size_t i = 0; i < count; ++i) {
+        const float beyond = (std::sqrt(dx[i] * dx[i] + dy * dy) - inner) * perPoint;
+        light[i] = factor * (1 - strength * (beyond < 0 ? 0 : beyond > 1 ? 1 : beyond));
+    }
+    const auto [first, second, third, fourth] = row.weights;
+    for (std::size_t lane = 0; lane < 3; ++lane) {
+        const float* a = row.across + (2 - lane) * row.plane;
+        const float* b = a + count;
+        const float* c = b + count;
+        const float* d = c + count;
+        const float base = row.base[lane];
+        float* to = row.planes[lane];
+        for (std::size_t i = 0; i < count; ++i) {
+            const float value = first * a[i] + second * b[i] + third * c[i] + fourth * d[i];
+            to[i] = (value < 0 ? 0 : value > 1 ? 1 : value) * light[i] + base;
+        }
+    }
+    const auto [blue, green, red] = row.planes;
+    const qint16 alpha = row.alpha;
+    qint16* const out = row.out;
+    for (std::size_t i = 0; i < count; ++i) {
+        out[i * 4] = static_cast<qint16>(blue[i]);
+        out[i * 4 + 1] = static_cast<qint16>(green[i]);
+        out[i * 4 + 2] = static_cast<qint16>(red[i]);
+        out[i * 4 + 3] = alpha;
+    }
+}
+
+// The same function compiled for the baseline processor and for AVX2.
+void shadeRowPlain(const NodeRow& row) {
+    shadeRow(row);
+}
+
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] void shadeRowWide(const NodeRow& row) {
+    shadeRow(row);
+}
+
+auto rowShader() {
+    return hasAvx2() ? shadeRowWide : shadeRowPlain;
+}
+#else
+auto rowShader() {
+    return shadeRowPlain;
+}
+#endif
+
 } // namespace
 
 int NodeGrid::cellFor(const QSize& size, double devicePixelRatio) {
@@ -42,7 +118,9 @@ int NodeGrid::cellFor(const QSize& size, double devicePixelRatio) {
     if (fit < 8) {
         return fit < 4 ? 1 : 4;
     }
-    return 8 * std::clamp(static_cast<int>(devicePixelRatio), 1, fit / 8);
+    // In a picture of many pixels the mesh is as smooth as in a smaller one scaled up.
+    const int wanted = std::max(static_cast<int>(devicePixelRatio), fit / 10);
+    return 8 * std::clamp(wanted, 1, fit / 8);
 }
 
 void NodeGrid::resize(const QSize& size, double devicePixelRatio) {
@@ -82,50 +160,36 @@ void shadeNodes(NodeGrid& nodes, const QSize& size, double devicePixelRatio,
     const auto middleX = static_cast<float>(size.width()) / 2;
     const auto middleY = static_cast<float>(size.height()) / 2;
     const auto shift = static_cast<float>(nodes.place(0));
-    std::array<float, 4> base;
-    for (std::size_t lane = 0; lane < 4; ++lane) {
-        base[lane] = static_cast<float>(shading.base[lane] * fullLane) + 0.5F;
-    }
-    const auto alpha =
-        static_cast<qint16>(std::lround((shading.alpha + shading.base[3]) * fullLane));
     const auto underWeight = static_cast<int>(std::lround(shading.underWeight * 65536));
 
-    std::vector<float> light(columns);
-    std::array<std::vector<float>, 3> planes;
-    planes.fill(std::vector<float>(columns));
+    std::vector<float> dx(columns);
+    for (std::size_t i = 0; i < columns; ++i) {
+        dx[i] = (static_cast<float>(static_cast<int>(i) * nodes.cell) + shift - middleX) *
+                pointsPerPixel;
+    }
+    std::vector<float> rooms(4 * columns);
+    NodeRow row;
+    row.count = columns;
+    row.plane = static_cast<std::size_t>(meshRows) * columns;
+    row.dx = dx.data();
+    row.factor = factor;
+    row.strength = strength;
+    for (std::size_t lane = 0; lane < 4; ++lane) {
+        row.base[lane] = static_cast<float>(shading.base[lane] * fullLane) + 0.5F;
+    }
+    row.alpha = static_cast<qint16>(std::lround((shading.alpha + shading.base[3]) * fullLane));
+    row.light = rooms.data();
+    row.planes = {row.light + columns, row.light + 2 * columns, row.light + 3 * columns};
+    const auto shade = rowShader();
     for (int j = 0; j < nodes.rows; ++j) {
         const double place = nodes.place(j) / size.height();
         const Tap down = tapAt((place - 0.5) / scale + 0.5, mesh.rows(), scale < 1);
-        const float dy = (static_cast<float>(nodes.place(j)) - middleY) * pointsPerPixel;
-        for (std::size_t i = 0; i < columns; ++i) {
-            const float dx =
-                (static_cast<float>(static_cast<int>(i) * nodes.cell) + shift - middleX) *
-                pointsPerPixel;
-            const float beyond = (std::sqrt(dx * dx + dy * dy) - float(vignetteInner)) *
-                                 float(1 / (vignetteOuter - vignetteInner));
-            light[i] = factor * (1 - strength * (beyond < 0 ? 0 : beyond > 1 ? 1 : beyond));
-        }
-        for (int plane = 0; plane < 3; ++plane) {
-            const float* a = across.data() +
-                             static_cast<std::size_t>(plane * meshRows + down.first + 1) * columns;
-            const float* b = a + columns;
-            const float* c = b + columns;
-            const float* d = c + columns;
-            const auto lane = static_cast<std::size_t>(2 - plane);
-            float* to = planes[lane].data();
-            for (std::size_t i = 0; i < columns; ++i) {
-                const float value = down.weights[0] * a[i] + down.weights[1] * b[i] +
-                                    down.weights[2] * c[i] + down.weights[3] * d[i];
-                to[i] = (value < 0 ? 0 : value > 1 ? 1 : value) * light[i] + base[lane];
-            }
-        }
+        row.across = across.data() + static_cast<std::size_t>(down.first + 1) * columns;
+        row.weights = down.weights;
+        row.dy = (static_cast<float>(nodes.place(j)) - middleY) * pointsPerPixel;
+        row.out = nodes.row(j);
+        shade(row);
         qint16* to = nodes.row(j);
-        for (std::size_t i = 0; i < columns; ++i) {
-            to[i * 4] = static_cast<qint16>(planes[0][i]);
-            to[i * 4 + 1] = static_cast<qint16>(planes[1][i]);
-            to[i * 4 + 2] = static_cast<qint16>(planes[2][i]);
-            to[i * 4 + 3] = alpha;
-        }
         if (shading.under != nullptr && underWeight > 0) {
             const qint16* from = shading.under->row(j);
             for (std::size_t i = 0; i < columns * 4; ++i) {

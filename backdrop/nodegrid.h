@@ -24,8 +24,8 @@ struct NodeGrid {
     int rows = 0;
     std::vector<qint16> lanes;
 
-    // The size of a cell for a picture of `size` device pixels: about eight
-    // points, or less in small pictures.
+    // The size of a cell for a picture of `size` device pixels: about eight points,
+    // less in small pictures and more in very large ones.
     static int cellFor(const QSize& size, double devicePixelRatio);
     // Allocates the nodes for a picture of `size` device pixels.
     void resize(const QSize& size, double devicePixelRatio);

@@ -109,8 +109,4 @@ qint64 backdropTick(double instant) {
     return static_cast<qint64>(std::floor((instant + gridSlack) / backdropInterval));
 }
 
-double nextBackdropTick(double instant) {
-    return static_cast<double>(backdropTick(instant) + 1) * backdropInterval;
-}
-
 } // namespace morrowleaf

@@ -75,10 +75,8 @@ private:
     std::optional<double> due_; // in seconds of the clock
 };
 
-// A moving backdrop is redrawn at multiples of backdropInterval. For an instant
-// in seconds since the appearance: the number of the latest multiple, and the
-// instant of the next one.
+// A moving backdrop changes at multiples of backdropInterval at the most: the number of
+// the latest one at an instant in seconds since the appearance.
 qint64 backdropTick(double instant);
-double nextBackdropTick(double instant);
 
 } // namespace morrowleaf

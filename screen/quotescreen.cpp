@@ -3,7 +3,6 @@
 
 #include "screen/quotescreen.h"
 
-#include "backdrop/backdrop.h"
 #include "backdrop/glass.h"
 #include "backdrop/systembackdrop.h"
 #include "photos/bgstore.h"
@@ -11,10 +10,12 @@
 #include "screen/greeting.h"
 #include "screen/layout.h"
 #include "screen/pictureloaders.h"
+#include "screen/quotepicture.h"
 #include "screen/quoteview.h"
 #include "screen/windowpixels.h"
 #include "settings/settingsstore.h"
 
+#include <QBackingStore>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
@@ -27,23 +28,6 @@ namespace morrowleaf {
 namespace {
 
 constexpr qsizetype spokenLimit = 4000; // characters, of a text or an author
-
-// At a fractional device pixel ratio the edges of a repaint must not cut through a
-// pixel. For every multiple of 0.05, 20 points are a whole number of device pixels.
-QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
-    if (devicePixelRatio == std::floor(devicePixelRatio)) {
-        return region;
-    }
-    constexpr int step = 20;
-    QRegion wider;
-    for (const QRect& rect : region) {
-        const int left = rect.left() / step * step;
-        const int top = rect.top() / step * step;
-        wider += QRect(QPoint(left, top), QPoint((rect.right() / step + 1) * step - 1,
-                                                 (rect.bottom() / step + 1) * step - 1));
-    }
-    return wider;
-}
 
 } // namespace
 
@@ -77,7 +61,6 @@ struct QuoteScreen::Private {
     void startGlassFade();
     bool glassFades(double seconds) const;
     void placeInspector(double seconds);
-    void draw(QImage& target, const QRegion& region);
 
     QuoteScreen& screen;
     SettingsStore& store;
@@ -91,16 +74,13 @@ struct QuoteScreen::Private {
     QWidget* inspector = nullptr;
 
     std::optional<QuoteView> view;
-    BackdropState backdrop;
-    BackdropPainter backdropPainter;
+    QuotePicture picture;
     DesktopView desktop;
     bool stale = true;       // settings, quotation, size or desktop have changed
     bool wholeAsked = false; // the next paint event shows a new instant everywhere
 
-    double appearedAt = 0;      // in seconds of the frame clock
-    double frameSeconds = 0;    // of the frame shown, seconds since the appearance
-    double backdropInstant = 0; // of the backdrop shown, seconds since 2001
-    qint64 backdropTickShown = -1;
+    double appearedAt = 0;   // in seconds of the frame clock
+    double frameSeconds = 0; // of the frame shown, seconds since the appearance
     QString photoWanted;
     double photoWantedAt = 0; // seconds since the appearance
     double photoFadesFrom = -photoFade;
@@ -127,7 +107,7 @@ QuoteViewState QuoteScreen::Private::viewState(const Moment& moment,
 
 bool QuoteScreen::Private::exposed() const {
     const QWindow* window = screen.window()->windowHandle();
-    return screen.isVisible() && window && window->isExposed();
+    return window && window->isExposed();
 }
 
 void QuoteScreen::Private::appear() {
@@ -151,13 +131,14 @@ void QuoteScreen::Private::rebuildView() {
     } else {
         view.emplace(state, fonts);
     }
-    backdrop = backdropFor(settings, state.palette, photo.readable());
-    backdrop.desktop = desktop;
-    const bool seenThrough =
-        desktop.kind == DesktopView::Kind::Captured && backdrop.transparency > leastTransparency;
+    picture.backdrop = backdropFor(settings, state.palette, photo.readable());
+    picture.backdrop.desktop = desktop;
+    const bool seenThrough = desktop.kind == DesktopView::Kind::Captured &&
+                             picture.backdrop.transparency > leastTransparency;
     glass.setPicture(seenThrough ? desktop.picture : QImage(), screen.devicePixelRatioF());
-    backdrop.desktop.glass = glass.glass();
-    emit screen.systemBackdropWanted(systemBackdropFor(backdrop));
+    picture.backdrop.desktop.glass = glass.glass();
+    emit screen.systemBackdropWanted(systemBackdropFor(picture.backdrop));
+    picture.change();
     stale = false;
 }
 
@@ -176,11 +157,12 @@ void QuoteScreen::Private::startGlassFade() {
 }
 
 bool QuoteScreen::Private::glassFades(double seconds) const {
-    return backdrop.desktop.glass && seconds < glassFadesFrom + photoFade;
+    return picture.backdrop.desktop.glass && seconds < glassFadesFrom + photoFade;
 }
 
 bool QuoteScreen::Private::photoFades(double seconds) const {
-    return backdrop.hasPhoto && !photo.pixels().isNull() && seconds < photoFadesFrom + photoFade;
+    return picture.backdrop.hasPhoto && !photo.pixels().isNull() &&
+           seconds < photoFadesFrom + photoFade;
 }
 
 // Cross-fades from one photo to another without darkening in between.
@@ -188,24 +170,28 @@ void QuoteScreen::Private::showPhoto(double progress) {
     if (progress >= 1) {
         photo.dropReplaced();
     }
-    backdrop.photo = photo.pixels();
-    backdrop.photoOpacity = progress;
+    picture.backdrop.photo = photo.pixels();
+    picture.backdrop.photoOpacity = progress;
     if (!photo.replaced().isNull()) {
-        backdrop.photo = photo.replaced();
-        QPainter painter(&backdrop.photo);
+        picture.backdrop.photo = photo.replaced();
+        QPainter painter(&picture.backdrop.photo);
         painter.setOpacity(progress);
         painter.drawImage(QPoint(0, 0), photo.pixels());
-        backdrop.photoOpacity = 1;
+        picture.backdrop.photoOpacity = 1;
     }
 }
 
 void QuoteScreen::Private::advance(double seconds, bool freshBackdrop) {
+    const bool fades = photoFades(frameSeconds) || glassFades(frameSeconds);
     frameSeconds = seconds;
+    if (fades) {
+        picture.change();
+    }
     showPhoto(std::clamp((seconds - photoFadesFrom) / photoFade, 0.0, 1.0));
-    backdrop.desktop.glassOpacity = std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
-    if (freshBackdrop && backdropTick(seconds) != backdropTickShown) {
-        backdropTickShown = backdropTick(seconds);
-        backdropInstant = clock().unixSeconds - unixToReference;
+    picture.backdrop.desktop.glassOpacity =
+        std::clamp((seconds - glassFadesFrom) / photoFade, 0.0, 1.0);
+    if (freshBackdrop) {
+        picture.advance(seconds, clock().unixSeconds - unixToReference);
     }
 }
 
@@ -219,20 +205,27 @@ void QuoteScreen::Private::placeInspector(double seconds) {
 }
 
 void QuoteScreen::Private::tick() {
-    if (!view || !exposed()) {
+    if (!view || !screen.isVisible()) {
         return; // the next paint event wakes the clock again
+    }
+    if (!exposed()) { // such a window may be seen again without being painted
+        frames.requestAt(frameClock.now() + ShownTiles::longestWait);
+        return;
     }
     const double seconds = sinceAppearance();
     placeInspector(seconds);
-    const bool backdropDue =
-        BackdropPainter::moves(backdrop) && backdropTick(seconds) != backdropTickShown;
-    if (backdropDue || photoFades(frameSeconds) || glassFades(frameSeconds)) {
+    if (photoFades(frameSeconds) || glassFades(frameSeconds)) {
         wholeAsked = true;
         screen.update();
     } else {
-        const QRegion changed = view->changedBetween(frameSeconds, seconds);
-        advance(seconds, false);
-        screen.update(onWholePixels(changed, screen.devicePixelRatioF()));
+        QRegion changed =
+            onWholePixels(view->changedBetween(frameSeconds, seconds), screen.devicePixelRatioF());
+        const bool backdropDue = picture.isDue(seconds);
+        advance(seconds, backdropDue);
+        if (backdropDue) {
+            changed += picture.outdated(screen.devicePixelRatioF());
+        }
+        screen.update(changed);
     }
     schedule();
 }
@@ -248,8 +241,8 @@ std::optional<double> QuoteScreen::Private::nextFrame(double seconds) const {
     if (photoFades(frameSeconds) || glassFades(frameSeconds) || inspectorSlides) {
         consider(seconds);
     }
-    if (BackdropPainter::moves(backdrop)) {
-        consider(nextBackdropTick(seconds));
+    if (BackdropPainter::moves(picture.backdrop)) {
+        consider(picture.nextDue());
     }
     return next;
 }
@@ -258,26 +251,12 @@ void QuoteScreen::Private::schedule() {
     // Set again for every frame, because the window may move to another display.
     if (const QScreen* display = screen.screen()) {
         frameClock.setRate(display->refreshRate());
+        picture.setFrameInterval(frameClock.frameInterval());
     }
     if (const std::optional<double> next = nextFrame(sinceAppearance())) {
         frames.requestAt(appearedAt + *next);
     } else {
         frames.cancel();
-    }
-}
-
-void QuoteScreen::Private::draw(QImage& target, const QRegion& region) {
-    const double ratio = target.devicePixelRatio();
-    for (const QRect& rect : region) {
-        const QRect pixels = devicePixels(rect, ratio).intersected(target.rect());
-        if (pixels.isEmpty()) {
-            continue;
-        }
-        backdropPainter.paint(target, pixels, backdrop, backdropInstant);
-        QPainter painter(&target);
-        const QRectF clip(QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio);
-        painter.setClipRect(clip);
-        view->paint(painter, frameSeconds, clip);
     }
 }
 
@@ -384,9 +363,15 @@ void QuoteScreen::paintEvent(QPaintEvent* event) {
     QPoint offset;
     QPaintDevice* device = redirected(&offset);
     WindowPixels pixels(*this, device, -offset);
-    d_->draw(pixels.image(), event->region());
+    const bool onWindow = backingStore() != nullptr && device == backingStore()->paintDevice();
+    if (onWindow) {
+        d_->picture.paint(pixels.image(), event->region(), *d_->view, d_->frameSeconds);
+    } else {
+        d_->picture.paintElsewhere(pixels.image(), event->region(), *d_->view, d_->frameSeconds);
+    }
     pixels.finish(*this, event->region());
-    if (!d_->frames.isActive()) {
+    // Paint events of a shown instant, however many, must not put off the next frame.
+    if (freshInstant) {
         d_->schedule();
     }
 }

@@ -66,8 +66,8 @@ public:
     };
     Work work() const;
 
-    // Draws the elements that touch `clip`; `clip` and the painter are in points.
-    void paint(QPainter& painter, double seconds, const QRectF& clip) const;
+    // Draws the elements into `pixels`, device pixels of the view; the painter is in points.
+    void paint(QPainter& painter, double seconds, const QRegion& pixels) const;
 
     // The part of the view that differs between two instants, in points.
     QRegion changedBetween(double from, double to) const;
@@ -131,10 +131,10 @@ private:
     void composeOverlays(const Metrics& metrics, const QRectF& box);
     Column columnFor(double wished, double headerBottom, double hintTop) const;
     void placeTexts(const Metrics& metrics, const QRectF& box);
-    void paintColumn(QPainter& painter, double seconds, const QRectF& clip) const;
-    void paintLines(QPainter& painter, double seconds, const QRectF& clip) const;
+    void paintColumn(QPainter& painter, double seconds, const QRegion& pixels) const;
+    void paintLines(QPainter& painter, double seconds, const QRegion& pixels) const;
     void readAhead() const;
-    void paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const;
+    void paintOverflowing(QPainter& painter, double seconds, const QRegion& pixels) const;
     QRectF markRectAt(double seconds) const;
     QRectF columnRectAt(double seconds) const;
     QRectF paintedLineRect(const Line& line, double seconds) const;

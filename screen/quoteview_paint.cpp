@@ -5,6 +5,7 @@
 #include "backdrop/backdrop.h"
 #include "base/job.h"
 #include "screen/quoteview.h"
+#include "screen/windowpixels.h"
 
 #include <QImage>
 #include <QLinearGradient>
@@ -37,6 +38,26 @@ QRectF scaledAboutCentre(const QRectF& rect, double scale) {
     QRectF scaled(QPointF(), rect.size() * scale);
     scaled.moveCenter(rect.center());
     return scaled;
+}
+
+// Calls `draw`, which touches `rect` (points), once for each part of that in `pixels`.
+template <typename Draw>
+void drawInside(const QRegion& pixels, QPainter& painter, double devicePixelRatio,
+                const QRectF& rect, const Draw& draw) {
+    if (rect.isEmpty()) {
+        return;
+    }
+    const QRect touched = devicePixels(rect, devicePixelRatio).adjusted(-1, -1, 1, 1);
+    const QRegion parts = pixels & touched;
+    for (const QRect& part : parts) {
+        painter.save();
+        if (part != touched) {
+            painter.setClipRect(QRectF(QPointF(part.topLeft()) / devicePixelRatio,
+                                       QSizeF(part.size()) / devicePixelRatio));
+        }
+        draw();
+        painter.restore();
+    }
 }
 
 } // namespace
@@ -79,17 +100,17 @@ QRectF QuoteView::columnRectAt(double seconds) const {
     return touched;
 }
 
-void QuoteView::paint(QPainter& painter, double seconds, const QRectF& clip) const {
+void QuoteView::paint(QPainter& painter, double seconds, const QRegion& pixels) const {
     const auto paintText = [&](const Text& text, double progress) {
-        if (progress <= 0 || !withOverhang(text.rect()).intersects(clip)) {
-            return;
+        if (progress > 0) {
+            drawInside(pixels, painter, state_.devicePixelRatio, withOverhang(text.rect()),
+                       [&] { text.paint(painter, state_.palette.ink, progress); });
         }
-        text.paint(painter, state_.palette.ink, progress);
     };
     if (place_.overflows) {
-        paintOverflowing(painter, seconds, clip);
+        paintOverflowing(painter, seconds, pixels);
     } else {
-        paintColumn(painter, seconds, clip);
+        paintColumn(painter, seconds, pixels);
     }
     paintText(greeting_, headerEntrance.progress(seconds));
     paintText(today_, headerEntrance.progress(seconds));
@@ -107,33 +128,38 @@ void QuoteView::readAhead() const {
     }
 }
 
-void QuoteView::paintColumn(QPainter& painter, double seconds, const QRectF& clip) const {
-    if (mark::opacity(seconds) > 0 && markRectAt(seconds).intersects(clip)) {
-        const double scale = mark::scale(seconds);
-        const QPointF centre = mark_.rect().center();
-        painter.save();
-        painter.translate(centre);
-        painter.scale(scale, scale);
-        painter.translate(-centre);
-        mark_.paint(painter, state_.palette.ink, mark::opacity(seconds));
-        painter.restore();
+void QuoteView::paintColumn(QPainter& painter, double seconds, const QRegion& pixels) const {
+    const auto inside = [&](const QRectF& rect, const auto& draw) {
+        drawInside(pixels, painter, state_.devicePixelRatio, rect, draw);
+    };
+    if (mark::opacity(seconds) > 0) {
+        inside(markRectAt(seconds), [&] {
+            const double scale = mark::scale(seconds);
+            const QPointF centre = mark_.rect().center();
+            painter.translate(centre);
+            painter.scale(scale, scale);
+            painter.translate(-centre);
+            mark_.paint(painter, state_.palette.ink, mark::opacity(seconds));
+        });
     }
-    paintLines(painter, seconds, clip);
+    paintLines(painter, seconds, pixels);
     const double width = rule_.width() * closing_->rule.progress(seconds);
-    if (width > 0 && rule_.intersects(clip)) {
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(QRectF(rule_.center().x() - width / 2, rule_.y(), width, rule_.height()),
-                         faded(state_.palette.ink, ruleOpacity));
-        painter.restore();
+    if (width > 0) {
+        inside(rule_, [&] {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.fillRect(
+                QRectF(rule_.center().x() - width / 2, rule_.y(), width, rule_.height()),
+                faded(state_.palette.ink, ruleOpacity));
+        });
     }
     const double author = closing_->author.progress(seconds);
-    if (author > 0 && withOverhang(author_.rect()).intersects(clip)) {
-        author_.paint(painter, state_.palette.ink, author);
+    if (author > 0) {
+        inside(withOverhang(author_.rect()),
+               [&] { author_.paint(painter, state_.palette.ink, author); });
     }
 }
 
-void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip) const {
+void QuoteView::paintLines(QPainter& painter, double seconds, const QRegion& pixels) const {
     const auto onLine = [&](const Line& line, const auto& what) {
         painter.save();
         painter.translate(line.topLeft);
@@ -161,34 +187,36 @@ void QuoteView::paintLines(QPainter& painter, double seconds, const QRectF& clip
         });
     }
     for (const Line& line : lines_) {
-        if (paintedLineRect(line, seconds).intersects(clip)) {
+        drawInside(pixels, painter, state_.devicePixelRatio, paintedLineRect(line, seconds), [&] {
             onLine(line, [&](double since) { line.line.paint(painter, {}, since); });
-        }
+        });
     }
 }
 
 // Draws the column into a picture of its own first, so that all of it fades out at the bottom.
-void QuoteView::paintOverflowing(QPainter& painter, double seconds, const QRectF& clip) const {
+void QuoteView::paintOverflowing(QPainter& painter, double seconds, const QRegion& pixels) const {
+    const double ratio = state_.devicePixelRatio;
+    const QRect bounds = pixels.boundingRect();
+    const QRectF clip(QPointF(bounds.topLeft()) / ratio, QSizeF(bounds.size()) / ratio);
     const QRect area = clip.intersected(QRectF(0, 0, state_.size.width(), place_.bottom))
                            .intersected(columnRectAt(seconds))
                            .toAlignedRect();
     if (area.isEmpty()) {
         return;
     }
-    const double ratio = state_.devicePixelRatio;
     QImage aside((QSizeF(area.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     aside.setDevicePixelRatio(ratio);
     aside.fill(Qt::transparent);
     QPainter column(&aside);
     column.translate(-area.topLeft());
-    paintColumn(column, seconds, area);
+    paintColumn(column, seconds, devicePixels(area, ratio).adjusted(-1, -1, 1, 1));
     QLinearGradient fade(0, place_.bottom - overflowFade, 0, place_.bottom);
     fade.setColorAt(0, Qt::black);
     fade.setColorAt(1, Qt::transparent);
     column.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     column.fillRect(area, fade);
     column.end();
-    painter.drawImage(area.topLeft(), aside);
+    drawInside(pixels, painter, ratio, area, [&] { painter.drawImage(area.topLeft(), aside); });
 }
 
 QRegion QuoteView::changedBetween(double from, double to) const {
@@ -251,7 +279,7 @@ QImage renderFrame(BackdropPainter& painter, const BackdropState& backdrop, cons
     frame.setDevicePixelRatio(state.devicePixelRatio);
     painter.paint(frame, frame.rect(), backdrop, since2001);
     QPainter text(&frame);
-    view.paint(text, seconds, QRectF(QPointF(), state.size));
+    view.paint(text, seconds, frame.rect());
     return frame;
 }
 

@@ -58,4 +58,32 @@ QRect devicePixels(const QRectF& points, double devicePixelRatio) {
         .toAlignedRect();
 }
 
+QRegion onWholePixels(const QRegion& region, double devicePixelRatio) {
+    if (devicePixelRatio == std::floor(devicePixelRatio)) {
+        return region;
+    }
+    constexpr int step = 20; // points, a whole number of pixels at every multiple of 0.05
+    QRegion wider;
+    for (const QRect& rect : region) {
+        const int left = rect.left() / step * step;
+        const int top = rect.top() / step * step;
+        wider += QRect(QPoint(left, top), QPoint((rect.right() / step + 1) * step - 1,
+                                                 (rect.bottom() / step + 1) * step - 1));
+    }
+    return wider;
+}
+
+QRegion inPoints(const QRegion& pixels, double devicePixelRatio) {
+    if (devicePixelRatio == 1) {
+        return pixels;
+    }
+    QRegion points;
+    for (const QRect& rect : pixels) {
+        points += QRectF(QPointF(rect.topLeft()) / devicePixelRatio,
+                         QSizeF(rect.size()) / devicePixelRatio)
+                      .toAlignedRect();
+    }
+    return points;
+}
+
 } // namespace morrowleaf

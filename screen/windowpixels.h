@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QRect>
+#include <QRegion>
 
 class QPaintDevice;
 class QWidget;
@@ -34,5 +35,10 @@ private:
 
 // The device pixels that a rectangle in points touches.
 QRect devicePixels(const QRectF& points, double devicePixelRatio);
+// The points that a region of device pixels touches.
+QRegion inPoints(const QRegion& pixels, double devicePixelRatio);
+// Widens a region in points so that its edges do not cut through a device pixel. For
+// every ratio that is a multiple of 0.05, 20 points are a whole number of pixels.
+QRegion onWholePixels(const QRegion& region, double devicePixelRatio);
 
 } // namespace morrowleaf

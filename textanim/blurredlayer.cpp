@@ -4,10 +4,12 @@
 #include "textanim/blurredlayer.h"
 
 #include "look/dither.h"
+#include "look/processor.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <span>
 
 namespace morrowleaf {
 
@@ -44,7 +46,8 @@ QRect blurredRect(QPoint origin, QSize cells, int cell, double sigma) {
 }
 
 // Interpolates linearly between the centres of neighbouring cells, for every pixel.
-inline void slopesOf(const std::vector<float>& cells, std::size_t cell, float* to) {
+[[gnu::always_inline]] inline void slopesOf(std::span<const float> cells, std::size_t cell,
+                                            float* to) {
     const float step = 1.0F / static_cast<float>(cell);
     for (std::size_t i = 0; i + 1 < cells.size(); ++i) {
         const float from = cells[i];
@@ -57,7 +60,7 @@ inline void slopesOf(const std::vector<float>& cells, std::size_t cell, float* t
 
 // The same for a cell size that the compiler knows, so that it can vectorise.
 template <std::size_t cell>
-void slopes(const std::vector<float>& cells, float* to) {
+[[gnu::always_inline]] inline void slopes(std::span<const float> cells, float* to) {
     std::array<float, cell> steps;
     for (std::size_t x = 0; x < cell; ++x) {
         steps[x] = (static_cast<float>(x) + 0.5F) / static_cast<float>(cell);
@@ -72,6 +75,22 @@ void slopes(const std::vector<float>& cells, float* to) {
     }
 }
 
+[[gnu::always_inline]] inline void widen(std::span<const float> cells, std::size_t cell,
+                                         float* to) {
+    switch (cell) {
+    case 2:
+        return slopes<2>(cells, to);
+    case 4:
+        return slopes<4>(cells, to);
+    case 8:
+        return slopes<8>(cells, to);
+    case 16:
+        return slopes<16>(cells, to);
+    default:
+        return slopesOf(cells, cell, to);
+    }
+}
+
 // Writes values as the bytes of one channel, which must be 0 before. Using the
 // same thresholds for all channels keeps each colour at or below alpha.
 void writeChannel(const float* values, float factor, const std::vector<float>& thresholds,
@@ -83,6 +102,67 @@ void writeChannel(const float* values, float factor, const std::vector<float>& t
         pixels[x] |= static_cast<QRgb>(static_cast<int>(value)) << shift;
     }
 }
+
+[[gnu::always_inline]] inline QRgb byteOf(float value) {
+    return static_cast<QRgb>(static_cast<int>(value < 255.0F ? value : 255.0F));
+}
+
+// Writes one value for all channels, of which each has a factor: the same as
+// writeChannel() does, in a single pass.
+[[gnu::always_inline]] inline void writePixels(const float* values,
+                                               const std::array<float, 4>& factors,
+                                               std::span<const float> thresholds, QRgb* pixels) {
+    const auto [blue, green, red, alpha] = factors;
+    const float* const threshold = thresholds.data();
+    const auto count = static_cast<int>(thresholds.size());
+    if (blue <= 0 && green <= 0 && red <= 0) {
+        for (int x = 0; x < count; ++x) {
+            pixels[x] = byteOf(values[x] * alpha + threshold[x]) << 24;
+        }
+        return;
+    }
+    for (int x = 0; x < count; ++x) {
+        pixels[x] = byteOf(values[x] * blue + threshold[x]) |
+                    byteOf(values[x] * green + threshold[x]) << 8 |
+                    byteOf(values[x] * red + threshold[x]) << 16 |
+                    byteOf(values[x] * alpha + threshold[x]) << 24;
+    }
+}
+
+// The two functions above, compiled for the baseline processor or for AVX2.
+struct RowSteps {
+    void (*widen)(std::span<const float> cells, std::size_t cell, float* to);
+    void (*write)(const float* values, const std::array<float, 4>& factors,
+                  std::span<const float> thresholds, QRgb* pixels);
+};
+
+void widenPlain(std::span<const float> cells, std::size_t cell, float* to) {
+    widen(cells, cell, to);
+}
+
+void writePlain(const float* values, const std::array<float, 4>& factors,
+                std::span<const float> thresholds, QRgb* pixels) {
+    writePixels(values, factors, thresholds, pixels);
+}
+
+#if defined(__x86_64__)
+[[gnu::target("avx2")]] void widenWide(std::span<const float> cells, std::size_t cell, float* to) {
+    widen(cells, cell, to);
+}
+
+[[gnu::target("avx2")]] void writeWide(const float* values, const std::array<float, 4>& factors,
+                                       std::span<const float> thresholds, QRgb* pixels) {
+    writePixels(values, factors, thresholds, pixels);
+}
+
+RowSteps rowSteps() {
+    return hasAvx2() ? RowSteps{widenWide, writeWide} : RowSteps{widenPlain, writePlain};
+}
+#else
+RowSteps rowSteps() {
+    return {widenPlain, writePlain};
+}
+#endif
 
 // The dither thresholds (0...1) of `width` pixels from `left` on in row `y`.
 std::vector<float> thresholdsFrom(int left, int y, int width) {
@@ -154,32 +234,25 @@ void BlurredLayer::row(std::size_t channel, int y, std::vector<float>& out) cons
     const auto half = static_cast<std::size_t>(cell_ / 2);
     std::fill_n(out.data(), half, mixed.front());
     std::fill_n(out.data() + (out.size() - half), half, mixed.back());
-    float* to = out.data() + half;
-    switch (cell_) {
-    case 2:
-        return slopes<2>(mixed, to);
-    case 4:
-        return slopes<4>(mixed, to);
-    case 8:
-        return slopes<8>(mixed, to);
-    case 16:
-        return slopes<16>(mixed, to);
-    default:
-        return slopesOf(mixed, static_cast<std::size_t>(cell_), to);
-    }
+    static const auto widenRow = rowSteps().widen;
+    widenRow(mixed, static_cast<std::size_t>(cell_), out.data() + half);
 }
 
 void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint origin) const {
+    static const auto writeRow = rowSteps().write;
     const bool colored = planes_.size() > 1;
     const QRect shown = rect_ & QRect(origin, to.size());
-    const std::array<float, 4> parts{color.blueF(), color.greenF(), color.redF(), 1.0F};
+    std::array<float, 4> factors{color.blueF(), color.greenF(), color.redF(), 1.0F};
+    for (float& factor : factors) {
+        factor = static_cast<float>(opacity) * (colored ? 1.0F : factor);
+    }
     const auto skipped = static_cast<std::size_t>(shown.left() - rect_.left());
     std::vector<float> values;
     std::array<std::vector<float>, ditherSize> dither; // one row for each row of the pattern
     for (int y = origin.y(); y < origin.y() + to.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(to.scanLine(y - origin.y()));
-        std::fill_n(line, to.width(), 0U);
         if (y < shown.top() || y > shown.bottom()) {
+            std::fill_n(line, to.width(), 0U);
             continue;
         }
         std::vector<float>& thresholds = dither[static_cast<std::size_t>(y) % ditherSize];
@@ -187,17 +260,19 @@ void BlurredLayer::paint(const QColor& color, double opacity, QImage& to, QPoint
             thresholds = thresholdsFrom(shown.left(), y, shown.width());
         }
         QRgb* pixels = line + (shown.left() - origin.x());
-        if (!colored) {
+        if (!colored && factors[3] > 0) {
+            std::fill(line, pixels, 0U);
+            std::fill(pixels + shown.width(), line + to.width(), 0U);
             row(0, y, values);
+            writeRow(values.data() + skipped, factors, thresholds, pixels);
+            continue;
         }
-        for (std::size_t i = 0; i < parts.size(); ++i) {
-            if (colored) {
-                row(i, y, values);
-            }
-            const float factor = static_cast<float>(opacity) * (colored ? 1.0F : parts[i]);
-            if (factor > 0) {
-                writeChannel(values.data() + skipped, factor, thresholds, 8 * static_cast<int>(i),
-                             pixels);
+        std::fill_n(line, to.width(), 0U);
+        for (std::size_t i = 0; colored && i < factors.size(); ++i) {
+            row(i, y, values);
+            if (factors.at(i) > 0) {
+                writeChannel(values.data() + skipped, factors.at(i), thresholds,
+                             8 * static_cast<int>(i), pixels);
             }
         }
     }

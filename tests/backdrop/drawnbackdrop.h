@@ -14,6 +14,7 @@ namespace morrowleaf {
 
 inline constexpr double now = 8.1e8; // seconds since 2001
 inline const QSize small(480, 300);
+inline const QSize large(1200, 800); // the smallest with cells of 8 pixels
 
 inline BackdropState plainState(int palette = 1) {
     BackdropState state;

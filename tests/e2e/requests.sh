@@ -42,7 +42,10 @@ shown=$(($(maps) - n))
 echo "400 requests: $shown showings, $many kB at most; a request during a showing: $one kB"
 # The first shows it at once, and the others arrive meanwhile.
 check "at most twice" test "$shown" -le 2
-check "with the memory of two showings" test "$many" -le $((one + one / 10))
+# A showing keeps a picture of its backdrop while texts appear, and it is a matter of moments
+# whether those of two showings are there together.
+picture=$((1920 * 1080 * 4 / 1024))
+check "with the memory of two showings" test "$many" -le $((one + one / 10 + picture))
 must "the last one stays" is_shown
 kill "$app"
 wait "$app"

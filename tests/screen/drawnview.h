@@ -20,7 +20,7 @@ inline QImage drawn(const QuoteView& view, double seconds) {
     image.setDevicePixelRatio(view.state().devicePixelRatio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    view.paint(painter, seconds, QRectF(QPointF(), view.state().size));
+    view.paint(painter, seconds, image.rect());
     return image;
 }
 

@@ -61,16 +61,6 @@ TEST_F(QuoteScreens, DrawsTheSameInAWindowAsWithoutOne) {
     }
 }
 
-TEST_F(QuoteScreens, SleepsUntilSomethingMoves) {
-    const auto screen = shown();
-    time = 50.01;
-    QTest::qWait(150); // the first thing to move is the mark, at 0.35 s
-    const int frames = screen->frames;
-    QTest::qWait(150);
-    EXPECT_EQ(screen->frames, frames);
-    EXPECT_TRUE(screen->isAnimating());
-}
-
 TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
     const auto screen = shown();
     jumpTo(*screen, 50 + 3.0); // only the hint is still moving
@@ -82,23 +72,6 @@ TEST_F(QuoteScreens, RepaintsOnlyWhatMovesBetweenTicksOfTheBackdrop) {
     const QRect hint = screen->view()->rect(QuoteView::Element::Hint).toAlignedRect();
     EXPECT_TRUE(screen->lastRegion.boundingRect().intersects(hint));
     EXPECT_EQ(differing(screen->grab().toImage(), expected(*screen, time - 50)), 0);
-}
-
-TEST_F(QuoteScreens, SleepsWhileHidden) {
-    store.set(K::screenAnim, u"aurora"_s);
-    const auto screen = shown();
-    jumpTo(*screen, 60);
-    EXPECT_TRUE(screen->isAnimating());
-    screen->hide();
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        time += 1;
-        return !screen->isAnimating();
-    }));
-    const int frames = screen->frames;
-    QTest::qWait(100);
-    EXPECT_EQ(screen->frames, frames);
-    screen->show();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->frames > frames && screen->isAnimating(); }));
 }
 
 TEST_F(QuoteScreens, ShowsASettingWithoutReplayingTheEntrance) {
@@ -260,27 +233,6 @@ TEST_F(QuoteScreens, DropsAPhotoThatIsNoLongerWanted) {
     const auto screen = shown();
     QTest::qWait(300);
     EXPECT_EQ(screen->view()->state().palette.name, u"Midnight"_s);
-}
-
-TEST_F(QuoteScreens, MovesTheBackdropAtMostThirtyTimesASecond) {
-    store.set(K::screenAnim, u"aurora"_s);
-    const Monotonic steady = steadySeconds();
-    double ahead = 0;
-    FrameClock realFrames([&] { return steady() + ahead; });
-    const auto made = make(realFrames);
-    CountingScreen& screen = *made;
-    screen.resize(320, 240);
-    screen.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&screen));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return screen.view() != nullptr; }));
-    ahead = 100; // the entrance is over
-    QTest::qWait(50);
-    const int before = screen.frames;
-    const double begun = steady();
-    QTest::qWait(1000);
-    const double seconds = steady() - begun;
-    EXPECT_LE(screen.frames - before, 30 * seconds + 1.01);
-    EXPECT_GE(screen.frames - before, 3);
 }
 
 TEST_F(QuoteScreens, DrawsInAParentAtAnOffset) {

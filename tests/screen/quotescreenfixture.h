@@ -30,11 +30,15 @@ public:
     using QuoteScreen::QuoteScreen;
     int frames = 0;
     QRegion lastRegion;
+    double painted = 0; // points of area
 
 protected:
     void paintEvent(QPaintEvent* event) override {
         ++frames;
         lastRegion = event->region();
+        for (const QRect& rect : lastRegion) {
+            painted += static_cast<double>(rect.width()) * rect.height();
+        }
         QuoteScreen::paintEvent(event);
     }
 };
@@ -48,7 +52,11 @@ protected:
     }
 
     std::unique_ptr<CountingScreen> make(FrameClock& frameClock, QWidget* parent = nullptr) {
-        const Clock clock = [] { return plainState().moment; };
+        const Clock clock = [this] {
+            Moment moment = plainState().moment;
+            moment.unixSeconds += wallClock ? wallClock() : 0;
+            return moment;
+        };
         auto box = std::make_unique<QuoteBox>(
             store,
             [this](const QString&, std::function<void(std::optional<Quote>)> done) {
@@ -106,6 +114,7 @@ protected:
     BGStore photos{store, folder.path(), folder.path()};
     std::function<void(std::optional<Quote>)> loaded;
     double time = 50;
+    Monotonic wallClock; // what the wall clock adds to its moment; it stands still if null
     FrameClock fakeFrames{[this] { return time; }};
 };
 

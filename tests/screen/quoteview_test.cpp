@@ -127,14 +127,21 @@ TEST(QuoteView, DrawsAPartAsInTheWholePicture) {
     state.quote = {threeLines, u"Anonymous"_s};
     const QuoteView view(state, shippedFonts());
     const QImage whole = drawn(view, 0.95);
-    const QRect part(300, 200, 211, 97);
+    const QRegion parts = QRegion(300, 200, 211, 97) + QRegion(350, 280, 300, 60);
     QImage image(whole.size(), whole.format());
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setClipRect(part);
-    view.paint(painter, 0.95, part);
+    view.paint(painter, 0.95, parts);
+    for (const QRect& part : parts) {
+        EXPECT_EQ(image.copy(part), whole.copy(part));
+    }
+    painter.setClipRegion(parts);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(image.rect(), Qt::black);
     painter.end();
-    EXPECT_EQ(image.copy(part), whole.copy(part));
+    QImage blank(whole.size(), whole.format());
+    blank.fill(Qt::transparent);
+    EXPECT_EQ(image, blank); // nothing was drawn beyond
 }
 
 TEST(QuoteView, ScalesDownALongQuotationAsAWhole) {
