@@ -94,3 +94,24 @@ for round in 1 2 3 4; do
     echo "after $((round * (showings / 4))) showings: $(($(own) - memory)) anonymous kB more," \
         "$(($(ls "/proc/$app/fd" | wc -l) - files)) files more"
 done
+
+# What is loaded: memory that only this process has, because it has written to it, and
+# pages of the file, which all programs that use it share.
+loaded() {
+    awk '/^[0-9a-f]+-/ {name = $6 ~ /^\// && $6 !~ /SYSV|memfd/ ? $6 : "no file"; sub(".*/", "", name)}
+        /^Private_Dirty/ {own[name] += $2}
+        /^(Private_Clean|Shared_)/ {file[name] += $2}
+        END {for (name in own) if (own[name] + file[name] >= 64)
+            printf "  %6d kB own %6d kB of the file  %s\n", own[name], file[name], name}' \
+        "/proc/$app/smaps" | sort -rn
+}
+gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
+    -m org.freedesktop.Application.ActivateAction edit-appearance '[]' '{}' >/dev/null
+sleep 4
+echo "PSS with the editor: $(pss) kB, anonymous $(own) kB"
+close_it
+sleep 2
+echo "PSS just after the editor: $(pss) kB, anonymous $(own) kB"
+sleep 30
+echo "PSS half a minute after it: $(pss) kB, anonymous $(own) kB"
+loaded
