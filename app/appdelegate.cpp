@@ -56,6 +56,7 @@ void AppDelegate::prepare() {
     connect(session, &SessionEvents::sessionDidBecomeActive, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::screenIsUnlocked, this, &AppDelegate::trigger);
     connect(session, &SessionEvents::willLeave, this, [this] {
+        waiting_.reset();
         if (window_) {
             window_->overlay().releaseInput();
         }
@@ -86,13 +87,35 @@ void AppDelegate::editAppearance() {
 }
 
 void AppDelegate::trigger() {
+    if (window_) {
+        window_->overlay().retakeInput();
+    }
     if (Prefs::showOnWake(services_.store) &&
-        services_.timing.now() - lastShown_ > throttleSeconds) {
-        present(false, false);
+        services_.timing.now() - lastShown_ > throttleSeconds && !waiting_) {
+        presentAfterLocker();
     }
 }
 
+// A locker that has just been unlocked may still be on the screen, and would be in the
+// picture of the desktop.
+void AppDelegate::presentAfterLocker() {
+    QScreen* screen = services_.platform.mainScreen->current();
+    if (screen == nullptr) {
+        present(false, false);
+        return;
+    }
+    waiting_ = services_.platform.desktopPicture->afterLocker(
+        *screen, services_.store.get(K::transparency) > 0, [this] {
+            // It may be the caller.
+            if (QObject* waiting = waiting_.release()) {
+                waiting->deleteLater();
+            }
+            present(false, false);
+        });
+}
+
 void AppDelegate::present(bool preview, bool editing) {
+    waiting_.reset();
     if (window_) {
         dismiss(false);
     }
@@ -131,6 +154,10 @@ void AppDelegate::present(bool preview, bool editing) {
                                               *services_.platform.inputTaps);
     connect(monitor_.get(), &EventMonitor::endRequested, this, [this] { dismiss(true); });
     if (!editing) {
+        // Queued, because the sender is still handling an event of the window.
+        connect(
+            &window_->overlay(), &OverlayWindow::clickedElsewhere, this, [this] { dismiss(true); },
+            Qt::QueuedConnection);
         const double seconds = Prefs::dismissSeconds(services_.store);
         // The comparison is false for NaN, which gives the shortest showing.
         autoDismiss_ = services_.timing.after(
@@ -145,6 +172,9 @@ QuoteScreen* AppDelegate::makeQuoteScreen(const DesktopView& desktop) {
     auto* screen = new QuoteScreen(services_.store, services_.fonts, services_.photos,
                                    std::move(box), services_.clock, services_.frames);
     screen->setDesktopView(desktop);
+    const DesktopWishes* wishes = services_.platform.wishes.get();
+    screen->setWishes(wishes->current());
+    connect(wishes, &DesktopWishes::changed, screen, &QuoteScreen::setWishes);
     return screen;
 }
 

@@ -69,6 +69,7 @@ signals:
 
 private:
     void trigger();
+    void presentAfterLocker();
     void installStatusItem();
     DesktopView captureDesktop(QuoteWindow& window, QScreen& screen, bool editing);
     QuoteScreen* makeQuoteScreen(const DesktopView& desktop);
@@ -82,6 +83,7 @@ private:
     std::unique_ptr<QuoteWindow> window_;
     std::unique_ptr<EventMonitor> monitor_;
     Task autoDismiss_;
+    std::unique_ptr<QObject> waiting_; // for the screen locker to leave the screen
     double lastShown_ = -std::numeric_limits<double>::infinity(); // seconds, by now() of the timing
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<SettingsWindow> settingsWindow_;

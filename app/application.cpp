@@ -177,7 +177,7 @@ int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& 
         QCoreApplication::exit(0);
     };
     QObject::connect(platform.sessionEvents.get(), &SessionEvents::quitRequested, qApp, quit);
-    followColorScheme(*platform.colorScheme);
+    followColors(*platform.wishes);
     FontBook fonts;
     fonts.registerBundledFonts(fontFolder());
     SettingsStore store;

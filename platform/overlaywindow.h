@@ -23,7 +23,7 @@ enum class WindowLevel {
 enum class InputHold {
     FocusOnly,        // keyboard focus, without any grab
     KeyboardIfNeeded, // keyboard focus; also a keyboard grab if the focus does not stay
-    KeyboardAndMouse, // keyboard focus and a grab of both devices
+    KeyboardAndMouse, // keyboard focus and, for some seconds, a grab of both devices
 };
 
 struct OverlaySetup {
@@ -78,8 +78,11 @@ public:
     // At Normal the window moves below a dialog of this program and releases
     // its grabs; back at ScreenSaver it returns to the front with them.
     virtual void setLevel(WindowLevel level) = 0;
-    // Releases all grabs until the next orderFront(); the window stays mapped.
+    // Releases all grabs until the next retakeInput() or orderFront(); the window stays
+    // mapped.
     virtual void releaseInput() = 0;
+    // Takes focus and input again if releaseInput() has released them.
+    virtual void retakeInput() {}
     // When orderFront() was last called, on the clock of input events' time
     // stamps: milliseconds that wrap at 32 bits. 0 if that is unknown.
     virtual quint32 orderedFrontAt() const = 0;
@@ -88,6 +91,9 @@ signals:
     // The screen or the surface is gone for good. May be emitted from within orderFront(),
     // so destroy the window later, not in the slot.
     void lost();
+    // The user has clicked into a window on another screen. Only while KeyboardAndMouse is
+    // set up but the grab of the mouse has ended.
+    void clickedElsewhere();
 };
 
 class OverlayMaker {

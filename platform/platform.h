@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/colorscheme.h"
+#include "platform/desktopwishes.h"
 #include "platform/filechooser.h"
 #include "platform/floater.h"
 #include "platform/inputtaps.h"
@@ -31,7 +31,7 @@ struct Platform {
     std::unique_ptr<SessionEvents> sessionEvents;
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
-    std::unique_ptr<ColorScheme> colorScheme;
+    std::unique_ptr<DesktopWishes> wishes;
     std::unique_ptr<RequestListener> requests;
 };
 

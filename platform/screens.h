@@ -4,6 +4,10 @@
 #pragma once
 
 #include <QImage>
+#include <QObject>
+
+#include <functional>
+#include <memory>
 
 class QScreen;
 
@@ -30,6 +34,16 @@ public:
     virtual ~DesktopPicture() = default;
     DesktopPicture(const DesktopPicture&) = delete;
     DesktopPicture& operator=(const DesktopPicture&) = delete;
+
+    // Calls `then` once nothing that a screen locker has left covers `screen`: at once if
+    // nothing does, and after half a second in any case. Also at once where capture() will
+    // not be needed, which depends on whether the user wants to look through the backdrop.
+    // Destroying the result, which is null if this has called `then`, cancels the call.
+    virtual std::unique_ptr<QObject> afterLocker(QScreen& /*screen*/, bool /*looksThrough*/,
+                                                 const std::function<void()>& then) {
+        then();
+        return nullptr;
+    }
 
     // The whole of `screen` in device pixels, as QImage::Format_RGB32; null if the desktop
     // does not allow it. Blocks for some tens of milliseconds, on Wayland for at most about

@@ -41,6 +41,9 @@ double end(); // from here on the mark is at rest
 // The appearance editor slides in from the right edge.
 inline constexpr Entrance inspectorEntrance{0, 0.28};
 
+// Replaces all of the above for users who want no motion: everything fades in, at once.
+inline constexpr Entrance stillEntrance{0, 0.3};
+
 // A photo or glass that takes longer than photoFadeThreshold seconds fades in over
 // photoFade seconds.
 inline constexpr double photoFadeThreshold = 0.1;

@@ -76,6 +76,7 @@ struct QuoteScreen::Private {
     std::optional<QuoteView> view;
     QuotePicture picture;
     DesktopView desktop;
+    Wishes wishes;
     bool stale = true;       // settings, quotation, size or desktop have changed
     bool wholeAsked = false; // the next paint event shows a new instant everywhere
 
@@ -117,7 +118,7 @@ void QuoteScreen::Private::appear() {
 }
 
 void QuoteScreen::Private::rebuildView() {
-    const ViewSettings settings = readViewSettings(store);
+    const ViewSettings settings = readViewSettings(store, wishes);
     const double seconds = sinceAppearance();
     if (settings.bgImagePath != photoWanted) {
         photoWanted = settings.bgImagePath;
@@ -199,7 +200,8 @@ void QuoteScreen::Private::placeInspector(double seconds) {
     if (!inspector) {
         return;
     }
-    const double out = (1 - inspectorEntrance.progress(seconds)) * inspectorWidth;
+    const double progress = wishes.reducedMotion ? 1 : inspectorEntrance.progress(seconds);
+    const double out = (1 - progress) * inspectorWidth;
     inspector->setGeometry(screen.width() - inspectorWidth + static_cast<int>(std::lround(out)), 0,
                            inspectorWidth, screen.height());
 }
@@ -274,7 +276,7 @@ QuoteScreen::QuoteScreen(SettingsStore& store, const FontBook& fonts, BGStore& p
         update();
     };
     connect(&store, &SettingsStore::changed, this, [this, refresh] {
-        if (!d_->view || readViewSettings(d_->store) != d_->view->state().settings) {
+        if (!d_->view || readViewSettings(d_->store, d_->wishes) != d_->view->state().settings) {
             refresh();
         }
     });
@@ -306,6 +308,15 @@ void QuoteScreen::setDesktopView(const DesktopView& desktop) {
     d_->desktop = desktop;
     d_->stale = true;
     update();
+}
+
+void QuoteScreen::setWishes(const Wishes& wishes) {
+    if (wishes != d_->wishes) {
+        d_->wishes = wishes;
+        d_->stale = true;
+        d_->placeInspector(d_->view ? d_->sinceAppearance() : 0);
+        update();
+    }
 }
 
 const DesktopView& QuoteScreen::desktopView() const {

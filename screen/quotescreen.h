@@ -5,6 +5,7 @@
 
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
+#include "platform/desktopwishes.h"
 #include "platform/overlaywindow.h"
 #include "screen/frameclock.h"
 #include "screen/spokentexts.h"
@@ -44,6 +45,9 @@ public:
     // Sets what shows behind the window. May be called again when a capture arrives.
     void setDesktopView(const DesktopView& desktop);
     const DesktopView& desktopView() const;
+
+    // What the desktop wishes of all programs; may change at any time.
+    void setWishes(const Wishes& wishes);
 
     // Null before the first frame.
     const QuoteView* view() const;

@@ -44,8 +44,8 @@ QString seenPart(const QString& text, qsizetype limit) {
 
 // Whether two lines have the same layout, which does not depend on colour and shadow.
 bool sameLayout(const RevealLine::Parts& a, const RevealLine::Parts& b) {
-    return a.text == b.text && a.index == b.index && a.style == b.style && a.font == b.font &&
-           a.strokeFont == b.strokeFont && a.maxWidth == b.maxWidth;
+    return a.text == b.text && a.index == b.index && a.style == b.style && a.isStill == b.isStill &&
+           a.font == b.font && a.strokeFont == b.strokeFont && a.maxWidth == b.maxWidth;
 }
 
 } // namespace
@@ -108,11 +108,7 @@ private:
 QuoteView::QuoteView(const QuoteViewState& state, const FontBook& fonts)
     : fonts_(&fonts)
     , state_(state)
-    , greeting_{captionOpacity}
-    , today_{captionOpacity}
-    , mark_{markOpacity}
-    , author_{authorOpacity}
-    , hint_{hintOpacity} {
+    , mark_{markOpacity} {
     compose(0);
 }
 
@@ -126,6 +122,11 @@ void QuoteView::compose(double seconds) {
     const QRectF box = contentBox(state_.size, state_.sideInset);
     const double width = columnWidth(box);
 
+    const bool isFull = state_.settings.highContrast;
+    greeting_.opacity = isFull ? 1 : captionOpacity;
+    today_.opacity = greeting_.opacity;
+    author_.opacity = isFull ? 1 : authorOpacity;
+    hint_.opacity = isFull ? 1 : hintOpacity;
     cutOffUnseen(metrics);
     fitQuotation(metrics, width);
     composeOverlays(metrics, box);
@@ -183,6 +184,7 @@ void QuoteView::composeLines(const Metrics& metrics, double width, double second
     const QString& raw = state_.settings.textAnimRaw;
     RevealLine::Parts parts;
     parts.style = storedTextAnim(raw);
+    parts.isStill = isStill();
     parts.font = metrics.quote(fitted_.size);
     parts.strokeFont = parts.font;
     parts.color = state_.palette.ink;

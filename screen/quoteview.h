@@ -123,6 +123,12 @@ private:
     };
     class Metrics;
 
+    bool isStill() const { return state_.settings.reducedMotion; }
+    // An entrance of this view, or the one that replaces it.
+    Entrance shown(const Entrance& entrance) const { return isStill() ? stillEntrance : entrance; }
+    double markOpacityAt(double seconds) const;
+    double markScaleAt(double seconds) const;
+
     void compose(double seconds);
     void cutOffUnseen(const Metrics& metrics);
     void fitQuotation(const Metrics& metrics, double width);

@@ -70,8 +70,16 @@ void QuoteView::Text::paint(QPainter& painter, QColor color, double progress) co
     painter.restore();
 }
 
+double QuoteView::markOpacityAt(double seconds) const {
+    return isStill() ? stillEntrance.progress(seconds) : mark::opacity(seconds);
+}
+
+double QuoteView::markScaleAt(double seconds) const {
+    return isStill() ? 1 : mark::scale(seconds);
+}
+
 QRectF QuoteView::markRectAt(double seconds) const {
-    return withOverhang(scaledAboutCentre(mark_.rect(), mark::scale(seconds)));
+    return withOverhang(scaledAboutCentre(mark_.rect(), markScaleAt(seconds)));
 }
 
 QRectF QuoteView::paintedLineRect(const Line& line, double seconds) const {
@@ -85,16 +93,16 @@ QRectF QuoteView::paintedLineRect(const Line& line, double seconds) const {
 // What the visible part of the column touches.
 QRectF QuoteView::columnRectAt(double seconds) const {
     QRectF touched;
-    if (mark::opacity(seconds) > 0) {
+    if (markOpacityAt(seconds) > 0) {
         touched |= markRectAt(seconds);
     }
     for (const Line& line : lines_) {
         touched |= paintedLineRect(line, seconds);
     }
-    if (closing_->rule.progress(seconds) > 0) {
+    if (shown(closing_->rule).progress(seconds) > 0) {
         touched |= rule_;
     }
-    if (closing_->author.progress(seconds) > 0) {
+    if (shown(closing_->author).progress(seconds) > 0) {
         touched |= withOverhang(author_.rect());
     }
     return touched;
@@ -112,9 +120,9 @@ void QuoteView::paint(QPainter& painter, double seconds, const QRegion& pixels) 
     } else {
         paintColumn(painter, seconds, pixels);
     }
-    paintText(greeting_, headerEntrance.progress(seconds));
-    paintText(today_, headerEntrance.progress(seconds));
-    paintText(hint_, hintEntrance.progress(seconds));
+    paintText(greeting_, shown(headerEntrance).progress(seconds));
+    paintText(today_, shown(headerEntrance).progress(seconds));
+    paintText(hint_, shown(hintEntrance).progress(seconds));
     if (seconds > 0) { // the first frame has enough to do
         readAhead();
     }
@@ -132,27 +140,28 @@ void QuoteView::paintColumn(QPainter& painter, double seconds, const QRegion& pi
     const auto inside = [&](const QRectF& rect, const auto& draw) {
         drawInside(pixels, painter, state_.devicePixelRatio, rect, draw);
     };
-    if (mark::opacity(seconds) > 0) {
+    if (markOpacityAt(seconds) > 0) {
         inside(markRectAt(seconds), [&] {
-            const double scale = mark::scale(seconds);
+            const double scale = markScaleAt(seconds);
             const QPointF centre = mark_.rect().center();
             painter.translate(centre);
             painter.scale(scale, scale);
             painter.translate(-centre);
-            mark_.paint(painter, state_.palette.ink, mark::opacity(seconds));
+            mark_.paint(painter, state_.palette.ink, markOpacityAt(seconds));
         });
     }
     paintLines(painter, seconds, pixels);
-    const double width = rule_.width() * closing_->rule.progress(seconds);
-    if (width > 0) {
+    const double rule = shown(closing_->rule).progress(seconds);
+    const double width = rule_.width() * (isStill() ? 1 : rule);
+    if (rule > 0) {
         inside(rule_, [&] {
             painter.setRenderHint(QPainter::Antialiasing);
             painter.fillRect(
                 QRectF(rule_.center().x() - width / 2, rule_.y(), width, rule_.height()),
-                faded(state_.palette.ink, ruleOpacity));
+                faded(state_.palette.ink, ruleOpacity * (isStill() ? rule : 1)));
         });
     }
-    const double author = closing_->author.progress(seconds);
+    const double author = shown(closing_->author).progress(seconds);
     if (author > 0) {
         inside(withOverhang(author_.rect()),
                [&] { author_.paint(painter, state_.palette.ink, author); });
@@ -227,7 +236,7 @@ QRegion QuoteView::changedBetween(double from, double to) const {
         }
     };
     const auto addFor = [&](const Entrance& entrance, const QRectF& rect) {
-        if (entrance.progress(from) != entrance.progress(to)) {
+        if (shown(entrance).progress(from) != shown(entrance).progress(to)) {
             add(rect);
         }
     };
@@ -236,7 +245,7 @@ QRegion QuoteView::changedBetween(double from, double to) const {
     addFor(hintEntrance, withOverhang(hint_.rect()));
     addFor(closing_->rule, rule_);
     addFor(closing_->author, withOverhang(author_.rect()));
-    if (mark::scale(from) != mark::scale(to)) {
+    if (markScaleAt(from) != markScaleAt(to) || markOpacityAt(from) != markOpacityAt(to)) {
         add(markRectAt(from));
         add(markRectAt(to));
     }
@@ -259,9 +268,11 @@ std::optional<double> QuoteView::nextMotion(double seconds) const {
     };
     for (const Entrance& entrance :
          {headerEntrance, hintEntrance, closing_->rule, closing_->author}) {
-        consider(entrance.delay, entrance.end());
+        consider(shown(entrance).delay, shown(entrance).end());
     }
-    consider(mark::delay, mark::end());
+    if (!isStill()) {
+        consider(mark::delay, mark::end());
+    }
     for (const Line& line : lines_) {
         consider(line.appearedAt + line.line.delay(), line.appearedAt + line.line.settledAfter());
     }

@@ -11,7 +11,7 @@
 
 namespace morrowleaf {
 
-ViewSettings readViewSettings(const SettingsStore& store) {
+ViewSettings readViewSettings(const SettingsStore& store, const Wishes& wishes) {
     return {
         .paletteIndex = store.get(K::palette),
         .fontName = store.get(K::font),
@@ -23,6 +23,8 @@ ViewSettings readViewSettings(const SettingsStore& store) {
         .transparency = store.get(K::transparency),
         .liquidGlass = store.get(K::liquidGlass),
         .screenAnimRaw = store.get(K::screenAnim),
+        .reducedMotion = wishes.reducedMotion,
+        .highContrast = wishes.highContrast,
     };
 }
 
@@ -45,7 +47,8 @@ BackdropState backdropFor(const ViewSettings& settings, const Palette& palette,
     state.vignette = settings.vignette;
     state.transparency = settings.transparency;
     state.liquidGlass = settings.liquidGlass;
-    state.screenAnim = storedScreenAnim(settings.screenAnimRaw);
+    state.screenAnim =
+        settings.reducedMotion ? ScreenAnim::Still : storedScreenAnim(settings.screenAnimRaw);
     state.hasPhoto = photoReadable;
     return state;
 }

@@ -6,6 +6,7 @@
 #include "backdrop/backdropstate.h"
 #include "base/moment.h"
 #include "look/palettes.h"
+#include "platform/desktopwishes.h"
 #include "settings/settingstable.h"
 
 #include <QString>
@@ -30,10 +31,14 @@ struct ViewSettings {
     bool liquidGlass = K::liquidGlass.initial;
     QString screenAnimRaw = K::screenAnim.fallback;
 
+    // The desktop's wishes, not settings.
+    bool reducedMotion = false;
+    bool highContrast = false;
+
     bool operator==(const ViewSettings&) const = default;
 };
 
-ViewSettings readViewSettings(const SettingsStore& store);
+ViewSettings readViewSettings(const SettingsStore& store, const Wishes& wishes = {});
 
 // The factor k on every scaled size. Zero, negative, infinite and NaN give 1; the
 // result is clamped to [0.1, 16].

@@ -3,6 +3,7 @@
 
 #include "settingsui/photochooser.h"
 
+#include "platform/dialogowner.h"
 #include "platform/filechooser.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QStandardPaths>
+#include <QWindow>
 
 namespace morrowleaf {
 namespace {
@@ -131,8 +133,15 @@ void PhotoChooser::chooseWithQt() {
             dialog->deleteLater();
         }
     });
+    if (QWindow* owner = dialogOwnerOf(*window); owner != window->windowHandle()) {
+        dialog->winId();
+        dialog->windowHandle()->setTransientParent(owner);
+    }
     new EscapeCloses(dialog);
-    dialog->open();
+    // A window manager may give the keyboard to any window of the program when a question of
+    // the dialog closes; the toolkit passes it on to what is modal for all of them.
+    dialog->setWindowModality(Qt::ApplicationModal);
+    dialog->show();
     dialog->raise();
     dialog->activateWindow();
 }

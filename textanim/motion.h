@@ -33,6 +33,7 @@ struct Motion {
 Motion fade();
 Motion rise();
 Motion blur();
+Motion appear();
 
 // Makes a painter that draws a whole line with the effects of a motion.
 std::unique_ptr<LinePainter> motionPainter(LateOutline text, const Motion& motion);

@@ -29,6 +29,7 @@ double scaleOf(const QTransform& device) {
 LateOutline lateOutline(const RevealLine::Parts& parts,
                         const std::shared_ptr<GlyphShapes>& shapes) {
     const bool isWritten = parts.style == TextAnim::Handwrite;
+    const bool isTyped = parts.style == TextAnim::Typewriter && !parts.isStill;
     const TextFont& font = isWritten ? parts.strokeFont : parts.font;
     if (!(font.size > 0)) {
         return {};
@@ -37,10 +38,10 @@ LateOutline lateOutline(const RevealLine::Parts& parts,
     const auto breaks = isWritten && parts.maxWidth <= 0 ? LineBreaks::Ignored : LineBreaks::Kept;
     const auto layout = std::make_shared<RowLayout>(parts.text, font.face, 0, parts.maxWidth / unit,
                                                     breaks, parts.pieces);
-    const auto clustersOf = [layout, face = font.face, style = parts.style](std::size_t index,
-                                                                            double inPoints) {
+    const auto clustersOf = [layout, face = font.face, isTyped](std::size_t index,
+                                                                double inPoints) {
         TextRow row = layout->row(index, inPoints);
-        if (style == TextAnim::Typewriter) {
+        if (isTyped) {
             const auto& [text, firstCharacter, count] = layout->text(index);
             addBegunGlyphs(row, text, firstCharacter, face);
         }
@@ -54,6 +55,9 @@ LateOutline lateOutline(const RevealLine::Parts& parts,
 std::unique_ptr<LinePainter> painterFor(const RevealLine::Parts& parts,
                                         const std::shared_ptr<GlyphShapes>& shapes) {
     LateOutline text = lateOutline(parts, shapes);
+    if (parts.isStill) {
+        return motionPainter(std::move(text), appear());
+    }
     switch (parts.style) {
     case TextAnim::Fade:
         break;
@@ -82,7 +86,7 @@ struct RevealLine::Private {
     Private(const Parts& p, const std::shared_ptr<GlyphShapes>& shapes)
         : parts(p)
         , painter(painterFor(p, shapes))
-        , delay(lineDelay(p.style, p.index)) {}
+        , delay(p.isStill ? 0 : lineDelay(p.style, p.index)) {}
 
     Parts parts;
     std::unique_ptr<LinePainter> painter;

@@ -49,6 +49,7 @@ public:
         // Those of the text in its font, if it has been measured: a line that is measured
         // is laid out only when it is drawn.
         std::vector<RowPiece> pieces{};
+        bool isStill = false; // without motion, blur and delay
     };
 
     explicit RevealLine(const Parts& parts);

@@ -17,6 +17,8 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <utility>
+
 #include <malloc.h>
 
 namespace morrowleaf {
@@ -116,7 +118,7 @@ Platform makePlatform(WindowSystem system) {
     unmapLargeBlocks();
     const bool x11 = system == WindowSystem::X11 || system == WindowSystem::Xwayland;
     const auto session = std::make_shared<BusLink>(QDBusConnection::SessionBus);
-    platform.colorScheme = std::make_unique<PortalColorScheme>(session);
+    platform.wishes = makeDesktopWishes(session, x11);
     platform.fileChooser = std::make_unique<PortalFileChooser>(session);
     platform.sessionEvents = makeDesktopSession(session);
     platform.trayHost = makeDesktopTray(session, x11);
@@ -125,13 +127,17 @@ Platform makePlatform(WindowSystem system) {
     if (x11) {
         platform.mainScreen = makeX11MainScreen();
         platform.overlays = makeX11Overlays(system == WindowSystem::Xwayland);
-        platform.desktopPicture = makeX11Picture();
+        // The root window of Xwayland is black: the desktop is not drawn there.
+        if (system == WindowSystem::X11) {
+            platform.desktopPicture = makeX11Picture();
+        }
     } else if (system == WindowSystem::Layer) {
         platform.overlays = makeLayerOverlays();
         platform.desktopPicture = makeScreencopy();
     } else {
         platform.overlays = makeWaylandOverlays();
     }
+    platform.overlays = makeOverlaysOverShell(std::move(platform.overlays), session);
     return platform;
 }
 

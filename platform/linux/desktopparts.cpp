@@ -5,6 +5,7 @@
 
 #include "platform/linux/dbus/buschannel.h"
 #include "platform/linux/dbus/notifierhost.h"
+#include "platform/linux/dbus/overview.h"
 #include "platform/linux/x11/x11parts.h"
 #include "platform/shared/socketchannel.h"
 
@@ -38,6 +39,27 @@ public:
 private:
     NotifierHost notifier_;
     std::unique_ptr<TrayHost> x11_; // null until Qt would not wait for the bus
+};
+
+class OverlaysOverShell final : public OverlayMaker {
+public:
+    OverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
+                      std::shared_ptr<const BusLink> session)
+        : overlays_(std::move(overlays))
+        , overview_(std::move(session)) {}
+
+    std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
+                                        const OverlaySetup& setup) override {
+        auto overlay = overlays_->make(window, screen, setup);
+        if (setup.level == WindowLevel::ScreenSaver) {
+            overview_.makeWayFor(window);
+        }
+        return overlay;
+    }
+
+private:
+    std::unique_ptr<OverlayMaker> overlays_;
+    Overview overview_;
 };
 
 class DesktopRequests final : public RequestListener {
@@ -74,6 +96,11 @@ std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session
         return std::make_unique<EitherTray>(session);
     }
     return std::make_unique<NotifierHost>(std::move(session));
+}
+
+std::unique_ptr<OverlayMaker> makeOverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
+                                                    std::shared_ptr<const BusLink> session) {
+    return std::make_unique<OverlaysOverShell>(std::move(overlays), std::move(session));
 }
 
 std::unique_ptr<SingleInstance> makeDesktopInstance() {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/desktopwishes.h"
+#include "platform/overlaywindow.h"
 #include "platform/sessionevents.h"
 #include "platform/singleinstance.h"
 #include "platform/trayhost.h"
@@ -24,6 +26,14 @@ std::unique_ptr<SessionEvents> makeDesktopSession(std::shared_ptr<const BusLink>
 // A tray is present if a status notifier host is on the session bus or, with `x11`, a
 // system tray is on the X server.
 std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11);
+
+// Those of `overlays`, for which GNOME's shell closes its overview.
+std::unique_ptr<OverlayMaker> makeOverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
+                                                    std::shared_ptr<const BusLink> session);
+
+// What the user has told the desktop's portal or, with `x11`, whoever has the settings of
+// the X server. A wish counts if either knows of it.
+std::unique_ptr<DesktopWishes> makeDesktopWishes(std::shared_ptr<const BusLink> session, bool x11);
 
 // Uses a lock in the user's runtime folder. Later launches reach the instance through a
 // socket beside it or by its name on the session bus.

@@ -107,9 +107,9 @@ private:
     Status status_ = Status::NotRegistered;
 };
 
-class NullColorScheme final : public ColorScheme {
+class NoWishes final : public DesktopWishes {
 public:
-    ColorPreference preference() const override { return ColorPreference::None; }
+    Wishes current() const override { return {}; }
 };
 
 class OnlyInstance final : public SingleInstance {
@@ -134,7 +134,7 @@ Platform makeNullPlatform() {
             .sessionEvents = std::make_unique<SessionEvents>(),
             .trayHost = std::make_unique<TrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
-            .colorScheme = std::make_unique<NullColorScheme>(),
+            .wishes = std::make_unique<NoWishes>(),
             .requests = std::make_unique<NoRequests>()};
 }
 

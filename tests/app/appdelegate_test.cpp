@@ -293,6 +293,15 @@ TEST_F(AppDelegateTest, WhoeverLeavesIsNotHeld) {
     EXPECT_EQ(top().inputReleases, 1);
 }
 
+TEST_F(AppDelegateTest, AShowingThatIsStillThereAfterALockGetsTheInputAgain) {
+    launch();
+    emit desktop.platform.sessionEvents->willLeave();
+    EXPECT_EQ(top().inputRetakes, 0);
+    unlock(); // too soon for another showing
+    EXPECT_EQ(showings(), 1);
+    EXPECT_EQ(top().inputRetakes, 1);
+}
+
 TEST_F(AppDelegateTest, PreviewHasNeitherMonitorNorTimer) {
     launchAndClose();
     const auto delays = timing.delays.size();

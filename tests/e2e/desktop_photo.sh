@@ -51,6 +51,7 @@ must "a chosen photo is copied" copied
 must "the dialog has gone" not dialogs
 must "the photo is marked" checked "radio button" "Your photo 1"
 must "the editor has the keyboard" editor_listens
+must "and the focus of the display" focus_is Morrowleaf
 press Escape
 must "Escape ends the editing" is_gone
 check "the program goes on" kill -0 "$app"

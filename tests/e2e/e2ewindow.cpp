@@ -3,9 +3,11 @@
 
 // A plain window for sessions under test. It has one colour and prints a line on standard
 // output for every activation, key and click.
-//   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock|grabbing]
-// A grabbing window grabs keyboard and mouse, as games do.
+//   e2e_window TITLE COLOUR X Y WIDTH HEIGHT [above|dock|grabbing|locker [FILE]]
+// A grabbing window grabs keyboard and mouse, as games do, if FILE is given as soon as there
+// is such a file; a locker is not managed.
 #include <QApplication>
+#include <QFile>
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
@@ -67,14 +69,21 @@ int main(int argc, char** argv) {
     if (kind == "above"_L1) {
         window.setWindowFlag(Qt::WindowStaysOnTopHint);
     }
+    if (kind == "locker"_L1) {
+        window.setWindowFlag(Qt::X11BypassWindowManagerHint);
+    }
     if (kind == "dock"_L1) {
         window.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
     }
     window.show();
     if (kind == "grabbing"_L1) {
         auto* handle = window.windowHandle();
+        const QString file = arguments.value(needed + 1);
         QTimer grab;
-        QObject::connect(&grab, &QTimer::timeout, handle, [&grab, handle] {
+        QObject::connect(&grab, &QTimer::timeout, handle, [&grab, handle, file] {
+            if (!file.isEmpty() && !QFile::exists(file)) {
+                return;
+            }
             if (handle->setKeyboardGrabEnabled(true) && handle->setMouseGrabEnabled(true)) {
                 grab.stop();
                 std::puts("grabbed");

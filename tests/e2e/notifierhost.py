@@ -91,7 +91,7 @@ def item():
     items = dbus.Interface(watcher, dbus.PROPERTIES_IFACE).Get(
         NAME, "RegisteredStatusNotifierItems"
     )
-    last = str(items[-1])
+    last = str(items[-1]).replace("@", "")  # GNOME's extension puts it between the two
     service, _, path = last.partition("/")
     return bus, service, "/" + path if path else "/StatusNotifierItem"
 

@@ -25,12 +25,10 @@ class Portal(dbus.service.Object):
     scheme = 0
     request = None
 
-    @dbus.service.method(SETTINGS, in_signature="ss", out_signature="v")
-    def Read(self, group, key):
-        if (group, key) != ("org.freedesktop.appearance", "color-scheme"):
-            raise dbus.DBusException("no such setting", name="org.freedesktop.portal.Error.NotFound")
+    @dbus.service.method(SETTINGS, in_signature="as", out_signature="a{sa{sv}}")
+    def ReadAll(self, groups):
         print("read", flush=True)
-        return dbus.UInt32(self.scheme, variant_level=1)
+        return {"org.freedesktop.appearance": {"color-scheme": dbus.UInt32(self.scheme)}}
 
     @dbus.service.signal(SETTINGS, signature="ssv")
     def SettingChanged(self, group, key, value):

@@ -55,7 +55,8 @@ add() {
 add
 must "the desktop's dialog is asked for" asked open 1
 check "for one picture" grep -q "multiple=False png=True text=False" "$work/portal.log"
-check "with no parent, since no manager knows the window" grep -q "parent=''" "$work/portal.log"
+check "for the window that stands in for the editor" \
+    grep -Eq "parent='x11:[0-9a-f]+'" "$work/portal.log"
 settle
 check "no dialog of the toolkit is there" not xdotool search --onlyvisible --name '^Add a Photo$'
 # The portal's dialog is an ordinary window of another program.

@@ -77,13 +77,14 @@ sleeps() {
 lock() { session_call c1 "$mock.EmitSignal" "$login.Session" Lock '' '[]'; }
 refused() { [ "$(grep -c refused "$work/window-$name.log")" -ge "$1" ]; }
 for leaving in lock sleeps "set_hint true"; do
+    name=locker-${leaving%% *}
+    put_window "$name" '#00ff00' 0 0 640 480 grabbing "$work/$name.asks"
+    locker=$last
     show_again
     settle
-    name=locker-${leaving%% *}
-    put_window "$name" '#00ff00' 0 0 640 480 grabbing
-    locker=$last
+    touch "$work/$name.asks"
     must "a locker asks for the keyboard in vain" refused 3
-    check "while it is shown nobody else holds the keyboard" \
+    check "just after it appeared nobody else holds the keyboard" \
         not grep -q grabbed "$work/window-$name.log"
     $leaving
     must "at '$leaving' a locker can" grep -q grabbed "$work/window-$name.log"
@@ -95,6 +96,23 @@ for leaving in lock sleeps "set_hint true"; do
     must "a click closes it" is_gone
 done
 set_hint false
+
+# Nor does one that nobody announces have to wait until the quotation is closed, and still
+# no key goes to a window that takes the focus.
+put_window waiting '#00ff00' 0 0 640 480 grabbing "$work/waiting.asks"
+locker=$last
+show_again
+touch "$work/waiting.asks"
+must "a locker that goes on asking gets the keyboard" grep -q grabbed "$work/window-waiting.log"
+check "with the quotation still there" is_shown
+stop "$locker"
+put_window newcomer '#00ff00' 0 0 640 480
+newcomer=$last
+must "a new window takes the focus" focus_is newcomer
+xdotool key w
+must "a key still closes the quotation" is_gone
+check "and does not go to the window" not grep -q '^key w' "$work/window-newcomer.log"
+stop "$newcomer"
 
 # The settings window comes to the front even while the user types elsewhere.
 xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc

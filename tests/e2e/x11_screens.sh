@@ -111,4 +111,32 @@ for scale in 1.25 2; do
     kill -TERM "$app"
     wait "$app"
 done
+
+# Two monitors of different scales.
+xrandr --setmonitor left 800/200x600/150+0+0 screen
+xrandr --setmonitor right 800/200x600/150+800+0 none
+# The smaller resolution has moved them.
+xdotool search --name '^onleft$' windowmove 100 100
+xdotool search --name '^onright$' windowmove 1000 100
+title_focus onright
+QT_SCREEN_SCALE_FACTORS='left=1;right=2' start app "$MORROWLEAF"
+app=$last
+must "it covers the monitor of twice the scale" geometry_is "800 0 800 600"
+must "all of it" now_shows_none_of right2 '#ff00ff'
+check "and nothing else" shows_some_of right2 '#ffff00'
+xdotool key q
+must "a key closes it" is_gone
+title_focus onleft
+n=$(maps)
+"$MORROWLEAF"
+must "then the other one" opened_since "$n"
+must "which has the single scale" geometry_is "0 0 800 600"
+# By then the mouse is free, also for a screen locker.
+put_window locker '#00ff00' 0 0 640 480 grabbing
+locker=$last
+must "after some seconds others can have the mouse" grep -q grabbed "$work/window-locker.log"
+stop "$locker"
+xdotool mousemove 1100 200 mousedown 1 sleep 0.5 mouseup 1
+must "a click on the other monitor closes it" is_gone
+must "and arrives there" grep -q '^click' "$work/window-onright.log"
 finish

@@ -7,6 +7,7 @@
 #include "tests/fakes/fakefilechooser.h"
 
 #include <QGuiApplication>
+#include <QPointer>
 #include <QScreen>
 #include <QWidget>
 
@@ -22,6 +23,7 @@ struct OverlayRecord {
     int fronts = 0;
     int outs = 0;
     int inputReleases = 0;
+    int inputRetakes = 0;
     std::vector<WindowLevel> levels;
     double alphaAtFront = -1;
     std::vector<double> alphas; // those that the overlay has taken
@@ -47,6 +49,9 @@ public:
     bool fadesWindows = false; // by itself
     QImage picture;
     int captures = 0;
+    bool lockerStays = false;           // on the screen after an unlock
+    bool looksThrough = false;          // as the controller has told
+    std::function<void()> lockerLeaves; // call it to let it go
     quint32 frontTime = 0;
     FakeFileChooser* files = nullptr;
     std::vector<std::shared_ptr<OverlayRecord>> overlays;
@@ -86,6 +91,7 @@ private:
         }
         void setLevel(WindowLevel level) override { record->levels.push_back(level); }
         void releaseInput() override { ++record->inputReleases; }
+        void retakeInput() override { ++record->inputRetakes; }
         quint32 orderedFrontAt() const override { return desktop.frontTime; }
         FakeDesktop& desktop;
         std::shared_ptr<OverlayRecord> record;
@@ -113,6 +119,21 @@ private:
     struct Picture final : DesktopPicture {
         explicit Picture(FakeDesktop& d)
             : desktop(d) {}
+        std::unique_ptr<QObject> afterLocker(QScreen&, bool looksThrough,
+                                             const std::function<void()>& then) override {
+            if (!desktop.lockerStays) {
+                then();
+                return nullptr;
+            }
+            desktop.looksThrough = looksThrough;
+            auto wait = std::make_unique<QObject>();
+            desktop.lockerLeaves = [guard = QPointer(wait.get()), then] {
+                if (guard) {
+                    then();
+                }
+            };
+            return wait;
+        }
         QImage capture(QScreen&) override {
             ++desktop.captures;
             return desktop.picture;

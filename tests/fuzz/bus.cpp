@@ -3,7 +3,9 @@
 
 #include "platform/linux/dbus/logind.h"
 #include "platform/linux/dbus/notifierhost.h"
+#include "platform/linux/dbus/overview.h"
 #include "platform/linux/dbus/portals.h"
+#include "platform/linux/dbus/portalwishes.h"
 #include "platform/linux/dbus/screensavers.h"
 #include "tests/platform/fakelogind.h"
 #include "tests/platform/privatebus.h"
@@ -29,10 +31,15 @@ void require(bool holds) {
     }
 }
 
-constexpr std::array services{u"org.freedesktop.login1",        u"org.freedesktop.portal.Desktop",
-                              u"org.kde.StatusNotifierWatcher", u"org.freedesktop.ScreenSaver",
-                              u"org.gnome.ScreenSaver",         u"org.cinnamon.ScreenSaver",
-                              u"org.mate.ScreenSaver",          u"org.xfce.ScreenSaver"};
+constexpr std::array services{u"org.freedesktop.login1",
+                              u"org.freedesktop.portal.Desktop",
+                              u"org.kde.StatusNotifierWatcher",
+                              u"org.freedesktop.ScreenSaver",
+                              u"org.gnome.ScreenSaver",
+                              u"org.cinnamon.ScreenSaver",
+                              u"org.mate.ScreenSaver",
+                              u"org.xfce.ScreenSaver",
+                              u"org.gnome.Shell"};
 constexpr std::array paths{u"/org/freedesktop/login1/session/_37",
                            u"/org/freedesktop/login1/user/_1000",
                            u"/org/freedesktop/portal/desktop/request/1_1/own",
@@ -45,6 +52,17 @@ constexpr std::array texts{u"LockedHint",
                            u"org.freedesktop.login1.Session",
                            u"org.freedesktop.appearance",
                            u"color-scheme",
+                           u"accent-color",
+                           u"contrast",
+                           u"org.gnome.desktop.interface",
+                           u"enable-animations",
+                           u"org.kde.kdeglobals.KDE",
+                           u"AnimationDurationFactor",
+                           u"org.kde.kdeglobals.General",
+                           u"AccentColor",
+                           u"1,2,300",
+                           u"org.gnome.Shell",
+                           u"OverviewActive",
                            u"file:///home/me/a%20b.png",
                            u"file:relative.png",
                            u"file://host/a.png",
@@ -174,13 +192,17 @@ public:
 
     // Of the type that the caller expects.
     QVariantList expected(const QString& member) {
-        if (member == "Get"_L1 || member == "Read"_L1) {
+        if (member == "ReadAll"_L1) {
+            return {QVariant::fromValue(
+                PortalSettings{{input->text(), input->map(0)}, {input->text(), input->map(0)}})};
+        }
+        if (member == "Get"_L1) {
             return {QVariant::fromValue(input->variant(0))};
         }
         if (member == "GetAll"_L1) {
             return {input->map(0)};
         }
-        if (member == "Close"_L1) {
+        if (member == "Close"_L1 || member == "Set"_L1) {
             return {};
         }
         return {QVariant::fromValue(input->path())};
@@ -202,7 +224,7 @@ void sendSignal(Answerer& from) {
         from.fake.send(path, interface, name, wrong ? QVariantList{input.value(0)} : arguments);
     };
     const QString session = u"org.freedesktop.login1.Session"_s;
-    switch (which % 9) {
+    switch (which % 11) {
     case 0:
         send(u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s,
              u"PrepareForSleep"_s, {input.next() % 2 == 1});
@@ -235,6 +257,13 @@ void sendSignal(Answerer& from) {
     case 7:
         send(u"/StatusNotifierWatcher"_s, u"org.kde.StatusNotifierWatcher"_s,
              u"StatusNotifierHostRegistered"_s, {});
+        break;
+    case 8:
+        send(u"/org/freedesktop/ScreenSaver"_s, u"org.kde.screensaver"_s, u"AboutToLock"_s, {});
+        break;
+    case 9:
+        send(u"/org/gnome/Shell"_s, u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s,
+             {input.text(), input.map(0), input.list()});
         break;
     default: {
         const QString name = input.oneOf(services);
@@ -283,9 +312,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto session = sessionLink();
         const ScreenSavers savers(gate, session);
         const NotifierHost host(session);
-        const PortalColorScheme scheme(session);
+        const PortalWishes wishes(session);
         PortalFileChooser chooser(session);
+        Overview overview(session);
         QWidget window;
+        overview.makeWayFor(window);
+        QEvent shown(QEvent::Show);
+        QCoreApplication::sendEvent(&window, &shown);
         session->open();
         require(becomesTrue([&] { return session->bus().isConnected(); }));
         int answers = 0;
@@ -295,7 +328,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             require(++answers == 1);
         });
         require(becomesTrue([&answerer] {
-            return answerer.asked.contains({u"GetSessionByPID"_s, u"Read"_s, u"OpenFile"_s});
+            return answerer.asked.contains({u"GetSessionByPID"_s, u"ReadAll"_s, u"OpenFile"_s});
         }));
         const auto settle = [&] {
             answerer.fake.waitForBus();

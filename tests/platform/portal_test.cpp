@@ -10,8 +10,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusObjectPath>
-#include <QDBusVariant>
-#include <QSignalSpy>
 #include <QWidget>
 
 #include <memory>
@@ -21,7 +19,6 @@ namespace morrowleaf {
 namespace {
 
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
-const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 
 // One dialog, by its request object.
@@ -39,7 +36,7 @@ public slots:
     void Close() { closed = true; } // NOLINT: a name on the bus
 };
 
-// The portal's settings and its file chooser.
+// The portal's file chooser.
 class FakePortal : public QObject, public QDBusContext {
     Q_OBJECT
 
@@ -53,18 +50,10 @@ public:
         service.send(dialog.path, requestInterface, u"Response"_s,
                      {code, QVariantMap{{u"uris"_s, addresses}}});
     }
-    void changeScheme(uint value, const QString& key = u"color-scheme"_s) {
-        scheme = value;
-        service.send(
-            portalPath, settingsInterface, u"SettingChanged"_s,
-            {u"org.freedesktop.appearance"_s, key, QVariant::fromValue(QDBusVariant(value))});
-    }
-
     FakeService service{{}};
     FakeDialog dialog;
     bool refuses = false;
     bool choosesPath = false; // as an old portal did
-    uint scheme = 0;
 };
 
 class FakeChooser : public QDBusAbstractAdaptor {
@@ -100,28 +89,8 @@ private:
     FakePortal& portal_;
 };
 
-class FakeSettings : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    explicit FakeSettings(FakePortal& portal)
-        : QDBusAbstractAdaptor(&portal)
-        , portal_(portal) {}
-
-public slots:
-    // NOLINTNEXTLINE: a name on the bus
-    QDBusVariant Read(const QString& /*group*/, const QString& /*key*/) {
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(portal_.scheme)));
-    }
-
-private:
-    FakePortal& portal_;
-};
-
 FakePortal::FakePortal() {
     new FakeChooser(*this);
-    new FakeSettings(*this);
     service.bus.registerObject(portalPath, this);
 }
 
@@ -273,58 +242,6 @@ TEST_F(PortalTest, ClosesTheDialogWithItsWindow) {
     window.reset();
     EXPECT_TRUE(becomesTrue([this] { return portal->dialog.closed; }));
     EXPECT_FALSE(answer);
-}
-
-TEST_F(PortalTest, ReadsTheColorScheme) {
-    portal->scheme = 1;
-    portal->registerName();
-    const PortalColorScheme scheme(session);
-    openSession();
-    EXPECT_EQ(scheme.preference(), ColorPreference::None);
-    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Dark; }));
-}
-
-TEST_F(PortalTest, FollowsTheColorScheme) {
-    portal->registerName();
-    PortalColorScheme scheme(session);
-    openSession();
-    QList<ColorPreference> changes;
-    QObject::connect(&scheme, &ColorScheme::changed, &scheme,
-                     [&](ColorPreference preference) { changes << preference; });
-    EXPECT_TRUE(becomesTrue([&] {
-        portal->changeScheme(1);
-        return !changes.isEmpty();
-    }));
-    portal->changeScheme(1, u"accent-color"_s);
-    portal->changeScheme(2);
-    portal->changeScheme(7); // not a value that exists
-    EXPECT_TRUE(becomesTrue([&] { return changes.size() == 3; }));
-    EXPECT_EQ(changes,
-              (QList{ColorPreference::Dark, ColorPreference::Light, ColorPreference::None}));
-}
-
-TEST_F(PortalTest, AsksAgainOnABusThatComesBack) {
-    portal->scheme = 1;
-    portal->registerName();
-    const PortalColorScheme scheme(session);
-    openSession();
-    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Dark; }));
-    daemon.stop();
-    daemon.start();
-    portal = std::make_unique<FakePortal>();
-    portal->scheme = 2;
-    portal->registerName();
-    EXPECT_TRUE(becomesTrue([&] { return scheme.preference() == ColorPreference::Light; }));
-}
-
-TEST_F(PortalTest, AsksAPortalThatStartsLater) {
-    const PortalColorScheme withoutPortal(session);
-    const PortalColorScheme withoutBus(sessionLink());
-    openSession();
-    portal->registerName();
-    portal->scheme = 2;
-    EXPECT_TRUE(becomesTrue([&] { return withoutPortal.preference() == ColorPreference::Light; }));
-    EXPECT_EQ(withoutBus.preference(), ColorPreference::None);
 }
 
 } // namespace

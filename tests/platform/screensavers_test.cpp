@@ -73,6 +73,32 @@ TEST_P(ScreenSaversTest, WhatAnotherClientSendsIsIgnored) {
     EXPECT_EQ(delivered, Events{Event::Unlocked});
 }
 
+class PlasmaLockerTest : public ScreenSaversTest {};
+
+TEST_P(PlasmaLockerTest, ReleasesTheInputBeforeItLocks) {
+    fake->send(GetParam().path, u"org.kde.screensaver"_s, u"AboutToLock"_s, {});
+    EXPECT_TRUE(becomesTrue([this] { return leavings == 2; }));
+    EXPECT_TRUE(delivered.empty());
+}
+
+TEST_P(PlasmaLockerTest, WhatAnotherClientSendsIsIgnored) {
+    FakeService impostor({});
+    impostor.send(GetParam().path, u"org.kde.screensaver"_s, u"AboutToLock"_s, {});
+    impostor.waitForBus();
+    setActive(false);
+    EXPECT_TRUE(becomesTrue([this] { return delivered == Events{Event::Unlocked}; }));
+    EXPECT_EQ(leavings, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Plasma, PlasmaLockerTest,
+    testing::Values(Saver{u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s},
+                    Saver{u"org.freedesktop.ScreenSaver"_s, u"/ScreenSaver"_s}),
+    [](const testing::TestParamInfo<Saver>& info) {
+        QString test = info.param.path;
+        return test.remove('/'_L1).toStdString();
+    });
+
 INSTANTIATE_TEST_SUITE_P(
     Desktops, ScreenSaversTest,
     testing::Values(Saver{u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s},

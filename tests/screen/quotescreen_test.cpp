@@ -40,6 +40,21 @@ int differing(const QImage& a, const QImage& b) {
 
 } // namespace
 
+TEST_F(QuoteScreens, HeedsAWishForLittleMotionAtOnce) {
+    store.set(K::screenAnim, u"drift"_s);
+    auto screen = make();
+    auto* inspector = new QWidget;
+    screen->setInspector(inspector);
+    screen->setWishes({.reducedMotion = true});
+    screen->resize(900, 480);
+    screen->show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return screen->view() != nullptr; }));
+    EXPECT_EQ(inspector->x(), 900 - inspectorWidth);
+    EXPECT_TRUE(screen->view()->state().settings.reducedMotion);
+    screen->setWishes({});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !screen->view()->state().settings.reducedMotion; }));
+}
+
 TEST_F(QuoteScreens, AsksForNoFramesOnceAStillScreenIsFinished) {
     const auto screen = shown();
     EXPECT_TRUE(screen->isAnimating());

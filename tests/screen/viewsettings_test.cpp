@@ -109,3 +109,14 @@ TEST(Hint, SaysHowToEndTheShowing) {
     EXPECT_EQ(hintText(0), u"press any key"_s);
     EXPECT_EQ(hintText(320), u"esc to finish"_s);
 }
+
+TEST(ViewSettings, ContainTheWishesButNoSettingChanges) {
+    SettingsStore store;
+    registerAppDefaults(store);
+    const ViewSettings settings = readViewSettings(store, {.reducedMotion = true});
+    EXPECT_TRUE(settings.reducedMotion);
+    EXPECT_EQ(settings.screenAnimRaw, readViewSettings(store).screenAnimRaw);
+    const Palette& palette = Palette::all()[0];
+    EXPECT_EQ(backdropFor(settings, palette, false).screenAnim, ScreenAnim::Still);
+    EXPECT_EQ(backdropFor(readViewSettings(store), palette, false).screenAnim, ScreenAnim::Drift);
+}

@@ -35,7 +35,8 @@ NotifierHost::NotifierHost(std::shared_ptr<const BusLink> session)
 
 QIcon NotifierHost::tintedSymbol() const {
     const QString desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
-    const bool isTinted = desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1);
+    const bool isTinted =
+        desktop.contains("KDE"_L1) || desktop.contains("GNOME"_L1) || desktop.contains("XFCE"_L1);
     return isTinted ? QIcon::fromTheme(u"org.morrowleaf.Morrowleaf-symbolic"_s) : QIcon();
 }
 

@@ -3,12 +3,12 @@
 
 #include "platform/linux/dbus/portals.h"
 
+#include "platform/dialogowner.h"
 #include "platform/linux/dbus/busservice.h"
 #include "portal_interface.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
-#include <QDBusVariant>
 #include <QGuiApplication>
 #include <QTimer>
 #include <QUrl>
@@ -70,10 +70,11 @@ constexpr uint mimeRule = 1;
 // The portal's name for the window that the dialog belongs to; empty for one
 // that no window manager knows.
 QString handleOf(const QWidget& window) {
-    const bool managed = !window.windowFlags().testFlag(Qt::BypassWindowManagerHint);
-    return managed && QGuiApplication::platformName() == "xcb"_L1 &&
-                   window.windowHandle() != nullptr
-               ? u"x11:%1"_s.arg(window.windowHandle()->winId(), 0, 16)
+    const QWindow* owner = dialogOwnerOf(window);
+    const bool isManaged =
+        owner != nullptr && !owner->flags().testFlag(Qt::BypassWindowManagerHint);
+    return isManaged && QGuiApplication::platformName() == "xcb"_L1
+               ? u"x11:%1"_s.arg(owner->winId(), 0, 16)
                : QString();
 }
 
@@ -209,69 +210,6 @@ FileRequest* PortalFileChooser::ask(QWidget& window, const FileQuestion& questio
         {u"filters"_s, QVariant::fromValue(QList<FileFilter>{filter})},
     };
     return new PortalRequest(session_->bus(), window, question.title, options);
-}
-
-namespace {
-
-using Settings = OrgFreedesktopPortalSettingsInterface;
-
-const QString path = u"/org/freedesktop/portal/desktop"_s;
-const QString appearance = u"org.freedesktop.appearance"_s;
-const QString colorScheme = u"color-scheme"_s;
-
-// Read() of the portal wraps its value twice.
-QVariant unwrapped(const QDBusVariant& value) {
-    QVariant inner = value.variant();
-    while (inner.canConvert<QDBusVariant>()) {
-        inner = inner.value<QDBusVariant>().variant();
-    }
-    return inner;
-}
-
-} // namespace
-
-PortalColorScheme::PortalColorScheme(std::shared_ptr<const BusLink> session)
-    : session_(std::move(session))
-    , portal_(u"org.freedesktop.portal.Desktop"_s) {
-    connect(session_.get(), &BusLink::up, this, &PortalColorScheme::subscribe);
-    connect(&portal_, &BusService::appeared, this, &PortalColorScheme::read);
-}
-
-void PortalColorScheme::subscribe() {
-    subscription_ = std::make_unique<QObject>();
-    auto* settings = new BusSignals<Settings>(path, session_->bus(), subscription_.get());
-    connect(settings, &Settings::SettingChanged, this,
-            [this, settings](const QString& group, const QString& key, const QDBusVariant& value) {
-                if (group == appearance && key == colorScheme && portal_.sent(*settings)) {
-                    apply(value);
-                }
-            });
-    portal_.follow(session_->bus());
-    portal_.activate();
-}
-
-void PortalColorScheme::read() {
-    Settings settings(portal_.owner(), path, session_->bus());
-    whenFinished(this, settings.Read(appearance, colorScheme),
-                 [this](const QDBusPendingReply<QDBusVariant>& reply) {
-                     if (reply.isValid()) {
-                         apply(reply.value());
-                     }
-                 });
-}
-
-void PortalColorScheme::apply(const QDBusVariant& value) {
-    constexpr uint dark = 1;
-    constexpr uint light = 2;
-    bool isNumber = false;
-    const uint number = unwrapped(value).toUInt(&isNumber);
-    const auto next = isNumber && number == dark    ? ColorPreference::Dark
-                      : isNumber && number == light ? ColorPreference::Light
-                                                    : ColorPreference::None;
-    if (next != preference_) {
-        preference_ = next;
-        emit changed(next);
-    }
 }
 
 } // namespace morrowleaf

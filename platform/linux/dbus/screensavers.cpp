@@ -25,6 +25,7 @@ void ScreenSavers::subscribe() {
     listen<OrgCinnamonScreenSaverInterface>(u"/org/cinnamon/ScreenSaver"_s);
     listen<OrgMateScreenSaverInterface>(u"/org/mate/ScreenSaver"_s);
     listen<OrgXfceScreenSaverInterface>(u"/org/xfce/ScreenSaver"_s);
+    listenToPlasma();
     for (auto& [name, service] : services_) {
         service.follow(session_->bus());
     }
@@ -51,6 +52,20 @@ void ScreenSavers::listen(const QString& path) {
         }
         gate_.setInhibited(name, active);
     });
+}
+
+void ScreenSavers::listenToPlasma() {
+    const BusService& service = services_.at(
+        QString::fromLatin1(OrgFreedesktopScreenSaverInterface::staticInterfaceName()));
+    using Locker = OrgKdeScreensaverInterface;
+    for (const QString& path : {u"/ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s}) {
+        auto* locker = new BusSignals<Locker>(path, session_->bus(), subscriptions_.get());
+        connect(locker, &Locker::AboutToLock, this, [this, locker, &service] {
+            if (service.sent(*locker)) {
+                gate_.reportLeaving();
+            }
+        });
+    }
 }
 
 } // namespace morrowleaf

@@ -13,7 +13,8 @@
 namespace morrowleaf {
 
 // Reports to the gate when a screen saver of the desktop starts and ends: it is
-// an inhibitor by its name on the bus, and its end unlocks the screen.
+// an inhibitor by its name on the bus, and its end unlocks the screen. That of Plasma also
+// reports that it is about to start.
 class ScreenSavers : public QObject {
     Q_OBJECT
 
@@ -25,6 +26,7 @@ private:
     void subscribe();
     template <typename Saver>
     void listen(const QString& path);
+    void listenToPlasma();
 
     SessionGate& gate_;
     std::shared_ptr<const BusLink> session_;

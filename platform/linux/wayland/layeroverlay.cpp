@@ -78,10 +78,17 @@ public:
                                      ZWLR_LAYER_SURFACE_V1_SET_LAYER_SINCE_VERSION) {
             return;
         }
-        const bool top = level == WindowLevel::ScreenSaver;
-        zwlr_layer_surface_v1_set_layer(layer_, top ? ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY
-                                                    : ZWLR_LAYER_SHELL_V1_LAYER_BOTTOM);
-        zwlr_layer_surface_v1_set_keyboard_interactivity(layer_, top ? exclusive : 0);
+        if (level == WindowLevel::ScreenSaver) {
+            // KWin 5.27 would keep the surface in the layer below.
+            // The screen stays the same, even if the dialog was on another one.
+            output_ = wayland::outputOf(*window_.screen());
+            orderOut();
+            orderFront();
+            output_ = nullptr;
+            return;
+        }
+        zwlr_layer_surface_v1_set_layer(layer_, ZWLR_LAYER_SHELL_V1_LAYER_BOTTOM);
+        zwlr_layer_surface_v1_set_keyboard_interactivity(layer_, 0);
         wl_surface_commit(wayland::surfaceOf(*window_.windowHandle()));
         wl_display_flush(wayland::display());
     }
@@ -107,7 +114,7 @@ private:
         }
         // Without an output the compositor uses the focused one.
         layer_ = zwlr_layer_shell_v1_get_layer_surface(
-            globals_.layerShell, surface, nullptr, ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "morrowleaf");
+            globals_.layerShell, surface, output_, ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "morrowleaf");
         // Events are dispatched on the default queue, as Qt's own are.
         wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(layer_), nullptr);
         static constexpr zwlr_layer_surface_v1_listener listener{onConfigure, onClosed};
@@ -167,6 +174,7 @@ private:
 
     QWidget& window_;
     wayland::Globals globals_;
+    wl_output* output_ = nullptr; // for the next surface
     zwlr_layer_surface_v1* layer_ = nullptr;
     org_kde_kwin_blur* blur_ = nullptr;
     bool configured_ = false;

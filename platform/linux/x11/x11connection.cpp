@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 
+#include <array>
 #include <cstring>
 
 namespace morrowleaf::x11 {
@@ -55,6 +56,11 @@ bool hasCompositor() {
     return selectionOwner("_NET_WM_CM_S0") != XCB_WINDOW_NONE;
 }
 
+bool hasWindowManager() {
+    const auto check = property(rootWindow(), "_NET_SUPPORTING_WM_CHECK");
+    return check && !check->empty() && check->front() != XCB_WINDOW_NONE;
+}
+
 std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name) {
     auto* c = connection();
     constexpr std::uint32_t longest = 1024;
@@ -67,9 +73,28 @@ std::optional<std::vector<quint32>> property(xcb_window_t window, const char* na
     return std::vector<quint32>(values, values + reply->value_len);
 }
 
+QByteArray bytesOf(xcb_window_t window, const char* name) {
+    auto* c = connection();
+    constexpr std::uint32_t longest = 1U << 16U; // words of four bytes
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        c, xcb_get_property(c, 0, window, atom(name), XCB_ATOM_ANY, 0, longest), nullptr));
+    if (!reply || reply->format != 8) {
+        return {};
+    }
+    return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get())};
+}
+
 void setCardinal(xcb_window_t window, const char* name, quint32 value) {
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, atom(name), XCB_ATOM_CARDINAL,
                         32, 1, &value);
+}
+
+void hideFromTaskLists(xcb_window_t window) {
+    const std::array<xcb_atom_t, 2> states{atom("_NET_WM_STATE_SKIP_TASKBAR"),
+                                           atom("_NET_WM_STATE_SKIP_PAGER")};
+    xcb_change_property(connection(), XCB_PROP_MODE_APPEND, window, atom("_NET_WM_STATE"),
+                        XCB_ATOM_ATOM, 32, states.size(), states.data());
 }
 
 // A property change is the one request that the server answers with its time. On the
@@ -99,11 +124,38 @@ quint32 serverTime() {
     return time;
 }
 
+void listenTo(xcb_window_t window, std::uint32_t events) {
+    auto* c = connection();
+    const Reply<xcb_get_window_attributes_reply_t> now(
+        xcb_get_window_attributes_reply(c, xcb_get_window_attributes(c, window), nullptr));
+    if (now) {
+        const std::uint32_t mask = now->your_event_mask | events;
+        // Checked, so that an error does not reach Qt, which would print it.
+        const Reply<xcb_generic_error_t> ignored(xcb_request_check(
+            c, xcb_change_window_attributes_checked(c, window, XCB_CW_EVENT_MASK, &mask)));
+    }
+}
+
 xcb_window_t inputFocus() {
     auto* c = connection();
     const Reply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+}
+
+bool isPressedOutside(xcb_window_t window) {
+    auto* c = connection();
+    const auto pointerCookie = xcb_query_pointer(c, window);
+    const auto geometryCookie = xcb_get_geometry(c, window);
+    const Reply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(c, pointerCookie, nullptr));
+    const Reply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(c, geometryCookie, nullptr));
+    constexpr int buttons =
+        XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
+    return pointer && geometry && (pointer->mask & buttons) != 0 &&
+           (pointer->win_x < 0 || pointer->win_x >= geometry->width || pointer->win_y < 0 ||
+            pointer->win_y >= geometry->height);
 }
 
 void setInputFocus(xcb_window_t window) {
@@ -127,22 +179,6 @@ bool belongsToApplication(xcb_window_t window) {
         window = tree->parent;
     }
     return false;
-}
-
-xcb_window_t topLevelOf(xcb_window_t window) {
-    auto* c = connection();
-    while (window != XCB_WINDOW_NONE) {
-        const Reply<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr));
-        if (!tree) {
-            return XCB_WINDOW_NONE;
-        }
-        if (tree->parent == tree->root) {
-            return window;
-        }
-        window = tree->parent;
-    }
-    return XCB_WINDOW_NONE;
 }
 
 } // namespace morrowleaf::x11

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QByteArray>
 
 #include <xcb/xcb.h>
 
@@ -34,13 +34,26 @@ xcb_window_t selectionOwner(const char* selection);
 // Whether a compositing manager blends windows by their alpha.
 bool hasCompositor();
 
+bool hasWindowManager();
+
 // The 32-bit values of a property, at most 1024; std::nullopt if it is not set.
 [[nodiscard]] std::optional<std::vector<quint32>> property(xcb_window_t window, const char* name);
+// The bytes of a property, at most 256 KiB; empty if it is not set.
+QByteArray bytesOf(xcb_window_t window, const char* name);
 void setCardinal(xcb_window_t window, const char* name, quint32 value);
+
+// Keeps a window that is not mapped yet out of task bars and pagers.
+void hideFromTaskLists(xcb_window_t window);
+
+// Whether a mouse button is pressed outside of a mapped window. A round trip.
+bool isPressedOutside(xcb_window_t window);
 
 // The server's time in milliseconds, on the clock of event time stamps; 0 on
 // failure. Blocks for a round trip on a connection of its own.
 quint32 serverTime();
+
+// Selects events of a window in addition to those selected already. The window may be gone.
+void listenTo(xcb_window_t window, std::uint32_t events);
 
 xcb_window_t inputFocus();
 // Does nothing if the window cannot take the focus, for example because it is gone.
@@ -49,9 +62,5 @@ void setInputFocus(xcb_window_t window);
 // Whether `window` or one of its ancestors belongs to an application: window
 // managers mark such windows, and also focus windows of their own.
 bool belongsToApplication(xcb_window_t window);
-
-// The child of the root window that contains `window`: for a managed window,
-// its frame.
-xcb_window_t topLevelOf(xcb_window_t window);
 
 } // namespace morrowleaf::x11

@@ -8,12 +8,22 @@
 namespace morrowleaf {
 
 namespace {
-constexpr int retryInterval = 50; // milliseconds
-}
+// In milliseconds.
+constexpr int retryInterval = 50;
+constexpr int grabTime = 3'000; // screen lockers try for about as long
+} // namespace
 
 X11Grab::X11Grab() {
     retry_.setInterval(retryInterval);
     QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { grab(); });
+    enough_.setInterval(grabTime);
+    QObject::connect(&enough_, &QTimer::timeout, &enough_, [this] {
+        if (holder_->isActive()) {
+            ungrab();
+        } else {
+            holder_->requestActivate();
+        }
+    });
 }
 
 void X11Grab::take(QWindow& window, What what) {
@@ -46,20 +56,39 @@ void X11Grab::grab() {
     }
     if (keyboard_ && (mouse_ || what_ != What::Everything)) {
         retry_.stop();
+        if (mouse_) {
+            enough_.start();
+        }
     }
 }
 
-void X11Grab::releaseGrabs(const QWindow& window) {
-    if (!isHolder(window)) {
-        return;
-    }
+void X11Grab::ungrab() {
     retry_.stop();
+    enough_.stop();
     // Regardless of keyboard_ and mouse_, because closing a popup may have returned a grab
     // to this window.
     holder_->setKeyboardGrabEnabled(false);
     holder_->setMouseGrabEnabled(false);
     keyboard_ = false;
     mouse_ = false;
+}
+
+bool X11Grab::hasLetGo(const QWindow& window) const {
+    return isHolder(window) && what_ == What::Everything && !keyboard_ && !retry_.isActive();
+}
+
+void X11Grab::retake(const QWindow& window) {
+    if (hasLetGo(window)) {
+        retry_.start();
+        grab();
+    }
+}
+
+void X11Grab::releaseGrabs(const QWindow& window) {
+    if (isHolder(window)) {
+        what_ = What::Focus;
+        ungrab();
+    }
 }
 
 void X11Grab::giveBack(const QWindow& window) {

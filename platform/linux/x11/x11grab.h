@@ -11,7 +11,10 @@
 namespace morrowleaf {
 
 // Keyboard focus and grabs of keyboard and mouse, for one window at a time. Returns the
-// focus at the end to the window that had it before the first take().
+// focus at the end to the window that had it before the first take(). The grabs keep a
+// window manager that moves the focus from giving away keys. Those of both devices end
+// after some seconds, because no screen locker works beside them, unless the window has lost
+// the focus by then.
 class X11Grab {
 public:
     X11Grab();
@@ -19,7 +22,11 @@ public:
     enum class What { Focus, FocusAndKeyboard, Everything };
     // Takes what is free at once, and the rest as soon as other clients release it.
     void take(QWindow& window, What what);
-    // Releases the grabs; remembers which window had the focus before.
+    // Whether grabs of both devices have ended since take().
+    bool hasLetGo(const QWindow& window) const;
+    // Takes the grabs again, if the focus has left the window after that.
+    void retake(const QWindow& window);
+    // Releases the grabs for good; remembers which window had the focus before.
     void releaseGrabs(const QWindow& window);
     // Releases the grabs and returns the focus. Call when the window leaves the screen.
     void giveBack(const QWindow& window);
@@ -28,6 +35,7 @@ public:
 
 private:
     void grab();
+    void ungrab();
 
     QWindow* holder_ = nullptr;
     What what_ = What::Focus;
@@ -35,6 +43,7 @@ private:
     bool mouse_ = false;
     xcb_window_t previousFocus_ = XCB_WINDOW_NONE;
     QTimer retry_;
+    QTimer enough_;
 };
 
 } // namespace morrowleaf

@@ -3,6 +3,9 @@
 
 #include "platform/linux/x11/x11parts.h"
 
+#include "platform/dialogowner.h"
+#include "platform/linux/x11/placement.h"
+#include "platform/linux/x11/standin.h"
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11grab.h"
 #include "platform/linux/x11/x11monitors.h"
@@ -17,7 +20,6 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <array>
 
 namespace morrowleaf {
 
@@ -25,6 +27,7 @@ namespace {
 
 constexpr int focusPatience = 120;  // milliseconds
 constexpr int settlingTime = 1'500; // milliseconds in which window managers may move the focus
+constexpr int standInStays = 300;   // milliseconds
 constexpr int mostRaises = 20;      // per showing, so that two windows do not fight for ever
 
 X11Grab::What initialHold(InputHold hold) {
@@ -39,9 +42,7 @@ public:
         , setup_(setup)
         , managed_(managed || setup.level != WindowLevel::ScreenSaver)
         , composited_(x11::hasCompositor())
-        , grab_(std::move(hold))
-        , follower_(window, screen) {
-        connect(&follower_, &ScreenFollower::lost, this, &OverlayWindow::lost);
+        , grab_(std::move(hold)) {
         Qt::WindowFlags flags = Qt::Window | Qt::FramelessWindowHint;
         if (!managed_) {
             flags |= Qt::X11BypassWindowManagerHint;
@@ -51,8 +52,7 @@ public:
         }
         window.setWindowFlags(flags);
         window.setAttribute(Qt::WA_TranslucentBackground, composited_);
-        window.setScreen(&screen);
-        window.setGeometry(screen.geometry());
+        cover(screen);
         window.winId();
         setWindowProperties();
         listen();
@@ -78,20 +78,25 @@ public:
     void orderFront() override {
         inputReleased_ = false;
         orderedFrontAt_ = x11::serverTime();
-        if (managed_ && setup_.level == WindowLevel::ScreenSaver) {
-            window_.showFullScreen();
-        } else {
+        if (!managed_ || setup_.level != WindowLevel::ScreenSaver) {
             window_.show();
+        } else if (QGuiApplication::screens().size() > 1) {
+            findScreen();
+            return;
+        } else {
+            window_.showFullScreen();
         }
         moveToFront();
     }
 
     void orderOut() override {
         watch_.stop();
+        placement_.reset();
         // First, because unmapping the window moves the focus to the root, and the window
         // manager would react to that after the focus is set here.
         grab_->giveBack(*window_.windowHandle());
         window_.hide();
+        standIn_.reset();
     }
 
     void setLevel(WindowLevel level) override {
@@ -99,12 +104,14 @@ public:
             return;
         }
         lowered_ = level == WindowLevel::Normal;
-        if (lowered_) {
+        if (!lowered_) {
+            comeBack();
+        } else if (x11::hasWindowManager()) {
             grab_->releaseGrabs(*window_.windowHandle());
-            stack(XCB_STACK_MODE_BELOW, XCB_WINDOW_NONE);
-            standBelowActive();
+            makeWay();
         } else {
-            moveToFront();
+            grab_->releaseGrabs(*window_.windowHandle());
+            stack(XCB_STACK_MODE_BELOW);
         }
     }
 
@@ -114,21 +121,30 @@ public:
         grab_->releaseGrabs(*window_.windowHandle());
     }
 
+    void retakeInput() override {
+        if (inputReleased_ && window_.isVisible() && !lowered_) {
+            inputReleased_ = false;
+            moveToFront();
+        }
+    }
+
     quint32 orderedFrontAt() const override { return orderedFrontAt_; }
 
     bool nativeEventFilter(const QByteArray& /*type*/, void* message,
                            qintptr* /*result*/) override {
         const auto* event = static_cast<const xcb_generic_event_t*>(message);
         const auto type = event->response_type & 0x7F;
-        if (type == XCB_PROPERTY_NOTIFY && lowered_) {
-            const auto* change = reinterpret_cast<const xcb_property_notify_event_t*>(event);
-            if (change->window == x11::rootWindow() && change->atom == activeWindowAtom_) {
-                standBelowActive();
-            }
-        } else if (type == XCB_VISIBILITY_NOTIFY) {
+        if (type == XCB_VISIBILITY_NOTIFY) {
             const auto* change = reinterpret_cast<const xcb_visibility_notify_event_t*>(event);
             if (change->window == id() && change->state != XCB_VISIBILITY_UNOBSCURED) {
                 raiseIfCovered();
+            }
+        } else if (type == XCB_FOCUS_OUT) {
+            // Qt tells of it nearly half a second later. Those of a grab are not meant.
+            const auto* change = reinterpret_cast<const xcb_focus_out_event_t*>(event);
+            if (change->event == id() && (change->mode == XCB_NOTIFY_MODE_NORMAL ||
+                                          change->mode == XCB_NOTIFY_MODE_WHILE_GRABBED)) {
+                followFocus();
             }
         }
         return false;
@@ -137,14 +153,34 @@ public:
 private:
     xcb_window_t id() const { return static_cast<xcb_window_t>(window_.winId()); }
 
+    void cover(QScreen& screen) {
+        follower_ = std::make_unique<ScreenFollower>(window_, screen);
+        connect(follower_.get(), &ScreenFollower::lost, this, &OverlayWindow::lost);
+        window_.setScreen(&screen);
+        window_.setGeometry(screen.geometry());
+    }
+
+    // The caller could only guess the screen, because it does not know the windows of Wayland.
+    void findScreen() {
+        placement_ = std::make_unique<Placement>();
+        connect(
+            placement_.get(), &Placement::found, this,
+            [this](QScreen* screen) {
+                if (screen != nullptr) {
+                    cover(*screen);
+                }
+                window_.showFullScreen();
+                moveToFront();
+                // It is the sender.
+                placement_.release()->deleteLater();
+            },
+            Qt::SingleShotConnection);
+    }
+
     void setWindowProperties() {
         constexpr quint32 allDesktops = 0xFFFFFFFF;
         x11::setCardinal(id(), "_NET_WM_DESKTOP", allDesktops);
-        const std::array<xcb_atom_t, 2> skip{x11::atom("_NET_WM_STATE_SKIP_TASKBAR"),
-                                             x11::atom("_NET_WM_STATE_SKIP_PAGER")};
-        xcb_change_property(x11::connection(), XCB_PROP_MODE_APPEND, id(),
-                            x11::atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, skip.size(),
-                            skip.data());
+        x11::hideFromTaskLists(id());
         // Keeps compositing on: stopping and resuming it flickers, and the fades need it.
         constexpr quint32 keepCompositing = 2;
         x11::setCardinal(id(), "_NET_WM_BYPASS_COMPOSITOR", keepCompositing);
@@ -154,15 +190,8 @@ private:
         if (managed_) {
             return;
         }
-        activeWindowAtom_ = x11::atom("_NET_ACTIVE_WINDOW");
         qGuiApp->installNativeEventFilter(this);
-        auto* c = x11::connection();
-        const x11::Reply<xcb_get_window_attributes_reply_t> now(
-            xcb_get_window_attributes_reply(c, xcb_get_window_attributes(c, id()), nullptr));
-        if (now) {
-            const std::uint32_t mask = now->your_event_mask | XCB_EVENT_MASK_VISIBILITY_CHANGE;
-            xcb_change_window_attributes(c, id(), XCB_CW_EVENT_MASK, &mask);
-        }
+        x11::listenTo(id(), XCB_EVENT_MASK_VISIBILITY_CHANGE);
         if (setup_.hold == InputHold::KeyboardIfNeeded) {
             watch_.setSingleShot(true);
             watch_.setInterval(focusPatience);
@@ -188,6 +217,16 @@ private:
         }
     }
 
+    void followFocus() {
+        if (grab_->hasLetGo(*window_.windowHandle())) {
+            if (x11::isPressedOutside(id())) {
+                emit clickedElsewhere();
+            } else {
+                grab_->retake(*window_.windowHandle());
+            }
+        }
+    }
+
     // Takes the focus again if no window of the program has it, or if the window manager
     // gave it to another window of the program when a dialog closed.
     void retakeFocus() {
@@ -202,35 +241,32 @@ private:
         }
     }
 
-    void stack(std::uint32_t mode, xcb_window_t sibling) {
-        auto* c = x11::connection();
-        std::array<std::uint32_t, 2> values{sibling, mode};
-        std::uint16_t mask = XCB_CONFIG_WINDOW_STACK_MODE;
-        if (sibling != XCB_WINDOW_NONE) {
-            mask |= XCB_CONFIG_WINDOW_SIBLING;
-        } else {
-            values[0] = mode;
-        }
-        // The sibling may be gone by now, which is not an error here.
-        const x11::Reply<xcb_generic_error_t> ignored(
-            xcb_request_check(c, xcb_configure_window_checked(c, id(), mask, values.data())));
+    void stack(std::uint32_t mode) {
+        xcb_configure_window(x11::connection(), id(), XCB_CONFIG_WINDOW_STACK_MODE, &mode);
     }
 
-    // Places the window directly below the active dialog, above everything else.
-    void standBelowActive() {
-        const auto active = x11::property(x11::rootWindow(), "_NET_ACTIVE_WINDOW");
-        if (!active || active->empty() || active->front() == XCB_WINDOW_NONE) {
-            return;
-        }
-        const auto owner = x11::property(active->front(), "WM_TRANSIENT_FOR");
-        if (owner && !owner->empty() && owner->front() == dialog_) {
-            return; // a dialog's own message box: keep the dialog visible
-        }
-        dialog_ = active->front();
-        const xcb_window_t frame = x11::topLevelOf(dialog_);
-        if (frame != XCB_WINDOW_NONE && frame != id()) {
-            stack(XCB_STACK_MODE_BELOW, frame);
-        }
+    // Leaves the screen to a window with the same picture.
+    void makeWay() {
+        const QImage picture = window_.grab().toImage();
+        standIn_ = std::make_unique<StandIn>(*window_.screen(), picture);
+        setDialogOwner(window_, standIn_.get());
+        standIn_->present([this] {
+            if (lowered_) {
+                window_.hide();
+            }
+        });
+    }
+
+    void comeBack() {
+        setDialogOwner(window_, nullptr);
+        window_.show();
+        moveToFront();
+        // It stays until the desktop has drawn this one.
+        QTimer::singleShot(standInStays, this, [this] {
+            if (!lowered_) {
+                standIn_.reset();
+            }
+        });
     }
 
     // Raises the window again, unless a menu of the program covers it.
@@ -242,7 +278,7 @@ private:
         if (!lowered_ && !inputReleased_ && !ownPopup && window_.isVisible() &&
             grab_->isHolder(*window_.windowHandle()) && raises_ < mostRaises) {
             ++raises_;
-            stack(XCB_STACK_MODE_ABOVE, XCB_WINDOW_NONE);
+            stack(XCB_STACK_MODE_ABOVE);
         }
     }
 
@@ -251,13 +287,13 @@ private:
     bool managed_;
     bool composited_;
     bool lowered_ = false;
-    xcb_window_t dialog_ = XCB_WINDOW_NONE; // the dialog for which the window was lowered
+    std::unique_ptr<StandIn> standIn_; // null except while a dialog is open, and shortly after
     bool inputReleased_ = false;
     int raises_ = 0;
     quint32 orderedFrontAt_ = 0;
-    xcb_atom_t activeWindowAtom_ = XCB_ATOM_NONE;
     std::shared_ptr<X11Grab> grab_;
-    ScreenFollower follower_;
+    std::unique_ptr<ScreenFollower> follower_;
+    std::unique_ptr<Placement> placement_; // null except while the screen is looked for
     X11Monitors monitors_;
     QTimer watch_;
     QElapsedTimer movedToFront_;

@@ -7,9 +7,16 @@
 #include "platform/linux/x11/x11monitors.h"
 
 #include <QCursor>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPixmap>
+#include <QPointer>
 #include <QScreen>
+
+#include <algorithm>
+#include <set>
+#include <span>
+#include <utility>
 
 namespace morrowleaf {
 
@@ -86,8 +93,87 @@ public:
     }
 };
 
+// The windows of other clients that no window manager manages and that cover the screen:
+// lockers have such windows, and compositors one below everything.
+std::set<xcb_window_t> coversOf(const QScreen& screen) {
+    auto* c = x11::connection();
+    const auto* setup = xcb_get_setup(c);
+    const auto own = setup->resource_id_base & ~setup->resource_id_mask;
+    const QRect whole = nativeGeometry(screen);
+    std::set<xcb_window_t> covers;
+    const x11::Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(c, xcb_query_tree(c, x11::rootWindow()), nullptr));
+    if (!tree) {
+        return covers;
+    }
+    const std::span windows(xcb_query_tree_children(tree.get()),
+                            static_cast<std::size_t>(xcb_query_tree_children_length(tree.get())));
+    for (const xcb_window_t window : windows) {
+        if ((window & ~setup->resource_id_mask) == own) {
+            continue;
+        }
+        const x11::Reply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(c, xcb_get_window_attributes(c, window), nullptr));
+        if (attributes && attributes->override_redirect != 0 &&
+            attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
+            attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT &&
+            windowGeometry(window).value_or(QRect()).contains(whole)) {
+            covers.insert(window);
+        }
+    }
+    return covers;
+}
+
+// Calls `then` when the windows that cover the screen are gone or the time is up.
+class LockerWait : public QObject {
+public:
+    LockerWait(QScreen& screen, std::set<xcb_window_t>& lasting, std::function<void()> then)
+        : screen_(&screen)
+        , lasting_(lasting)
+        , then_(std::move(then)) {
+        since_.start();
+        startTimer(interval);
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override {
+        const auto covers = screen_ ? coversOf(*screen_) : std::set<xcb_window_t>();
+        const bool isFree = std::ranges::includes(lasting_, covers);
+        if (!isFree && since_.elapsed() < patience) {
+            return;
+        }
+        // The compositor takes a frame to draw what was below.
+        if (isFree && !std::exchange(wasFree_, true)) {
+            return;
+        }
+        lasting_ = covers; // what is still there has not come with the lock
+        killTimer(event->timerId());
+        then_();
+    }
+
+private:
+    static constexpr int interval = 30;     // milliseconds
+    static constexpr qint64 patience = 450; // milliseconds; the last interval comes on top
+
+    QPointer<QScreen> screen_;
+    std::set<xcb_window_t>& lasting_;
+    std::function<void()> then_;
+    QElapsedTimer since_;
+    bool wasFree_ = false;
+};
+
 class X11Picture final : public DesktopPicture {
 public:
+    std::unique_ptr<QObject> afterLocker(QScreen& screen, bool looksThrough,
+                                         const std::function<void()>& then) override {
+        const bool isNeeded = looksThrough || !x11::hasCompositor();
+        if (!isNeeded || std::ranges::includes(lasting_, coversOf(screen))) {
+            then();
+            return nullptr;
+        }
+        return std::make_unique<LockerWait>(screen, lasting_, then);
+    }
+
     QImage capture(QScreen& screen) override {
         QImage picture = screen.grabWindow(0).toImage();
         if (!picture.isNull() && picture.format() != QImage::Format_RGB32) {
@@ -95,6 +181,9 @@ public:
         }
         return picture;
     }
+
+private:
+    std::set<xcb_window_t> lasting_; // windows that no unlocking has removed
 };
 
 } // namespace

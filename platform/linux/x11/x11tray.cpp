@@ -20,14 +20,7 @@ public:
         : manager_(x11::atom("MANAGER"))
         , selection_(x11::atom(selectionName)) {
         // A new owner announces itself to the clients that listen on the root window.
-        auto* c = x11::connection();
-        const auto root = x11::rootWindow();
-        const x11::Reply<xcb_get_window_attributes_reply_t> now(
-            xcb_get_window_attributes_reply(c, xcb_get_window_attributes(c, root), nullptr));
-        if (now) {
-            const std::uint32_t mask = now->your_event_mask | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-            xcb_change_window_attributes(c, root, XCB_CW_EVENT_MASK, &mask);
-        }
+        x11::listenTo(x11::rootWindow(), XCB_EVENT_MASK_STRUCTURE_NOTIFY);
         QCoreApplication::instance()->installNativeEventFilter(this);
         if (x11::selectionOwner(selectionName) != XCB_WINDOW_NONE) {
             announce();

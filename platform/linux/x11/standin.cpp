@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Morrowleaf developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/x11/standin.h"
+
+#include "platform/linux/x11/x11connection.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QSurfaceFormat>
+
+#include <utility>
+
+namespace morrowleaf {
+
+namespace {
+
+// In milliseconds. Compositors fade new windows in.
+constexpr int fadeOfDesktop = 250;
+constexpr int patience = 800; // until the window is exposed, at most
+
+} // namespace
+
+StandIn::StandIn(QScreen& screen, const QImage& picture)
+    : picture_(picture) {
+    setScreen(&screen);
+    setGeometry(screen.geometry());
+    setFlags(Qt::Window | Qt::FramelessWindowHint);
+    setTitle(tr("Edit Appearance"));
+    QSurfaceFormat format = requestedFormat();
+    format.setAlphaBufferSize(picture.hasAlphaChannel() && x11::hasCompositor() ? 8 : 0);
+    setFormat(format);
+    x11::hideFromTaskLists(static_cast<xcb_window_t>(winId()));
+    drawn_.setSingleShot(true);
+    connect(&drawn_, &QTimer::timeout, this, [this] {
+        if (const auto then = std::exchange(then_, {})) {
+            then();
+        }
+    });
+}
+
+void StandIn::present(std::function<void()> then) {
+    then_ = std::move(then);
+    drawn_.start(patience);
+    showFullScreen();
+}
+
+void StandIn::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(QRect(QPoint(), size()), picture_);
+}
+
+void StandIn::exposeEvent(QExposeEvent* event) {
+    QRasterWindow::exposeEvent(event);
+    if (isExposed() && drawn_.isActive()) {
+        drawn_.start(fadeOfDesktop);
+        // Some window managers give the keyboard to a dialog of another program only if its
+        // owner has it.
+        if (QGuiApplication::modalWindow() == nullptr) {
+            x11::setInputFocus(static_cast<xcb_window_t>(winId()));
+        }
+    }
+}
+
+} // namespace morrowleaf
