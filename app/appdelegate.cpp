@@ -182,6 +182,7 @@ void AppDelegate::addInspector(QuoteScreen& screen, OverlayWindow& overlay) {
     InspectorSetup setup{.glassCanBeDrawn = glassAvailable(screen.desktopView()),
                          .face =
                              nsFont(services_.fonts, inspectorFaceSize, FontDesign::Default).face};
+    setup.highContrast = services_.platform.wishes->current().highContrast;
     if (const QScreen* main = services_.platform.mainScreen->current()) {
         setup.screen =
             ScreenFrames{.whole = main->geometry(), .visible = main->availableGeometry()};
@@ -299,6 +300,8 @@ void AppDelegate::openSettings() {
         if (const QScreen* screen = services_.platform.mainScreen->current()) {
             settingsWindow_->place(screen->availableGeometry());
         }
+    } else {
+        settingsWindow_->fitInto(settingsWindow_->screen()->availableGeometry());
     }
     settingsWindow_->bringToFront();
     lowerSettingsForDialog();

@@ -4,6 +4,9 @@
 #include "app/application.h"
 
 #include "app/appdelegate.h"
+#include "app/commandline.h"
+#include "app/introduction.h"
+#include "app/language.h"
 #include "app/requestqueue.h"
 #include "app/resources.h"
 #include "app/selftest.h"
@@ -12,6 +15,7 @@
 #include "base/stoptoken.h"
 #include "photos/bgstore.h"
 #include "platform/chooser.h"
+#include "platform/launch.h"
 #include "platform/system.h"
 #include "screen/frameclock.h"
 #include "settings/settingsfile.h"
@@ -40,8 +44,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr auto startedByBus = "DBUS_STARTER_BUS_TYPE";
-constexpr auto activationToken = "XDG_ACTIVATION_TOKEN";
 constexpr int requestPatience = 1500; // milliseconds
 constexpr std::chrono::milliseconds endLimit{800};
 
@@ -95,8 +97,18 @@ private:
     std::thread thread_;
 };
 
-// Runs a mode that prints one line and needs no display.
-void runLineMode(int& argc, char** argv, Mode mode) {
+void print(const QString& text) {
+    std::puts(qPrintable(text));
+    std::fflush(stdout);
+}
+
+// Runs a mode that only prints, and needs no display.
+void runPrintingMode(int& argc, char** argv, Mode mode) {
+    if (mode == Mode::Version || mode == Mode::Help) {
+        const QCoreApplication app(argc, argv);
+        speakLanguageOfUser();
+        return print(mode == Mode::Help ? helpText() : versionText());
+    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
     FontBook fonts;
@@ -107,19 +119,17 @@ void runLineMode(int& argc, char** argv, Mode mode) {
         selftest(store);
         return;
     }
-    std::puts(qPrintable(registerLogin(*makeLoginItem())));
-    std::fflush(stdout);
+    print(registerLogin(*makeLoginItem()));
 }
 
 LaunchRequest launchRequest(const QStringList& arguments) {
     return {.action = arguments.contains("--settings"_L1) ? u"settings"_s : u"show"_s,
-            .activationToken = qEnvironmentVariable(activationToken)};
+            .activationToken = activationToken()};
 }
 
 void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
     if (!request.activationToken.isEmpty()) {
-        // Qt applies the token to the next window that it shows.
-        qputenv(activationToken, request.activationToken.toUtf8());
+        setActivationToken(request.activationToken);
     }
     if (request.action == "settings"_L1) {
         delegate.openSettings();
@@ -131,8 +141,6 @@ void carryOut(const LaunchRequest& request, AppDelegate& delegate) {
         delegate.show();
     }
 }
-
-enum class Starter { User, Bus };
 
 // Shows what the arguments ask for or, if the bus started the program, what the bus
 // delivers once the program has its name.
@@ -198,6 +206,10 @@ int runUntilQuit(WindowSystem windowSystem, QThreadPool& workers, ToolkitGuard& 
     QObject::connect(&delegate, &AppDelegate::showingEnded, qApp, &releaseFreeMemory,
                      Qt::QueuedConnection);
     RequestQueue queue;
+    Introduction introduction(*platform.trayHost, *platform.notifications, *timing, workers,
+                              stateFolder());
+    QObject::connect(&introduction, &Introduction::settingsRequested, &delegate,
+                     &AppDelegate::openSettings);
     guard.prepareFirstWindow();
     launch(delegate, *platform.requests, queue, arguments, starter);
     const int status = QApplication::exec();
@@ -223,8 +235,7 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
         std::fputs(qPrintable(*obstacle + u'\n'), errors);
         return 1;
     }
-    const Starter starter = qEnvironmentVariableIsSet(startedByBus) ? Starter::Bus : Starter::User;
-    qunsetenv(startedByBus);
+    const Starter starter = takeStarter();
     const auto instance = makeInstance(windowSystem);
     // The bus keeps its request for the instance.
     if (!instance->claim(starter == Starter::Bus ? std::nullopt
@@ -236,6 +247,7 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
     EndLimit limit;
     const QApplication app(argc, argv);
     QApplication::setApplicationName(u"Morrowleaf"_s);
+    speakLanguageOfUser();
     QApplication::setQuitOnLastWindowClosed(false);
     QThreadPool workers;
     // Leaves one core free for drawing.
@@ -245,16 +257,6 @@ int runOnDesktop(int& argc, char** argv, const QStringList& arguments, std::FILE
 }
 
 } // namespace
-
-Mode modeFor(const QStringList& arguments) {
-    if (arguments.contains("--selftest"_L1)) {
-        return Mode::SelfTest;
-    }
-    if (arguments.contains("--register-login"_L1)) {
-        return Mode::RegisterLogin;
-    }
-    return Mode::Desktop;
-}
 
 QString registerLogin(LoginItem& item) {
     if (const auto error = item.registerItem()) {
@@ -278,7 +280,7 @@ int runApplication(int argc, char** argv) {
     if (mode == Mode::Desktop) {
         return runOnDesktop(programName, argv, arguments, errors);
     }
-    runLineMode(programName, argv, mode);
+    runPrintingMode(programName, argv, mode);
     return 0;
 }
 

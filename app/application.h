@@ -5,21 +5,16 @@
 
 #include "platform/loginitem.h"
 
-#include <QStringList>
+#include <QString>
 
 namespace morrowleaf {
-
-enum class Mode { SelfTest, RegisterLogin, Desktop };
-
-// The mode that the arguments ask for; unknown arguments are ignored.
-Mode modeFor(const QStringList& arguments);
 
 // Registers the login item. Returns the line to print for the user.
 [[nodiscard]] QString registerLogin(LoginItem& item);
 
 // Runs the whole program in the mode that the arguments ask for. Returns the exit status:
 // 1 if the desktop mode has no display to show anything on, and 0 otherwise. The modes that
-// print a line return 0 even if what they tried has failed. May end the process itself.
+// only print return 0 even if what they tried has failed. May end the process itself.
 int runApplication(int argc, char** argv);
 
 } // namespace morrowleaf

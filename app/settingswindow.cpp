@@ -27,18 +27,30 @@ SettingsWindow::SettingsWindow(QWidget* view, Floater& floater)
     , floater_(floater) {
     floater_.setFloating(*this, true);
     setObjectName(u"SettingsWindow"_s);
-    setWindowTitle(u"Morrowleaf Settings"_s);
+    setWindowTitle(tr("Morrowleaf Settings"));
     setWindowIcon(QIcon(u":/morrowleaf/app-icon.svg"_s));
     setAttribute(Qt::WA_QuitOnClose, false);
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(view);
-    setFixedSize(contentSize.expandedTo(view->minimumSize()));
+    setFixedSize(contentSize.expandedTo(view->maximumSize()));
 }
 
 void SettingsWindow::place(const QRect& available) {
     available_ = available;
     // The frame does not exist yet; assume a title bar of the usual height.
-    moveIntoPlace(size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
+    const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    lowerInto(available, frame);
+    moveIntoPlace(size() + frame);
+}
+
+void SettingsWindow::fitInto(const QRect& available) {
+    lowerInto(available, frameGeometry().size() - size());
+}
+
+void SettingsWindow::lowerInto(const QRect& available, const QSize& frame) {
+    constexpr int lowest = 200; // the form scrolls, but something of it remains in sight
+    const int height = available.height() - frame.height();
+    setFixedHeight(std::clamp(height, lowest, centralWidget()->maximumHeight()));
 }
 
 void SettingsWindow::bringToFront() {
@@ -66,6 +78,7 @@ void SettingsWindow::paintEvent(QPaintEvent* event) {
     if (!available_.isEmpty()) {
         // The window is on screen now, so the size of its frame is known.
         QTimer::singleShot(0, this, [this] {
+            fitInto(available_);
             moveIntoPlace(frameGeometry().size());
             available_ = {};
         });

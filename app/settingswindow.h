@@ -10,8 +10,9 @@
 
 namespace morrowleaf {
 
-// The window around the settings view: titled, closable, above ordinary windows, of the
-// size of the view. Closing hides it and does not end the program.
+// The window around the settings view: titled, closable, above ordinary windows, as large
+// as the view or, on a low screen, as high as that leaves room. Closing hides it and does not end
+// the program.
 class SettingsWindow : public QMainWindow {
     Q_OBJECT
 
@@ -22,6 +23,9 @@ public:
     // Places the window in `available`, the part of a screen that panels leave free, in
     // points. Call before it is first shown.
     void place(const QRect& available);
+    // Makes the window as low as it must be to fit in there. Call when it may have been
+    // shown on another screen.
+    void fitInto(const QRect& available);
 
     // Restores the window if it is minimized, raises it and activates it.
     void bringToFront();
@@ -35,6 +39,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void lowerInto(const QRect& available, const QSize& frame);
     void moveIntoPlace(const QSize& frame);
 
     Floater& floater_;

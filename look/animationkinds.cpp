@@ -3,6 +3,7 @@
 
 #include "look/animationkinds.h"
 
+#include <QCoreApplication>
 #include <QLatin1StringView>
 
 #include <algorithm>
@@ -16,31 +17,33 @@ namespace {
 
 struct TextAnimRow {
     QLatin1StringView raw;
-    QLatin1StringView label;
+    const char* label; // English
 };
 
 struct ScreenAnimRow {
     QLatin1StringView raw;
-    QLatin1StringView label;
+    const char* label; // English
     double speed;
     double amplitude;
 };
 
 // In the order of the enumerators.
 constexpr std::array<TextAnimRow, allTextAnims.size()> textRows{{
-    {"fade"_L1, "Fade"_L1},
-    {"handwrite"_L1, "Handwrite"_L1},
-    {"typewriter"_L1, "Typewriter"_L1},
-    {"rise"_L1, "Rise"_L1},
-    {"blur"_L1, "Blur"_L1},
+    //: How the lines of the quote come in
+    {"fade"_L1, QT_TRANSLATE_NOOP("TextAnim", "Fade")},
+    {"handwrite"_L1, QT_TRANSLATE_NOOP("TextAnim", "Handwrite")},
+    {"typewriter"_L1, QT_TRANSLATE_NOOP("TextAnim", "Typewriter")},
+    {"rise"_L1, QT_TRANSLATE_NOOP("TextAnim", "Rise")},
+    {"blur"_L1, QT_TRANSLATE_NOOP("TextAnim", "Blur")},
 }};
 
 constexpr std::array<ScreenAnimRow, allScreenAnims.size()> screenRows{{
-    {"drift"_L1, "Drift"_L1, 0.11, 0.16},
-    {"still"_L1, "Still"_L1, 0.0, 0.16},
-    {"breathe"_L1, "Breathe"_L1, 0.06, 0.1},
-    {"aurora"_L1, "Aurora"_L1, 0.3, 0.26},
-    {"zoom"_L1, "Zoom"_L1, 0.08, 0.16},
+    //: How the backdrop moves
+    {"drift"_L1, QT_TRANSLATE_NOOP("ScreenAnim", "Drift"), 0.11, 0.16},
+    {"still"_L1, QT_TRANSLATE_NOOP("ScreenAnim", "Still"), 0.0, 0.16},
+    {"breathe"_L1, QT_TRANSLATE_NOOP("ScreenAnim", "Breathe"), 0.06, 0.1},
+    {"aurora"_L1, QT_TRANSLATE_NOOP("ScreenAnim", "Aurora"), 0.3, 0.26},
+    {"zoom"_L1, QT_TRANSLATE_NOOP("ScreenAnim", "Zoom"), 0.08, 0.16},
 }};
 
 const TextAnimRow& row(TextAnim kind) {
@@ -84,10 +87,10 @@ ScreenAnim storedScreenAnim(const QString& raw) {
 }
 
 QString label(TextAnim kind) {
-    return row(kind).label;
+    return QCoreApplication::translate("TextAnim", row(kind).label);
 }
 QString label(ScreenAnim kind) {
-    return row(kind).label;
+    return QCoreApplication::translate("ScreenAnim", row(kind).label);
 }
 
 double speed(ScreenAnim kind) {

@@ -32,7 +32,7 @@ QString rawValue(ScreenAnim kind);
 TextAnim storedTextAnim(const QString& raw);
 ScreenAnim storedScreenAnim(const QString& raw);
 
-// The name that the appearance editor shows.
+// The name that the appearance editor shows, in the language of the user.
 QString label(TextAnim kind);
 QString label(ScreenAnim kind);
 

@@ -15,11 +15,13 @@ namespace morrowleaf {
 
 // The colours of the quote screen, opaque sRGB.
 struct Palette {
-    QString name;
+    QString name; // English
     // The colours of the points of a three-by-three mesh, row by row from the top left.
     std::array<QColor, 9> colors;
     QColor ink;
     bool light = false; // light ground, dark ink
+
+    QString shownName() const; // in the language of the user
 
     // The opaque colour 0xRRGGBB; bits 24-31 are ignored.
     static QColor hex(quint32 rgb);

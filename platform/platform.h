@@ -8,6 +8,7 @@
 #include "platform/floater.h"
 #include "platform/inputtaps.h"
 #include "platform/loginitem.h"
+#include "platform/notifications.h"
 #include "platform/overlaywindow.h"
 #include "platform/screens.h"
 #include "platform/sessionevents.h"
@@ -32,6 +33,7 @@ struct Platform {
     std::unique_ptr<TrayHost> trayHost;
     std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<DesktopWishes> wishes;
+    std::unique_ptr<Notifications> notifications;
     std::unique_ptr<RequestListener> requests;
 };
 

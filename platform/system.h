@@ -20,6 +20,10 @@ void releaseFreeMemory();
 // The folder in which this system keeps the settings of this program. Any thread.
 QString settingsFolder();
 
+// The folder in which this system keeps what this program remembers by itself, which
+// need not exist. Any thread.
+QString stateFolder();
+
 // Makes writing to a pipe or a socket that nobody reads an error; by default it ends the
 // process. Call at the start, before there are threads.
 void ignoreBrokenPipes();

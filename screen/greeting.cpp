@@ -3,21 +3,24 @@
 
 #include "screen/greeting.h"
 
+#include <QCoreApplication>
+
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
 QString greeting(int hour) {
     if (hour >= 5 && hour <= 11) {
-        return u"Good morning"_s;
+        return QCoreApplication::translate("Greeting", "Good morning");
     }
     if (hour >= 12 && hour <= 16) {
-        return u"Good afternoon"_s;
+        return QCoreApplication::translate("Greeting", "Good afternoon");
     }
     if (hour >= 17 && hour <= 21) {
-        return u"Good evening"_s;
+        return QCoreApplication::translate("Greeting", "Good evening");
     }
-    return u"Still awake"_s;
+    //: A kind greeting from 22 to 5 o'clock; no question
+    return QCoreApplication::translate("Greeting", "Still awake");
 }
 
 QString greeting(const Moment& moment) {
@@ -29,7 +32,11 @@ QString today(const Moment& moment, const QLocale& locale) {
 }
 
 QString hintText(double sideInset) {
-    return sideInset > 0 ? u"esc to finish"_s : u"press any key"_s;
+    return sideInset > 0
+               //: A hint in small letters; "esc" is the key
+               ? QCoreApplication::translate("Hint", "esc to finish")
+               //: A hint in small letters
+               : QCoreApplication::translate("Hint", "press any key");
 }
 
 } // namespace morrowleaf

@@ -10,6 +10,8 @@
 
 namespace morrowleaf {
 
+// Greeting and hint are in the language of the messages, the date in that of the locale.
+
 // The greeting for an hour of the day, 0...23: morning from 5, afternoon from 12,
 // evening from 17 and "Still awake" from 22.
 QString greeting(int hour);

@@ -242,11 +242,16 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
     const auto middleOf = [&](const Text& text) {
         return measure::headerTop + (height - text.rect().height()) / 2;
     };
-    onBaseline(greeting_, box.left() + measure::headerSide, middleOf(greeting_));
-    onBaseline(today_,
-               box.right() - measure::headerSide - today_.rect().width() +
-                   today_.shape.lastTracking() * today_.scale,
-               middleOf(today_));
+    const double left = box.left() + measure::headerSide;
+    const double right = box.right() - measure::headerSide;
+    const auto drawnWidth = [](const Text& text) {
+        return text.rect().width() - text.shape.lastTracking() * text.scale;
+    };
+    const bool mirrored = state_.direction == Qt::RightToLeft;
+    Text& first = mirrored ? today_ : greeting_;
+    Text& last = mirrored ? greeting_ : today_;
+    onBaseline(first, left, middleOf(first));
+    onBaseline(last, right - drawnWidth(last), middleOf(last));
     onBaseline(hint_,
                box.center().x() -
                    (hint_.rect().width() - hint_.shape.lastTracking() * hint_.scale) / 2,

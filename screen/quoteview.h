@@ -11,6 +11,7 @@
 #include "textanim/revealline.h"
 #include "textanim/shapedtext.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QLocale>
 #include <QRegion>
@@ -36,6 +37,8 @@ struct QuoteViewState {
     double sideInset = 0; // width kept free at the right edge, points
     Moment moment;        // for greeting and date
     QLocale locale;
+    // Of the header; the lines have that of the quotation.
+    Qt::LayoutDirection direction = QGuiApplication::layoutDirection();
 };
 
 // Identifies a line: when its identity changes, its entrance restarts.

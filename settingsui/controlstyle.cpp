@@ -3,6 +3,7 @@
 
 #include "settingsui/controlstyle.h"
 
+#include "settingsui/hostpalette.h"
 #include "settingsui/panelstyle.h"
 
 #include <QCheckBox>
@@ -33,7 +34,8 @@ double fractionOf(const QStyleOptionSlider& option) {
 }
 
 double handleCentre(const QStyleOptionSlider& option) {
-    return sliderRoom + fractionOf(option) * (option.rect.width() - 2 * sliderRoom);
+    const double fraction = option.upsideDown ? 1 - fractionOf(option) : fractionOf(option);
+    return sliderRoom + fraction * (option.rect.width() - 2 * sliderRoom);
 }
 
 QRectF thumbOf(const QStyleOptionSlider& option) {
@@ -74,7 +76,8 @@ void drawSlider(QPainter& painter, const QStyleOptionSlider& option) {
     painter.setBrush(PanelStyle::ink(0.2));
     painter.drawRoundedRect(track, 1.5, 1.5);
     painter.setBrush(PanelStyle::ink(0.75));
-    painter.drawRoundedRect(QRectF(track.left(), track.top(), x - track.left(), 3), 1.5, 1.5);
+    const double start = option.upsideDown ? track.right() : track.left();
+    painter.drawRoundedRect(QRectF(start, track.top(), x - start, 3).normalized(), 1.5, 1.5);
     const QRectF handle(x - handleRadius, middle - handleRadius, 2 * handleRadius,
                         2 * handleRadius);
     painter.setBrush(QColor(0, 0, 0, 70));
@@ -101,26 +104,34 @@ void drawScrollBar(QPainter& painter, const QStyleOptionSlider& option) {
 void drawSwitch(QPainter& painter, const QStyleOptionButton& option, const QSize& trackSize) {
     const QPalette& palette = option.palette;
     painter.setPen(palette.color(QPalette::WindowText));
+    painter.setLayoutDirection(option.direction);
     painter.drawText(option.rect, Qt::AlignLeft | Qt::AlignVCenter, option.text);
 
-    const QRectF track(option.rect.width() - ControlStyle::switchOverhang - trackSize.width(),
+    const bool mirrored = option.direction == Qt::RightToLeft;
+    const int behind = option.rect.width() - ControlStyle::switchOverhang - trackSize.width();
+    const QRectF track(mirrored ? ControlStyle::switchOverhang : behind,
                        (option.rect.height() - trackSize.height()) / 2.0, trackSize.width(),
                        trackSize.height());
     const double radius = track.height() / 2;
     const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
     const bool on = option.state.testFlag(QStyle::State_On);
     painter.setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : 0.4);
-    painter.setPen(Qt::NoPen);
+    const bool isFull = hasFullContrast(palette);
+    painter.setPen(isFull ? QPen(ink, 1) : QPen(Qt::NoPen));
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
     painter.setBrush(
-        on ? palette.color(QPalette::Active, QPalette::Highlight)
-           : withOpacity(ink, option.state.testFlag(QStyle::State_Sunken) ? 0.3 : 0.22));
+        on ? accent : withOpacity(ink, option.state.testFlag(QStyle::State_Sunken) ? 0.3 : 0.22));
     painter.drawRoundedRect(track, radius, radius);
 
     const double gap = 2;
     const double knob = track.height() - 2 * gap;
-    painter.setBrush(on ? palette.color(QPalette::Active, QPalette::HighlightedText)
-                        : QColor(Qt::white));
-    painter.drawEllipse(QRectF(on ? track.right() - gap - knob : track.left() + gap,
+    const bool isPale = accent.lightness() > 200; // of 255: white would be lost on it
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(on && (isPale || isFull)
+                         ? palette.color(QPalette::Active, QPalette::HighlightedText)
+                     : isFull ? ink
+                              : QColor(Qt::white));
+    painter.drawEllipse(QRectF(on != mirrored ? track.right() - gap - knob : track.left() + gap,
                                track.top() + gap, knob, knob));
     painter.setOpacity(1);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
@@ -129,6 +140,12 @@ void drawSwitch(QPainter& painter, const QStyleOptionButton& option, const QSize
 }
 
 } // namespace
+
+QMargins mirroredIn(const QWidget& widget, const QMargins& margins) {
+    return widget.isRightToLeft()
+               ? QMargins(margins.right(), margins.top(), margins.left(), margins.bottom())
+               : margins;
+}
 
 QColor withOpacity(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(opacity));

@@ -11,6 +11,10 @@ class QPushButton;
 
 namespace morrowleaf {
 
+// `margins`, or their mirror image in a widget that is laid out from right to left: the
+// margins of a layout stay as they are while its items change places.
+QMargins mirroredIn(const QWidget& widget, const QMargins& margins);
+
 // `color` with its opacity replaced by `opacity`, 0 to 1.
 QColor withOpacity(QColor color, double opacity);
 
@@ -26,7 +30,7 @@ class ControlStyle : public QProxyStyle {
 public:
     static constexpr int buttonPadding = 14;     // points on either side of a button's text
     static constexpr int scrollBarThickness = 9; // points
-    static constexpr int switchOverhang = 3;     // points right of a switch, for its focus ring
+    static constexpr int switchOverhang = 3;     // points behind a switch, for its focus ring
 
     enum class SwitchSize { Small, Regular };
     explicit ControlStyle(SwitchSize switchSize);
@@ -53,8 +57,8 @@ private:
 // Tab focuses a button and Space presses it. `style` must outlive the button.
 enum class ButtonKind { Plain, Filled };
 QPushButton* makeButton(const QString& text, ButtonKind kind, ControlStyle& style, QWidget* parent);
-// A check box with its text at the left edge and a switch at the right one. `style` must
-// outlive it.
+// A check box with its text at the leading edge and a switch at the other one. `style`
+// must outlive it.
 QCheckBox* makeSwitch(const QString& text, ControlStyle& style, QWidget* parent);
 
 } // namespace morrowleaf

@@ -4,6 +4,7 @@
 #include "settingsui/form.h"
 
 #include "settingsui/controlstyle.h"
+#include "settingsui/hostpalette.h"
 #include "settingsui/panelaccessible.h"
 
 #include <QCheckBox>
@@ -33,10 +34,11 @@ FormCard::FormCard(const QString& title, QWidget* parent)
     QFont font = heading->font();
     font.setWeight(QFont::DemiBold);
     heading->setFont(font);
-    heading->setContentsMargins(sideRoom, 0, 0, 0);
+    heading->setContentsMargins(sideRoom, 0, sideRoom, 0);
     column_->addWidget(heading);
     auto* rows = new QVBoxLayout(frame_);
-    rows->setContentsMargins(sideRoom, 0, sideRoom - ControlStyle::switchOverhang, 0);
+    rows->setContentsMargins(
+        mirroredIn(*this, {sideRoom, 0, sideRoom - ControlStyle::switchOverhang, 0}));
     rows->setSpacing(0);
     column_->addWidget(frame_);
 }
@@ -52,8 +54,9 @@ void FormCard::addContinuation(QWidget* row) {
     row->setMinimumHeight(rowHeight);
     // Aligns the visible edges; a switch's focus ring extends beyond them.
     auto* room = new QHBoxLayout;
+    const bool isSwitch = qobject_cast<QCheckBox*>(row) != nullptr;
     room->setContentsMargins(
-        0, 0, qobject_cast<QCheckBox*>(row) != nullptr ? 0 : ControlStyle::switchOverhang, 0);
+        mirroredIn(*this, {0, 0, isSwitch ? 0 : ControlStyle::switchOverhang, 0}));
     room->addWidget(row);
     static_cast<QVBoxLayout*>(frame_->layout())->addLayout(room);
 }
@@ -76,14 +79,15 @@ void FormCard::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor ink = palette().color(QPalette::WindowText);
     const bool dark = ink.lightness() > 127;
-    painter.setPen(QPen(withOpacity(ink, dark ? 0.1 : 0.12), 1));
+    const bool isFull = hasFullContrast(palette());
+    painter.setPen(QPen(withOpacity(ink, isFull ? 1 : dark ? 0.1 : 0.12), 1));
     painter.setBrush(dark ? withOpacity(Qt::white, 0.05) : withOpacity(Qt::white, 0.75));
     painter.drawRoundedRect(QRectF(frame_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), radius,
                             radius);
     for (const QWidget* row : std::as_const(separated_)) {
         const int y = row->mapTo(this, QPoint(0, 0)).y();
         painter.fillRect(QRect(frame_->x() + sideRoom, y, frame_->width() - 2 * sideRoom, 1),
-                         withOpacity(ink, 0.09));
+                         withOpacity(ink, isFull ? 1 : 0.09));
     }
 }
 

@@ -18,7 +18,7 @@ public:
     FormCard(const QString& title, QWidget* parent = nullptr);
 
     void addRow(QWidget* row);
-    // Adds a row with a label at the left and a control at the right.
+    // Adds a row with a label at the leading edge and a control at the other one.
     void addRow(const QString& label, QWidget* control);
     // Adds a row that belongs to the one above, without a line between them.
     void addContinuation(QWidget* row);

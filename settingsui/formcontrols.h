@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QSlider>
 
 namespace morrowleaf {
@@ -14,10 +15,28 @@ class FormPicker : public QComboBox {
     Q_OBJECT
 
 public:
-    using QComboBox::QComboBox;
+    explicit FormPicker(QWidget* parent = nullptr);
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+};
+
+// A line of text in the host's style. Wide enough for its placeholder, with less room beside
+// it where there is none.
+class FormField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    int neededWidth() const;
 };
 
 // A horizontal slider in the host's style. Its handle jumps to the position of a mouse

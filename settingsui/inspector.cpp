@@ -77,7 +77,7 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     setFixedWidth(width);
     setPalette(PanelStyle::palette());
     setFocusPolicy(Qt::ClickFocus);
-    makeAccessibleGroup(*this, u"Appearance"_s);
+    makeAccessibleGroup(*this, tr("Appearance"));
     // A shortcut, because some desktop themes let Return press the focused control.
     auto* shortcut = new QShortcut(this);
     shortcut->setKeys(returnKeys());
@@ -104,6 +104,11 @@ Inspector::Inspector(SettingsStore& store, BGStore& photos, FileChooser& files,
     column->addWidget(scroll_, 1);
     column->addWidget(panelDivider(0.35, this));
     column->addWidget(makeFooter());
+    if (setup_.highContrast) {
+        for (auto* label : findChildren<QLabel*>()) {
+            label->setPalette(PanelStyle::palette());
+        }
+    }
 }
 
 QWidget* Inspector::makeHeader() {
@@ -111,8 +116,8 @@ QWidget* Inspector::makeHeader() {
     auto* row = new QHBoxLayout(header);
     row->setContentsMargins(PanelStyle::margin - 1, qRound(headerTopPadding(setup_.screen)),
                             PanelStyle::margin, 14);
-    row->addWidget(
-        panelLabel(u"APPEARANCE"_s, panelFont(setup_.face, 10, QFont::Medium, 2.2), 0.55, header));
+    row->addWidget(panelLabel(locale().toUpper(tr("Appearance")),
+                              panelFont(setup_.face, 10, QFont::Medium, 2.2), 0.55, header));
     row->addStretch(1);
     return header;
 }
@@ -121,19 +126,19 @@ void Inspector::addGroup(QVBoxLayout& column, const QString& title,
                          std::initializer_list<QWidget*> rows) {
     auto* group = new QVBoxLayout;
     group->setSpacing(PanelStyle::titleSpacing);
-    QLabel* label =
-        panelLabel(title.toUpper(), panelFont(setup_.face, 9, QFont::Medium, 1.8), 0.4, this);
+    QLabel* label = panelLabel(locale().toUpper(title),
+                               panelFont(setup_.face, 9, QFont::Medium, 1.8), 0.4, this);
     label->setAccessibleName(title);
-    label->setContentsMargins(PanelStyle::focusRoom, 0, 0, 0);
+    label->setContentsMargins(PanelStyle::focusRoom, 0, PanelStyle::focusRoom, 0);
     group->addWidget(label);
     for (QWidget* row : rows) {
         // Aligns the visible edges; a focus ring extends beyond them.
         auto* room = new QHBoxLayout;
-        room->setContentsMargins(qobject_cast<Knob*>(row) != nullptr ? 0 : PanelStyle::focusRoom, 0,
-                                 qobject_cast<QCheckBox*>(row) != nullptr
-                                     ? PanelStyle::focusRoom - ControlStyle::switchOverhang
-                                     : PanelStyle::focusRoom,
-                                 0);
+        const int before = qobject_cast<Knob*>(row) != nullptr ? 0 : PanelStyle::focusRoom;
+        const int behind = qobject_cast<QCheckBox*>(row) != nullptr
+                               ? PanelStyle::focusRoom - ControlStyle::switchOverhang
+                               : PanelStyle::focusRoom;
+        room->setContentsMargins(mirroredIn(*this, {before, 0, behind, 0}));
         room->addWidget(row);
         group->addLayout(room);
     }
@@ -162,9 +167,10 @@ QWidget* Inspector::makeGroups() {
     const QFont& face = setup_.face;
     auto* groups = new QWidget(this);
     auto* column = new QVBoxLayout(groups);
-    column->setContentsMargins(
-        PanelStyle::margin - PanelStyle::focusRoom - 1, 18,
-        PanelStyle::margin - PanelStyle::focusRoom - ControlStyle::scrollBarThickness, 22);
+    // The line of the panel is always at the left, the scroll bar at the trailing edge.
+    const int edge = PanelStyle::margin - PanelStyle::focusRoom;
+    const QMargins bar = mirroredIn(*this, {0, 0, ControlStyle::scrollBarThickness, 0});
+    column->setContentsMargins(QMargins(edge - 1, 18, edge, 22) - bar);
     column->setSpacing(PanelStyle::groupSpacing);
 
     const auto knob = [&](const QString& name, const RealSetting& setting,
@@ -178,33 +184,33 @@ QWidget* Inspector::makeGroups() {
         return control;
     };
 
-    addGroup(*column, u"Palette"_s, {new PaletteGroup(store, face, this)});
-    addGroup(*column, u"Your photo"_s,
+    addGroup(*column, tr("Palette"), {new PaletteGroup(store, face, this)});
+    addGroup(*column, tr("Your photo"),
              {new PhotoGroup(store, photos_, *photoChooser_, face, this)});
-    addGroup(*column, u"Typeface"_s,
-             {makePicker(u"Typeface"_s, K::font,
+    addGroup(*column, tr("Typeface"),
+             {makePicker(tr("Typeface"), K::font,
                          {{u"fraunces"_s, u"Fraunces"_s},
-                          {u"serif"_s, u"Serif (New York)"_s},
-                          {u"sans"_s, u"Sans (SF Pro)"_s},
-                          {u"rounded"_s, u"Rounded"_s},
-                          {u"mono"_s, u"Mono"_s}})});
-    addGroup(*column, u"Size"_s, {knob(u"Size"_s, K::textScale, percentReadout)});
-    addGroup(*column, u"Vignette"_s, {knob(u"Vignette"_s, K::vignette, plainReadout)});
-    Knob* transparency = knob(u"Transparency"_s, K::transparency, percentReadout);
+                          {u"serif"_s, tr("Serif (New York)")},
+                          {u"sans"_s, tr("Sans (SF Pro)")},
+                          {u"rounded"_s, tr("Rounded")},
+                          {u"mono"_s, tr("Mono")}})});
+    addGroup(*column, tr("Size"), {knob(tr("Size"), K::textScale, percentReadout)});
+    addGroup(*column, tr("Vignette"), {knob(tr("Vignette"), K::vignette, plainReadout)});
+    Knob* transparency = knob(tr("Transparency"), K::transparency, percentReadout);
     if (setup_.glassCanBeDrawn) {
-        QCheckBox* glass = smallSwitch(u"Liquid Glass"_s, K::liquidGlass);
+        QCheckBox* glass = smallSwitch(tr("Liquid Glass"), K::liquidGlass);
         new Binding(store, K::transparency, glass, [glass, &store] {
             glass->setEnabled(store.get(K::transparency) >= leastGlass);
         });
-        addGroup(*column, u"Transparency"_s, {transparency, glass});
+        addGroup(*column, tr("Transparency"), {transparency, glass});
     } else {
-        addGroup(*column, u"Transparency"_s, {transparency});
+        addGroup(*column, tr("Transparency"), {transparency});
     }
-    addGroup(*column, u"Text reveal"_s,
-             {makePicker(u"Text reveal"_s, K::textAnim, entriesOf(allTextAnims))});
-    addGroup(*column, u"Screen motion"_s,
-             {makePicker(u"Screen motion"_s, K::screenAnim, entriesOf(allScreenAnims))});
-    addGroup(*column, u"Grain"_s, {smallSwitch(u"Film grain"_s, K::grain)});
+    addGroup(*column, tr("Text reveal"),
+             {makePicker(tr("Text reveal"), K::textAnim, entriesOf(allTextAnims))});
+    addGroup(*column, tr("Screen motion"),
+             {makePicker(tr("Screen motion"), K::screenAnim, entriesOf(allScreenAnims))});
+    addGroup(*column, tr("Grain"), {smallSwitch(tr("Film grain"), K::grain)});
     column->addStretch(1);
     return groups;
 }
@@ -212,11 +218,11 @@ QWidget* Inspector::makeGroups() {
 QWidget* Inspector::makeFooter() {
     auto* footer = new QWidget(this);
     auto* row = new QHBoxLayout(footer);
-    row->setContentsMargins(PanelStyle::margin - 1 - ControlStyle::buttonPadding, 10,
-                            PanelStyle::margin, 12);
+    const QMargins padding = mirroredIn(*this, {ControlStyle::buttonPadding, 0, 0, 0});
+    row->setContentsMargins(QMargins(PanelStyle::margin - 1, 10, PanelStyle::margin, 12) - padding);
     const QFont font = panelFont(setup_.face, 12);
-    auto* resetButton = makeButton(u"Reset"_s, ButtonKind::Plain, controlStyle_, footer);
-    auto* doneButton = makeButton(u"Done"_s, ButtonKind::Filled, controlStyle_, footer);
+    auto* resetButton = makeButton(tr("Reset"), ButtonKind::Plain, controlStyle_, footer);
+    auto* doneButton = makeButton(tr("Done"), ButtonKind::Filled, controlStyle_, footer);
     resetButton->setFont(font);
     doneButton->setFont(panelFont(setup_.face, 12, QFont::DemiBold));
     connect(resetButton, &QAbstractButton::clicked, this, [this] { resetAppearance(store_); });
@@ -229,7 +235,8 @@ QWidget* Inspector::makeFooter() {
 
 void Inspector::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), PanelStyle::veil());
+    const QColor veil = PanelStyle::veil();
+    painter.fillRect(rect(), setup_.highContrast ? withOpacity(veil, 1) : veil);
     painter.fillRect(0, 0, 1, height(), PanelStyle::ink(0.12));
 }
 

@@ -33,6 +33,7 @@ struct InspectorSetup {
     bool glassCanBeDrawn = false;         // adds the switch "Liquid Glass"
     QFont face{};                         // the system font; its size is ignored
     std::optional<ScreenFrames> screen{}; // the main screen; std::nullopt without one
+    bool highContrast = false;            // no faint texts, and nothing shines through
 };
 
 // The space above the header in points, so that the header is below a panel at the top of

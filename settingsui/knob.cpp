@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -66,7 +67,9 @@ Knob::Knob(const QString& name, SettingsStore& store, const RealSetting& setting
     slider_->setStyle(&style);
     slider_->setAccessibleName(name);
     readout_->setFixedWidth(readoutWidth);
-    readout_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // At the edge of the panel, whatever the direction of digits.
+    readout_->setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignRight) |
+                           Qt::AlignVCenter | Qt::AlignAbsolute);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);

@@ -3,15 +3,17 @@
 
 #include "settingsui/menuactions.h"
 
+#include <QCoreApplication>
+
 namespace morrowleaf {
 
 using namespace Qt::Literals::StringLiterals;
 
 MenuActions::MenuActions()
-    : showQuote(u"Show Today's Quote"_s)
-    , editAppearance(u"Edit Appearance…"_s)
-    , openSettings(u"Settings…"_s)
-    , quit(u"Quit"_s) {
+    : showQuote(QCoreApplication::translate("MenuActions", "Show Today's Quote"))
+    , editAppearance(QCoreApplication::translate("MenuActions", "Edit Appearance…"))
+    , openSettings(QCoreApplication::translate("MenuActions", "Settings…"))
+    , quit(QCoreApplication::translate("MenuActions", "Quit")) {
     showQuote.setShortcut(QKeySequence(u"Ctrl+S"_s));
     editAppearance.setShortcut(QKeySequence(u"Ctrl+E"_s));
     openSettings.setShortcut(QKeySequence(u"Ctrl+,"_s));

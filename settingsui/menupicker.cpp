@@ -47,12 +47,17 @@ public:
         }
         painter->setFont(option.font);
         painter->setPen(PanelStyle::ink(0.92));
-        painter->drawText(option.rect.adjusted(24, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                          index.data().toString());
+        const auto placed = [&option](const QRect& rect) {
+            return QStyle::visualRect(option.direction, option.rect, rect);
+        };
+        painter->setLayoutDirection(option.direction);
+        painter->drawText(placed(option.rect.adjusted(24, 0, -8, 0)),
+                          Qt::AlignLeft | Qt::AlignVCenter, index.data().toString());
         if (index.row() == current_) {
             painter->setPen(
                 QPen(PanelStyle::ink(0.92), 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            const QPointF c(option.rect.left() + 12.5, option.rect.center().y() + 0.5);
+            const QRect mark = placed({option.rect.left(), option.rect.top(), 25, rowHeight});
+            const QPointF c(mark.x() + 12.5, option.rect.center().y() + 0.5);
             painter->drawPolyline(
                 QPolygonF{{c.x() - 4, c.y()}, {c.x() - 1, c.y() + 3.2}, {c.x() + 4, c.y() - 3.6}});
         }
@@ -210,6 +215,8 @@ void MenuPicker::showValue(const QString& value) {
         update();
         QAccessibleValueChangeEvent event(this, currentText());
         QAccessible::updateAccessibility(&event);
+        // Screen readers do not ask for the value of a combo box that has a name.
+        setAccessibleDescription(currentText());
     }
 }
 
@@ -280,12 +287,14 @@ void MenuPicker::paintEvent(QPaintEvent* /*event*/) {
 
     painter.setFont(face_);
     painter.setPen(PanelStyle::ink(0.92));
-    painter.drawText(shape.adjusted(11, 0, -28, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                     currentText());
+    painter.setLayoutDirection(layoutDirection());
+    painter.drawText(isRightToLeft() ? shape.adjusted(28, 0, -11, 0)
+                                     : shape.adjusted(11, 0, -28, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter, currentText());
 
     painter.setPen(QPen(PanelStyle::ink(0.65), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
-    const QPointF c(shape.right() - 14, shape.center().y());
+    const QPointF c(isRightToLeft() ? shape.left() + 14 : shape.right() - 14, shape.center().y());
     for (const double side : {-1.0, 1.0}) {
         painter.drawPolyline(QPolygonF{{c.x() - 3.5, c.y() + side * 2.5},
                                        {c.x(), c.y() + side * 6},

@@ -16,12 +16,10 @@
 
 namespace morrowleaf {
 
-using namespace Qt::Literals::StringLiterals;
-
 PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* parent)
     : QWidget(parent)
     , store_(store) {
-    makeAccessibleGroup(*this, u"Palette"_s);
+    makeAccessibleGroup(*this, tr("Palette"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(PanelStyle::gutter);
@@ -30,9 +28,11 @@ PaletteGroup::PaletteGroup(SettingsStore& store, const QFont& face, QWidget* par
         grid->setColumnStretch(column, 1);
     }
     const std::array automatic{QColor(128, 128, 128, 153), QColor(128, 128, 128, 64)};
-    add(-1, new PaletteSwatch(u"Auto"_s, automatic, face, this));
+    //: The palette of the day, under a tile of 48 points
+    add(-1, new PaletteSwatch(tr("Auto"), automatic, face, this));
     for (const Palette& palette : Palette::all()) {
-        add(swatches_.size() - 1, new PaletteSwatch(palette.name, palette.colors, face, this));
+        add(swatches_.size() - 1,
+            new PaletteSwatch(palette.shownName(), palette.colors, face, this));
     }
     new Binding(store, K::palette, this, [this] { mark(); });
     new Binding(store, K::bgImage, this, [this] { mark(); });

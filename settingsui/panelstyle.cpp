@@ -4,6 +4,7 @@
 #include "settingsui/panelstyle.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPainter>
 #include <QScreen>
 
@@ -69,7 +70,8 @@ QFont panelFont(const QFont& face, double size, QFont::Weight weight, double tra
     const double dpi = screen ? screen->logicalDotsPerInchY() : 96;
     font.setPointSizeF(size * 72 / dpi);
     font.setWeight(weight);
-    if (tracking != 0) {
+    // It would tear the letters of the Arabic script apart.
+    if (tracking != 0 && QLocale().script() != QLocale::ArabicScript) {
         font.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
     }
     return font;

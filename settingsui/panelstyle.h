@@ -31,7 +31,8 @@ QColor focusRing();
 QPalette palette();
 } // namespace PanelStyle
 
-// `face` at `size` points, with `tracking` points added after each letter.
+// `face` at `size` points, with `tracking` points added after each letter where the script
+// of the language allows it.
 QFont panelFont(const QFont& face, double size, QFont::Weight weight = QFont::Normal,
                 double tracking = 0);
 

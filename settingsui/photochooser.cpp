@@ -18,8 +18,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr auto title = "Add a Photo"_L1;
-
 QStringList mimeTypes() {
     QStringList types;
     for (const QByteArray& type : QImageReader::supportedMimeTypes()) {
@@ -38,7 +36,7 @@ QStringList nameFilters() {
             patterns.append(u"*."_s + QString::fromLatin1(format).toUpper());
         }
     }
-    return {u"Images (%1)"_s.arg(patterns.join(u' '))};
+    return {PhotoChooser::tr("Images") + " ("_L1 + patterns.join(u' ') + u')'};
 }
 
 // Passes Escape to the dialog while it is open, before other filters of the program see
@@ -83,7 +81,8 @@ void PhotoChooser::choose() {
     }
     isOpen_ = true;
     emit opening();
-    const FileQuestion question{.title = title, .kindName = u"Images"_s, .mimeTypes = mimeTypes()};
+    const FileQuestion question{
+        .title = tr("Add a Photo"), .kindName = tr("Images"), .mimeTypes = mimeTypes()};
     QWidget& window = *static_cast<QWidget*>(parent())->window();
     const FileRequest* request = desktop_.ask(window, question);
     connect(request, &FileRequest::answered, this, [this](const FileAnswer& answer) {
@@ -111,8 +110,9 @@ void PhotoChooser::chooseWithQt() {
     // and no flag of ours keeps that dialog in front. Its option would come too late: the
     // constructor makes the other dialog.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // Without a parent, because the window manager may not know the overlay.
-    auto* dialog = new QFileDialog(nullptr, title);
+    // Without a parent, because the window manager may not know the overlay; below it
+    // belongs to the window that it does know.
+    auto* dialog = new QFileDialog(nullptr, tr("Add a Photo"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The settings window, which may be open, stays above ordinary windows too.
     dialog->setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -12,15 +12,17 @@
 #include "settingsui/photochooser.h"
 #include "settingsui/swatch.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace morrowleaf {
 
-using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -28,13 +30,20 @@ namespace {
 constexpr qsizetype mostOwn = 100; // of the user's own photos, shown
 constexpr auto timeToAdd = 10s;    // after the last editor has closed
 
-// The name of a built-in photo for screen readers: that of its file, capitalised.
+//: The names of the built-in photos for screen readers
+[[maybe_unused]] constexpr std::array builtinNames{
+    QT_TRANSLATE_NOOP("BuiltinPhoto", "Aurora"), QT_TRANSLATE_NOOP("BuiltinPhoto", "Dunes"),
+    QT_TRANSLATE_NOOP("BuiltinPhoto", "Forest"), QT_TRANSLATE_NOOP("BuiltinPhoto", "Lake"),
+    QT_TRANSLATE_NOOP("BuiltinPhoto", "Ridges"), QT_TRANSLATE_NOOP("BuiltinPhoto", "Sea")};
+
+// The name of a built-in photo for screen readers: that of its file, capitalised and, if
+// it is one of those above, translated.
 QString spokenName(const QString& path) {
     QString name = QFileInfo(path).completeBaseName();
     if (!name.isEmpty()) {
         name[0] = name[0].toUpper();
     }
-    return name;
+    return QCoreApplication::translate("BuiltinPhoto", qUtf8Printable(name));
 }
 
 } // namespace
@@ -69,7 +78,7 @@ PhotoGroup::PhotoGroup(SettingsStore& store, BGStore& photos, PhotoChooser& choo
     , anchor_(new QWidget(this)) {
     anchor_->setFocusPolicy(Qt::TabFocus); // otherwise it has no position in the tab order
     anchor_->hide();
-    makeAccessibleGroup(*this, u"Your photo"_s);
+    makeAccessibleGroup(*this, tr("Your photo"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     connect(&chooser_, &PhotoChooser::picked, this, &PhotoGroup::addPhoto);
@@ -103,9 +112,10 @@ void PhotoGroup::rebuild() {
     }
     for (qsizetype i = 0; i < qMin(own.size(), mostOwn); ++i) {
         const QString& path = own[i];
-        const QString name = u"Your photo %1"_s.arg(i + 1);
-        PhotoSwatch* swatch = makeSwatch(path, name);
-        auto* cross = new RemoveButton(u"Remove %1"_s.arg(name.toLower()), swatch);
+        //: %1 is 1, 2 or 3
+        PhotoSwatch* swatch = makeSwatch(path, tr("Your photo %1").arg(i + 1));
+        //: %1 is 1, 2 or 3
+        auto* cross = new RemoveButton(tr("Remove your photo %1").arg(i + 1), swatch);
         auto* corner = new QGridLayout(swatch);
         corner->setContentsMargins(2, 2, 2, 2);
         corner->addWidget(cross, 0, 0, Qt::AlignTop | Qt::AlignRight);

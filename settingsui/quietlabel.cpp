@@ -3,9 +3,12 @@
 
 #include "settingsui/quietlabel.h"
 
+#include "settingsui/hostpalette.h"
+
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -18,7 +21,7 @@ class QuietLabel : public QLabel {
 public:
     QuietLabel(const QString& text, Emphasis emphasis, QWidget* parent)
         : QLabel(text, parent)
-        , opacity_(emphasis == Emphasis::Secondary ? 0.68F : 0.55F) {
+        , opacity_(emphasis == Emphasis::Secondary ? 0.72F : 0.62F) {
         setTextFormat(Qt::PlainText);
         fade();
     }
@@ -37,8 +40,9 @@ private:
         fading_ = true;
         QPalette own;
         const QWidget* host = parentWidget();
-        QColor color = (host ? host->palette() : QPalette()).color(QPalette::WindowText);
-        color.setAlphaF(opacity_);
+        const QPalette around = host ? host->palette() : QPalette();
+        QColor color = around.color(QPalette::WindowText);
+        color.setAlphaF(hasFullContrast(around) ? 1 : opacity_);
         own.setColor(QPalette::WindowText, color);
         setPalette(own);
         fading_ = false;
@@ -87,6 +91,7 @@ private:
         layout.setFont(font());
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        option.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
         layout.setTextOption(option);
         double height = 0;
         layout.beginLayout();
@@ -117,6 +122,11 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
         painter.setPen(ink());
+        if (isRightToLeft()) {
+            painter.setLayoutDirection(Qt::RightToLeft);
+            painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, text());
+            return;
+        }
         const QFontMetricsF metrics(font());
         const double baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
         double right = width();

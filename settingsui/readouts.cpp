@@ -3,6 +3,8 @@
 
 #include "settingsui/readouts.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <iomanip>
 #include <locale>
@@ -13,7 +15,8 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString readout(double value, int decimals, QLatin1StringView unit) {
+// `pattern` has a place for the number, "%1".
+QString readout(const QString& pattern, double value, int decimals) {
     if (value > 9999) {
         return u">9999"_s;
     }
@@ -25,21 +28,23 @@ QString readout(double value, int decimals, QLatin1StringView unit) {
     std::ostringstream digits;
     digits.imbue(std::locale::classic());
     digits << std::fixed << std::setprecision(decimals) << value;
-    return QString::fromStdString(digits.str()) + unit;
+    return pattern.arg(QString::fromStdString(digits.str()));
 }
 
 } // namespace
 
 QString percentReadout(double value) {
-    return readout(value * 100, 0, "%"_L1);
+    //: A percentage; there is room for five characters
+    return readout(QCoreApplication::translate("Readout", "%1%"), value * 100, 0);
 }
 
 QString plainReadout(double value) {
-    return readout(value, 2, ""_L1);
+    return readout(u"%1"_s, value, 2);
 }
 
 QString secondsReadout(double value) {
-    return readout(std::trunc(value), 0, "s"_L1);
+    //: A number of seconds; there is room for five characters
+    return readout(QCoreApplication::translate("Readout", "%1s"), std::trunc(value), 0);
 }
 
 } // namespace morrowleaf

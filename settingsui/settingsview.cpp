@@ -5,6 +5,7 @@
 
 #include "base/graphemes.h"
 #include "platform/loginitem.h"
+#include "quotes/collection.h"
 #include "settings/prefs.h"
 #include "settings/settingstable.h"
 #include "settingsui/binding.h"
@@ -21,12 +22,12 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -79,6 +80,19 @@ QPushButton* actionButton(QAction& action, QWidget* parent) {
     return button;
 }
 
+// What scrolls. A scroll area knows only the least height of its content whatever the width,
+// and would press together texts of several lines.
+class Form : public QWidget {
+protected:
+    bool event(QEvent* event) override {
+        const bool isHandled = QWidget::event(event);
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+            setMinimumHeight(layout()->totalHeightForWidth(width()));
+        }
+        return isHandled;
+    }
+};
+
 class Line : public QWidget {
 public:
     explicit Line(QWidget* parent)
@@ -101,14 +115,13 @@ SettingsView::SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& 
     , loader_(std::move(loader))
     , loginItem_(loginItem)
     , actions_(actions) {
-    setFixedSize(settingsViewSize);
-    auto* form = new QWidget;
+    auto* form = new Form;
     auto* sections = new QVBoxLayout(form);
     sections->setContentsMargins(formMargin, 16, formMargin, 16);
     sections->setSpacing(sectionSpacing);
-    auto* appearance = new FormCard(u"Appearance"_s, form);
-    auto* behaviour = new FormCard(u"Behaviour"_s, form);
-    auto* quotes = new FormCard(u"Quotes"_s, form);
+    auto* appearance = new FormCard(tr("Appearance"), form);
+    auto* behaviour = new FormCard(tr("Behaviour"), form);
+    auto* quotes = new FormCard(tr("Quotes"), form);
     addAppearance(*appearance);
     addBehaviour(*behaviour);
     addQuotes(*quotes);
@@ -132,7 +145,18 @@ SettingsView::SettingsView(SettingsStore& store, QuoteLoader loader, LoginItem& 
     column->addWidget(scroll, 1);
     column->addWidget(makeNotice());
     column->addWidget(new Line(this));
-    column->addWidget(makeBottomBar());
+    auto* bar = makeBottomBar();
+    column->addWidget(bar);
+
+    QSize size = settingsViewSize;
+    const int needed = qMax(form->minimumSizeHint().width(), bar->minimumSizeHint().width()) +
+                       scroll->verticalScrollBar()->sizeHint().width();
+    if (needed > size.width()) {
+        size *= double(needed) / size.width();
+    }
+    setFixedWidth(size.width());
+    setMaximumHeight(size.height());
+    resize(size);
 }
 
 void SettingsView::addAppearance(FormCard& card) {
@@ -140,7 +164,7 @@ void SettingsView::addAppearance(FormCard& card) {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* text =
-        makeQuietLabel(u"Palette, typeface, size, vignette and grain"_s, Emphasis::Secondary, row);
+        makeQuietLabel(tr("Palette, typeface, size, vignette and grain"), Emphasis::Secondary, row);
     text->setFont(scaled(font(), 0.95));
     auto* edit = actionButton(actions_.editAppearance, row);
     layout->addWidget(text, 1);
@@ -150,24 +174,26 @@ void SettingsView::addAppearance(FormCard& card) {
 
 void SettingsView::addBehaviour(FormCard& card) {
     SettingsStore& store = store_;
-    auto* wake = makeSwitch(u"Show on wake and unlock"_s, switchStyle_, &card);
+    auto* wake = makeSwitch(tr("Show on wake and unlock"), switchStyle_, &card);
     bindSwitch(*wake, store, K::showOnWake);
     card.addRow(wake);
 
     auto* frequency = new FormPicker(&card);
-    frequency->addItem(u"Every 6 hours"_s, u"6h"_s);
-    frequency->addItem(u"Every 12 hours"_s, u"12h"_s);
-    frequency->addItem(u"Every 24 hours"_s, u"24h"_s);
-    frequency->addItem(u"Every time it shows"_s, u"every"_s);
+    frequency->addItem(tr("Every %n hours", "", 6), u"6h"_s);
+    frequency->addItem(tr("Every %n hours", "", 12), u"12h"_s);
+    frequency->addItem(tr("Every %n hours", "", 24), u"24h"_s);
+    //: A new quote at every showing
+    frequency->addItem(tr("Every time it shows"), u"every"_s);
     bindChoice(*frequency, store, K::frequency);
-    card.addRow(u"New quote"_s, frequency);
+    //: How often the quote changes
+    card.addRow(tr("New quote"), frequency);
 
     card.addRow(makeCloseAfter());
     card.addRow(makeLoginSwitch());
 }
 
 QWidget* SettingsView::makeLoginSwitch() {
-    auto* control = makeSwitch(u"Open at login"_s, switchStyle_, this);
+    auto* control = makeSwitch(tr("Open at login"), switchStyle_, this);
     const auto isEnabled = [this] { return loginItem_.status() == LoginItem::Status::Enabled; };
     control->setChecked(isEnabled());
     connect(control, &QAbstractButton::toggled, this, [this, control, isEnabled](bool on) {
@@ -184,7 +210,8 @@ QWidget* SettingsView::makeCloseAfter() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(u"Close after"_s, row);
+    //: Followed by a number of seconds
+    auto* label = new QLabel(tr("Close after"), row);
     auto* slider = new FormSlider(row);
     slider->setRange(int(K::dismiss.lowest), int(K::dismiss.highest)); // seconds
     slider->setSingleStep(1);
@@ -193,7 +220,8 @@ QWidget* SettingsView::makeCloseAfter() {
     slider->setAccessibleName(label->text());
     label->setBuddy(slider);
     auto* readout = makeNumberLabel(Emphasis::Secondary, row);
-    readout->setFixedWidth(secondsWidth);
+    readout->setText(secondsReadout(K::dismiss.highest));
+    readout->setFixedWidth(qMax(secondsWidth, readout->sizeHint().width()));
     layout->addWidget(label);
     layout->addStretch(1);
     layout->addWidget(slider);
@@ -216,34 +244,34 @@ QWidget* SettingsView::makeCloseAfter() {
 }
 
 QPushButton* SettingsView::makePresets() {
-    auto* button = new QPushButton(u"Presets"_s, this);
-    button->setFixedWidth(presetsWidth);
+    auto* button = new QPushButton(tr("Presets"), this);
     auto* menu = new QMenu(button);
     for (const SourcePreset& preset : sourcePresets) {
-        menu->addAction(preset.label.toString(), this, [this, address = preset.address] {
+        menu->addAction(sourcePresetLabel(preset), this, [this, address = preset.address] {
             store_.set(K::source, QString(address));
         });
     }
-    menu->addAction(u"Built-in list"_s, this, [this] { store_.set(K::source, QString()); });
+    menu->addAction(tr("Built-in list"), this, [this] { store_.set(K::source, QString()); });
     button->setMenu(menu);
+    button->setFixedWidth(qMax(presetsWidth, button->sizeHint().width()));
     return button;
 }
 
 void SettingsView::addQuotes(FormCard& card) {
-    auto* source = new QLineEdit(&card);
-    source->setPlaceholderText(u"Leave empty for the built-in 124 quotes"_s);
-    source->setMinimumWidth(330);
+    auto* source = new FormField(&card);
+    source->setPlaceholderText(
+        tr("Leave empty for the built-in %n quotes", "", static_cast<int>(quoteCount)));
     source->setTextMargins(4, 0, 4, 0);
     bindText(*source, store_, K::source);
-    card.addRow(u"Source URL"_s, source);
+    card.addRow(tr("Source URL"), source);
 
     auto* row = new QWidget(&card);
-    row->setAccessibleName(u"Testing…"_s); // it has the keyboard focus during a test
+    row->setAccessibleName(tr("Testing…")); // it has the keyboard focus during a test
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makePresets());
-    testButton_ = roomyButton(u"Testing…"_s, row);
-    testButton_->setText(u"Test"_s);
+    testButton_ = roomyButton(tr("Testing…"), row);
+    testButton_->setText(tr("Test"));
     layout->addWidget(testButton_);
     connect(testButton_, &QPushButton::clicked, this, &SettingsView::test);
     layout->addStretch(1);
@@ -258,8 +286,8 @@ void SettingsView::addQuotes(FormCard& card) {
     testResult_->hide();
 
     auto* help =
-        makeQuietLabel(u"Any JSON with a quote and author field works, plus a local file path. The "
-                       "last fetched quote is cached, so it still shows offline."_s,
+        makeQuietLabel(tr("Any JSON with a quote and author field works, plus a local file path. "
+                          "The last fetched quote is cached, so it still shows offline."),
                        Emphasis::Tertiary, &card);
     help->setFont(scaled(font(), 0.86));
     card.addRow(help);
@@ -272,7 +300,9 @@ QWidget* SettingsView::makeNotice() {
     notice->setContentsMargins(formMargin, 8, formMargin, 8);
     const auto update = [this, notice] {
         const QString name = store_.keptFileName();
-        notice->setText(name.isEmpty() ? QString() : "Unreadable settings are kept in "_L1 + name);
+        notice->setText(name.isEmpty() ? QString()
+                                       //: %1 is the name of a file
+                                       : tr("Unreadable settings are kept in %1").arg(name));
         notice->setVisible(!name.isEmpty());
     };
     connect(&store_, &SettingsStore::keptFileNameChanged, notice, update);
@@ -299,7 +329,7 @@ void SettingsView::test() {
         testButton_->parentWidget()->setFocus();
     }
     testButton_->setEnabled(false);
-    testButton_->setText(u"Testing…"_s);
+    testButton_->setText(tr("Testing…"));
     showTestResult({});
     const QPointer<SettingsView> self(this);
     loader_(Prefs::source(store_), [self](const std::optional<Quote>& quote) {
@@ -307,13 +337,13 @@ void SettingsView::test() {
             return;
         }
         self->testButton_->setEnabled(true);
-        self->testButton_->setText(u"Test"_s);
+        self->testButton_->setText(tr("Test"));
         if (self->testButton_->parentWidget()->hasFocus()) {
             self->testButton_->setFocus();
         }
         self->showTestResult(quote ? u'“' + cutAfter(quote->text, longestText) + u"” — "_s +
                                          cutAfter(quote->author, longestAuthor)
-                                   : u"No quote found at that source."_s);
+                                   : tr("No quote found at that source."));
     });
 }
 

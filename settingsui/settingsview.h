@@ -18,10 +18,13 @@ class LoginItem;
 struct MenuActions;
 class SettingsStore;
 
-inline constexpr QSize settingsViewSize(520, 545); // points
+// In points, with texts of the usual size.
+inline constexpr QSize settingsViewSize(520, 545);
 
 // The content of the settings window: when the quotation is shown and where it comes
-// from. Every control writes its setting as soon as it changes. Main thread.
+// from. Its width is fixed and its height has a maximum, those of settingsViewSize or what
+// larger texts of the desktop need; in less height its form scrolls. Every control writes
+// its setting as soon as it changes. Main thread.
 class SettingsView : public QWidget {
     Q_OBJECT
 

@@ -50,6 +50,15 @@ QSize Swatch::sizeHint() const {
     return {40, PanelStyle::tileHeight + (hasCaption() ? captionHeight : 0)};
 }
 
+QFont Swatch::captionFont() const {
+    QFont font = panelFont(face_, captionSize, marked_ ? QFont::DemiBold : QFont::Normal);
+    const double needed = QFontMetricsF(font).horizontalAdvance(text());
+    if (needed > width()) {
+        font.setPointSizeF(font.pointSizeF() * width() / needed);
+    }
+    return font;
+}
+
 QRectF Swatch::tile() const {
     return {0, 0, double(width()), PanelStyle::tileHeight};
 }
@@ -80,7 +89,7 @@ void Swatch::paintEvent(QPaintEvent* /*event*/) {
                                 PanelStyle::tileRadius - 1);
     }
     if (hasCaption()) {
-        painter.setFont(panelFont(face_, captionSize, marked_ ? QFont::DemiBold : QFont::Normal));
+        painter.setFont(captionFont());
         painter.setPen(PanelStyle::ink(marked_ ? 0.95 : 0.66));
         painter.drawText(
             QRectF(0, shape.bottom() + 1, this->width(), height() - shape.bottom() - 1),
@@ -98,7 +107,8 @@ PaletteSwatch::PaletteSwatch(const QString& name, std::span<const QColor> colors
 }
 
 void PaletteSwatch::paintTile(QPainter& painter, const QRectF& tile) {
-    QLinearGradient gradient(tile.topLeft(), tile.bottomRight());
+    QLinearGradient gradient(isRightToLeft() ? tile.topRight() : tile.topLeft(),
+                             isRightToLeft() ? tile.bottomLeft() : tile.bottomRight());
     gradient.setStops(stops_);
     painter.fillPath(rounded(tile), gradient);
 }
@@ -130,8 +140,8 @@ void PhotoSwatch::paintTile(QPainter& painter, const QRectF& tile) {
 }
 
 AddTile::AddTile(const QFont& face, QWidget* parent)
-    : Swatch(u"Add a photo"_s, face, parent) {
-    setToolTip(u"Add one of your own images, up to three"_s);
+    : Swatch(tr("Add a photo"), face, parent) {
+    setToolTip(tr("Add one of your own images, up to three"));
     // A tool tip takes the style sheet of its widget, but not the palette.
     setStyleSheet(
         u"QToolTip { color: %1; background: %2; border: 1px solid %3; padding: 3px; }"_s.arg(

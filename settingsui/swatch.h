@@ -20,6 +20,8 @@ public:
 
     bool isMarked() const { return marked_; }
     void setMarked(bool marked);
+    // Smaller than usual where the caption would be wider than its tile.
+    QFont captionFont() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -37,7 +39,7 @@ private:
     bool marked_ = false;
 };
 
-// A gradient from the top left to the bottom right corner, with its name beneath.
+// A gradient from the top leading to the bottom trailing corner, with its name beneath.
 class PaletteSwatch : public Swatch {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include "platform/chooser.h"
 
 #include "platform/linux/autostart.h"
+#include "platform/linux/dbus/busnotifications.h"
 #include "platform/linux/dbus/bustoolkitguard.h"
 #include "platform/linux/dbus/portals.h"
 #include "platform/linux/desktopparts.h"
@@ -47,6 +48,11 @@ void avoidStartingABus() {
 void unmapLargeBlocks() {
     constexpr int threshold = 1 << 20; // bytes
     mallopt(M_MMAP_THRESHOLD, threshold);
+}
+
+// Whether the program sees services only through portals.
+bool isSandboxed() {
+    return QFile::exists(u"/.flatpak-info"_s);
 }
 
 } // namespace
@@ -120,6 +126,7 @@ Platform makePlatform(WindowSystem system) {
     const auto session = std::make_shared<BusLink>(QDBusConnection::SessionBus);
     platform.wishes = makeDesktopWishes(session, x11);
     platform.fileChooser = std::make_unique<PortalFileChooser>(session);
+    platform.notifications = std::make_unique<BusNotifications>(session, isSandboxed());
     platform.sessionEvents = makeDesktopSession(session);
     platform.trayHost = makeDesktopTray(session, x11);
     platform.loginItem = makeLoginItem();

@@ -3,6 +3,7 @@
 
 #include "platform/system.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 #include <ctime>
@@ -25,6 +26,12 @@ void releaseFreeMemory() {
 
 QString settingsFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/morrowleaf"_s;
+}
+
+QString stateFolder() {
+    const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
+    return (folder.startsWith(u'/') ? folder : QDir::homePath() + u"/.local/state"_s) +
            u"/morrowleaf"_s;
 }
 

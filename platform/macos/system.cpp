@@ -29,4 +29,8 @@ QString settingsFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Morrowleaf"_s;
 }
 
+QString stateFolder() {
+    return settingsFolder();
+}
+
 } // namespace morrowleaf

@@ -9,6 +9,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <utility>
+
 namespace morrowleaf {
 
 namespace {
@@ -112,6 +114,13 @@ public:
     Wishes current() const override { return {}; }
 };
 
+class NoNotifications final : public Notifications {
+public:
+    void show(const Notification& /*notification*/, std::function<void(bool)> done) override {
+        QTimer::singleShot(0, this, [done = std::move(done)] { done(false); });
+    }
+};
+
 class OnlyInstance final : public SingleInstance {
 public:
     bool claim(const std::optional<LaunchRequest>& /*request*/) override { return true; }
@@ -135,6 +144,7 @@ Platform makeNullPlatform() {
             .trayHost = std::make_unique<TrayHost>(),
             .loginItem = std::make_unique<RememberedLoginItem>(),
             .wishes = std::make_unique<NoWishes>(),
+            .notifications = std::make_unique<NoNotifications>(),
             .requests = std::make_unique<NoRequests>()};
 }
 

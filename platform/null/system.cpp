@@ -25,6 +25,10 @@ QString settingsFolder() {
            u"/morrowleaf"_s;
 }
 
+QString stateFolder() {
+    return settingsFolder();
+}
+
 QByteArray certificateFolder() {
     return {};
 }

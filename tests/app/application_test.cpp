@@ -24,20 +24,6 @@ private:
     std::optional<QString> error_;
 };
 
-TEST(Application, SelfTestGoesBeforeTheLoginItem) {
-    EXPECT_EQ(modeFor({u"morrowleaf"_s}), Mode::Desktop);
-    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--settings"_s, u"-x"_s}), Mode::Desktop);
-    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--register-login"_s, u"--selftest"_s}), Mode::SelfTest);
-    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"x"_s, u"--register-login"_s}), Mode::RegisterLogin);
-    EXPECT_EQ(modeFor({u"--selftest"_s}), Mode::SelfTest);
-}
-
-TEST(Application, ArgumentsAreMatchedWholeAndInTheirCase) {
-    EXPECT_EQ(modeFor({u"morrowleaf"_s, u"--Selftest"_s, u"--selftest=1"_s, u"selftest"_s,
-                       u"--register"_s}),
-              Mode::Desktop);
-}
-
 TEST(Application, LinesOfTheLoginItem) {
     using Status = LoginItem::Status;
     ItemThat enabled(Status::Enabled, std::nullopt);

@@ -9,8 +9,11 @@ accessible.py labelled ROLE NAME  the control of the label with that name
 accessible.py press NAME
 accessible.py set NAME VALUE
 accessible.py places              role|name|states|x|y|width|height of everything on the screen
+accessible.py names LEAST         every control has a name and a role, and there are so many
+accessible.py tab NAME            Tab leads to that control, and nothing is told of it before that
 accessible.py place ROLE NAME WHICH  this of the WHICHth such thing whose name begins with NAME
 """
+import subprocess
 import sys
 
 import gi
@@ -90,6 +93,44 @@ def nth_place(role, name, which):
     sys.exit(f"no {role} {name}")
 
 
+def check_names(least):
+    controls = [node for node in everything(program())
+                if is_showing(node) and not in_closed_list(node)
+                and node.get_role_name() not in ("frame", "window", "application")
+                and node.get_state_set().contains(Atspi.StateType.FOCUSABLE)]
+    nameless = [place(node) for node in controls
+                if not (node.get_name() or "").strip()
+                and not any(relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+                            for relation in node.get_relation_set())]
+    roleless = [place(node) for node in controls
+                if node.get_role_name() in ("", "invalid", "unknown", "filler", "extended")]
+    if len(controls) < least or nameless or roleless:
+        sys.exit("\n".join([f"{len(controls)} controls, nameless and without a role:",
+                            *nameless, *roleless]))
+
+
+def press_tab(name):
+    focused, heard = "object:state-changed:focused", []
+    loop = GLib.MainLoop()
+
+    def hear(event):
+        lost = event.type == focused and not event.detail1
+        if event.source.get_name() == name and not lost:
+            if not heard:
+                GLib.timeout_add_seconds(2, loop.quit)  # what it tells of the field
+            heard.append(event.type)
+
+    listener = Atspi.EventListener.new(hear)
+    for kind in (focused, "object:text-selection-changed", "object:text-caret-moved"):
+        listener.register(kind)
+    GLib.timeout_add(300, lambda: bool(subprocess.run(["xdotool", "key", "Tab"]).returncode))
+    GLib.timeout_add_seconds(20, loop.quit)
+    loop.run()
+    # A screen reader skips all but the last of the same kind.
+    if focused not in heard or any(kind != focused for kind in heard[:-heard[::-1].index(focused)]):
+        sys.exit(f"heard of {name}: {heard}")
+
+
 def is_labelled(node, name):
     return any(
         relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
@@ -116,6 +157,10 @@ def main():
     elif command == "find":
         node = find(sys.argv[2], sys.argv[3])
         print(node.get_role_name(), node.get_name())
+    elif command == "tab":
+        press_tab(sys.argv[2])
+    elif command == "names":
+        check_names(int(sys.argv[2]))
     elif command == "labelled":
         if not any(
             node.get_role_name() == sys.argv[2] and is_labelled(node, sys.argv[3])

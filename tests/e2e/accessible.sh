@@ -42,11 +42,19 @@ button|Test
 button|Show Today's Quote
 button|Quit
 EOT
+for _ in 1 2 3 4 5 6; do
+    focused "check box" "Open at login" && break
+    xdotool key Tab
+    settle
+done
+check "the source is named before its text" read_aloud tab "Source URL"
+check "every control of the settings has a name and a role" read_aloud names 10
 check "the settings: New quote" read_aloud labelled "combo box" "New quote"
 read_aloud press "Edit Appearance…"
 must "a button can be pressed from afar" is_shown
 must "the editor can be read" read_aloud find "" "Reset"
 check "the screen's window is a window" there frame "Morrowleaf" 2
+check "every control of the editor has a name and a role" read_aloud names 38
 while IFS='|' read -r role name; do
     check "the editor: $name" read_aloud find "$role" "$name"
 done <<'EOT'

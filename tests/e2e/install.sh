@@ -18,6 +18,13 @@ for file in icons/hicolor/scalable/apps/$id.svg icons/hicolor/symbolic/apps/$id-
     morrowleaf/Backgrounds/sea.jpg morrowleaf/icons/quote-sym-22.svg; do
     check "$file is there" test -f "$share/$file"
 done
+for file in man/de/man1/morrowleaf.1.gz man/zh_CN/man1/morrowleaf.1.gz \
+    bash-completion/completions/morrowleaf fish/vendor_completions.d/morrowleaf.fish; do
+    check "$file is there" test -f "$share/$file"
+done
+check "and the completion for zsh" ls "$share"/zsh/*/_morrowleaf
+check "the menu of programs knows German" \
+    grep -qx 'Comment\[de\]=Begrüßt Sie mit einem Zitat' "$share/applications/$id.desktop"
 check "the bus starts the installed program" \
     grep -qx 'Exec=/.*/bin/morrowleaf' "$share/dbus-1/services/$id.service"
 
@@ -26,6 +33,20 @@ cd /
 self_test() { [ "$("$work/elsewhere/bin/morrowleaf" --selftest)" = \
     "selftest ok — 124 quotes, connector parsing ok" ]; }
 check "it runs from any place, without a display" self_test
+# first_line_in LANGUAGE: of the help
+first_line_in() { LANGUAGE=$1 "$work/elsewhere/bin/morrowleaf" --help | sed -n 1p; }
+check "its help is in English" [ "$(first_line_in 'fi')" = "Usage: morrowleaf [OPTION]" ]
+check "in German" [ "$(first_line_in 'fi:de_AT:fr')" = "Aufruf: morrowleaf [OPTION]" ]
+check "but not where English is wished first" \
+    [ "$(first_line_in en_GB:de)" = "Usage: morrowleaf [OPTION]" ]
+numbers_only() { "$work/elsewhere/bin/morrowleaf" --version | grep -qxE 'Morrowleaf [0-9.]+'; }
+check "it says its version" numbers_only
+offers() {
+    bash -c '. "$1"; complete -p morrowleaf' - \
+        "$share_now/bash-completion/completions/morrowleaf" | grep -q -- "--version"
+}
+share_now=$work/elsewhere/share
+check "bash completes its options" offers
 opened() { strace -f -e trace=openat -o "$work/trace.log" "$work/elsewhere/bin/morrowleaf" --selftest; }
 if command -v strace >/dev/null; then
     opened >/dev/null

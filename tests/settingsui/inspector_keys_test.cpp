@@ -183,6 +183,7 @@ TEST_F(InspectorTest, TellsRolesStatesAndValues) {
     auto* picker = face(named<MenuPicker>(u"Typeface"_s));
     EXPECT_EQ(picker->role(), QAccessible::ComboBox);
     EXPECT_EQ(picker->text(QAccessible::Value), u"Fraunces"_s);
+    EXPECT_EQ(picker->text(QAccessible::Description), u"Fraunces"_s);
     EXPECT_EQ(face(named<QCheckBox>(u"Film grain"_s))->role(), QAccessible::CheckBox);
     EXPECT_EQ(face(panel().findChild<AddTile*>())->role(), QAccessible::Button);
     EXPECT_EQ(face(&panel())->role(), QAccessible::Grouping);

@@ -43,7 +43,9 @@ protected:
         if (!window_) {
             window_ = std::make_unique<QWidget>();
             window_->resize(700, 900);
-            panel_ = new Inspector(store, photos, files, {.glassCanBeDrawn = glass}, window_.get());
+            panel_ = new Inspector(store, photos, files,
+                                   {.glassCanBeDrawn = glass, .highContrast = highContrast},
+                                   window_.get());
             QObject::connect(panel_, &Inspector::done, panel_, [this] { ++done; });
             panel_->setGeometry(380, 0, 320, 900);
             window_->show();
@@ -114,6 +116,7 @@ protected:
     SettingsStore store;
     BGStore photos{store, sourcePath(u"resources/Backgrounds"_s), folder.filePath(u"own"_s)};
     bool glass = true;
+    bool highContrast = false;
     int done = 0;
     FakeFileChooser files;
 

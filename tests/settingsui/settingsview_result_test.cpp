@@ -3,6 +3,8 @@
 
 #include "tests/settingsui/settingsviewfixture.h"
 
+#include <QComboBox>
+
 namespace morrowleaf {
 namespace {
 
@@ -66,6 +68,27 @@ TEST_F(SettingsViewTest, TheResultIsReadAsItIsShown) {
     };
     EXPECT_TRUE(read(label, QAccessible::Name) == label->text());
     EXPECT_TRUE(read(button(u"Test"_s), QAccessible::Description) == label->text());
+}
+
+TEST_F(SettingsViewTest, AChoiceIsReadWithItsValue) {
+    const auto read = [&] {
+        return QAccessible::queryAccessibleInterface(only<QComboBox>())
+            ->text(QAccessible::Description);
+    };
+    EXPECT_EQ(read(), u"Every 24 hours"_s);
+    store.set(K::frequency, u"6h"_s);
+    EXPECT_EQ(read(), u"Every 6 hours"_s);
+}
+
+TEST_F(SettingsViewTest, TabSelectsTheSource) {
+    store.set(K::source, u"/somewhere"_s);
+    auto* field = only<QLineEdit>();
+    QApplication::setActiveWindow(&view());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
+    button(u"Test"_s)->setFocus();
+    field->setFocus(Qt::TabFocusReason);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(field->selectedText(), u"/somewhere"_s);
 }
 
 // The widths of the rows in which a label is drawn, in device pixels.

@@ -11,6 +11,8 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QWheelEvent>
 
@@ -221,7 +223,7 @@ TEST_F(SettingsViewTest, PresetsSetTheSource) {
     ASSERT_EQ(actions.size(), 4);
     for (qsizetype i = 0; i < 3; ++i) {
         const SourcePreset& preset = sourcePresets[std::size_t(i)];
-        EXPECT_EQ(actions[i]->text(), preset.label);
+        EXPECT_EQ(actions[i]->text(), sourcePresetLabel(preset));
         actions[i]->trigger();
         EXPECT_EQ(store.text(K::source), preset.address);
         EXPECT_EQ(only<QLineEdit>()->text(), preset.address);
@@ -319,6 +321,21 @@ TEST_F(SettingsViewTest, EveryControlHasANameAndIsReachedInOrder) {
               QStringList({u"Edit Appearance…"_s, u"Show on wake and unlock"_s, u"New quote"_s,
                            u"Close after"_s, u"Open at login"_s, u"Source URL"_s, u"Presets"_s,
                            u"Test"_s, u"Show Today's Quote"_s, u"Quit"_s}));
+}
+
+TEST_F(SettingsViewTest, KeepsTheBottomBarInSightWhereItIsLow) {
+    view().resize(520, 380);
+    view().show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view()));
+    const auto* scroll = view().findChild<QScrollArea*>();
+    ASSERT_NE(scroll, nullptr);
+    EXPECT_GT(scroll->verticalScrollBar()->maximum(), 0);
+    for (const QPushButton* button : view().findChildren<QPushButton*>()) {
+        if (button->text() == u"Quit"_s || button->text() == u"Show Today's Quote"_s) {
+            const QRect place(button->mapTo(&view(), QPoint()), button->size());
+            EXPECT_TRUE(view().rect().contains(place)) << button->text().toStdString();
+        }
+    }
 }
 
 TEST_F(SettingsViewTest, TellsInOneLineWhereUnreadableSettingsAreKept) {

@@ -95,8 +95,8 @@ private:
     Ground ground_;
 };
 
-QImage settingsIn(ColorPreference preference) {
-    QApplication::setPalette(hostPalette(preference));
+QImage settingsIn(const QPalette& palette) {
+    QApplication::setPalette(palette);
     QApplication::setFont(bundledFace());
     SettingsStore store;
     registerAppDefaults(store);
@@ -127,18 +127,27 @@ TEST_F(EditorGolden, InEveryDetail) {
 
 TEST(SettingsGolden, LightAndDark) {
     QApplication::setStyle(u"Fusion"_s);
-    expectGolden(u"settings-light"_s, settingsIn(ColorPreference::Light), 1);
-    expectGolden(u"settings-dark"_s, settingsIn(ColorPreference::Dark), 1);
+    expectGolden(u"settings-light"_s, settingsIn(hostPalette(ColorPreference::Light)), 1);
+    expectGolden(u"settings-dark"_s, settingsIn(hostPalette(ColorPreference::Dark)), 1);
+}
+
+TEST(SettingsGolden, HighContrast) {
+    QApplication::setStyle(u"Fusion"_s);
+    expectGolden(u"settings-black-on-white"_s,
+                 settingsIn(highContrastPalette(ColorPreference::Light)), 1);
+    expectGolden(u"settings-white-on-black"_s,
+                 settingsIn(highContrastPalette(ColorPreference::Dark)), 1);
 }
 
 TEST(SettingsGolden, AnotherLookIsSeen) {
-    const QImage light = forRecord(settingsIn(ColorPreference::Light), 1);
+    const QImage light = forRecord(settingsIn(hostPalette(ColorPreference::Light)), 1);
     QImage moved(light.size(), light.format());
     moved.fill(light.pixel(1, 1));
     QPainter(&moved).drawImage(0, 2 * ratio(), light);
     EXPECT_FALSE(comparePictures(light, moved).acceptable());
     EXPECT_FALSE(
-        comparePictures(light, forRecord(settingsIn(ColorPreference::Dark), 1)).acceptable());
+        comparePictures(light, forRecord(settingsIn(hostPalette(ColorPreference::Dark)), 1))
+            .acceptable());
 }
 
 } // namespace

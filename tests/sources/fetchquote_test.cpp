@@ -127,7 +127,7 @@ TEST(QuoteAnswer, IsNothingUnlessItIsTwoTexts) {
 
 TEST(SourcePresets, AreThree) {
     ASSERT_EQ(sourcePresets.size(), 3U);
-    EXPECT_EQ(sourcePresets[0].label, u"ZenQuotes \u2014 quote of the day");
+    EXPECT_EQ(sourcePresetLabel(sourcePresets[0]), u"ZenQuotes \u2014 quote of the day");
     EXPECT_EQ(sourcePresets[1].address, "https://zenquotes.io/api/random"_L1);
     EXPECT_EQ(sourcePresets[2].address, "https://dummyjson.com/quotes/random"_L1);
 }

@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The Morrowleaf developers
 # SPDX-License-Identifier: MIT
 
-"""Checks that the manual page names every environment variable that the program reads.
+"""Checks that the manual page names every environment variable that the program reads and
+every option, and that the completions of the shells know the same options.
 
     manpagecheck.py REPOSITORY
 
@@ -25,6 +26,29 @@ def variables_in(source):
         value for name, value in constants if re.search(rf"\b{name}\b", arguments)}
 
 
+def options_in(place, text):
+    """The options that a page or a completion knows, by the file's own way to name them."""
+    if place.endswith(".1"):
+        synopsis = re.search(r"\.SH SYNOPSIS(.*?)\.SH", text, re.S)[1]
+        described = re.findall(r"^\.B (\\-\\-\S+)$", text, re.M)
+        listed = re.findall(r"\\-\\-[a-z\\-]+", synopsis)
+        return {name.replace("\\", "") for name in set(described) ^ set(listed) or described}
+    if place.endswith(".fish"):
+        return {f"--{name}" for name in re.findall(r" -l (\S+)", text)}
+    return set(re.findall(r"--[a-z-]+", text.split("complete -W")[-1]))
+
+
+def check_options(root):
+    wanted = set(re.findall(r'"(--[a-z-]+)"', (root / "app/commandline.cpp").read_text()))
+    if not wanted:
+        yield "found no option at all"
+    for place in ("morrowleaf.1", "completions/morrowleaf.bash", "completions/_morrowleaf",
+                  "completions/morrowleaf.fish"):
+        there = options_in(place, (root / "packaging" / place).read_text())
+        if there != wanted:
+            yield f"packaging/{place}: has {sorted(there)}, the program {sorted(wanted)}"
+
+
 def main():
     root = pathlib.Path(sys.argv[1])
     rooms = {file.parent for file in root.glob("*/CMakeLists.txt")
@@ -32,12 +56,13 @@ def main():
     sources = [path for room in rooms for path in room.rglob("*.[ch]*")]
     read = set().union(*(variables_in(path.read_text()) for path in sources)) - INTERNAL
     page = (root / "packaging/morrowleaf.1").read_text()
-    missing = [name for name in sorted(read) if not re.search(rf"^\.B.*\b{name}\b", page, re.M)]
-    for name in missing:
-        print(f"packaging/morrowleaf.1: does not name the environment variable {name}")
+    faults = [f"packaging/morrowleaf.1: does not name the environment variable {name}"
+              for name in sorted(read) if not re.search(rf"^\.B.*\b{name}\b", page, re.M)]
     if not read:
-        print("found no environment variable at all")
-    return 1 if missing or not read else 0
+        faults.append("found no environment variable at all")
+    faults += check_options(root)
+    print("\n".join(faults))
+    return 1 if faults else 0
 
 
 sys.exit(main())
