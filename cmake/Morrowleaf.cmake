@@ -16,6 +16,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 set(MORROWLEAF_SANITIZE "" CACHE STRING "Sanitizers for every target, such as address,undefined")
 option(MORROWLEAF_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
+option(MORROWLEAF_HARDEN "Build as distributions do, with what makes faults harder to exploit" OFF)
 option(MORROWLEAF_FUZZ "Build the libFuzzer targets (needs clang)" OFF)
 
 # Makes ccache hash paths in the source tree as relative ones, so that clones in
@@ -43,6 +44,16 @@ if(MORROWLEAF_SANITIZE)
   target_compile_options(morrowleaf_options INTERFACE
     -fsanitize=${MORROWLEAF_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(morrowleaf_options INTERFACE -fsanitize=${MORROWLEAF_SANITIZE})
+endif()
+if(MORROWLEAF_HARDEN)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-fstack-protector-strong -fstack-clash-protection -fcf-protection
+    -Wformat -Werror=format-security -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+    # The same bytes from every folder.
+    -ffile-prefix-map=${PROJECT_BINARY_DIR}=. -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
 endif()
 if(MORROWLEAF_FUZZ)
   target_compile_options(morrowleaf_options INTERFACE -fsanitize=fuzzer-no-link,address)

@@ -6,6 +6,7 @@
 #include "platform/linux/autostart.h"
 #include "platform/linux/dbus/busnotifications.h"
 #include "platform/linux/dbus/bustoolkitguard.h"
+#include "platform/linux/dbus/portallogin.h"
 #include "platform/linux/dbus/portals.h"
 #include "platform/linux/desktopparts.h"
 #include "platform/linux/wayland/waylandconnection.h"
@@ -130,6 +131,10 @@ Platform makePlatform(WindowSystem system) {
     platform.sessionEvents = makeDesktopSession(session);
     platform.trayHost = makeDesktopTray(session, x11);
     platform.loginItem = makeLoginItem();
+    if (isSandboxed()) {
+        platform.loginItem =
+            std::make_unique<PortalLoginItem>(session, std::move(platform.loginItem));
+    }
     platform.requests = makeDesktopRequests(session);
     if (x11) {
         platform.mainScreen = makeX11MainScreen();
