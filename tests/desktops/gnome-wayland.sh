@@ -61,16 +61,7 @@ points_at() {
     shell_says 'global.display.get_current_monitor()' "$1"
 }
 if [ "$monitors" = 2 ]; then
-    settings "{$settings_of_walk}"
-    expect plain "$points" "$ratio"
-    close_overview
-    start app morrowleaf --settings
-    app=$last
-    must "the settings open" focus_is "Morrowleaf Settings"
-    settings_close
-    put_window below '#c08020' 200 200 500 300
-    walk_monitors
-    end_walk
+    walk_monitors_alone
 fi
 walk_login
 close_overview

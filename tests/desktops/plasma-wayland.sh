@@ -28,11 +28,7 @@ XAUTHORITY=$(find "$XDG_RUNTIME_DIR" -name 'xauth_*' | head -1)
 export DISPLAY XAUTHORITY
 tell_services DISPLAY WAYLAND_DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP XDG_SESSION_TYPE \
     KDE_FULL_SESSION KDE_SESSION_VERSION LIBGL_ALWAYS_SOFTWARE
-start kded kded5
-start shell plasmashell --no-respawn
-until_true 90 has_panel || die "no panel"
-plasma-apply-wallpaperimage "$work/wall.png" >/dev/null 2>&1
-sleep 5
+start_plasma_shell
 
 # in_kwin JAVASCRIPT: the compositor has no other way to be asked
 in_kwin() {
@@ -66,15 +62,7 @@ if [ "$monitors" = 2 ]; then
     second=$(DISPLAY=$outside xwininfo -root -tree |
         grep -o '0x[0-9a-f]* "KDE Wayland' | sort | tail -1 | cut -d' ' -f1)
     DISPLAY=$outside xdotool windowmove "$second" "$width" 0
-    settings "{$settings_of_walk}"
-    expect plain "$points" "$ratio"
-    start app morrowleaf --settings
-    app=$last
-    must "the settings open" focus_is "Morrowleaf Settings"
-    settings_close
-    put_window below '#c08020' 200 200 500 300
-    walk_monitors
-    end_walk
+    walk_monitors_alone
 fi
 walk_login
 walk_all

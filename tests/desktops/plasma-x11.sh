@@ -15,11 +15,7 @@ tell_services KDE_FULL_SESSION KDE_SESSION_VERSION LIBGL_ALWAYS_SOFTWARE
 start manager kwin_x11
 until_true 60 has_manager || die "no window manager"
 start session ksmserver
-start kded kded5
-start shell plasmashell --no-respawn
-until_true 90 has_panel || die "no panel"
-plasma-apply-wallpaperimage "$work/wall.png" >/dev/null 2>&1
-sleep 5
+start_plasma_shell
 
 # What its starter sets at that scale.
 double_scale() {

@@ -10,6 +10,13 @@ prepare_plasma() {
     printf '[Basic Settings]\nIndexing-Enabled=false\n' >"$XDG_CONFIG_HOME/baloofilerc"
     printf '[Daemon]\nAutolock=false\nLockOnResume=false\nTimeout=0\n' >"$XDG_CONFIG_HOME/kscreenlockerrc"
 }
+start_plasma_shell() {
+    start kded kded5
+    start shell plasmashell --no-respawn
+    until_true 90 has_panel || die "no panel"
+    plasma-apply-wallpaperimage "$work/wall.png" >/dev/null 2>&1
+    sleep 5
+}
 has_panel() {
     gdbus call --session -d org.kde.plasmashell -o /PlasmaShell \
         -m org.freedesktop.DBus.Peer.Ping

@@ -344,3 +344,16 @@ walk_monitors() {
         tick monitors "the window has the keyboard again" gets_keys below s
     done
 }
+# walk_monitors_alone: in a session that has two monitors and has not been walked through
+walk_monitors_alone() {
+    settings "{$settings_of_walk}"
+    expect plain "$points" "$ratio"
+    if [ "$(type -t close_overview)" = function ]; then close_overview; fi
+    start app morrowleaf --settings
+    app=$last
+    must "the settings open" focus_is "Morrowleaf Settings"
+    settings_close
+    put_window below '#c08020' 200 200 500 300
+    walk_monitors
+    end_walk
+}

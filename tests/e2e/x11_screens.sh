@@ -34,6 +34,15 @@ geometry_is() {
     [ "$(xwininfo -id "$id" | awk '/Absolute upper-left|Width|Height/ {printf "%s ", $NF}')" \
         = "$1 " ]
 }
+# go_left: closes the showing on the right monitor and starts one on the left
+go_left() {
+    xdotool key q
+    must "a key closes it" is_gone
+    title_focus onleft
+    n=$(maps)
+    "$MORROWLEAF"
+    must "then the other one" opened_since "$n"
+}
 
 title_focus onright
 start app "$MORROWLEAF"
@@ -41,12 +50,7 @@ app=$last
 must "it covers the monitor with the focus" geometry_is "800 0 800 600"
 must "all of it" now_shows_none_of right '#ff00ff'
 check "and nothing else" shows_some_of right '#ffff00'
-xdotool key q
-must "a key closes it" is_gone
-title_focus onleft
-n=$(maps)
-"$MORROWLEAF"
-must "then the other one" opened_since "$n"
+go_left
 must "that has it by then" geometry_is "0 0 800 600"
 n=$(maps)
 xrandr --delmonitor left
@@ -124,12 +128,7 @@ app=$last
 must "it covers the monitor of twice the scale" geometry_is "800 0 800 600"
 must "all of it" now_shows_none_of right2 '#ff00ff'
 check "and nothing else" shows_some_of right2 '#ffff00'
-xdotool key q
-must "a key closes it" is_gone
-title_focus onleft
-n=$(maps)
-"$MORROWLEAF"
-must "then the other one" opened_since "$n"
+go_left
 must "which has the single scale" geometry_is "0 0 800 600"
 # By then the mouse is free, also for a screen locker.
 put_window locker '#00ff00' 0 0 640 480 grabbing
