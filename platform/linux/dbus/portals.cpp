@@ -9,7 +9,9 @@
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
+#include <QEvent>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 #include <QUuid>
@@ -67,15 +69,15 @@ const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 constexpr int patience = 8000; // milliseconds for the portal to start and open its dialog
 constexpr uint mimeRule = 1;
 
-// The portal's name for the window that the dialog belongs to; empty for one
-// that no window manager knows.
-QString handleOf(const QWidget& window) {
-    const QWindow* owner = dialogOwnerOf(window);
+constexpr int exposePatience = 800; // milliseconds for the owner of the dialog to be drawn
+
+// The window that the dialog belongs to; null if no window manager knows it or the portal
+// has no name for it.
+QWindow* ownerOfDialog(const QWidget& window) {
+    QWindow* owner = dialogOwnerOf(window);
     const bool isManaged =
         owner != nullptr && !owner->flags().testFlag(Qt::BypassWindowManagerHint);
-    return isManaged && QGuiApplication::platformName() == "xcb"_L1
-               ? u"x11:%1"_s.arg(owner->winId(), 0, 16)
-               : QString();
+    return isManaged && QGuiApplication::platformName() == "xcb"_L1 ? owner : nullptr;
 }
 
 // Of what QUrl takes for a path: an address may be relative, or have a host.
@@ -93,15 +95,17 @@ public:
         , bus_(bus)
         , portal_(u"org.freedesktop.portal.Desktop"_s)
         , token_(u"morrowleaf"_s + QUuid::createUuid().toString(QUuid::Id128))
-        , window_(handleOf(window))
+        , owner_(ownerOfDialog(window))
         , title_(title)
         , options_(options) {
         options_.insert(u"handle_token"_s, token_);
-        connect(&portal_, &BusService::appeared, this, &PortalRequest::openFile);
+        connect(&portal_, &BusService::appeared, this, &PortalRequest::openFileOverOwner);
         connect(&portal_, &BusService::vanished, this,
                 [this] { finish({.kind = FileAnswer::Kind::Cancelled, .path = {}}); });
         connect(&portal_, &BusService::activationFailed, this, &PortalRequest::giveUp);
         connect(&timeout_, &QTimer::timeout, this, &PortalRequest::giveUp);
+        connect(&exposure_, &QTimer::timeout, this, &PortalRequest::openFile);
+        exposure_.setSingleShot(true);
         timeout_.setSingleShot(true);
         timeout_.start(bus_.isConnected() ? patience : 0);
         if (bus_.isConnected()) {
@@ -115,7 +119,24 @@ public:
         }
     }
 
+    bool eventFilter(QObject* owner, QEvent* event) override {
+        if (event->type() == QEvent::Expose && exposure_.isActive()) {
+            exposure_.start(0); // after the owner has handled it
+        }
+        return FileRequest::eventFilter(owner, event);
+    }
+
 private:
+    // A dialog that is on the screen before its owner may be left without the keyboard.
+    void openFileOverOwner() {
+        if (owner_ && !owner_->isExposed()) {
+            owner_->installEventFilter(this);
+            exposure_.start(exposePatience);
+        } else {
+            openFile();
+        }
+    }
+
     void openFile() {
         if (finished_) {
             return; // another portal has taken the place of the one that was asked
@@ -124,8 +145,9 @@ private:
         // the return of the call.
         const QString sender = bus_.baseService().mid(1).replace('.'_L1, '_'_L1);
         listenAt(portalPath + u"/request/%1/%2"_s.arg(sender, token_));
+        const QString window = owner_ ? u"x11:%1"_s.arg(owner_->winId(), 0, 16) : QString();
         Chooser chooser(portal_.owner(), portalPath, bus_);
-        whenFinished(this, chooser.OpenFile(window_, title_, options_),
+        whenFinished(this, chooser.OpenFile(window, title_, options_),
                      [this](const QDBusPendingReply<QDBusObjectPath>& reply) {
                          timeout_.stop();
                          if (reply.isError()) {
@@ -181,10 +203,11 @@ private:
     QDBusConnection bus_;
     BusService portal_;
     QString token_;
-    QString window_;
+    QPointer<QWindow> owner_; // null if the portal is told of none
     QString title_;
     QVariantMap options_;
     QString path_; // of the request's object, empty before the call
+    QTimer exposure_;
     QTimer timeout_;
     bool finished_ = false;
 };

@@ -54,7 +54,8 @@ void StandIn::paintEvent(QPaintEvent* /*event*/) {
 
 void StandIn::exposeEvent(QExposeEvent* event) {
     QRasterWindow::exposeEvent(event);
-    if (isExposed() && drawn_.isActive()) {
+    if (isExposed() && !wasExposed_) {
+        wasExposed_ = true;
         drawn_.start(fadeOfDesktop);
         // Some window managers give the keyboard to a dialog of another program only if its
         // owner has it.

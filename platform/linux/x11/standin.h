@@ -32,6 +32,7 @@ protected:
 private:
     QImage picture_;
     std::function<void()> then_;
+    bool wasExposed_ = false;
     QTimer drawn_;
 };
 

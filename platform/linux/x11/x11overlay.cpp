@@ -261,6 +261,9 @@ private:
         setDialogOwner(window_, nullptr);
         window_.show();
         moveToFront();
+        // Keys arrive here while the window manager settles where the focus goes after the
+        // dialog and the stand-in.
+        grab_->take(*window_.windowHandle(), X11Grab::What::FocusAndKeyboard);
         // It stays until the desktop has drawn this one.
         QTimer::singleShot(standInStays, this, [this] {
             if (!lowered_) {
