@@ -76,7 +76,8 @@ public:
     // Unmaps the window and returns the focus to the window that had it before.
     virtual void orderOut() = 0;
     // At Normal the window moves below a dialog of this program and releases
-    // its grabs; back at ScreenSaver it returns to the front with them.
+    // its grabs; back at ScreenSaver it returns to the front with them. If the window
+    // manager does not know the window, dialogs belong to its transient parent meanwhile.
     virtual void setLevel(WindowLevel level) = 0;
     // Releases all grabs until the next retakeInput() or orderFront(); the window stays
     // mapped.

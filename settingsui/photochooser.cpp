@@ -3,7 +3,6 @@
 
 #include "settingsui/photochooser.h"
 
-#include "platform/dialogowner.h"
 #include "platform/filechooser.h"
 
 #include <QApplication>
@@ -133,9 +132,10 @@ void PhotoChooser::chooseWithQt() {
             dialog->deleteLater();
         }
     });
-    if (QWindow* owner = dialogOwnerOf(*window); owner != window->windowHandle()) {
+    const QWindow* overlay = window->windowHandle();
+    if (overlay != nullptr && overlay->transientParent() != nullptr) {
         dialog->winId();
-        dialog->windowHandle()->setTransientParent(owner);
+        dialog->windowHandle()->setTransientParent(overlay->transientParent());
     }
     new EscapeCloses(dialog);
     // A window manager may give the keyboard to any window of the program when a question of

@@ -3,7 +3,6 @@
 
 #include "platform/linux/dbus/portals.h"
 
-#include "platform/dialogowner.h"
 #include "platform/linux/dbus/busservice.h"
 #include "portal_interface.h"
 
@@ -67,14 +66,16 @@ using Request = OrgFreedesktopPortalRequestInterface;
 
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 constexpr int patience = 8000; // milliseconds for the portal to start and open its dialog
-constexpr uint mimeRule = 1;
-
 constexpr int exposePatience = 800; // milliseconds for the owner of the dialog to be drawn
+constexpr uint mimeRule = 1;
 
 // The window that the dialog belongs to; null if no window manager knows it or the portal
 // has no name for it.
 QWindow* ownerOfDialog(const QWidget& window) {
-    QWindow* owner = dialogOwnerOf(window);
+    QWindow* owner = window.windowHandle();
+    if (owner != nullptr && owner->transientParent() != nullptr) {
+        owner = owner->transientParent();
+    }
     const bool isManaged =
         owner != nullptr && !owner->flags().testFlag(Qt::BypassWindowManagerHint);
     return isManaged && QGuiApplication::platformName() == "xcb"_L1 ? owner : nullptr;

@@ -3,7 +3,6 @@
 
 #include "platform/linux/x11/x11parts.h"
 
-#include "platform/dialogowner.h"
 #include "platform/linux/x11/placement.h"
 #include "platform/linux/x11/standin.h"
 #include "platform/linux/x11/x11connection.h"
@@ -249,7 +248,7 @@ private:
     void makeWay() {
         const QImage picture = window_.grab().toImage();
         standIn_ = std::make_unique<StandIn>(*window_.screen(), picture);
-        setDialogOwner(window_, standIn_.get());
+        window_.windowHandle()->setTransientParent(standIn_.get());
         standIn_->present([this] {
             if (lowered_) {
                 window_.hide();
@@ -258,7 +257,7 @@ private:
     }
 
     void comeBack() {
-        setDialogOwner(window_, nullptr);
+        window_.windowHandle()->setTransientParent(nullptr);
         window_.show();
         moveToFront();
         // Keys arrive here while the window manager settles where the focus goes after the
