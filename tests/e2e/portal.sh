@@ -59,6 +59,13 @@ check "for the window that stands in for the editor" \
     grep -Eq "parent='x11:[0-9a-f]+'" "$work/portal.log"
 settle
 check "no dialog of the toolkit is there" not xdotool search --onlyvisible --name '^Add a Photo$'
+stand_in() { xdotool search --onlyvisible --name '^Edit Appearance$'; }
+activate_stand_in() {
+    timeout 2 xdotool windowactivate "$(stand_in)"
+    focus_is "Edit Appearance"
+}
+must "it is active" activate_stand_in
+xdotool key alt+F4
 # The portal's dialog is an ordinary window of another program.
 in_sight() {
     shot dialog
@@ -69,6 +76,8 @@ stays_above() { xprop -id "$(window)" _NET_WM_STATE | grep -q ABOVE; }
 put_window Theirs '#a0a0ff' 100 450 400 300
 must "its window is in front of the settings" in_sight
 must "and has the keyboard" focus_is Theirs
+settle
+check "and what stands in has not been closed" stand_in
 stop "$last"
 portal answer 1
 must "then the settings stay above ordinary windows again" stays_above

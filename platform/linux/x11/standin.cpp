@@ -5,6 +5,7 @@
 
 #include "platform/linux/x11/x11connection.h"
 
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
@@ -63,6 +64,11 @@ void StandIn::exposeEvent(QExposeEvent* event) {
             x11::setInputFocus(static_cast<xcb_window_t>(winId()));
         }
     }
+}
+
+// It is a picture: the dialog and the editor are what can be closed.
+void StandIn::closeEvent(QCloseEvent* event) {
+    event->ignore();
 }
 
 } // namespace morrowleaf

@@ -28,6 +28,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     QImage picture_;
