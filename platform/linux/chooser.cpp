@@ -149,7 +149,8 @@ Platform makePlatform(WindowSystem system) {
     } else {
         platform.overlays = makeWaylandOverlays();
     }
-    platform.overlays = makeOverlaysOverShell(std::move(platform.overlays), session);
+    platform.overlays =
+        makeOverlaysOverShell(std::move(platform.overlays), session, *platform.requests);
     return platform;
 }
 

@@ -44,9 +44,11 @@ private:
 class OverlaysOverShell final : public OverlayMaker {
 public:
     OverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
-                      std::shared_ptr<const BusLink> session)
+                      std::shared_ptr<const BusLink> session, const RequestListener& requests)
         : overlays_(std::move(overlays))
-        , overview_(std::move(session)) {}
+        , overview_(std::move(session)) {
+        QObject::connect(&requests, &RequestListener::requested, &overview_, &Overview::leave);
+    }
 
     std::unique_ptr<OverlayWindow> make(QWidget& window, QScreen& screen,
                                         const OverlaySetup& setup) override {
@@ -99,8 +101,9 @@ std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session
 }
 
 std::unique_ptr<OverlayMaker> makeOverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
-                                                    std::shared_ptr<const BusLink> session) {
-    return std::make_unique<OverlaysOverShell>(std::move(overlays), std::move(session));
+                                                    std::shared_ptr<const BusLink> session,
+                                                    const RequestListener& requests) {
+    return std::make_unique<OverlaysOverShell>(std::move(overlays), std::move(session), requests);
 }
 
 std::unique_ptr<SingleInstance> makeDesktopInstance() {

@@ -27,9 +27,11 @@ std::unique_ptr<SessionEvents> makeDesktopSession(std::shared_ptr<const BusLink>
 // system tray is on the X server.
 std::unique_ptr<TrayHost> makeDesktopTray(std::shared_ptr<const BusLink> session, bool x11);
 
-// Those of `overlays`, for which GNOME's shell closes its overview.
+// Those of `overlays`, for which GNOME's shell closes its overview. Every request is taken
+// for one of the user. Connect to `requests` later than this, whose windows follow from them.
 std::unique_ptr<OverlayMaker> makeOverlaysOverShell(std::unique_ptr<OverlayMaker> overlays,
-                                                    std::shared_ptr<const BusLink> session);
+                                                    std::shared_ptr<const BusLink> session,
+                                                    const RequestListener& requests);
 
 // What the user has told the desktop's portal or, with `x11`, whoever has the settings of
 // the X server. A wish counts if either knows of it.

@@ -3,6 +3,7 @@
 
 #include "platform/linux/dbus/overview.h"
 
+#include "platform/launch.h"
 #include "tests/platform/privatebus.h"
 
 #include <QDBusContext>
@@ -94,6 +95,70 @@ TEST_F(OverviewTest, ClosesWhatTheShellOpensJustAfterwards) {
     settle(shell);
     shell.setOpen(true);
     EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    window.reset();
+    EXPECT_TRUE(becomesTrue([&] { return shell.isOpen(); }));
+}
+
+TEST_F(OverviewTest, StaysClosedIfTheProgramWasStartedFromIt) {
+    FakeShell shell(true);
+    openSession();
+    settle(shell);
+    overview.leave();
+    show();
+    EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    window.reset();
+    settle(shell);
+    EXPECT_EQ(shell.changes, 1);
+}
+
+TEST_F(OverviewTest, StaysClosedIfItBecomesKnownOnlyAfterThat) {
+    FakeShell shell(true);
+    overview.leave();
+    show();
+    openSession();
+    EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    window.reset();
+    settle(shell);
+    EXPECT_EQ(shell.changes, 1);
+}
+
+TEST_F(OverviewTest, StaysClosedIfTheLaunchHasAToken) {
+    FakeShell shell(true);
+    setActivationToken(u"token-7"_s);
+    Overview launched(session);
+    setActivationToken({});
+    window = std::make_unique<QWidget>();
+    launched.makeWayFor(*window);
+    window->show();
+    openSession();
+    EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    window.reset();
+    settle(shell);
+    EXPECT_EQ(shell.changes, 1);
+}
+
+TEST_F(OverviewTest, OpensAgainIfTheUserHasLeftAnEarlierOne) {
+    FakeShell shell(true);
+    openSession();
+    settle(shell);
+    overview.leave();
+    shell.setOpen(false);
+    settle(shell);
+    shell.setOpen(true);
+    settle(shell);
+    show();
+    EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    window.reset();
+    EXPECT_TRUE(becomesTrue([&] { return shell.isOpen(); }));
+}
+
+TEST_F(OverviewTest, OpensAgainIfTheUserStartsTheProgramOnceItIsClosed) {
+    FakeShell shell(true);
+    openSession();
+    show();
+    EXPECT_TRUE(becomesTrue([&] { return !shell.isOpen(); }));
+    settle(shell);
+    overview.leave();
     window.reset();
     EXPECT_TRUE(becomesTrue([&] { return shell.isOpen(); }));
 }

@@ -4,6 +4,7 @@
 #include "platform/linux/dbus/overview.h"
 
 #include "bus_interface.h"
+#include "platform/launch.h"
 
 #include <QDBusVariant>
 #include <QEvent>
@@ -31,13 +32,11 @@ constexpr qint64 openedByShell = 5'000; // milliseconds
 
 Overview::Overview(std::shared_ptr<const BusLink> session)
     : session_(std::move(session))
-    , shell_(name) {
+    , shell_(name)
+    , isLeft_(!activationToken().isEmpty()) {
     connect(session_.get(), &BusLink::up, this, &Overview::subscribe);
     connect(&shell_, &BusService::appeared, this, &Overview::read);
-    connect(&shell_, &BusService::vanished, this, [this] {
-        isOpen_ = false;
-        isToReopen_ = false;
-    });
+    connect(&shell_, &BusService::vanished, this, &Overview::forgetState);
 }
 
 void Overview::makeWayFor(QWidget& window) {
@@ -54,9 +53,15 @@ bool Overview::eventFilter(QObject* window, QEvent* event) {
     return false;
 }
 
+void Overview::leave() {
+    if (isOpen_.value_or(true)) {
+        isLeft_ = true;
+        isToReopen_ = false;
+    }
+}
+
 void Overview::subscribe() {
-    isOpen_ = false;
-    isToReopen_ = false;
+    forgetState();
     subscription_ = std::make_unique<QObject>();
     auto* properties = new BusSignals<Properties>(path, session_->bus(), subscription_.get());
     connect(properties, &Properties::PropertiesChanged, this,
@@ -81,11 +86,12 @@ void Overview::read() {
 
 void Overview::setKnown(bool isOpen) {
     isOpen_ = isOpen;
+    isLeft_ = isLeft_ && isOpen;
     closeIfOpen();
 }
 
 void Overview::closeIfOpen() {
-    if (!isOpen_ || windows_.isEmpty()) {
+    if (!isOpen_.value_or(false) || windows_.isEmpty()) {
         return;
     }
     if (sinceShown_.elapsed() > openedByShell) {
@@ -93,8 +99,13 @@ void Overview::closeIfOpen() {
         return;
     }
     isOpen_ = false;
-    isToReopen_ = true;
+    isToReopen_ = !isLeft_;
     set(false);
+}
+
+void Overview::forgetState() {
+    isOpen_.reset();
+    isToReopen_ = false;
 }
 
 void Overview::forget(const QObject* window) {

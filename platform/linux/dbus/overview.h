@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 class QWidget;
 
@@ -26,9 +27,13 @@ public:
     explicit Overview(std::shared_ptr<const BusLink> session);
 
     // Closes the overview when `window` is shown, or shortly afterwards if it opens only
-    // then, and opens it again when no such window exists any more. Never waits for the
-    // shell.
+    // then, and opens it again when no such window exists any more, unless the user has left
+    // it. Never waits for the shell.
     void makeWayFor(QWidget& window);
+
+    // The user has started the program, from the overview if that is open: the shell is about
+    // to close it.
+    void leave();
 
 protected:
     bool eventFilter(QObject* window, QEvent* event) override;
@@ -38,6 +43,7 @@ private:
     void read();
     void setKnown(bool isOpen);
     void closeIfOpen();
+    void forgetState();
     void forget(const QObject* window);
     void set(bool isOpen);
 
@@ -46,7 +52,8 @@ private:
     std::unique_ptr<QObject> subscription_; // of the present connection
     QSet<const QObject*> windows_;          // that are or were shown
     QElapsedTimer sinceShown_;
-    bool isOpen_ = false;
+    std::optional<bool> isOpen_; // std::nullopt until the shell has said it
+    bool isLeft_;                // by the user, who has not opened it again since
     bool isToReopen_ = false;
 };
 
