@@ -62,4 +62,21 @@ throttle_over
 n=$(maps)
 wake
 must "and the next time" opened_since "$n"
+
+close_it
+throttle_over
+# The same window comes with the next lock.
+id=$(xdotool search --onlyvisible --name '^Locker$')
+xdotool windowunmap --sync "$id"
+settle
+xdotool windowmap --sync "$id"
+set_hint true
+n=$(maps)
+unlock c1
+set_hint false
+sleep 0.2
+stop "$last" 2>/dev/null
+must "after it has left the screen it is a locker again" opened_since "$n"
+sleep 2
+must "which the desktop does not show" is_like_without again
 finish

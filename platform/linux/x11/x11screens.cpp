@@ -6,6 +6,7 @@
 #include "platform/linux/x11/x11connection.h"
 #include "platform/linux/x11/x11monitors.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -14,6 +15,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <span>
 #include <utility>
@@ -124,10 +126,47 @@ std::set<xcb_window_t> coversOf(const QScreen& screen) {
     return covers;
 }
 
+// The covers that no unlocking has removed, as long as they are on the screen: another window
+// may have the same id later.
+class LastingCovers : public QAbstractNativeEventFilter {
+public:
+    LastingCovers() { qGuiApp->installNativeEventFilter(this); }
+    ~LastingCovers() override { qGuiApp->removeNativeEventFilter(this); }
+
+    bool contain(const std::set<xcb_window_t>& covers) const {
+        return std::ranges::includes(windows_, covers);
+    }
+
+    void add(const QScreen& screen) {
+        const auto covers = coversOf(screen);
+        for (const xcb_window_t window : covers) {
+            x11::listenTo(window, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+        }
+        // Some may have gone before anybody listened.
+        std::ranges::set_intersection(covers, coversOf(screen),
+                                      std::inserter(windows_, windows_.end()));
+    }
+
+    bool nativeEventFilter(const QByteArray& /*type*/, void* message,
+                           qintptr* /*result*/) override {
+        const auto* event = static_cast<const xcb_generic_event_t*>(message);
+        const auto type = event->response_type & 0x7F;
+        if (type == XCB_UNMAP_NOTIFY) {
+            windows_.erase(reinterpret_cast<const xcb_unmap_notify_event_t*>(event)->window);
+        } else if (type == XCB_DESTROY_NOTIFY) {
+            windows_.erase(reinterpret_cast<const xcb_destroy_notify_event_t*>(event)->window);
+        }
+        return false;
+    }
+
+private:
+    std::set<xcb_window_t> windows_;
+};
+
 // Calls `then` when the windows that cover the screen are gone or the time is up.
 class LockerWait : public QObject {
 public:
-    LockerWait(QScreen& screen, std::set<xcb_window_t>& lasting, std::function<void()> then)
+    LockerWait(QScreen& screen, LastingCovers& lasting, std::function<void()> then)
         : screen_(&screen)
         , lasting_(lasting)
         , then_(std::move(then)) {
@@ -137,8 +176,7 @@ public:
 
 protected:
     void timerEvent(QTimerEvent* event) override {
-        const auto covers = screen_ ? coversOf(*screen_) : std::set<xcb_window_t>();
-        const bool isFree = std::ranges::includes(lasting_, covers);
+        const bool isFree = !screen_ || lasting_.contain(coversOf(*screen_));
         if (!isFree && since_.elapsed() < patience) {
             return;
         }
@@ -146,7 +184,9 @@ protected:
         if (isFree && !std::exchange(wasFree_, true)) {
             return;
         }
-        lasting_ = covers; // what is still there has not come with the lock
+        if (!isFree) {
+            lasting_.add(*screen_); // what is still there has not come with the lock
+        }
         killTimer(event->timerId());
         then_();
     }
@@ -156,7 +196,7 @@ private:
     static constexpr qint64 patience = 450; // milliseconds; the last interval comes on top
 
     QPointer<QScreen> screen_;
-    std::set<xcb_window_t>& lasting_;
+    LastingCovers& lasting_;
     std::function<void()> then_;
     QElapsedTimer since_;
     bool wasFree_ = false;
@@ -167,7 +207,7 @@ public:
     std::unique_ptr<QObject> afterLocker(QScreen& screen, bool looksThrough,
                                          const std::function<void()>& then) override {
         const bool isNeeded = looksThrough || !x11::hasCompositor();
-        if (!isNeeded || std::ranges::includes(lasting_, coversOf(screen))) {
+        if (!isNeeded || lasting_.contain(coversOf(screen))) {
             then();
             return nullptr;
         }
@@ -183,7 +223,7 @@ public:
     }
 
 private:
-    std::set<xcb_window_t> lasting_; // windows that no unlocking has removed
+    LastingCovers lasting_;
 };
 
 } // namespace
