@@ -138,4 +138,22 @@ stop "$locker"
 xdotool mousemove 1100 200 mousedown 1 sleep 0.5 mouseup 1
 must "a click on the other monitor closes it" is_gone
 must "and arrives there" grep -q '^click' "$work/window-onright.log"
+kill -TERM "$app"
+wait "$app"
+
+# As on Xwayland, where the window manager says which monitor it is.
+title_focus onleft
+begun=$(xdotool getactivewindow)
+start active xprop -root -spy _NET_ACTIVE_WINDOW
+MORROWLEAF_PLATFORM=xwayland start app "$MORROWLEAF"
+must "a window that the window manager places covers the monitor" geometry_is "0 0 800 600"
+shown=$(overlay)
+is_active() { [ "$(xdotool getactivewindow)" -eq "$shown" ]; }
+must "and has the focus" is_active
+# Of all that were active, as numbers.
+strangers() {
+    grep -o '0x[0-9a-f]*' "$work/active.log" | while read -r id; do echo $((id)); done |
+        grep -vxF -e 0 -e "$begun" -e "$shown"
+}
+check "no other window had it" not strangers
 finish

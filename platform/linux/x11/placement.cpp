@@ -20,9 +20,11 @@ constexpr int patience = 1'000; // a late showing is better than one on the wron
 } // namespace
 
 Placement::Placement() {
-    window_.setFlags(Qt::Window | Qt::FramelessWindowHint);
+    // Whoever has the focus keeps it until the real window takes it.
+    window_.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     window_.resize(2, 2);
     window_.setOpacity(0);
+    x11::hideFromTaskLists(static_cast<xcb_window_t>(window_.winId()));
     settled_.setSingleShot(true);
     connect(&settled_, &QTimer::timeout, this, &Placement::look);
     const auto wait = [this] {
