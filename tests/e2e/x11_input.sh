@@ -114,6 +114,26 @@ must "a key still closes the quotation" is_gone
 check "and does not go to the window" not grep -q '^key w' "$work/window-newcomer.log"
 stop "$newcomer"
 
+# Nor in the editor, which takes the keyboard from a window that has the focus.
+put_window latecomer '#00ff00' 0 0 640 480 grabbing "$work/latecomer.asks"
+locker=$last
+gdbus call --session -d org.morrowleaf.Morrowleaf -o /org/morrowleaf/Morrowleaf \
+    -m org.freedesktop.Application.ActivateAction edit-appearance '[]' '{}' >/dev/null
+must "the editor opens" is_shown
+must "with the keyboard" focus_is Morrowleaf
+put_window other '#00ff00' 0 0 640 480
+other=$last
+must "another window takes the focus" grep -q '^active' "$work/window-other.log"
+must "and the editor takes it back" focus_is Morrowleaf
+touch "$work/latecomer.asks"
+must "a locker that goes on asking gets the keyboard" grep -q grabbed "$work/window-latecomer.log"
+check "with the editor still there" is_shown
+stop "$locker"
+stop "$other"
+must "the editor has the keyboard" focus_is Morrowleaf
+xdotool key Escape
+must "and Escape closes it" is_gone
+
 # The settings window comes to the front even while the user types elsewhere.
 xdotool windowactivate --sync "$(xdotool search --name '^typing$')" type --delay 40 abc
 "$MORROWLEAF" --settings

@@ -56,9 +56,7 @@ void X11Grab::grab() {
     }
     if (keyboard_ && (mouse_ || what_ != What::Everything)) {
         retry_.stop();
-        if (mouse_) {
-            enough_.start();
-        }
+        enough_.start();
     }
 }
 

@@ -12,9 +12,8 @@ namespace morrowleaf {
 
 // Keyboard focus and grabs of keyboard and mouse, for one window at a time. Returns the
 // focus at the end to the window that had it before the first take(). The grabs keep a
-// window manager that moves the focus from giving away keys. Those of both devices end
-// after some seconds, because no screen locker works beside them, unless the window has lost
-// the focus by then.
+// window manager that moves the focus from giving away keys. They end after some seconds,
+// because no screen locker works beside them, unless the window has lost the focus by then.
 class X11Grab {
 public:
     X11Grab();
