@@ -262,7 +262,8 @@ void AppDelegate::dismiss(bool animated) {
     }
     QuoteWindow* leaving = window_.get();
     fadingOut_.push_back(std::move(window_));
-    if (animated) {
+    // It may wait for its place, or a dialog may have taken that.
+    if (animated && leaving->isVisible()) {
         leaving->fadeOut(services_.timing, [this, leaving] { removeWindow(leaving); });
     } else {
         removeWindow(leaving);

@@ -51,6 +51,15 @@ TEST_F(AppDelegateTest, PresentDuringAFadeOutLetsItFinish) {
     EXPECT_EQ(ended.count(), 1);
 }
 
+// A window that waits for its place would appear during the fade.
+TEST_F(AppDelegateTest, WhatIsNotInSightYetEndsWithoutAFade) {
+    launch();
+    top().window->hide();
+    delegate->dismiss(true);
+    EXPECT_EQ(top().outs, 1);
+    EXPECT_FALSE(isShown());
+}
+
 TEST_F(AppDelegateTest, EveryTriggerShowsOnce) {
     launchAndClose();
     wake();
