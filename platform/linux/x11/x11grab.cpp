@@ -26,11 +26,15 @@ X11Grab::X11Grab() {
     });
 }
 
-void X11Grab::take(QWindow& window, What what) {
+void X11Grab::prepare(QWindow& window) {
     if (holder_ == nullptr) {
         previousFocus_ = x11::inputFocus();
     }
     holder_ = &window;
+}
+
+void X11Grab::take(QWindow& window, What what) {
+    prepare(window);
     what_ = what;
     keyboard_ = false;
     mouse_ = false;

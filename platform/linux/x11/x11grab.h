@@ -11,12 +11,16 @@
 namespace morrowleaf {
 
 // Keyboard focus and grabs of keyboard and mouse, for one window at a time. Returns the
-// focus at the end to the window that had it before the first take(). The grabs keep a
-// window manager that moves the focus from giving away keys. They end after some seconds,
-// because no screen locker works beside them, unless the window has lost the focus by then.
+// focus at the end to the window that had it before the first prepare() or take(). The grabs
+// keep a window manager that moves the focus from giving away keys. They end after some
+// seconds, because no screen locker works beside them, unless the window has lost the focus
+// by then.
 class X11Grab {
 public:
     X11Grab();
+
+    // Remembers which window has the focus, if another one may get it before take().
+    void prepare(QWindow& window);
 
     enum class What { Focus, FocusAndKeyboard, Everything };
     // Takes what is free at once, and the rest as soon as other clients release it.

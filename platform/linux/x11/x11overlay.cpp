@@ -161,6 +161,8 @@ private:
 
     // The caller could only guess the screen, because it does not know the windows of Wayland.
     void findScreen() {
+        // Some window managers give the focus to any new window.
+        grab_->prepare(*window_.windowHandle());
         placement_ = std::make_unique<Placement>();
         connect(
             placement_.get(), &Placement::found, this,
