@@ -48,8 +48,10 @@ endif()
 if(MORROWLEAF_HARDEN)
   include(CheckPIESupported)
   check_pie_supported()
-  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-  add_compile_options(-fstack-protector-strong -fstack-clash-protection -fcf-protection
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|i.86)$") # an error on others
+    add_compile_options(-fcf-protection)
+  endif()
+  add_compile_options(-fstack-protector-strong -fstack-clash-protection
     -Wformat -Werror=format-security -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
     # The same bytes from every folder.
     -ffile-prefix-map=${PROJECT_BINARY_DIR}=. -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
