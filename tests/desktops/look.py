@@ -13,8 +13,6 @@ of their pixels or more have nearly the same colour, which texts do not change.
       that part of PICTURE differs less from that of ONE than from that of OTHER
   look.py colour PICTURE LEFT,TOP,WIDTH,HEIGHT
       prints the mean of red, green and blue
-  look.py spread PICTURE LEFT,TOP,WIDTH,HEIGHT
-      prints the difference between the brightest and the darkest pixel, 0 to 255
   look.py changed PICTURE OTHER LEFT,TOP,WIDTH,HEIGHT
       prints the fraction of pixels there that differ
 """
@@ -71,13 +69,11 @@ def main():
         other = numpy.asarray(pixels(rest[0], rest[1])).astype(int)
         print(f"{(numpy.abs(one - other).max(axis=2) > NEARLY).mean():.4f}")
         return 0
-    values = numpy.asarray(pixels(path, rest[0])).astype(int)
     if what == "colour":
+        values = numpy.asarray(pixels(path, rest[0])).astype(int)
         print(*(int(round(c)) for c in values.mean(axis=(0, 1))))
-    else:
-        grey = values.mean(axis=2)
-        print(int(grey.max() - grey.min()))
-    return 0
+        return 0
+    return __doc__
 
 
 sys.exit(main())

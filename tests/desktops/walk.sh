@@ -2,10 +2,11 @@
 # SPDX-License-Identifier: MIT
 
 # shellcheck shell=bash disable=SC2034,SC2119,SC2120,SC2154
-# The walk through a desktop; needs lib.sh and start_desktop. A desktop may define
+# The walk through a desktop; needs lib.sh, and $points and $ratio, which say how large the
+# screen is in points and how many pixels these have. A desktop defines
 #   focused       prints the title of the window with the keyboard
-#   lock, unlock  its own locker
-#   is_locked     whether the locker is up
+# and may define
+#   lock, unlock_own, is_locked  its own locker
 #   has_item, open_settings_by_tray  for a tray without status notifiers
 #   activate_window TITLE  brings a window to the front, where a new one is not
 #   wish_little_motion on|off, double_scale  the desktop's settings
