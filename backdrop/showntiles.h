@@ -39,8 +39,8 @@ public:
     double nextDue(KeyNodes& keys, double since2001);
     static constexpr double longestWait = 0.5;
 
-    // The size of a tile that is not at the edge: whole cells, and whole points wherever
-    // the ratio allows; the size of the window if no tile would end on a whole point.
+    // The size of a tile that is not at the edge: whole points, and whole cells where the
+    // ratio is a whole number; the size of the window if no tile would end on a whole point.
     static QSize tileSize(const QSize& window, double devicePixelRatio);
 
 private:

@@ -29,7 +29,7 @@ NOTE_OF_KEYWORDS = "Words that find the program, each followed by a semicolon"
 
 
 class Translations:
-    """What the translations say, by language; without them, what there is to translate."""
+    """What the translations say, by language."""
 
     def __init__(self, folder):
         self.messages = {}

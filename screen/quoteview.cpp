@@ -252,9 +252,7 @@ void QuoteView::composeOverlays(const Metrics& metrics, const QRectF& box) {
     Text& last = mirrored ? greeting_ : today_;
     onBaseline(first, left, middleOf(first));
     onBaseline(last, right - drawnWidth(last), middleOf(last));
-    onBaseline(hint_,
-               box.center().x() -
-                   (hint_.rect().width() - hint_.shape.lastTracking() * hint_.scale) / 2,
+    onBaseline(hint_, box.center().x() - drawnWidth(hint_) / 2,
                state_.size.height() - measure::hintBottom - hint_.rect().height());
 }
 

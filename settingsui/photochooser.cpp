@@ -109,8 +109,8 @@ void PhotoChooser::chooseWithQt() {
     // and no flag of ours keeps that dialog in front. Its option would come too late: the
     // constructor makes the other dialog.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // Without a parent, because the window manager may not know the overlay; below it
-    // belongs to the window that it does know.
+    // Without a parent, because the window manager may not know the overlay: its owner will be
+    // the window that the manager knows.
     auto* dialog = new QFileDialog(nullptr, tr("Add a Photo"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The settings window, which may be open, stays above ordinary windows too.

@@ -54,7 +54,7 @@ tarball() {
     name=morrowleaf-$(version)-$(uname -m)
     portable "$name"
     mkdir -p out
-    # Without what only has a sense in the system's folders.
+    # Without what only makes sense in the system's folders.
     rm -rf "build/portable/$name/share/dbus-1"
     tar -c -C build/portable --sort=name --mtime="@$(release_date)" --owner=0 --group=0 \
         --numeric-owner --mode=u+rw,go+r,go-w "$name" | xz -9 >"out/$name.tar.xz"

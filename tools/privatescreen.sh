@@ -66,8 +66,8 @@ until_true 20 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'
     die "The window manager does not start."
 start compositor picom --backend xrender --config /dev/null
 # It has taken over once it has drawn the desktop.
-drawn() { ! import -silent -window root -resize 1x1 txt:- | grep -q black; }
-until_true 20 drawn || die "The compositor does not start."
+desktop_is_drawn() { ! import -silent -window root -resize 1x1 txt:- | grep -q black; }
+until_true 20 desktop_is_drawn || die "The compositor does not start."
 
 window() { xdotool search --onlyvisible --class '^morrowleaf$'; }
 gone() { ! window; }

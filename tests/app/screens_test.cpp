@@ -3,8 +3,8 @@
 
 // Draws every screen in every language of the program, in one of accents with texts 40 %
 // longer, in that language from right to left, and with texts that the desktop has made
-// half as large again. With MORROWLEAF_PICTURES the pictures
-// are kept in the folder of that name.
+// half as large again. With MORROWLEAF_PICTURES the pictures are kept in the folder of that
+// name.
 
 #include "photos/bgstore.h"
 #include "platform/null/nullplatform.h"

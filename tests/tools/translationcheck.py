@@ -8,8 +8,9 @@
 
 Every text is translated in every file, with its placeholders, mnemonics, names, markup and
 ellipses; docs/translating.md lists every file and says whether a native speaker has read
-it, and macOS is told of every language. With the path of the program lupdate, the files also have exactly the texts of the
-sources, of the desktop entry, the metainfo and the manual page.
+it, and macOS is told of every language. With the path of the program lupdate, the files
+also have exactly the texts of the sources, of the desktop entry, the metainfo and the manual
+page.
 """
 import collections
 import pathlib
