@@ -72,7 +72,8 @@ rpm() {
         "morrowleaf-$(version)" | xz >"$top/SOURCES/morrowleaf-$(version).tar.xz"
     # No system with RPM: its database knows no packages to build with.
     SOURCE_DATE_EPOCH=$(release_date) rpmbuild -bb --nodeps --define "_topdir $top" \
-        packaging/rpm/morrowleaf.spec >&2
+        --define "use_source_date_epoch_as_buildtime 1" --define "_buildhost localhost" \
+        --define "clamp_mtime_to_source_date_epoch 1" packaging/rpm/morrowleaf.spec >&2
     cp "$top"/RPMS/*/*.rpm out/
     rpmlint -c packaging/rpm/rpmlint.toml out/*.rpm
     ls out/*.rpm
@@ -109,7 +110,7 @@ release() {
     for kind in package tarball rpm; do "$root/dev" "$kind"; done
     # Again, from a folder whose name has another length, at another time.
     other=$(mktemp -d)/another-folder-for-the-same-sources
-    copy_sources "$other"
+    git clone --quiet . "$other"
     for kind in package tarball rpm; do "$other/dev" "$kind"; done
     diff -r out "$other/out" || die "The packages depend on more than their sources: $other"
     rm -rf "$(dirname "$other")"
