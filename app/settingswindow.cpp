@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace morrowleaf {
 
@@ -40,7 +41,7 @@ void SettingsWindow::place(const QRect& available) {
     // The frame does not exist yet; assume a title bar of the usual height.
     const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     lowerInto(available, frame);
-    moveIntoPlace(size() + frame);
+    moveInto(available, size() + frame);
 }
 
 void SettingsWindow::fitInto(const QRect& available) {
@@ -77,17 +78,16 @@ void SettingsWindow::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     if (!available_.isEmpty()) {
         // The window is on screen now, so the size of its frame is known.
-        QTimer::singleShot(0, this, [this] {
-            fitInto(available_);
-            moveIntoPlace(frameGeometry().size());
-            available_ = {};
+        QTimer::singleShot(0, this, [this, available = std::exchange(available_, {})] {
+            fitInto(available);
+            moveInto(available, frameGeometry().size());
         });
     }
 }
 
-void SettingsWindow::moveIntoPlace(const QSize& frame) {
-    const QPoint origin = settingsWindowOrigin(available_, frame);
-    if (pos() != origin && !available_.isEmpty()) {
+void SettingsWindow::moveInto(const QRect& available, const QSize& frame) {
+    const QPoint origin = settingsWindowOrigin(available, frame);
+    if (pos() != origin) {
         move(origin);
     }
 }

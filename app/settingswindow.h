@@ -40,7 +40,7 @@ protected:
 
 private:
     void lowerInto(const QRect& available, const QSize& frame);
-    void moveIntoPlace(const QSize& frame);
+    void moveInto(const QRect& available, const QSize& frame);
 
     Floater& floater_;
     QRect available_; // empty once the window has been placed

@@ -62,6 +62,15 @@ TEST(SettingsWindow, IsAsHighAsALowScreenAllows) {
     EXPECT_EQ(one.view->height(), one.window->height());
 }
 
+TEST(SettingsWindow, IsPlacedOnceHoweverOftenItIsPainted) {
+    const Window one;
+    one.window->place({0, 0, 1280, 700});
+    one.window->grab();
+    one.window->grab();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(one.window->size(), QSize(520, 545));
+}
+
 TEST(SettingsWindow, BecomesHigherAgain) {
     const Window one;
     one.window->place({0, 0, 1024, 480});
