@@ -16,7 +16,7 @@ PREFIX=$out/installed
 rm -rf "$PREFIX"
 cmake --install "$build" --prefix "$PREFIX" >"$out/install.log" || exit 1
 chmod -R a+rX "$PREFIX"
-export PREFIX E2E_WINDOW=$build/tests/e2e/e2e_window SNAPSHOT=$build/tools/snapshot
+export PREFIX E2E_WINDOW=$build/tests/e2e_window SNAPSHOT=$build/tools/snapshot
 export MORROWLEAF=$PREFIX/bin/morrowleaf
 
 # A desktop does not run as root.
