@@ -3,8 +3,9 @@
 
 # shellcheck shell=bash disable=SC2034,SC2154
 # Functions for walks through real desktops. A script of a desktop sources this file and
-# defines what differs; walk.sh does the same on all of them. DESKTOP names the desktop,
-# PREFIX is where the program is installed, OUT keeps pictures, logs and ticks.
+# defines what differs; walk.sh does the same on all of them. PREFIX is where the program is
+# installed, SNAPSHOT and E2E_WINDOW are programs of the build, OUT keeps pictures, logs and
+# ticks.
 desks=$(dirname "${BASH_SOURCE[0]}")
 here=$desks/../e2e
 # shellcheck source=../e2e/lib.sh

@@ -17,7 +17,6 @@ rm -rf "$PREFIX"
 cmake --install "$build" --prefix "$PREFIX" >"$out/install.log" || exit 1
 chmod -R a+rX "$PREFIX"
 export PREFIX E2E_WINDOW=$build/tests/e2e_window SNAPSHOT=$build/tools/snapshot
-export MORROWLEAF=$PREFIX/bin/morrowleaf
 
 # A desktop does not run as root.
 as_user=()
@@ -26,7 +25,7 @@ if [ "$(id -u)" = 0 ]; then
 fi
 status=0
 for name in "$@"; do
-    export OUT=$out/$name DESKTOP=$name
+    export OUT=$out/$name
     rm -rf "$OUT"
     mkdir -p "$OUT"
     touch "$OUT/ticks"
