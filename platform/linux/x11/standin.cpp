@@ -59,9 +59,12 @@ void StandIn::exposeEvent(QExposeEvent* event) {
         wasExposed_ = true;
         drawn_.start(fadeOfDesktop);
         // Some window managers give the keyboard to a dialog of another program only if its
-        // owner has it.
+        // owner has it, and only if the user was not active in the owner after having been so
+        // in that program.
+        const auto id = static_cast<xcb_window_t>(winId());
+        x11::forgetUserTime(id);
         if (QGuiApplication::modalWindow() == nullptr) {
-            x11::setInputFocus(static_cast<xcb_window_t>(winId()));
+            x11::setInputFocus(id);
         }
     }
 }

@@ -97,6 +97,12 @@ void hideFromTaskLists(xcb_window_t window) {
                         XCB_ATOM_ATOM, 32, states.size(), states.data());
 }
 
+void forgetUserTime(xcb_window_t window) {
+    // Qt keeps the time on a window of its own where the window manager supports that.
+    const auto keeper = property(window, "_NET_WM_USER_TIME_WINDOW");
+    setCardinal(keeper && !keeper->empty() ? keeper->front() : window, "_NET_WM_USER_TIME", 0);
+}
+
 // A property change is the one request that the server answers with its time. On the
 // application's connection Qt could receive the answer instead.
 quint32 serverTime() {

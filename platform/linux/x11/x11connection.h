@@ -45,6 +45,10 @@ void setCardinal(xcb_window_t window, const char* name, quint32 value);
 // Keeps a window that is not mapped yet out of task bars and pagers.
 void hideFromTaskLists(xcb_window_t window);
 
+// Tells the window manager nothing of when the user was last active in a window that Qt has
+// mapped.
+void forgetUserTime(xcb_window_t window);
+
 // Whether a mouse button is pressed outside of a mapped window. A round trip.
 bool isPressedOutside(xcb_window_t window);
 
