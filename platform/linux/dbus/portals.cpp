@@ -65,7 +65,7 @@ using Chooser = OrgFreedesktopPortalFileChooserInterface;
 using Request = OrgFreedesktopPortalRequestInterface;
 
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
-constexpr int patience = 8000; // milliseconds for the portal to start and open its dialog
+constexpr int patience = 8000;      // milliseconds for the portal to start and open its dialog
 constexpr int exposePatience = 800; // milliseconds for the owner of the dialog to be drawn
 constexpr uint mimeRule = 1;
 

@@ -105,11 +105,12 @@ public:
         lowered_ = level == WindowLevel::Normal;
         if (!lowered_) {
             comeBack();
-        } else if (x11::hasWindowManager()) {
-            grab_->releaseGrabs(*window_.windowHandle());
+            return;
+        }
+        grab_->releaseGrabs(*window_.windowHandle());
+        if (x11::hasWindowManager()) {
             makeWay();
         } else {
-            grab_->releaseGrabs(*window_.windowHandle());
             stack(XCB_STACK_MODE_BELOW);
         }
     }
