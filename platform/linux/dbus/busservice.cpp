@@ -47,9 +47,19 @@ void BusService::activate() {
     constexpr uint noFlags = 0;
     whenFinished(this, Bus(bus_).StartServiceByName(name_, noFlags),
                  [this](const QDBusPendingReply<uint>& reply) {
-                     if (reply.isError() && owner_.isEmpty()) {
-                         emit activationFailed();
+                     if (!reply.isError()) {
+                         return;
                      }
+                     // After the answer about the owner, which Qt delivers a turn of the event
+                     // loop later if it has come before anybody waits for it.
+                     QMetaObject::invokeMethod(
+                         this,
+                         [this] {
+                             if (owner_.isEmpty()) {
+                                 emit activationFailed();
+                             }
+                         },
+                         Qt::QueuedConnection);
                  });
 }
 
