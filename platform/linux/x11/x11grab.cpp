@@ -18,7 +18,8 @@ X11Grab::X11Grab() {
     QObject::connect(&retry_, &QTimer::timeout, &retry_, [this] { grab(); });
     enough_.setInterval(grabTime);
     QObject::connect(&enough_, &QTimer::timeout, &enough_, [this] {
-        if (holder_->isActive()) {
+        // Not isActive(): Qt may not hear of a focus that moves beside a grab.
+        if (x11::inputFocus() == static_cast<xcb_window_t>(holder_->winId())) {
             ungrab();
         } else {
             holder_->requestActivate();
