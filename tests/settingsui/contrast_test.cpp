@@ -58,7 +58,7 @@ struct Scheme {
 };
 
 class ContrastOfSettings : public SettingsViewTest, public ::testing::WithParamInterface<Scheme> {
-protected:
+public:
     ContrastOfSettings() { QApplication::setPalette(GetParam().palette()); }
     ~ContrastOfSettings() override { QApplication::setPalette(QPalette()); }
 };
