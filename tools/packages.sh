@@ -43,7 +43,8 @@ package() {
 # Compiles and installs what is not for one distribution to build/portable/NAME
 portable() {
     install build run package
-    build package all
+    # Qt's resources contain the times of their files, unless this one is given.
+    SOURCE_DATE_EPOCH=$(release_date) build package all
     rm -rf build/portable
     DESTDIR=$root/build/portable cmake --install build/package --strip --prefix "/$1" >&2
     check_hardening build/portable
