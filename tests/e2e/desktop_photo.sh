@@ -4,7 +4,8 @@
 
 # The user's own photo in the dialog of the machine's portal: it stands in front of
 # the quote screen and of the settings, has the keyboard, and its choice takes effect.
-#   desktop_photo.sh openbox|xfwm4
+#   desktop_photo.sh openbox|xfwm4 MODULE
+# The module makes the program slow where window managers compare times.
 here=$(dirname "$0")
 . "$here/lib.sh"
 . "$here/x11.sh"
@@ -27,7 +28,7 @@ ask() {
     must "which has the keyboard" has_keyboard
 }
 
-start app "$MORROWLEAF" --settings
+start app env LD_PRELOAD="$2" "$MORROWLEAF" --settings
 app=$last
 must "the settings open" focus_is "Morrowleaf Settings"
 click_on "push button" "Edit Appearance"

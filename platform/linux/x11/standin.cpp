@@ -62,10 +62,12 @@ void StandIn::exposeEvent(QExposeEvent* event) {
         // owner has it, and only if the user was not active in the owner after having been so
         // in that program.
         const auto id = static_cast<xcb_window_t>(winId());
-        x11::forgetUserTime(id);
         if (QGuiApplication::modalWindow() == nullptr) {
             x11::setInputFocus(id);
         }
+        // Comes last: they move the focus with the time of the last change that they have
+        // heard of, and the server refuses that if it is earlier than the focus.
+        x11::forgetUserTime(id);
     }
 }
 
